@@ -1,0 +1,19 @@
+# The one place for compiler flags: every target of ours links trassix_flags.
+add_library(trassix_flags INTERFACE)
+
+if(MSVC)
+  target_compile_options(trassix_flags INTERFACE /W4 /permissive- /utf-8 $<$<BOOL:${TRASSIX_WERROR}>:/WX>)
+else()
+  target_compile_options(trassix_flags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${TRASSIX_WERROR}>:-Werror>)
+endif()
+
+if(TRASSIX_SANITIZE)
+  # Global, so that the test library is instrumented as well.
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+if(TRASSIX_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()

@@ -1,0 +1,1 @@
+#include "catalog/track_system.h"

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "document/plan_content.h"
+
+#include <cstddef>
+#include <deque>
+
+namespace trassix {
+
+/// Undo and redo by whole snapshots. Snapshots are plain copies because records refer to one
+/// another by id only.
+class History {
+ public:
+  static constexpr std::size_t kUndoLimit = 50;
+
+  /// Appends a snapshot, drops the oldest beyond the limit and forgets everything undone.
+  void push(const PlanContent& content);
+
+  /// Swaps `content` with the newest snapshot; false when there is none. Neither direction applies
+  /// the limit.
+  bool undo(PlanContent& content);
+  bool redo(PlanContent& content);
+
+  bool canUndo() const { return !undo_.empty(); }
+  bool canRedo() const { return !redo_.empty(); }
+  void clear();
+
+ private:
+  std::deque<PlanContent> undo_;
+  std::deque<PlanContent> redo_;
+};
+
+} // namespace trassix

@@ -1,0 +1,185 @@
+// The records a plan is made of. Plain comparable values that refer to one another by id only.
+// Lengths in mm in layout coordinates (x to the right, y downwards), angles in degrees, positive
+// from +x towards +y, which is clockwise on the screen.
+#pragma once
+
+#include <boost/container/small_vector.hpp>
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace trassix {
+
+struct Point {
+  double x = 0;
+  double y = 0;
+
+  bool operator==(const Point&) const = default;
+};
+
+struct Color {
+  std::uint8_t r = 0;
+  std::uint8_t g = 0;
+  std::uint8_t b = 0;
+
+  bool operator==(const Color&) const = default;
+};
+
+/// What is joined at one connector. Every joint is written on both pieces.
+struct Joint {
+  std::int32_t target = -1; ///< id of the joined piece, -1 when the connector is open
+  std::int32_t tconn = -1;  ///< connector index on the target
+
+  bool open() const { return target == -1; }
+  bool operator==(const Joint&) const = default;
+};
+
+/// Indexed by the piece's own connector; a missing slot means open. Nearly every piece has two to
+/// four ends, which are kept in place so that copying a plan does not allocate for each piece.
+using JointTable = boost::container::small_vector<Joint, 4>;
+
+struct PlacedPiece {
+  std::int32_t id = -1;
+  std::string cat; ///< article of the piece's definition
+  double x = 0;
+  double y = 0;
+  double heading = 0;
+  bool sel = false;
+  double z = 0;     ///< mm above the baseboard
+  double grade = 0; ///< signed grade angle: over a run of length L the track rises L sin(grade)
+  bool rev = false; ///< the grade run starts at a connector other than 1
+  bool hasColor = false;
+  Color color; ///< own display colour, used when hasColor is set
+  std::int32_t level = 1;
+  std::int32_t helix = -1; ///< id of the helix the piece belongs to
+  bool free = false;       ///< one of the tracks attached around a turntable
+  JointTable joints;
+
+  bool operator==(const PlacedPiece&) const = default;
+
+  Joint joint(std::size_t connector) const {
+    return connector < joints.size() ? joints[connector] : Joint{};
+  }
+};
+
+struct SceneryItem {
+  std::int32_t id = -1;
+  std::string item; ///< key in the scenery catalogue
+  double x = 0;
+  double y = 0;
+  double heading = 0;
+  double scalex = 1;
+  double scaley = 1;
+  std::int32_t level = 1;
+  bool sel = false;
+
+  bool operator==(const SceneryItem&) const = default;
+};
+
+struct Label {
+  std::int32_t id = -1;
+  std::string text;
+  double x = 0;
+  double y = 0;
+  bool sel = false; ///< not saved
+
+  bool operator==(const Label&) const = default;
+};
+
+/// A length laid down with the measuring tape. Kept by undo and redo, not by the file.
+struct Measurement {
+  std::int32_t id = -1;
+  Point from;
+  Point to;
+  bool sel = false;
+
+  bool operator==(const Measurement&) const = default;
+};
+
+/// A coloured polygon.
+struct Shape {
+  std::int32_t id = -1;
+  std::vector<Point> points;
+  Color color;
+  std::uint8_t a = 255; ///< opacity
+  bool outline = false; ///< drawn as outline only
+  std::int32_t level = 1;
+  double height = 0;
+  std::string label;
+  bool sel = false; ///< not saved
+
+  bool operator==(const Shape&) const = default;
+};
+
+struct Tunnel {
+  std::int32_t id = -1;
+  std::int32_t portalA = -1;
+  std::int32_t portalB = -1;
+  std::int32_t anchorA = -1;
+  std::int32_t anchorB = -1;
+  std::vector<std::int32_t> covers; ///< ids of the pieces under the tunnel
+
+  bool operator==(const Tunnel&) const = default;
+};
+
+/// A spiral of a helix kit, placed as a unit.
+struct Helix {
+  std::int32_t id = -1;
+  double cx = 0;
+  double cy = 0;
+  double heading = 0;
+  std::string variant = "proses_2_5_r1r2"; ///< key of the helix kit
+  std::int32_t bottomR1 = -1; ///< piece ids at the ends of the inner (R1) and outer (R2) track
+  std::int32_t bottomR2 = -1;
+  std::int32_t topR1 = -1;
+  std::int32_t topR2 = -1;
+
+  bool operator==(const Helix&) const = default;
+};
+
+/// A deck.
+struct Level {
+  std::int32_t id = 1;
+  std::string name;
+  bool visible = true;
+  double height = 0;
+  bool trackcolor = false; ///< the level's track is drawn in `color`
+  Color color{180, 180, 180};
+  std::vector<Point> outline; ///< used only with three or more points
+
+  bool operator==(const Level&) const = default;
+};
+
+/// A run of track on a constant grade.
+struct GradeRun {
+  double deg = 0;           ///< signed grade angle
+  std::int32_t anchor = -1; ///< id of the piece where the run starts
+  std::int32_t conn = 1;    ///< connector on that piece
+
+  bool operator==(const GradeRun&) const = default;
+};
+
+/// Mirrors the last grade run; off when there is none.
+struct CurrentGrade {
+  bool active = false;
+  double grade = 0;
+  std::int32_t anchor = -1;
+  std::int32_t conn = 1;
+
+  bool operator==(const CurrentGrade&) const = default;
+};
+
+/// The baseboard shape chosen last in its dialog, with its four measures in mm.
+struct LastShape {
+  std::int32_t kind = 0;
+  double w = 0;
+  double h = 0;
+  double w2 = 0;
+  double h2 = 0;
+
+  bool operator==(const LastShape&) const = default;
+};
+
+} // namespace trassix

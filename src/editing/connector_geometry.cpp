@@ -1,0 +1,1 @@
+#include "editing/connector_geometry.h"

@@ -1,0 +1,47 @@
+// What is selected, and the edits that act on a selection as a whole.
+#pragma once
+
+#include "document/layout.h"
+#include "editing/edit_result.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace trassix {
+
+struct Box {
+  double minX = 0;
+  double minY = 0;
+  double maxX = 0;
+  double maxY = 0;
+
+  bool operator==(const Box&) const = default;
+};
+
+bool hasSelection(const Layout& layout);
+std::vector<std::int32_t> selectedPieces(const Layout& layout); ///< ids, sorted
+void selectOnly(Layout& layout, std::int32_t piece);
+void selectAll(Layout& layout); ///< every record on a visible level
+
+/// All pieces joined to `piece` directly or through others, `piece` included; sorted ids.
+std::vector<std::int32_t> chainOf(const Layout& layout, std::int32_t piece);
+
+/// The box that a rotation of the selection turns about: positions, ends and curve apexes of
+/// pieces, footprints of scenery, vertices of shapes. Empty when nothing of these is selected.
+std::optional<Box> selectionBox(const Layout& layout);
+
+/// Turns the selection as one rigid body about the centre of its box. Joints to unselected pieces
+/// open.
+bool rotateSelection(Layout& layout, double degrees);
+
+/// Why the selection must not be changed ("Helix track is locked", "Tunnel is locked"). `verb` is
+/// put into the text, for example "delete".
+std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb);
+
+bool selectionHasGrades(const Layout& layout);
+
+/// Removes everything selected; neighbours' joints open. False when nothing was selected.
+bool deleteSelection(Layout& layout);
+
+} // namespace trassix

@@ -1,0 +1,71 @@
+// Where a carried piece would join.
+#pragma once
+
+#include "catalog/piece_def.h"
+#include "document/layout.h"
+#include "editing/connector_geometry.h"
+
+#include <memory>
+#include <optional>
+#include <span>
+#include <utility>
+
+namespace trassix {
+
+inline constexpr double kSnapDistance = 25.0; ///< mm, inclusive
+inline constexpr double kSnapFacing = 20.0;   ///< degrees the headings must differ at least
+
+struct SnapResult {
+  bool snapped = false;
+  std::int32_t target = -1; ///< id of the piece snapped to
+  std::int32_t targetConnector = -1;
+  std::int32_t newConnector = -1; ///< connector of the carried piece
+  Pose pose;                      ///< where the carried piece is to be placed
+  double distance = 0;            ///< mm between the two ends before the snap
+
+  bool operator==(const SnapResult&) const = default;
+};
+
+/// The free connector of a candidate nearest to one of the carried piece's own, at most 25.0 mm
+/// away, of the same track system, headings at least 20 degrees apart. Ties keep the pair met first
+/// (candidate order, then its connectors, then the carried piece's).
+SnapResult FindSnap(const PieceDef& carried, const Pose& pose,
+                    std::span<const PlacedPiece> candidates);
+
+struct IncompatibleContact {
+  TrackSystem carried = TrackSystem::CTrack;
+  TrackSystem other = TrackSystem::CTrack;
+};
+
+/// The first pair of ends within reach of each other whose systems differ, over all pieces, hidden
+/// levels and joined ends included.
+std::optional<IncompatibleContact> FindIncompatibleContact(const PieceDef& carried,
+                                                           const Pose& pose,
+                                                           std::span<const PlacedPiece> pieces);
+
+/// The same searches over a whole plan through a grid of connectors: the same results, ties
+/// included, at a cost that does not depend on the plan's size. Valid for the revision it was built
+/// from; pieces on hidden levels attract no snap.
+class SnapIndex {
+ public:
+  SnapIndex();
+  explicit SnapIndex(const Layout& layout);
+  ~SnapIndex();
+  SnapIndex(SnapIndex&&) noexcept;
+  SnapIndex& operator=(SnapIndex&&) noexcept;
+
+  std::uint64_t revision() const;
+
+  /// Ends of pieces whose id is in `ignored` (sorted) attract nothing: never snap to what is
+  /// dragged.
+  SnapResult findSnap(const PieceDef& carried, const Pose& pose,
+                      std::span<const std::int32_t> ignored = {}) const;
+  std::optional<IncompatibleContact> findIncompatibleContact(const PieceDef& carried,
+                                                             const Pose& pose) const;
+
+ private:
+  struct Data;
+  std::unique_ptr<Data> data_;
+};
+
+} // namespace trassix
