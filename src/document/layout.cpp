@@ -1,1 +1,162 @@
 #include "document/layout.h"
+
+#include <algorithm>
+#include <atomic>
+#include <string>
+
+namespace trassix {
+
+namespace {
+
+constexpr Color kFirstLevelColor{180, 200, 220};
+
+/// Ids are handed out in rising order and pieces are appended, so the vector is nearly always
+/// sorted; a plan from elsewhere may not be, and is then searched from the front.
+template <class Pieces>
+auto* pieceWithId(Pieces& pieces, std::int32_t id) {
+  decltype(pieces.data()) found = nullptr;
+  if (id == -1)
+    return found;
+  std::size_t low = 0;
+  std::size_t high = pieces.size();
+  while (low < high) {
+    const std::size_t middle = low + (high - low) / 2;
+    if (pieces[middle].id < id)
+      low = middle + 1;
+    else
+      high = middle;
+  }
+  if (low < pieces.size() && pieces[low].id == id)
+    return &pieces[low];
+  const auto it = std::find_if(pieces.begin(), pieces.end(),
+                               [id](const PlacedPiece& piece) { return piece.id == id; });
+  return it == pieces.end() ? found : &*it;
+}
+
+template <class Records>
+bool anySelected(const Records& records) {
+  return std::any_of(records.begin(), records.end(), [](const auto& record) { return record.sel; });
+}
+
+template <class Records>
+void deselect(Records& records) {
+  for (auto& record : records)
+    record.sel = false;
+}
+
+} // namespace
+
+PlanContent& Layout::edit() {
+  stamp();
+  return content_;
+}
+
+PlanSettings& Layout::editSettings() {
+  stamp();
+  return settings_;
+}
+
+const PlacedPiece* Layout::findPiece(std::int32_t id) const {
+  return pieceWithId(content_.pieces, id);
+}
+
+PlacedPiece* Layout::editPiece(std::int32_t id) {
+  PlacedPiece* piece = pieceWithId(content_.pieces, id);
+  if (piece != nullptr)
+    stamp();
+  return piece;
+}
+
+const Level* Layout::findLevel(std::int32_t id) const {
+  const auto it = std::find_if(settings_.levels.begin(), settings_.levels.end(),
+                               [id](const Level& level) { return level.id == id; });
+  return it == settings_.levels.end() ? nullptr : &*it;
+}
+
+bool Layout::levelVisible(std::int32_t id) const {
+  const Level* level = findLevel(id);
+  return level == nullptr || level->visible;
+}
+
+double Layout::levelHeight(std::int32_t id) const {
+  const Level* level = findLevel(id);
+  return level == nullptr ? 0 : level->height;
+}
+
+void Layout::ensureLevel() {
+  if (!settings_.levels.empty())
+    return;
+  Level level;
+  level.id = 1;
+  level.name = "Level 1";
+  level.color = kFirstLevelColor;
+  editSettings().levels.push_back(level);
+  settings_.activeLevel = level.id;
+}
+
+void Layout::ensureLevel(std::int32_t id) {
+  if (findLevel(id) != nullptr)
+    return;
+  Level level;
+  level.id = id;
+  level.name = "Level " + std::to_string(id);
+  editSettings().levels.push_back(level);
+}
+
+void Layout::startGradeRun(std::int32_t anchor, std::int32_t connector, double degrees) {
+  PlanContent& content = edit();
+  const auto run =
+      std::find_if(content.gradeRuns.begin(), content.gradeRuns.end(),
+                   [anchor](const GradeRun& candidate) { return candidate.anchor == anchor; });
+  if (run != content.gradeRuns.end())
+    *run = {degrees, anchor, connector};
+  else
+    content.gradeRuns.push_back({degrees, anchor, connector});
+  content.mirrorLastGradeRun();
+}
+
+void Layout::clearSelection() {
+  if (!anySelected(content_.pieces) && !anySelected(content_.scenery) &&
+      !anySelected(content_.labels) && !anySelected(content_.shapes) &&
+      !anySelected(content_.measurements))
+    return;
+  stamp();
+  deselect(content_.pieces);
+  deselect(content_.scenery);
+  deselect(content_.labels);
+  deselect(content_.shapes);
+  deselect(content_.measurements);
+}
+
+void Layout::clear() {
+  content_ = {};
+  settings_ = {};
+  nextPieceId_ = 1;
+  history_.clear();
+  stamp();
+}
+
+void Layout::pushHistory() {
+  history_.push(content_);
+}
+
+bool Layout::undo() {
+  if (!history_.undo(content_))
+    return false;
+  stamp();
+  return true;
+}
+
+bool Layout::redo() {
+  if (!history_.redo(content_))
+    return false;
+  stamp();
+  return true;
+}
+
+void Layout::stamp() {
+  static std::atomic<std::uint64_t> lastRevision{0};
+  revision_ = ++lastRevision;
+}
+
+} // namespace trassix

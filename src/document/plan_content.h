@@ -19,6 +19,13 @@ struct PlanContent {
   std::vector<GradeRun> gradeRuns;
 
   bool operator==(const PlanContent&) const = default;
+
+  /// Makes the last run the current grade, or switches it off when there is none.
+  void mirrorLastGradeRun() {
+    currentGrade = gradeRuns.empty() ? CurrentGrade{}
+                                     : CurrentGrade{true, gradeRuns.back().deg,
+                                                    gradeRuns.back().anchor, gradeRuns.back().conn};
+  }
 };
 
 } // namespace trassix

@@ -1,0 +1,108 @@
+#include "document/layout.h"
+
+#include <gtest/gtest.h>
+
+namespace trassix {
+namespace {
+
+PlacedPiece pieceAt(std::int32_t id, double x) {
+  PlacedPiece piece;
+  piece.id = id;
+  piece.x = x;
+  piece.joints = {{id + 1, 0}, {}};
+  return piece;
+}
+
+TEST(Layout, undoesAtMostFiftyEditsAndForgetsTheUndoneOnesAtTheNextEdit) {
+  Layout layout;
+  for (int i = 0; i <= 51; ++i) {
+    layout.pushHistory();
+    layout.edit().pieces.push_back(pieceAt(layout.takeId(), i));
+    layout.edit().measurements.push_back({i, {0, 0}, {1, 1}, false});
+  }
+  layout.editSettings().baseboard = {{0, 0}, {1, 0}, {1, 1}};
+  const PlanContent newest = layout.content();
+  int undone = 0;
+  while (layout.undo())
+    ++undone;
+  EXPECT_EQ(undone, 50);
+  EXPECT_EQ(layout.pieces().size(), 2U);
+  EXPECT_EQ(layout.content().measurements.size(), 2U);
+  EXPECT_EQ(layout.settings().baseboard.size(), 3U) << "settings are not under undo";
+  while (layout.redo()) {
+  }
+  EXPECT_EQ(layout.content(), newest);
+  EXPECT_TRUE(layout.canUndo());
+
+  layout.undo();
+  EXPECT_TRUE(layout.canRedo());
+  layout.pushHistory();
+  EXPECT_FALSE(layout.canRedo());
+}
+
+TEST(Layout, findsPiecesInAnyOrderOfIds) {
+  Layout layout;
+  for (const std::int32_t id : {7, 3, 9, 1, 8, 2})
+    layout.edit().pieces.push_back(pieceAt(id, id));
+  for (const std::int32_t id : {7, 3, 9, 1, 8, 2}) {
+    ASSERT_NE(layout.findPiece(id), nullptr) << id;
+    EXPECT_EQ(layout.findPiece(id)->x, id);
+  }
+  for (const std::int32_t id : {-1, 0, 4, 10})
+    EXPECT_EQ(layout.findPiece(id), nullptr) << id;
+}
+
+TEST(Layout, stampsEveryChangeAndNothingElse) {
+  Layout layout;
+  layout.edit().pieces = {pieceAt(1, 0)};
+  const Layout copy = layout;
+  const auto unchanged = [&layout, &copy] { return layout.revision() == copy.revision(); };
+  layout.clearSelection();
+  layout.undo();
+  layout.editPiece(2);
+  layout.pushHistory();
+  EXPECT_TRUE(unchanged());
+  layout.undo();
+  EXPECT_FALSE(unchanged());
+
+  Layout other = copy;
+  other.editPiece(1)->sel = true;
+  const std::uint64_t selected = other.revision();
+  other.clearSelection();
+  EXPECT_GT(other.revision(), selected);
+  EXPECT_EQ(other.content(), copy.content());
+}
+
+TEST(Layout, mirrorsTheLastGradeRun) {
+  Layout layout;
+  layout.startGradeRun(4, 1, 2.5);
+  layout.startGradeRun(9, 0, -1.0);
+  EXPECT_EQ(layout.content().currentGrade, (CurrentGrade{true, -1.0, 9, 0}));
+  layout.startGradeRun(4, 2, 3.0);
+  EXPECT_EQ(layout.content().gradeRuns, (std::vector<GradeRun>{{3.0, 4, 2}, {-1.0, 9, 0}}));
+  EXPECT_EQ(layout.content().currentGrade, (CurrentGrade{true, -1.0, 9, 0}));
+  layout.edit().gradeRuns.clear();
+  layout.edit().mirrorLastGradeRun();
+  EXPECT_EQ(layout.content().currentGrade, CurrentGrade{});
+}
+
+TEST(Layout, levelsHaveTheirPresetNamesAndColours) {
+  Layout layout;
+  EXPECT_TRUE(layout.levelVisible(5));
+  layout.ensureLevel();
+  layout.ensureLevel();
+  layout.ensureLevel(7);
+  layout.ensureLevel(1);
+  ASSERT_EQ(layout.settings().levels.size(), 2U);
+  const Level first{1, "Level 1", true, 0, false, {180, 200, 220}, {}};
+  const Level seventh{7, "Level 7", true, 0, false, {180, 180, 180}, {}};
+  EXPECT_EQ(layout.settings().levels, (std::vector<Level>{first, seventh}));
+  layout.editSettings().levels[1].visible = false;
+  layout.editSettings().levels[1].height = 60;
+  EXPECT_FALSE(layout.levelVisible(7));
+  EXPECT_EQ(layout.levelHeight(7), 60);
+  EXPECT_EQ(layout.levelHeight(2), 0);
+}
+
+} // namespace
+} // namespace trassix
