@@ -1,0 +1,17 @@
+#include "editing/canvas/canvas_tool.h"
+
+namespace trassix {
+
+const PlanIndex& ToolSite::planIndex() {
+  if (planIndex_.revision() != layout().revision())
+    planIndex_ = PlanIndex(layout());
+  return planIndex_;
+}
+
+const SnapIndex& ToolSite::snapIndex() {
+  if (snapIndex_.revision() != layout().revision())
+    snapIndex_ = SnapIndex(layout());
+  return snapIndex_;
+}
+
+} // namespace trassix

@@ -1,0 +1,107 @@
+#pragma once
+
+#include "document/records.h"
+#include "editing/canvas/layout_host.h"
+#include "editing/canvas/surface.h"
+#include "editing/canvas/view_transform.h"
+#include "editing/plan_index.h"
+#include "editing/snapping.h"
+
+#include <cstdint>
+#include <string>
+
+namespace trassix {
+
+/// One mouse event, free of the toolkit.
+struct PointerInput {
+  Point px;
+  Point world;
+  bool ctrl = false;
+  bool shift = false;
+  bool alt = false;
+};
+
+enum class Key : std::uint8_t {
+  Other,
+  Escape,
+  Enter,
+  Backspace,
+  Left,
+  Right,
+  Up,
+  Down,
+  R,
+  Copy,
+  Cut,
+  Paste,
+  Duplicate,
+};
+
+struct KeyInput {
+  Key key = Key::Other;
+  bool shift = false;
+};
+
+enum class CursorShape : std::uint8_t { Arrow, Cross, Hand, Move, Rotate };
+
+/// What a tool works on: the window, the view, and the indices derived from the plan.
+class ToolSite {
+ public:
+  explicit ToolSite(LayoutHost& window) : host(window) {}
+
+  LayoutHost& host;
+  ViewTransform view;
+  SizePx size; ///< of the canvas, px
+
+  Layout& layout() const { return host.layout(); }
+
+  /// Derived from the plan as it is now; rebuilt only when it has changed.
+  const PlanIndex& planIndex();
+  const SnapIndex& snapIndex();
+
+  /// Millimetres that `px` pixels cover.
+  double mm(double px) const { return px / view.zoom(); }
+
+ private:
+  PlanIndex planIndex_;
+  SnapIndex snapIndex_;
+};
+
+/// What the mouse and keys do on the plan. The canvas holds one active tool and forwards to it; the
+/// drag threshold and panning are the canvas's own.
+class CanvasTool {
+ public:
+  explicit CanvasTool(ToolSite& site) : site_(site) {}
+  virtual ~CanvasTool() = default;
+
+  virtual void press(const PointerInput&) {}
+  /// The pointer moved with no button down.
+  virtual void hover(const PointerInput&) {}
+  /// The pointer moved with the left button down, beyond the drag threshold since the press.
+  virtual void drag(const PointerInput&) {}
+  virtual void release(const PointerInput&, bool /*dragged*/) {}
+  virtual void doubleClick(const PointerInput&) {}
+  virtual void contextMenu(const PointerInput&) {}
+  /// `direction` is +1 or -1. False lets the wheel zoom.
+  virtual bool wheel(const PointerInput&, int /*direction*/) { return false; }
+  virtual bool key(const KeyInput&) { return false; }
+  /// Esc, a lost capture or another tool: leaves everything as it was before the gesture.
+  virtual void cancel() {}
+
+  /// True once a carried thing was dropped or discarded; the canvas then goes back to the tool of
+  /// the current mode.
+  virtual bool finished() const { return false; }
+  /// True for something that hangs on the pointer and needs the mouse captured.
+  virtual bool carries() const { return false; }
+
+  /// Pieces (sorted ids) that the tool draws itself at another place.
+  virtual std::span<const std::int32_t> lifted() const { return {}; }
+  virtual void paint(Surface&) const {}
+  virtual std::string hint() const = 0;
+  virtual CursorShape cursor() const { return CursorShape::Arrow; }
+
+ protected:
+  ToolSite& site_;
+};
+
+} // namespace trassix

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "document/records.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace trassix {
+
+struct Rgba {
+  std::uint8_t r = 0;
+  std::uint8_t g = 0;
+  std::uint8_t b = 0;
+  std::uint8_t a = 255;
+
+  bool operator==(const Rgba&) const = default;
+};
+
+inline Rgba opaque(Color color, std::uint8_t a = 255) {
+  return {color.r, color.g, color.b, a};
+}
+
+struct Stroke {
+  enum class Style : std::uint8_t { Solid, Dashed, Dotted };
+
+  Rgba color;
+  double width = 1; ///< px
+  Style style = Style::Solid;
+
+  bool operator==(const Stroke&) const = default;
+};
+
+struct TextStyle {
+  Rgba color;
+  double size = 11; ///< px from baseline to baseline, near enough
+  bool bold = false;
+
+  bool operator==(const TextStyle&) const = default;
+};
+
+struct SizePx {
+  double width = 0;
+  double height = 0;
+};
+
+/// What pictures are drawn on: the screen, a printer, an image, or a recording in a test. All
+/// coordinates in pixels with y downwards.
+class Surface {
+ public:
+  virtual ~Surface() = default;
+
+  virtual void polyline(std::span<const Point> points, const Stroke& stroke) = 0;
+  virtual void polygon(std::span<const Point> points, std::optional<Rgba> fill,
+                       std::optional<Stroke> outline) = 0;
+  /// Separate lines: points 0-1, 2-3, and so on.
+  virtual void segments(std::span<const Point> ends, const Stroke& stroke) = 0;
+  virtual void circle(Point centre, double radius, std::optional<Rgba> fill,
+                      std::optional<Stroke> outline) = 0;
+
+  /// Text centred on `centre`, turned by `degrees` clockwise. UTF-8.
+  virtual void text(std::string_view text, Point centre, double degrees,
+                    const TextStyle& style) = 0;
+  virtual SizePx textSize(std::string_view text, const TextStyle& style) = 0;
+};
+
+} // namespace trassix

@@ -1,0 +1,32 @@
+#include "editing/canvas/view_transform.h"
+
+#include <algorithm>
+
+namespace trassix {
+
+void ViewTransform::zoomAbout(double factor, Point px) {
+  const Point kept = toWorld(px);
+  zoom_ = std::clamp(zoom_ * factor, kMinZoom, kMaxZoom);
+  origin_ = {px.x - kept.x * zoom_, px.y - kept.y * zoom_};
+}
+
+void ViewTransform::reset() {
+  *this = ViewTransform();
+}
+
+void ViewTransform::resetForSmall() {
+  reset();
+  zoom_ = 1.0;
+}
+
+void ViewTransform::fit(const Box& content, double widthPx, double heightPx) {
+  const double width = std::max(content.maxX - content.minX, 1.0);
+  const double height = std::max(content.maxY - content.minY, 1.0);
+  const double roomX = widthPx - 2 * kFitMarginPx;
+  const double roomY = heightPx - 2 * kFitMarginPx;
+  zoom_ = std::max(std::min({roomX / width, roomY / height, kMaxZoom}), kMinFitZoom);
+  origin_ = {(roomX - zoom_ * width) * 0.5 + kFitMarginPx - zoom_ * content.minX,
+             (roomY - zoom_ * height) * 0.5 + kFitMarginPx - zoom_ * content.minY};
+}
+
+} // namespace trassix

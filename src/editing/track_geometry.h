@@ -1,0 +1,37 @@
+// How a piece of track looks from above, in its own frame: computed once for each definition.
+#pragma once
+
+#include "catalog/piece_def.h"
+#include "document/records.h"
+
+#include <utility>
+#include <vector>
+
+namespace trassix {
+
+/// Half the width of the track bed in mm: 6.0 for Z, 31.5 for Gauge 1, 18.7 for the H0 systems.
+double trackHalfWidth(TrackSystem system);
+
+/// Distance between the rails' centres in mm: 6.5 for Z, 45 for Gauge 1, 16.5 for H0.
+double trackGauge(TrackSystem system);
+
+/// Lengths in mm in the piece's frame.
+struct TrackGeometry {
+  std::vector<std::vector<Point>> beds;        ///< closed outlines, one for each route
+  std::vector<std::vector<Point>> centreLines; ///< one for each route
+  std::vector<std::vector<Point>> rails;       ///< two for each route
+  std::vector<Point> sleepers;                 ///< pairs of ends
+  double halfWidth = 0;
+  Point centre;            ///< of a circle that holds everything drawn
+  double radius = 0;       ///< of that circle
+  Point labelSpot;         ///< middle of the main route
+  double labelHeading = 0; ///< along the main route there
+  double mainLength = 0;   ///< of the main route
+};
+
+TrackGeometry deriveTrackGeometry(const PieceDef& definition);
+
+/// The geometry of a catalogue definition, kept for the life of the process.
+const TrackGeometry& trackGeometryOf(const PieceDef& definition);
+
+} // namespace trassix
