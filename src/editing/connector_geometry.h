@@ -14,6 +14,14 @@ namespace trassix {
 
 inline constexpr double kPi = 3.141592653589793;
 
+constexpr double toRadians(double degrees) {
+  return degrees * kPi / 180.0;
+}
+
+constexpr double toDegrees(double radians) {
+  return radians * 180.0 / kPi;
+}
+
 /// Position and rotation of a piece's own frame in the layout.
 struct Pose {
   double x = 0;

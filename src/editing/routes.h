@@ -4,6 +4,8 @@
 #include "catalog/piece_def.h"
 #include "editing/connector_geometry.h"
 
+#include <array>
+#include <cstdint>
 #include <variant>
 #include <vector>
 
