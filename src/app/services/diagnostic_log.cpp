@@ -1,0 +1,57 @@
+#include "app/services/diagnostic_log.h"
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <ctime>
+#include <fstream>
+#include <memory>
+#include <string>
+
+namespace trassix {
+
+namespace {
+
+std::unique_ptr<std::ofstream>& handle() {
+  static std::unique_ptr<std::ofstream> log;
+  return log;
+}
+
+/// Local time as "14:03:59.007 ".
+std::string timeStamp(std::chrono::system_clock::time_point when) {
+  const std::time_t seconds = std::chrono::system_clock::to_time_t(when);
+  const auto sinceEpoch =
+      std::chrono::duration_cast<std::chrono::milliseconds>(when.time_since_epoch());
+  std::tm local{};
+#ifdef _WIN32
+  localtime_s(&local, &seconds);
+#else
+  localtime_r(&seconds, &local);
+#endif
+  std::array<char, 64> text{};
+  std::snprintf(text.data(), text.size(), "%02d:%02d:%02d.%03d ", local.tm_hour, local.tm_min,
+                local.tm_sec, static_cast<int>(sinceEpoch.count() % 1000));
+  return text.data();
+}
+
+} // namespace
+
+void DiagnosticLog::open(const std::filesystem::path& file) {
+  handle() = std::make_unique<std::ofstream>(file);
+}
+
+void DiagnosticLog::write(std::string_view text) {
+  if (!handle() || !handle()->is_open()) {
+    return;
+  }
+  std::string line = timeStamp(std::chrono::system_clock::now());
+  line.append(text).append("\n");
+  handle()->write(line.data(), static_cast<std::streamsize>(line.size()));
+  handle()->flush();
+}
+
+void DiagnosticLog::close() {
+  handle().reset();
+}
+
+} // namespace trassix

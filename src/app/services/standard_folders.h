@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+
+namespace trassix {
+
+/// The platform's folders for this program and user, as the toolkit's standard paths give them.
+class StandardFolders {
+ public:
+  /// Per-user local data, made when missing; the folder for temporary files when that fails.
+  static std::filesystem::path logs();
+
+  static std::filesystem::path documents();
+
+  /// Folder of the running executable.
+  static std::filesystem::path install();
+
+  static std::filesystem::path prefsFile();
+
+  /// Where older releases kept the preferences: beside the executable, looked up on the current
+  /// drive.
+  static std::filesystem::path legacyPrefsFile();
+};
+
+} // namespace trassix
