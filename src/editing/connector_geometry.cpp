@@ -1,5 +1,7 @@
 #include "editing/connector_geometry.h"
 
+#include "catalog/track_catalog.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -11,6 +13,10 @@ namespace {
 constexpr double kSteppedRange = 360.0 * 64;
 
 } // namespace
+
+const PieceDef* definitionOf(const PlacedPiece& piece) {
+  return TrackCatalog::instance().find(piece.cat);
+}
 
 double normaliseHeading(double degrees) {
   if (!std::isfinite(degrees))

@@ -22,6 +22,9 @@ constexpr double toDegrees(double radians) {
   return radians * 180.0 / kPi;
 }
 
+/// The definition a placed piece names; null when its article is not in the catalogue.
+const PieceDef* definitionOf(const PlacedPiece& piece);
+
 /// Position and rotation of a piece's own frame in the layout.
 struct Pose {
   double x = 0;

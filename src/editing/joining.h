@@ -12,19 +12,38 @@ namespace trassix {
 inline constexpr double kClosingDistance = 1.0; ///< mm, in the plan and in height
 inline constexpr double kClosingFacing = 1.0;   ///< degrees off exactly opposite
 
-/// Writes the joint on both pieces, lengthening their joint tables as needed. Both must exist.
+/// Grades below a thousandth of a degree count as level.
+bool isGraded(const PlacedPiece& piece);
+
+/// Height of an end in mm: a graded piece rises by length times sin(grade) from connector 0 towards
+/// its other ends, and falls when its grade is reversed.
+double endHeight(const PlacedPiece& piece, const PieceDef& definition, std::int32_t connector);
+
+/// Writes the joint on both pieces, lengthening their joint tables as needed; a joint that either
+/// end had before is opened first. Does nothing when a piece does not exist or an index is
+/// negative.
 void join(Layout& layout, std::int32_t a, std::int32_t connectorA, std::int32_t b,
           std::int32_t connectorB);
 
 /// Opens the joint at this connector on both sides; an open one stays as it is.
 void openJoint(Layout& layout, std::int32_t piece, std::int32_t connector);
 
-/// Opens every joint between a piece of `pieces` and one that is not among them. `pieces` sorted.
+/// Opens every joint between a piece of `pieces` (sorted ids) and one that is not among them.
 void detach(Layout& layout, std::span<const std::int32_t> pieces);
 
-/// Joins each free connector of `pieces` (sorted ids) with a free connector of any other piece that
-/// it meets within the closing tolerances, same system and height. No pose changes. Returns the
-/// number of joints made.
+/// What `detach` would do.
+struct Detachment {
+  bool opensJoints = false;
+  bool opensGradedJoints = false; ///< a graded piece on either side: the user is asked first
+};
+Detachment detachmentOf(const Layout& layout, std::span<const std::int32_t> pieces);
+
+/// Joins each free connector of `pieces` (sorted ids) with the nearest free connector of any other
+/// piece that it meets within the closing tolerances, same system and height; of equally near ones
+/// with the first in document order. No pose changes. Returns the number of joints made.
 int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces);
+
+/// True when `id` is among the sorted ids.
+bool containsId(std::span<const std::int32_t> sortedIds, std::int32_t id);
 
 } // namespace trassix

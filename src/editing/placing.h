@@ -14,6 +14,10 @@
 
 namespace trassix {
 
+/// The level that something dropped without a snap lands on: the visible one with the greatest
+/// height (the first of equal heights), else the active one.
+std::int32_t dropLevel(const Layout& layout);
+
 /// Drops a carried piece: at the snapped pose, else at `pose`. With `snapping` on, a drop that did
 /// not snap but touches an incompatible system is refused. Turntables bring their five spoke
 /// tracks, articles sold in pairs their second piece. An article that is not in the catalogue
@@ -26,7 +30,9 @@ EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
 EditResult cloneAndExtend(Layout& layout, std::int32_t piece);
 
 /// Places `article` at an open end of the selected piece with the highest id (connector 1, 0, then
-/// 2 upwards). Nothing when no piece is selected.
+/// 2 upwards), with its connector 0 or, at connector 0 of the selected piece, its 1; an adapter is
+/// turned round when only its other end fits. Refused when no end fits the system. Nothing when no
+/// piece is selected or all its ends are joined.
 EditResult extendSelected(Layout& layout, std::string_view article);
 
 /// Drops a scenery item; the roundhouse seats itself at the nearest turntable within reach.

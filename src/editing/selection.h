@@ -19,7 +19,7 @@ struct Box {
   bool operator==(const Box&) const = default;
 };
 
-bool hasSelection(const Layout& layout);
+bool hasSelection(const Layout& layout);                        ///< any record at all
 std::vector<std::int32_t> selectedPieces(const Layout& layout); ///< ids, sorted
 void selectOnly(Layout& layout, std::int32_t piece);
 void selectAll(Layout& layout); ///< every record on a visible level
@@ -31,8 +31,9 @@ std::vector<std::int32_t> chainOf(const Layout& layout, std::int32_t piece);
 /// pieces, footprints of scenery, vertices of shapes. Empty when nothing of these is selected.
 std::optional<Box> selectionBox(const Layout& layout);
 
-/// Turns the selection as one rigid body about the centre of its box. Joints to unselected pieces
-/// open.
+/// Turns the selection as one rigid body about the centre of its box, as one undo step. Joints to
+/// unselected pieces open; ends that meet others where it lands are joined. False and nothing
+/// changed when no piece, scenery item or shape is selected.
 bool rotateSelection(Layout& layout, double degrees);
 
 /// Why the selection must not be changed ("Helix track is locked", "Tunnel is locked"). `verb` is
@@ -41,7 +42,9 @@ std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb);
 
 bool selectionHasGrades(const Layout& layout);
 
-/// Removes everything selected; neighbours' joints open. False when nothing was selected.
+/// Removes everything selected as one undo step; neighbours' joints open. A piece of an article
+/// that is sold in pairs takes the piece with it that it was placed together with. Grade runs
+/// that start on a removed piece end, tunnels forget it. False when nothing was selected.
 bool deleteSelection(Layout& layout);
 
 } // namespace trassix

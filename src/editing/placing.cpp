@@ -1,0 +1,210 @@
+#include "editing/placing.h"
+
+#include "catalog/compatibility.h"
+#include "catalog/track_catalog.h"
+#include "editing/joining.h"
+#include "editing/selection.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace trassix {
+
+namespace {
+
+constexpr std::string_view kTurntable = "74861";
+constexpr std::string_view kTurntableTrack = "74871";
+constexpr std::array<std::int32_t, 5> kTurntableTrackEnds{29, 1, 14, 15, 16};
+
+bool hasEnd(const PieceDef& definition, std::int32_t connector) {
+  return connector >= 0 && static_cast<std::size_t>(connector) < definition.connectors.size();
+}
+
+bool openAt(const PlacedPiece& piece, std::int32_t connector) {
+  return piece.joint(static_cast<std::size_t>(connector)).open();
+}
+
+/// True when another piece says that it is joined here, whatever this piece says.
+bool claimed(const Layout& layout, Joint end) {
+  return std::any_of(layout.pieces().begin(), layout.pieces().end(), [end](const PlacedPiece& p) {
+    return p.id != end.target && std::find(p.joints.begin(), p.joints.end(), end) != p.joints.end();
+  });
+}
+
+Notice incompatible(TrackSystem added, TrackSystem present) {
+  return {"Incompatible Track Systems", incompatibilityText(added, present), Notice::Icon::Warning};
+}
+
+/// Appends a piece with all ends open; returns its id.
+std::int32_t addPiece(Layout& layout, const PieceDef& definition, const Pose& pose,
+                      std::int32_t level, double height) {
+  PlacedPiece piece;
+  piece.id = layout.takeId();
+  piece.cat = definition.article;
+  piece.x = pose.x;
+  piece.y = pose.y;
+  piece.heading = pose.heading;
+  piece.level = level;
+  piece.z = height;
+  piece.joints.resize(definition.connectors.size());
+  layout.edit().pieces.push_back(std::move(piece));
+  return layout.pieces().back().id;
+}
+
+/// Appends a piece joined by its connector `own` to `connector` of `from`, on the same level and at
+/// the same height.
+std::int32_t attach(Layout& layout, const PieceDef& definition, std::int32_t own, std::int32_t from,
+                    std::int32_t connector) {
+  const PlacedPiece& source = *layout.findPiece(from);
+  const WorldConnector end = ConnectorToWorld(source, *definitionOf(source), connector);
+  const std::int32_t id =
+      addPiece(layout, definition, AttachPose(definition, own, end), source.level, source.z);
+  join(layout, id, own, from, connector);
+  return id;
+}
+
+void attachTurntableTracks(Layout& layout, std::int32_t turntable,
+                           std::vector<std::int32_t>& placed) {
+  const PieceDef* track = TrackCatalog::instance().find(kTurntableTrack);
+  if (track == nullptr)
+    return;
+  for (const std::int32_t end : kTurntableTrackEnds) {
+    // The end by which the turntable itself was snapped on is taken.
+    if (!openAt(*layout.findPiece(turntable), end))
+      continue;
+    placed.push_back(attach(layout, *track, 0, turntable, end));
+    layout.editPiece(placed.back())->free = true;
+  }
+}
+
+void attachSecondOfPair(Layout& layout, const PieceDef& definition, std::int32_t first,
+                        std::vector<std::int32_t>& placed) {
+  if (!definition.pair || !hasEnd(definition, 1) || !openAt(*layout.findPiece(first), 1))
+    return;
+  placed.push_back(attach(layout, definition, 0, first, 1));
+  inheritElevation(layout, placed.back(), first, 1);
+}
+
+EditResult finish(Layout& layout, std::vector<std::int32_t> placed) {
+  std::vector<std::int32_t> sorted = placed;
+  std::sort(sorted.begin(), sorted.end());
+  closeMeetingEnds(layout, sorted);
+  selectOnly(layout, placed.front());
+  return {std::move(placed), std::nullopt};
+}
+
+/// The end by which a new piece goes on at `connector`: 1 at a piece's start, else 0. The other one
+/// when only that mates with the system, -1 when neither does.
+std::int32_t matingEnd(const PieceDef& definition, std::int32_t connector, TrackSystem system) {
+  const std::int32_t usual = connector == 0 && hasEnd(definition, 1) ? 1 : 0;
+  for (const std::int32_t end : {usual, 1 - usual})
+    if (hasEnd(definition, end) &&
+        definition.connectorSystem(static_cast<std::size_t>(end)) == system)
+      return end;
+  return -1;
+}
+
+/// Extends `from` at `connector`, which must be open, by one piece (and the second of its pair).
+EditResult extend(Layout& layout, std::int32_t from, std::int32_t connector,
+                  const PieceDef& definition, bool withPair) {
+  const PieceDef& source = *definitionOf(*layout.findPiece(from));
+  const TrackSystem system = source.connectorSystem(static_cast<std::size_t>(connector));
+  if (definition.connectors.empty())
+    return {};
+  const std::int32_t own = matingEnd(definition, connector, system);
+  if (own == -1)
+    return {{}, incompatible(definition.connectorSystem(0), system)};
+  layout.pushHistory();
+  std::vector<std::int32_t> placed{attach(layout, definition, own, from, connector)};
+  inheritElevation(layout, placed.front(), from, connector);
+  if (withPair)
+    attachSecondOfPair(layout, definition, placed.front(), placed);
+  return finish(layout, std::move(placed));
+}
+
+} // namespace
+
+std::int32_t dropLevel(const Layout& layout) {
+  std::int32_t level = layout.settings().activeLevel;
+  double highest = -1000000000.0;
+  for (const Level& candidate : layout.settings().levels) {
+    if (candidate.visible && candidate.height > highest) {
+      highest = candidate.height;
+      level = candidate.id;
+    }
+  }
+  return level;
+}
+
+EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
+                     const SnapResult& snap, bool snapping) {
+  const PieceDef* definition = TrackCatalog::instance().find(article);
+  if (definition == nullptr)
+    return {};
+  if (!snap.snapped && snapping)
+    if (const auto contact = FindIncompatibleContact(*definition, pose, layout.pieces()))
+      return {{}, incompatible(contact->carried, contact->other)};
+
+  layout.pushHistory();
+  layout.ensureLevel();
+  const PlacedPiece* target = snap.snapped ? layout.findPiece(snap.target) : nullptr;
+  std::int32_t level = snap.snapped ? layout.settings().activeLevel : dropLevel(layout);
+  double height = layout.levelHeight(level);
+  if (target != nullptr) {
+    level = target->level;
+    height = target->z;
+  }
+  const std::int32_t chief =
+      addPiece(layout, *definition, snap.snapped ? snap.pose : pose, level, height);
+  if (target != nullptr) {
+    join(layout, chief, snap.newConnector, snap.target, snap.targetConnector);
+    inheritElevation(layout, chief, snap.target, snap.targetConnector);
+  }
+  std::vector<std::int32_t> placed{chief};
+  if (definition->article == kTurntable)
+    attachTurntableTracks(layout, chief, placed);
+  attachSecondOfPair(layout, *definition, chief, placed);
+  return finish(layout, std::move(placed));
+}
+
+EditResult cloneAndExtend(Layout& layout, std::int32_t piece) {
+  const PlacedPiece* source = layout.findPiece(piece);
+  const PieceDef* definition = source == nullptr ? nullptr : definitionOf(*source);
+  if (definition == nullptr || source->helix != -1)
+    return {};
+  for (const std::int32_t connector : {1, 0})
+    if (hasEnd(*definition, connector) && openAt(*source, connector) &&
+        !claimed(layout, {piece, connector}))
+      return extend(layout, piece, connector, *definition, false);
+  return {};
+}
+
+EditResult extendSelected(Layout& layout, std::string_view article) {
+  const PieceDef* definition = TrackCatalog::instance().find(article);
+  const std::vector<std::int32_t> selected = selectedPieces(layout);
+  if (definition == nullptr || selected.empty())
+    return {};
+  const PlacedPiece& source = *layout.findPiece(selected.back());
+  const PieceDef* sourceDefinition = definitionOf(source);
+  if (sourceDefinition == nullptr)
+    return {};
+  std::vector<std::int32_t> order{1, 0};
+  for (std::int32_t i = 2; hasEnd(*sourceDefinition, i); ++i)
+    order.push_back(i);
+  for (const std::int32_t connector : order)
+    if (hasEnd(*sourceDefinition, connector) && openAt(source, connector))
+      return extend(layout, source.id, connector, *definition, true);
+  return {};
+}
+
+bool wantsSmallTrackView(const Layout& layout) {
+  if (layout.pieces().size() != 1)
+    return false;
+  const PieceDef* definition = definitionOf(layout.pieces().front());
+  return definition != nullptr && definition->system == TrackSystem::ZTrack;
+}
+
+void inheritElevation(Layout&, std::int32_t, std::int32_t, std::int32_t) {}
+
+} // namespace trassix

@@ -1,0 +1,257 @@
+#include "editing/selection.h"
+
+#include "editing/connector_geometry.h"
+#include "editing/joining.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <unordered_set>
+
+namespace trassix {
+
+namespace {
+
+template <class Records>
+bool anySelected(const Records& records) {
+  return std::any_of(records.begin(), records.end(), [](const auto& record) { return record.sel; });
+}
+
+class BoxBuilder {
+ public:
+  void add(Point p) {
+    box_.minX = std::min(box_.minX, p.x);
+    box_.minY = std::min(box_.minY, p.y);
+    box_.maxX = std::max(box_.maxX, p.x);
+    box_.maxY = std::max(box_.maxY, p.y);
+  }
+  std::optional<Box> box() const {
+    return box_.minX > box_.maxX ? std::nullopt : std::optional(box_);
+  }
+
+ private:
+  static constexpr double kFar = std::numeric_limits<double>::max();
+  Box box_{kFar, kFar, -kFar, -kFar};
+};
+
+void addPiece(BoxBuilder& box, const PlacedPiece& piece) {
+  box.add({piece.x, piece.y});
+  const PieceDef* definition = definitionOf(piece);
+  if (definition == nullptr)
+    return;
+  for (const WorldConnector& end : WorldConnectorsOf(piece, *definition))
+    box.add({end.x, end.y});
+  if (definition->kind == PieceKind::Curve && definition->connectors.size() >= 2) {
+    const double bow = (1 - std::cos(toRadians(definition->angle / 2))) * definition->radius;
+    box.add(
+        toWorld(poseOf(piece), {0.5 * definition->length, definition->angle >= 0 ? -bow : bow}));
+  }
+}
+
+struct Turn {
+  Point centre;
+  double degrees = 0;
+
+  Point operator()(Point p) const {
+    return toWorld({centre.x, centre.y, degrees}, {p.x - centre.x, p.y - centre.y});
+  }
+
+  template <class Record>
+  void apply(Record& record) const {
+    const Point at = (*this)({record.x, record.y});
+    record.x = at.x;
+    record.y = at.y;
+    record.heading = normaliseHeading(record.heading + degrees);
+  }
+};
+
+/// The piece that was dropped together with this one, as the second of a pair or the first.
+const PlacedPiece* otherOfPair(const Layout& layout, const PlacedPiece& piece) {
+  const PieceDef* definition = definitionOf(piece);
+  if (definition == nullptr || !definition->pair)
+    return nullptr;
+  for (const std::size_t end : {std::size_t{0}, std::size_t{1}}) {
+    const Joint joint = piece.joint(end);
+    const bool second = end == 0;
+    const PlacedPiece* other = layout.findPiece(joint.target);
+    if (other != nullptr && other->cat == piece.cat && joint.tconn == (second ? 1 : 0) &&
+        other->id == (second ? piece.id - 1 : piece.id + 1))
+      return other;
+  }
+  return nullptr;
+}
+
+/// Ids to remove, sorted.
+std::vector<std::int32_t> doomedPieces(const Layout& layout) {
+  std::vector<std::int32_t> ids;
+  for (const PlacedPiece& piece : layout.pieces()) {
+    if (!piece.sel)
+      continue;
+    ids.push_back(piece.id);
+    if (const PlacedPiece* other = otherOfPair(layout, piece))
+      ids.push_back(other->id);
+  }
+  std::sort(ids.begin(), ids.end());
+  ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
+  return ids;
+}
+
+/// Removes the pieces; no record keeps the id of a piece that is gone.
+void removePieces(PlanContent& content, std::span<const std::int32_t> ids) {
+  std::erase_if(content.pieces,
+                [ids](const PlacedPiece& piece) { return containsId(ids, piece.id); });
+  for (PlacedPiece& piece : content.pieces)
+    for (Joint& joint : piece.joints)
+      if (containsId(ids, joint.target))
+        joint = {};
+  for (Tunnel& tunnel : content.tunnels)
+    std::erase_if(tunnel.covers, [ids](std::int32_t id) { return containsId(ids, id); });
+  if (std::erase_if(content.gradeRuns,
+                    [ids](const GradeRun& run) { return containsId(ids, run.anchor); }) == 0)
+    return;
+  content.currentGrade = {};
+  if (!content.gradeRuns.empty()) {
+    const GradeRun& last = content.gradeRuns.back();
+    content.currentGrade = {true, last.deg, last.anchor, last.conn};
+  }
+}
+
+} // namespace
+
+bool hasSelection(const Layout& layout) {
+  const PlanContent& content = layout.content();
+  return anySelected(content.pieces) || anySelected(content.scenery) ||
+         anySelected(content.labels) || anySelected(content.shapes) ||
+         anySelected(content.measurements);
+}
+
+std::vector<std::int32_t> selectedPieces(const Layout& layout) {
+  std::vector<std::int32_t> ids;
+  for (const PlacedPiece& piece : layout.pieces())
+    if (piece.sel)
+      ids.push_back(piece.id);
+  std::sort(ids.begin(), ids.end());
+  return ids;
+}
+
+void selectOnly(Layout& layout, std::int32_t piece) {
+  layout.clearSelection();
+  if (PlacedPiece* chosen = layout.editPiece(piece))
+    chosen->sel = true;
+}
+
+void selectAll(Layout& layout) {
+  PlanContent& content = layout.edit();
+  for (PlacedPiece& piece : content.pieces)
+    piece.sel = layout.levelVisible(piece.level);
+  for (SceneryItem& item : content.scenery)
+    item.sel = layout.levelVisible(item.level);
+  for (Shape& shape : content.shapes)
+    shape.sel = layout.levelVisible(shape.level);
+  for (Label& label : content.labels)
+    label.sel = true;
+  for (Measurement& measurement : content.measurements)
+    measurement.sel = true;
+}
+
+std::vector<std::int32_t> chainOf(const Layout& layout, std::int32_t piece) {
+  std::vector<std::int32_t> chain;
+  if (layout.findPiece(piece) == nullptr)
+    return chain;
+  std::unordered_set<std::int32_t> met{piece};
+  chain.push_back(piece);
+  for (std::size_t next = 0; next < chain.size(); ++next)
+    for (const Joint& joint : layout.findPiece(chain[next])->joints)
+      if (!joint.open() && layout.findPiece(joint.target) != nullptr &&
+          met.insert(joint.target).second)
+        chain.push_back(joint.target);
+  std::sort(chain.begin(), chain.end());
+  return chain;
+}
+
+std::optional<Box> selectionBox(const Layout& layout) {
+  BoxBuilder box;
+  for (const PlacedPiece& piece : layout.pieces())
+    if (piece.sel)
+      addPiece(box, piece);
+  for (const SceneryItem& item : layout.content().scenery)
+    if (item.sel)
+      box.add({item.x, item.y});
+  for (const Shape& shape : layout.content().shapes)
+    if (shape.sel)
+      for (const Point& vertex : shape.points)
+        box.add(vertex);
+  return box.box();
+}
+
+bool rotateSelection(Layout& layout, double degrees) {
+  const std::optional<Box> box = selectionBox(layout);
+  if (!box)
+    return false;
+  layout.pushHistory();
+  const std::vector<std::int32_t> pieces = selectedPieces(layout);
+  detach(layout, pieces);
+  const Turn turn{{(box->minX + box->maxX) / 2, (box->minY + box->maxY) / 2}, degrees};
+  PlanContent& content = layout.edit();
+  for (PlacedPiece& piece : content.pieces)
+    if (piece.sel)
+      turn.apply(piece);
+  for (SceneryItem& item : content.scenery)
+    if (item.sel)
+      turn.apply(item);
+  for (Shape& shape : content.shapes)
+    if (shape.sel)
+      for (Point& vertex : shape.points)
+        vertex = turn(vertex);
+  closeMeetingEnds(layout, pieces);
+  return true;
+}
+
+std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb) {
+  std::unordered_set<std::int32_t> covered;
+  std::unordered_set<std::int32_t> portals;
+  for (const Tunnel& tunnel : layout.content().tunnels) {
+    covered.insert(tunnel.covers.begin(), tunnel.covers.end());
+    portals.insert({tunnel.portalA, tunnel.portalB});
+  }
+  portals.erase(-1);
+  bool inTunnel = false;
+  for (const PlacedPiece& piece : layout.pieces()) {
+    if (!piece.sel)
+      continue;
+    if (piece.helix != -1)
+      return Notice{"Helix track is locked",
+                    "Selection includes track that is part of a helix. Helix track cannot be " +
+                        verb + "ed individually."};
+    inTunnel = inTunnel || covered.contains(piece.id) || portals.contains(piece.id);
+  }
+  for (const SceneryItem& item : layout.content().scenery)
+    inTunnel = inTunnel || (item.sel && portals.contains(item.id));
+  if (!inTunnel)
+    return std::nullopt;
+  return Notice{"Tunnel is locked",
+                "Selection includes tunnel track or portals. Remove the tunnel first, then " +
+                    verb + "."};
+}
+
+bool selectionHasGrades(const Layout& layout) {
+  return std::any_of(layout.pieces().begin(), layout.pieces().end(),
+                     [](const PlacedPiece& piece) { return piece.sel && isGraded(piece); });
+}
+
+bool deleteSelection(Layout& layout) {
+  if (!hasSelection(layout))
+    return false;
+  layout.pushHistory();
+  const std::vector<std::int32_t> doomed = doomedPieces(layout);
+  PlanContent& content = layout.edit();
+  removePieces(content, doomed);
+  const auto selected = [](const auto& record) { return record.sel; };
+  std::erase_if(content.scenery, selected);
+  std::erase_if(content.labels, selected);
+  std::erase_if(content.shapes, selected);
+  std::erase_if(content.measurements, selected);
+  return true;
+}
+
+} // namespace trassix

@@ -1,0 +1,153 @@
+#include "editing/snapping.h"
+
+#include "editing/end_grid.h"
+#include "editing/joining.h"
+
+#include <cmath>
+#include <limits>
+#include <tuple>
+
+namespace trassix {
+
+namespace {
+
+PlacedPiece carriedPiece(const PieceDef& carried, const Pose& pose) {
+  PlacedPiece piece;
+  piece.cat = carried.article;
+  piece.x = pose.x;
+  piece.y = pose.y;
+  piece.heading = pose.heading;
+  return piece;
+}
+
+double distanceBetween(Point a, const WorldConnector& b) {
+  return std::hypot(a.x - b.x, a.y - b.y);
+}
+
+bool withinReach(double distance) {
+  return distance <= kSnapDistance;
+}
+
+bool mayFace(double headingA, double headingB) {
+  return headingDifference(headingA, headingB) >= kSnapFacing;
+}
+
+SnapResult snapOnto(const PieceDef& carried, std::int32_t connector, const PlacedEnd& target,
+                    double distance) {
+  const WorldConnector end{target.at.x, target.at.y, target.heading, true, target.connector};
+  return {true,    target.piece, target.connector, connector, AttachPose(carried, connector, end),
+          distance};
+}
+
+} // namespace
+
+SnapResult FindSnap(const PieceDef& carried, const Pose& pose,
+                    std::span<const PlacedPiece> candidates) {
+  const auto own = WorldConnectorsOf(carriedPiece(carried, pose), carried);
+  SnapResult best;
+  best.distance = std::numeric_limits<double>::max();
+  std::vector<PlacedEnd> ends;
+  for (const PlacedPiece& candidate : candidates) {
+    ends.clear();
+    appendEnds(ends, candidate, 0, true);
+    for (const PlacedEnd& end : ends) {
+      if (end.joinedTo != -1)
+        continue;
+      for (std::size_t i = 0; i < own.size(); ++i) {
+        const double distance = distanceBetween(end.at, own[i]);
+        if (carried.connectorSystem(i) == end.system && withinReach(distance) &&
+            mayFace(end.heading, own[i].heading) && distance < best.distance)
+          best = snapOnto(carried, own[i].index, end, distance);
+      }
+    }
+  }
+  return best.snapped ? best : SnapResult{};
+}
+
+std::optional<IncompatibleContact> FindIncompatibleContact(const PieceDef& carried,
+                                                           const Pose& pose,
+                                                           std::span<const PlacedPiece> pieces) {
+  const auto own = WorldConnectorsOf(carriedPiece(carried, pose), carried);
+  std::vector<PlacedEnd> ends;
+  for (const PlacedPiece& piece : pieces) {
+    ends.clear();
+    appendEnds(ends, piece, 0, true);
+    for (const PlacedEnd& end : ends)
+      for (std::size_t i = 0; i < own.size(); ++i)
+        if (carried.connectorSystem(i) != end.system &&
+            withinReach(distanceBetween(end.at, own[i])) && mayFace(end.heading, own[i].heading))
+          return IncompatibleContact{carried.connectorSystem(i), end.system};
+  }
+  return std::nullopt;
+}
+
+struct SnapIndex::Data {
+  std::uint64_t revision = 0;
+  EndGrid grid;
+};
+
+SnapIndex::SnapIndex() : data_(std::make_unique<Data>()) {}
+
+SnapIndex::SnapIndex(const Layout& layout)
+    : data_(std::make_unique<Data>(Data{layout.revision(), EndGrid(endsOf(layout))})) {}
+
+SnapIndex::~SnapIndex() = default;
+SnapIndex::SnapIndex(SnapIndex&&) noexcept = default;
+SnapIndex& SnapIndex::operator=(SnapIndex&&) noexcept = default;
+
+std::uint64_t SnapIndex::revision() const {
+  return data_->revision;
+}
+
+SnapResult SnapIndex::findSnap(const PieceDef& carried, const Pose& pose,
+                               std::span<const std::int32_t> ignored) const {
+  const auto own = WorldConnectorsOf(carriedPiece(carried, pose), carried);
+  const PlacedEnd* target = nullptr;
+  std::int32_t connector = -1;
+  double best = std::numeric_limits<double>::max();
+  for (const WorldConnector& mine : own) {
+    const TrackSystem system = carried.connectorSystem(static_cast<std::size_t>(mine.index));
+    data_->grid.visitNear({mine.x, mine.y}, kSnapDistance, [&](const PlacedEnd& end) {
+      if (end.joinedTo != -1 || !end.visible || end.system != system)
+        return;
+      const double distance = distanceBetween(end.at, mine);
+      if (!withinReach(distance) || distance > best || !mayFace(end.heading, mine.heading) ||
+          containsId(ignored, end.piece))
+        return;
+      // Of equal distances the pair that the plain loops meet first wins.
+      if (distance == best && std::tie(target->position, target->connector, connector) <
+                                  std::tie(end.position, end.connector, mine.index))
+        return;
+      target = &end;
+      connector = mine.index;
+      best = distance;
+    });
+  }
+  return target == nullptr ? SnapResult{} : snapOnto(carried, connector, *target, best);
+}
+
+std::optional<IncompatibleContact> SnapIndex::findIncompatibleContact(const PieceDef& carried,
+                                                                      const Pose& pose) const {
+  const auto own = WorldConnectorsOf(carriedPiece(carried, pose), carried);
+  const PlacedEnd* other = nullptr;
+  std::int32_t connector = -1;
+  for (const WorldConnector& mine : own) {
+    const TrackSystem system = carried.connectorSystem(static_cast<std::size_t>(mine.index));
+    data_->grid.visitNear({mine.x, mine.y}, kSnapDistance, [&](const PlacedEnd& end) {
+      if (end.system == system || !withinReach(distanceBetween(end.at, mine)) ||
+          !mayFace(end.heading, mine.heading))
+        return;
+      if (other != nullptr && std::tie(other->position, other->connector, connector) <
+                                  std::tie(end.position, end.connector, mine.index))
+        return;
+      other = &end;
+      connector = mine.index;
+    });
+  }
+  if (other == nullptr)
+    return std::nullopt;
+  return IncompatibleContact{carried.connectorSystem(static_cast<std::size_t>(connector)),
+                             other->system};
+}
+
+} // namespace trassix
