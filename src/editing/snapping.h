@@ -35,6 +35,8 @@ SnapResult FindSnap(const PieceDef& carried, const Pose& pose,
 struct IncompatibleContact {
   TrackSystem carried = TrackSystem::CTrack;
   TrackSystem other = TrackSystem::CTrack;
+
+  bool operator==(const IncompatibleContact&) const = default;
 };
 
 /// The first pair of ends within reach of each other whose systems differ, over all pieces, hidden
