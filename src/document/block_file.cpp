@@ -1,0 +1,127 @@
+#include "document/block_file.h"
+
+#include "document/element_reader.h"
+#include "document/element_writer.h"
+#include "document/piece_lines.h"
+#include "document/text_file.h"
+
+#include <algorithm>
+#include <exception>
+#include <iterator>
+
+namespace trassix {
+
+namespace {
+
+struct Extent {
+  double min = 1000000000.0;
+  double max = -1000000000.0;
+
+  void add(double value) {
+    min = std::min(min, value);
+    max = std::max(max, value);
+  }
+  double middle() const { return (min + max) * 0.5; }
+};
+
+template <class Function>
+void forEachRecord(Block& block, Function function) {
+  for (PlacedPiece& piece : block.pieces)
+    function(piece);
+  for (SceneryItem& item : block.scenery)
+    function(item);
+}
+
+void readLines(ElementReader& reader, Block& block) {
+  bool inScenery = false;
+  while (reader.next()) {
+    if (inScenery) {
+      if (reader.has("</scenery>"))
+        inScenery = false;
+      else if (reader.has("<sceneryitem "))
+        block.scenery.push_back(readSceneryItem(reader));
+    } else if (reader.has("<block ")) {
+      block.name = reader.text("name");
+    } else if (reader.has("<piece ")) {
+      block.pieces.push_back(readPiecePlace(reader));
+    } else if (reader.has("<joint ")) {
+      if (!block.pieces.empty())
+        readJoint(reader, block.pieces.back());
+    } else if (reader.has("<scenery>")) {
+      inScenery = true;
+    }
+  }
+}
+
+} // namespace
+
+Block blockFromSelection(const Layout& layout) {
+  const auto selected = [](const auto& record) { return record.sel; };
+  Block block;
+  std::copy_if(layout.pieces().begin(), layout.pieces().end(), std::back_inserter(block.pieces),
+               selected);
+  std::copy_if(layout.content().scenery.begin(), layout.content().scenery.end(),
+               std::back_inserter(block.scenery), selected);
+  return block;
+}
+
+void centreBlock(Block& block) {
+  constexpr double kNothingBelow = 100000000.0;
+  Extent x;
+  Extent y;
+  forEachRecord(block, [&x, &y](const auto& record) {
+    x.add(record.x);
+    y.add(record.y);
+  });
+  if (x.min > kNothingBelow)
+    return; // the box of nothing is at the origin
+  forEachRecord(block, [&x, &y](auto& record) {
+    record.x -= x.middle();
+    record.y -= y.middle();
+  });
+}
+
+std::string writeBlock(const Block& block, std::string& text) {
+  if (block.empty())
+    return "No pieces or scenery selected";
+  ElementWriter writer;
+  writer.line("", kXmlDeclaration);
+  writer.open("", "<block");
+  writer.text("name", block.name);
+  writer.text("version", "1");
+  writer.endParent();
+  for (const PlacedPiece& piece : block.pieces)
+    writePiece(writer, piece, "  ");
+  writeScenery(writer, block.scenery);
+  writer.line("", "</block>");
+  text = writer.take();
+  return writer.failure();
+}
+
+std::string readBlock(std::string_view text, Block& block) {
+  block = {};
+  try {
+    ElementReader reader(text);
+    readLines(reader, block);
+  } catch (const std::exception& failure) {
+    return failure.what();
+  }
+  return {};
+}
+
+std::string saveBlock(const Layout& layout, const std::filesystem::path& path,
+                      std::string_view name) {
+  Block block = blockFromSelection(layout);
+  block.name = name;
+  std::string text;
+  const std::string failure = writeBlock(block, text);
+  return failure.empty() ? writeTextFile(path, text) : failure;
+}
+
+std::string loadBlock(const std::filesystem::path& path, Block& block) {
+  std::string text;
+  std::string message = readTextFile(path, text);
+  return message.empty() ? readBlock(text, block) : message;
+}
+
+} // namespace trassix

@@ -1,0 +1,48 @@
+// Blocks: pieces of a plan kept on their own, in the user's library, on the clipboard, or carried
+// over the canvas. Placing one is in editing/block_placing.h.
+#pragma once
+
+#include "document/layout.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace trassix {
+
+/// Complete records with the ids and joints they had in their plan, also joints that lead out of
+/// the block.
+struct Block {
+  std::string name;
+  std::vector<PlacedPiece> pieces;
+  std::vector<SceneryItem> scenery;
+
+  bool empty() const { return pieces.empty() && scenery.empty(); }
+  bool operator==(const Block&) const = default;
+};
+
+/// Everything selected, in document order.
+Block blockFromSelection(const Layout& layout);
+
+/// Moves the block so that the middle of the box around the positions of its records (not their
+/// extents) becomes the origin.
+void centreBlock(Block& block);
+
+/// The whole text of a block file in `text`. Returns a message, empty on success; an empty block
+/// and numbers that are not finite are refused.
+std::string writeBlock(const Block& block, std::string& text);
+
+/// Fills `block` from the text of a block file. Heights, grades, colours, helices and flags stay in
+/// the file: a block from the library comes level, plain and not selected. Returns a message, empty
+/// on success; after a failure the block holds what was read before it.
+std::string readBlock(std::string_view text, Block& block);
+
+/// Saves the selection under `name`; see `writeTextFile`. Messages as above.
+std::string saveBlock(const Layout& layout, const std::filesystem::path& path,
+                      std::string_view name);
+
+/// `block` is untouched when the file cannot be opened or read. Not centred yet.
+std::string loadBlock(const std::filesystem::path& path, Block& block);
+
+} // namespace trassix

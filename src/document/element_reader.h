@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace trassix {
+
+/// Ends a load. Never leaves the functions that read a whole file.
+class ReadFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Walks over the lines of a plan file and takes elements and attributes from the current one by
+/// plain search: this is no XML parser, and an element stands on one line. Texts come as they are
+/// in the file, nothing is decoded.
+///
+/// The conversions throw a `ReadFailure` that names the standard conversion failure and the place.
+class ElementReader {
+ public:
+  /// The text must outlive the reader.
+  explicit ElementReader(std::string_view text) : rest_(text) {}
+
+  /// Goes to the next line; false after the last one.
+  bool next();
+
+  /// True when the line has this text somewhere, which must begin with '<'.
+  bool has(std::string_view opening) const;
+
+  /// The value after the first `name="` that opens a quote; empty when there is none or the quote
+  /// is not closed. The end of a longer name counts as well: `x` also finds `scalex`, so that the
+  /// order of attributes matters. What looks like an attribute inside a value is none.
+  std::string_view text(std::string_view name);
+
+  std::int32_t integer(std::string_view name);
+  /// `absent` when the text is empty.
+  std::int32_t integer(std::string_view name, std::int32_t absent);
+  double real(std::string_view name);
+  double real(std::string_view name, double absent);
+  /// True for exactly "1".
+  bool flag(std::string_view name) { return text(name) == "1"; }
+  /// The low eight bits of an integer.
+  std::uint8_t byte(std::string_view name) { return static_cast<std::uint8_t>(integer(name)); }
+  /// The id of a record, which must leave room for the ids of new records.
+  std::int32_t id(std::string_view name);
+
+  /// Throws with the reason, the line number, the attribute and its value.
+  [[noreturn]] void fail(std::string_view reason, std::string_view name, std::string_view value);
+
+ private:
+  void findQuotes();
+
+  /// Lines of ours have fewer quotes and one '<'; longer ones are searched afresh each time.
+  static constexpr std::size_t kMostQuotes = 40;
+  static constexpr std::size_t kMostTags = 4;
+
+  std::string_view rest_;
+  std::string_view line_;
+  std::size_t lineNumber_ = 0;
+  std::array<const char*, kMostTags> tags_{}; ///< every '<' of the line
+  std::size_t tagCount_ = 0;                  ///< more than kMostTags: search the line
+  std::array<const char*, kMostQuotes> quotes_{};
+  std::size_t quoteCount_ = 0; ///< more than kMostQuotes: search the line
+  bool quotesFound_ = false;
+};
+
+} // namespace trassix

@@ -1,0 +1,161 @@
+#include "document/file_operations.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <share.h>
+#include <sys/stat.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace trassix {
+
+namespace {
+
+constexpr std::size_t kChunk = std::size_t{1} << 26U;
+
+std::error_code lastError() {
+  return {errno, std::generic_category()};
+}
+
+#ifdef _WIN32
+
+constexpr int kMayWrite = 2;
+
+bool mayWrite(const std::filesystem::path& file) {
+  return _waccess(file.c_str(), kMayWrite) == 0;
+}
+
+int openNew(const std::filesystem::path& file, const std::filesystem::path& /*replaced*/) {
+  int descriptor = -1;
+  // Text mode: line ends become those of the platform.
+  errno = _wsopen_s(&descriptor, file.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_TEXT, _SH_DENYRW,
+                    _S_IREAD | _S_IWRITE);
+  return descriptor;
+}
+
+std::ptrdiff_t writeSome(int descriptor, const char* bytes, std::size_t count) {
+  return _write(descriptor, bytes, static_cast<unsigned>(count));
+}
+
+int flushToDisk(int descriptor) {
+  return _commit(descriptor);
+}
+
+int closeFile(int descriptor) {
+  return _close(descriptor);
+}
+
+void flushFolderOf(const std::filesystem::path& /*file*/) {}
+
+#else
+
+bool mayWrite(const std::filesystem::path& file) {
+  return ::access(file.c_str(), W_OK) == 0;
+}
+
+int openNew(const std::filesystem::path& file, const std::filesystem::path& replaced) {
+  constexpr mode_t kAnyPermission = 07777;
+  constexpr mode_t kNewFile = 0666;
+  struct stat old {};
+  const bool keep = !replaced.empty() && ::stat(replaced.c_str(), &old) == 0;
+  const mode_t mode = keep ? old.st_mode & kAnyPermission : kNewFile;
+  const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+  // Where the file system has no permissions there are none to keep: no reason to fail.
+  if (descriptor >= 0 && keep)
+    static_cast<void>(::fchmod(descriptor, mode));
+  return descriptor;
+}
+
+std::ptrdiff_t writeSome(int descriptor, const char* bytes, std::size_t count) {
+  return ::write(descriptor, bytes, count);
+}
+
+int flushToDisk(int descriptor) {
+  const int result = ::fsync(descriptor);
+  // Some network file systems cannot flush a single file and write through instead.
+  return result != 0 && (errno == EINVAL || errno == ENOSYS) ? 0 : result;
+}
+
+int closeFile(int descriptor) {
+  return ::close(descriptor);
+}
+
+/// Makes a rename last through a power cut. Without it there is the old file or the new one, both
+/// complete, so that a failure is none to report.
+void flushFolderOf(const std::filesystem::path& file) {
+  const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0)
+    return;
+  ::fsync(descriptor);
+  ::close(descriptor);
+}
+
+#endif
+
+} // namespace
+
+SystemFileOperations::~SystemFileOperations() {
+  if (descriptor_ >= 0)
+    closeFile(descriptor_);
+}
+
+std::error_code SystemFileOperations::create(const std::filesystem::path& file,
+                                             const std::filesystem::path& replaced) {
+  if (!replaced.empty() && !mayWrite(replaced))
+    return lastError();
+  descriptor_ = openNew(file, replaced);
+  return descriptor_ < 0 ? lastError() : std::error_code{};
+}
+
+std::error_code SystemFileOperations::write(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const std::ptrdiff_t written =
+        writeSome(descriptor_, bytes.data(), std::min(bytes.size(), kChunk));
+    if (written < 0) {
+      if (errno == EINTR)
+        continue;
+      return lastError();
+    }
+    if (written == 0)
+      return std::make_error_code(std::errc::io_error);
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return {};
+}
+
+std::error_code SystemFileOperations::flush() {
+  return flushToDisk(descriptor_) == 0 ? std::error_code{} : lastError();
+}
+
+std::error_code SystemFileOperations::close() {
+  if (descriptor_ < 0)
+    return {};
+  const int descriptor = descriptor_;
+  // Even a close that fails gives the descriptor back.
+  descriptor_ = -1;
+  return closeFile(descriptor) == 0 ? std::error_code{} : lastError();
+}
+
+std::error_code SystemFileOperations::rename(const std::filesystem::path& file,
+                                             const std::filesystem::path& target) {
+  std::error_code error;
+  std::filesystem::rename(file, target, error);
+  if (!error)
+    flushFolderOf(target);
+  return error;
+}
+
+void SystemFileOperations::remove(const std::filesystem::path& file) {
+  std::error_code ignored;
+  std::filesystem::remove(file, ignored);
+}
+
+} // namespace trassix

@@ -1,0 +1,26 @@
+// Whole text files, written so that at no moment there is no good file. Messages are empty on
+// success and meant for the user; nothing throws.
+#pragma once
+
+#include "document/file_operations.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace trassix {
+
+/// The path in UTF-8, for messages.
+std::string pathText(const std::filesystem::path& path);
+
+/// Reads a regular file as it is. On failure `text` is left alone.
+std::string readTextFile(const std::filesystem::path& path, std::string& text);
+
+/// Writes a temporary file in the target's folder, flushes it to the disk and renames it over the
+/// target. A symbolic link stays and what it points to is replaced; the target's permissions are
+/// kept. When a step fails, the target is as it was and the temporary file is removed.
+std::string writeTextFile(const std::filesystem::path& path, std::string_view text);
+std::string writeTextFile(const std::filesystem::path& path, std::string_view text,
+                          FileOperations& operations);
+
+} // namespace trassix
