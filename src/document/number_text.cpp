@@ -62,6 +62,9 @@ bool isHexadecimal(std::string_view text) {
 /// From 2^52 on doubles have no fraction.
 constexpr double kFirstWhole = 4503599627370496.0;
 
+/// From here up a double's last bit is worth 2^-64 or more.
+constexpr double kFirstExact = 1.0 / 2048;
+
 char* writeDigits(char* out, std::uint64_t value) {
   return std::to_chars(out, out + 20, value).ptr;
 }
@@ -111,14 +114,13 @@ char* writeInteger(char* out, std::int32_t value) {
 
 char* writeReal(char* out, double value) {
   const double magnitude = std::abs(value);
-  if (!(magnitude < kFirstWhole))
+  if (!(magnitude < kFirstWhole) || (magnitude < kFirstExact && magnitude != 0))
     return std::to_chars(out, out + kRealSpace, value, std::chars_format::fixed, 4).ptr;
 
   if (std::signbit(value))
     *out++ = '-';
   auto whole = static_cast<std::uint64_t>(magnitude);
-  // The fraction in units of 2^-64. What is cut off lies below 2^-64 of a number less than 2^-11,
-  // which no rounding to four decimals can notice.
+  // The fraction in units of 2^-64: exact.
   const double fraction = magnitude - static_cast<double>(whole);
   const auto bits = static_cast<std::uint64_t>(fraction * 18446744073709551616.0);
   const std::uint64_t low = (bits & 0xffffffffU) * 10000U;

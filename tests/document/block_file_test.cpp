@@ -1,0 +1,105 @@
+#include "document/block_file.h"
+#include "support/documented_example.h"
+#include "support/print_records.h"
+#include "support/random_plan.h"
+#include "support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace trassix {
+namespace {
+
+TEST(BlockFile, writesTheDocumentedExampleAsItIs) {
+  const std::string example = test::documentedExample("<block ");
+  Block block;
+  ASSERT_EQ(readBlock(example, block), "");
+  EXPECT_EQ(block.name, "Passing loop");
+  ASSERT_EQ(block.pieces.size(), 2U);
+  EXPECT_EQ(block.pieces[0].joints, (JointTable{{3, 1}, {13, 0}}));
+  EXPECT_FALSE(block.pieces[0].sel || block.scenery[0].sel) << "the file's flag is not read";
+  for (PlacedPiece& piece : block.pieces)
+    piece.sel = true;
+  block.scenery[0].sel = true;
+  std::string text;
+  EXPECT_EQ(writeBlock(block, text), "");
+  EXPECT_EQ(text, example);
+}
+
+TEST(BlockFile, comesBackPlainAndLevel) {
+  const test::TempFolder folder;
+  const auto file = folder.path() / "Süd bahn.txl";
+  const Layout plan = test::randomPlan(5, 60);
+  ASSERT_EQ(saveBlock(plan, file, "my block"), "");
+  Block loaded;
+  ASSERT_EQ(loadBlock(file, loaded), "");
+
+  Block expected = blockFromSelection(plan);
+  expected.name = "my block";
+  ASSERT_GT(expected.pieces.size(), 0U);
+  ASSERT_GT(expected.scenery.size(), 0U);
+  for (PlacedPiece& piece : expected.pieces) {
+    PlacedPiece plain;
+    plain.id = piece.id;
+    plain.cat = piece.cat;
+    plain.x = piece.x;
+    plain.y = piece.y;
+    plain.heading = piece.heading;
+    plain.level = piece.level;
+    plain.joints = piece.joints;
+    piece = plain;
+  }
+  for (SceneryItem& item : expected.scenery)
+    item.sel = false;
+  EXPECT_EQ(loaded.pieces, expected.pieces);
+  EXPECT_EQ(loaded, expected);
+}
+
+TEST(BlockFile, refusesNothingAndNonsense) {
+  const test::TempFolder folder;
+  Layout plan = test::randomPlan(5, 10);
+  plan.clearSelection();
+  EXPECT_EQ(saveBlock(plan, folder.path() / "b.txl", "b"), "No pieces or scenery selected");
+  EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
+  plan.edit().scenery[0].sel = true;
+  EXPECT_EQ(saveBlock(plan, folder.path() / "a/b.txl", "b"),
+            "Cannot open file: " + (folder.path() / "a/b.txl").string());
+  EXPECT_EQ(saveBlock(plan, folder.path() / "b.txl", "b"), "");
+  EXPECT_EQ(test::readText(folder.path() / "b.txl").find("<piece "), std::string::npos);
+
+  Block block;
+  block.name = "before";
+  EXPECT_EQ(loadBlock("no/such.txl", block), "Cannot open file: no/such.txl");
+  EXPECT_EQ(block.name, "before");
+  EXPECT_EQ(readBlock("<block name=\"b\">\n<piece id=\"1\" x=\"0\" y=\"0\" heading=\"?\">", block),
+            "invalid stod argument (line 2, heading=\"?\")");
+  EXPECT_EQ(readBlock("<piece id=\"1\" x=\"0\" y=\"0\" heading=\"0\" z=\"?\" grade=\"?\">\n"
+                      "<joint conn=\"99\" target=\"1\" tconn=\"1\">",
+                      block),
+            "no such connector (line 2, conn=\"99\")");
+}
+
+TEST(BlockFile, centresOnTheBoxOfThePositions) {
+  const auto centred = [](std::vector<Point> points) {
+    Block block;
+    for (const Point& p : points) {
+      block.pieces.emplace_back();
+      block.pieces.back().x = p.x;
+      block.pieces.back().y = p.y;
+    }
+    block.scenery.emplace_back();
+    block.scenery[0].x = points[0].x;
+    block.scenery[0].y = points[0].y;
+    centreBlock(block);
+    for (std::size_t i = 0; i < points.size(); ++i)
+      points[i] = {block.pieces[i].x, block.pieces[i].y};
+    EXPECT_EQ((Point{block.scenery[0].x, block.scenery[0].y}), points[0]);
+    return points;
+  };
+  using Points = std::vector<Point>;
+  EXPECT_EQ(centred({{100, 10}, {300, 20}, {150, 50}}),
+            (Points{{-100, -20}, {100, -10}, {-50, 20}}));
+  EXPECT_EQ(centred({{2e8, 5}, {3e8, 6}}), (Points{{2e8, 5}, {3e8, 6}})) << "far off means nothing";
+}
+
+} // namespace
+} // namespace trassix

@@ -1,0 +1,226 @@
+#include "document/layout_reader.h"
+#include "document/layout_writer.h"
+#include "support/comma_locale.h"
+#include "support/documented_example.h"
+#include "support/print_records.h"
+#include "support/random_plan.h"
+#include "support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <regex>
+
+namespace trassix {
+namespace {
+
+std::string textOf(const Layout& layout, const std::string& name) {
+  std::string text;
+  EXPECT_EQ(writeLayout(layout, name, text), "");
+  return text;
+}
+
+/// What the file keeps of a plan.
+PlanContent savedContent(const Layout& layout) {
+  PlanContent content = layout.content();
+  content.measurements.clear();
+  return content;
+}
+
+std::string withPiece(const std::string& attributes, const std::string& more = "") {
+  return "<layout name=\"n\" version=\"1\" units=\"0\">\n  <pieces>\n    <piece " + attributes +
+         ">\n" + more + "    </piece>\n  </pieces>\n</layout>\n";
+}
+
+TEST(LayoutFile, writesTheDocumentedExampleAsItIs) {
+  const std::string example = test::documentedExample("<layout ");
+  Layout layout;
+  std::string name;
+  ASSERT_EQ(readLayout(example, layout, name), "");
+  EXPECT_EQ(name, "Südbahn");
+  EXPECT_EQ(textOf(layout, name), example);
+
+  ASSERT_EQ(layout.pieces().size(), 3U);
+  PlacedPiece second;
+  second.id = 2;
+  second.cat = "24130";
+  second.x = 288.3;
+  second.y = 250;
+  second.grade = 2.29;
+  second.sel = second.rev = second.free = second.hasColor = true;
+  second.color = {255, 128, 0};
+  second.level = 2;
+  second.helix = 11;
+  second.joints = {{1, 1}};
+  EXPECT_EQ(layout.pieces()[1], second);
+  EXPECT_EQ(layout.settings().levels[1].color, (Color{255, 128, 0}));
+  EXPECT_EQ(layout.content().currentGrade, (CurrentGrade{true, 2.29, 2, 1}));
+  EXPECT_EQ(layout.nextPieceId(), 12);
+  EXPECT_FALSE(layout.canUndo());
+
+  Layout same;
+  const std::string windows = std::regex_replace(example, std::regex("\n"), "\r\n");
+  ASSERT_EQ(readLayout(windows, same, name), "");
+  EXPECT_EQ(textOf(same, name), example);
+}
+
+TEST(LayoutFile, writesAnEmptyPlanInSixLines) {
+  EXPECT_EQ(textOf(Layout(), "a & \"b\"\n<c>"),
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+            "<layout name=\"a &amp; &quot;b&quot; &lt;c&gt;\" version=\"1\" units=\"0\">\n"
+            "  <pieces>\n"
+            "  </pieces>\n"
+            "  <lastshape id=\"0\" w_mm=\"0.0000\" h_mm=\"0.0000\" w2_mm=\"0.0000\" "
+            "h2_mm=\"0.0000\"/>\n"
+            "</layout>\n");
+}
+
+TEST(LayoutFile, keepsEveryKindOfRecord) {
+  const test::TempFolder folder;
+  const auto file = folder.path() / "plan.txl";
+  for (std::uint32_t seed = 0; seed < 40; ++seed) {
+    const test::CommaLocale commas(seed % 2 == 1);
+    const Layout plan = test::randomPlan(seed, static_cast<int>(seed) * 3);
+    ASSERT_EQ(saveLayout(plan, file, "units="), "");
+    Layout loaded;
+    loaded.edit().measurements.push_back({});
+    std::string name;
+    ASSERT_EQ(loadLayout(file, loaded, name), "");
+    EXPECT_EQ(name, "units=");
+    EXPECT_EQ(loaded.pieces(), plan.pieces());
+    EXPECT_EQ(loaded.content(), savedContent(plan)) << "seed " << seed;
+    EXPECT_EQ(loaded.settings(), plan.settings()) << "seed " << seed;
+    EXPECT_EQ(loaded.nextPieceId(), plan.nextPieceId());
+    EXPECT_EQ(textOf(loaded, name), test::readText(file));
+  }
+}
+
+TEST(LayoutFile, writesTheSameTextUnderACommaLocale) {
+  const std::string text = textOf(test::randomPlan(7, 50), "n");
+  const test::CommaLocale commas(true);
+  EXPECT_EQ(textOf(test::randomPlan(7, 50), "n"), text);
+  if (!commas.inTheSystem())
+    GTEST_SKIP() << "no such locale in the system, checked for streams only";
+}
+
+TEST(LayoutFile, refusesToSaveWhatCouldNotBeLoaded) {
+  const test::TempFolder folder;
+  const auto file = folder.path() / "plan.txl";
+  test::writeText(file, "old");
+  Layout layout = test::randomPlan(1, 3);
+  layout.edit().pieces[1].heading = std::numeric_limits<double>::quiet_NaN();
+  layout.edit().labels[0].x = std::numeric_limits<double>::infinity();
+  const std::string message = saveLayout(layout, file, "n");
+  EXPECT_TRUE(message.starts_with("Not a finite number: heading in <piece id=\"2\"")) << message;
+  EXPECT_EQ(message.find('\n'), std::string::npos);
+  EXPECT_EQ(test::readText(file), "old");
+}
+
+TEST(LayoutFile, saysWhatIsWrongAndWhere) {
+  const std::string good = "id=\"1\" cat=\"24188\" x=\"0\" y=\"0\" heading=\"0\" grade=\"0\"";
+  const auto joint = [&good](const std::string& attributes) {
+    return withPiece(good, "<joint " + attributes + "/>\n");
+  };
+  const auto line = [](const std::string& element) { return "<layout >\n\n" + element + "\n"; };
+  const struct {
+    std::string text;
+    std::string message;
+  } cases[] = {
+      {withPiece("id=\"one\""), "invalid stoi argument (line 3, id=\"one\")"},
+      {withPiece("id=\"1\" x=\"\""), "invalid stod argument (line 3, x=\"\")"},
+      {withPiece("id=\"1\" x=\"1\" y=\"nan\""), "invalid stod argument (line 3, y=\"nan\")"},
+      {withPiece("id=\"1\" x=\"1\" y=\"1e999\""),
+       "stod argument out of range (line 3, y=\"1e999\")"},
+      {withPiece("id=\"4294967296\""), "stoi argument out of range (line 3, id=\"4294967296\")"},
+      {withPiece("id=\"2147483647\""), "id too large (line 3, id=\"2147483647\")"},
+      {withPiece(good + " color=\"red\""), "invalid stoi argument (line 3, color=\"red\")"},
+      {withPiece(good + " x=\"unclosed"), ""},
+      {withPiece("x=\"unclosed"), "invalid stoi argument (line 3, id=\"\")"},
+      {joint("conn=\"2147483647\" target=\"2\" tconn=\"0\""),
+       "no such connector (line 4, conn=\"2147483647\")"},
+      {joint("conn=\"-1\" target=\"2\" tconn=\"0\""), "no such connector (line 4, conn=\"-1\")"},
+      {joint("conn=\"0\" target=\"2\" tconn=\"48\""), "no such connector (line 4, tconn=\"48\")"},
+      {joint("conn=\"0\" target=\"2\" tconn=\"\""), "invalid stoi argument (line 4, tconn=\"\")"},
+      {joint("conn=\"47\" target=\"2\" tconn=\"47\""), ""},
+      {line("<run deg=\"x\""), "invalid stod argument (line 3, deg=\"x\")"},
+      {line("<lastshape id=\"0\" w_mm=\"wide\""), "invalid stod argument (line 3, w_mm=\"wide\")"},
+      {line("<levels active=\"\">"), "invalid stoi argument (line 3, active=\"\")"},
+      {line("<label id=\"1\" x=\"2\" text=\"t\"/>"), "invalid stod argument (line 3, y=\"\")"},
+      {line("<shape id=\"1\" r=\"1\" g=\"1\" b=\"1\" a=\"\xc3\xa4\t\""),
+       "invalid stoi argument (line 3, a=\"???\")"},
+      {line("<helix id=\"" + std::string(50, 'z') + "\""),
+       "invalid stoi argument (line 3, id=\"" + std::string(40, 'z') + "...\")"},
+      {line("<tunnel id=\"1\" portalA=\"-99999999999\""),
+       "stoi argument out of range (line 3, portalA=\"-99999999999\")"},
+  };
+  for (const auto& c : cases) {
+    Layout layout;
+    std::string name;
+    EXPECT_EQ(readLayout(c.text, layout, name), c.message) << c.text;
+    EXPECT_EQ(layout.settings().levels.size(), 1U) << "fit for use also after a failure";
+  }
+}
+
+TEST(LayoutFile, readsByPlainSearchAndSkipsTheUnknown) {
+  const std::string text =
+      "<joint conn=\"0\" target=\"1\" tconn=\"0\"/>\n<piece id=\"x\"/>\nnoise \" <pieces> noise\n"
+      "  <joint conn=\"x\"/>\n"
+      "  <piece id=\"7\" cat=\"a\" x=\"1e1\" y=\" +2mm\" heading=\"0\" grade=\"0\" new=\"1\"><b/>\n"
+      "  <joint conn=\"2\" target=\"9\" tconn=\"1\"/>\n  <label id=\"x\"/>\n"
+      "</pieces>\n<future id=\"x\"/>\n<pt x=\"x\"/>\n<v x=\"x\"/>\n<covers piece=\"1\"/>\n"
+      "<levels active=\"4\">\n<pt x=\"x\"/>\n<level id=\"4\" name=\"n\" visible=\"yes\" "
+      "height=\"1\" trackcolor=\"1\" r=\"300\" g=\"-1\" b=\"3\"/>\n</levels>\n"
+      "<helix id=\"9\" cx=\"0\" cy=\"0\" heading=\"0\" bottomR1=\"1\" bottomR2=\"1\" topR1=\"1\" "
+      "topR2=\"1\"/>";
+  Layout layout;
+  std::string name = "before";
+  ASSERT_EQ(readLayout(text, layout, name), "");
+  EXPECT_EQ(name, "");
+  PlacedPiece piece;
+  piece.id = 7;
+  piece.cat = "a";
+  piece.x = 10;
+  piece.y = 2;
+  piece.joints = {{}, {}, {9, 1}};
+  EXPECT_EQ(layout.pieces(), std::vector<PlacedPiece>{piece});
+  EXPECT_EQ(layout.settings().levels,
+            (std::vector<Level>{{4, "n", false, 1, true, {44, 255, 3}, {}}}));
+  EXPECT_EQ(layout.settings().activeLevel, 4);
+  EXPECT_EQ(layout.content().helices[0].variant, "proses_2_5_r1r2");
+  EXPECT_TRUE(layout.content().tunnels.empty());
+  EXPECT_EQ(layout.nextPieceId(), 10);
+}
+
+TEST(LayoutFile, survivesTruncationAndMonstrousLines) {
+  const std::string example = test::documentedExample("<layout ");
+  Layout layout;
+  std::string name;
+  for (std::size_t length = 0; length <= example.size(); ++length) {
+    static_cast<void>(readLayout(std::string_view(example).substr(0, length), layout, name));
+    static_cast<void>(textOf(layout, name));
+  }
+  const std::string filler(8 << 20, 'x');
+  for (const std::string& filling :
+       {filler, std::string(8 << 20, '\0'), std::string(8 << 20, '<'), std::string(8 << 20, '"'),
+        std::regex_replace(std::string(1 << 16, 'i'), std::regex("i"), "id=\"<pieces>\" ")}) {
+    EXPECT_NE(readLayout("<run " + filling, layout, name), "");
+    EXPECT_NE(readLayout("<run deg=\"1\" anchor=\"" + filling + "\"", layout, name), "");
+  }
+  EXPECT_EQ(readLayout("<label id=\"1\" x=\"0\" y=\"0\" text=\"" + filler + "\"/>", layout, name),
+            "");
+  EXPECT_EQ(layout.content().labels[0].text, filler);
+}
+
+TEST(LayoutFile, leavesThePlanAloneWhenTheFileCannotBeOpened) {
+  Layout layout = test::randomPlan(3, 5);
+  const Layout before = layout;
+  std::string name = "before";
+  EXPECT_EQ(loadLayout("no/such/plan.txl", layout, name), "Cannot open file: no/such/plan.txl");
+  EXPECT_EQ(name, "before");
+  EXPECT_EQ(layout.revision(), before.revision());
+  EXPECT_EQ(layout.content(), before.content());
+  EXPECT_EQ(saveLayout(layout, "no/such/plan.txl", name), "Cannot open file: no/such/plan.txl");
+}
+
+} // namespace
+} // namespace trassix

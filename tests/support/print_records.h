@@ -1,0 +1,34 @@
+// Readable records in the messages of failed expectations.
+#pragma once
+
+#include "document/element_writer.h"
+#include "document/piece_lines.h"
+
+#include <ostream>
+
+namespace trassix {
+
+inline void PrintTo(const Point& point, std::ostream* out) {
+  *out << '(' << point.x << ", " << point.y << ')';
+}
+
+inline void PrintTo(const Joint& joint, std::ostream* out) {
+  if (joint.open())
+    *out << "open";
+  else
+    *out << joint.target << '.' << joint.tconn;
+}
+
+inline void PrintTo(const PlacedPiece& piece, std::ostream* out) {
+  ElementWriter writer;
+  writePiece(writer, piece, "");
+  *out << '\n' << writer.take();
+}
+
+inline void PrintTo(const SceneryItem& item, std::ostream* out) {
+  ElementWriter writer;
+  writeScenery(writer, {item});
+  *out << '\n' << writer.take();
+}
+
+} // namespace trassix
