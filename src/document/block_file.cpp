@@ -65,7 +65,7 @@ Block blockFromSelection(const Layout& layout) {
   return block;
 }
 
-void centreBlock(Block& block) {
+Point centreBlock(Block& block) {
   constexpr double kNothingBelow = 100000000.0;
   Extent x;
   Extent y;
@@ -74,11 +74,13 @@ void centreBlock(Block& block) {
     y.add(record.y);
   });
   if (x.min > kNothingBelow)
-    return; // the box of nothing is at the origin
-  forEachRecord(block, [&x, &y](auto& record) {
-    record.x -= x.middle();
-    record.y -= y.middle();
+    return {}; // the box of nothing is at the origin
+  const Point middle{x.middle(), y.middle()};
+  forEachRecord(block, [middle](auto& record) {
+    record.x -= middle.x;
+    record.y -= middle.y;
   });
+  return middle;
 }
 
 std::string writeBlock(const Block& block, std::string& text) {

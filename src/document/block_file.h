@@ -26,8 +26,8 @@ struct Block {
 Block blockFromSelection(const Layout& layout);
 
 /// Moves the block so that the middle of the box around the positions of its records (not their
-/// extents) becomes the origin.
-void centreBlock(Block& block);
+/// extents) becomes the origin. Returns where that middle was.
+Point centreBlock(Block& block);
 
 /// The whole text of a block file in `text`. Returns a message, empty on success; an empty block
 /// and numbers that are not finite are refused.

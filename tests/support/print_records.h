@@ -25,10 +25,4 @@ inline void PrintTo(const PlacedPiece& piece, std::ostream* out) {
   *out << '\n' << writer.take();
 }
 
-inline void PrintTo(const SceneryItem& item, std::ostream* out) {
-  ElementWriter writer;
-  writeScenery(writer, {item});
-  *out << '\n' << writer.take();
-}
-
 } // namespace trassix

@@ -1,0 +1,104 @@
+#include "editing/block_placing.h"
+
+#include "editing/joining.h"
+
+#include <unordered_map>
+#include <unordered_set>
+
+namespace trassix {
+
+namespace {
+
+template <class Record>
+void move(Record& record, const Pose& pose) {
+  const Point at = toWorld(pose, {record.x, record.y});
+  record.x = at.x;
+  record.y = at.y;
+  record.heading = normaliseHeading(record.heading + pose.heading);
+}
+
+/// Copies of the block's pieces with new ids, their joints still those of the block.
+std::vector<PlacedPiece> freshPieces(Layout& layout, const Block& block, const Pose& pose) {
+  std::vector<PlacedPiece> pieces = block.pieces;
+  for (PlacedPiece& piece : pieces) {
+    piece.id = layout.takeId();
+    move(piece, pose);
+    piece.sel = true;
+    piece.helix = -1;
+  }
+  return pieces;
+}
+
+/// Joints get the new id of their target, or are opened when that is not in the block.
+void remapJoints(std::vector<PlacedPiece>& pieces, const Block& block) {
+  std::unordered_map<std::int32_t, std::size_t> positions;
+  for (std::size_t i = 0; i < pieces.size(); ++i)
+    positions.emplace(block.pieces[i].id, i);
+  for (PlacedPiece& piece : pieces) {
+    for (Joint& joint : piece.joints) {
+      const auto target = positions.find(joint.target);
+      if (target == positions.end())
+        joint = {};
+      else
+        joint.target = pieces[target->second].id;
+    }
+  }
+}
+
+/// A damaged file can hold joints that only one side knows of, or of a piece with itself; no plan
+/// may have these. The pieces' ids are consecutive.
+void openBadJoints(std::vector<PlacedPiece>& pieces) {
+  for (PlacedPiece& piece : pieces) {
+    for (std::size_t slot = 0; slot < piece.joints.size(); ++slot) {
+      Joint& joint = piece.joints[slot];
+      if (joint.open())
+        continue;
+      const auto position = static_cast<std::size_t>(joint.target - pieces.front().id);
+      const Joint back{piece.id, static_cast<std::int32_t>(slot)};
+      if (joint.target == piece.id ||
+          pieces[position].joint(static_cast<std::size_t>(joint.tconn)) != back)
+        joint = {};
+    }
+  }
+}
+
+void createLevels(Layout& layout, const std::vector<PlacedPiece>& pieces) {
+  std::unordered_set<std::int32_t> seen;
+  for (const PlacedPiece& piece : pieces) {
+    if (seen.insert(piece.level).second)
+      layout.ensureLevel(piece.level);
+  }
+}
+
+} // namespace
+
+EditResult placeBlock(Layout& layout, const Block& block, const Pose& pose) {
+  EditResult result;
+  if (block.empty())
+    return result;
+  layout.pushHistory();
+  layout.clearSelection();
+
+  std::vector<PlacedPiece> pieces = freshPieces(layout, block, pose);
+  remapJoints(pieces, block);
+  openBadJoints(pieces);
+  PlanContent& content = layout.edit();
+  for (PlacedPiece& piece : pieces) {
+    result.placed.push_back(piece.id);
+    content.pieces.push_back(std::move(piece));
+  }
+  // Ids were taken in rising order.
+  const std::vector<std::int32_t> placedPieces = result.placed;
+  for (SceneryItem item : block.scenery) {
+    item.id = layout.takeId();
+    move(item, pose);
+    item.sel = true;
+    result.placed.push_back(item.id);
+    content.scenery.push_back(std::move(item));
+  }
+  createLevels(layout, block.pieces);
+  closeMeetingEnds(layout, placedPieces);
+  return result;
+}
+
+} // namespace trassix

@@ -1,0 +1,84 @@
+#include "editing/block_placing.h"
+#include "support/plan.h"
+#include "support/print_records.h"
+
+#include <gtest/gtest.h>
+
+namespace trassix {
+namespace {
+
+PlacedPiece straight(std::int32_t id, double x, JointTable joints) {
+  PlacedPiece piece;
+  piece.id = id;
+  piece.cat = "24188";
+  piece.x = x;
+  piece.joints = std::move(joints);
+  return piece;
+}
+
+TEST(BlockPlacing, turnsMovesAndRenumbersAsOneStep) {
+  Layout layout = Plan().place("24188", {1000, 1000, 0}).layout;
+  layout.ensureLevel();
+  const PlanContent before = layout.content();
+  Block block;
+  block.pieces = {straight(40, 0, {{99, 1}, {7, 0}}), straight(7, 188.3, {{40, 1}, {}})};
+  block.pieces[0].heading = 350;
+  block.pieces[1].level = 5;
+  block.pieces[1].helix = 3;
+  block.scenery = {{40, "house", 10, 20, 300, 1, 1, 8, false}};
+
+  const EditResult result = placeBlock(layout, block, {100, 50, 90});
+  EXPECT_EQ(result.placed, (std::vector<std::int32_t>{2, 3, 4}));
+  EXPECT_EQ(brokenRule(layout), "");
+  EXPECT_FALSE(layout.pieces()[0].sel) << "only what was placed is selected";
+  const PlacedPiece& first = layout.pieces()[1];
+  const PlacedPiece& second = layout.pieces()[2];
+  EXPECT_TRUE(first.sel && second.sel && layout.content().scenery[0].sel);
+  EXPECT_EQ(first.joints, (JointTable{{}, {3, 0}}));
+  EXPECT_EQ(second.joints, (JointTable{{2, 1}, {}}));
+  EXPECT_DOUBLE_EQ(first.heading, 80);
+  EXPECT_NEAR(second.x, 100, 1e-9);
+  EXPECT_NEAR(second.y, 238.3, 1e-9);
+  EXPECT_EQ(second.helix, -1);
+  const SceneryItem& house = layout.content().scenery[0];
+  EXPECT_NEAR(house.x, 80, 1e-9);
+  EXPECT_NEAR(house.y, 60, 1e-9);
+  EXPECT_DOUBLE_EQ(house.heading, 30);
+  ASSERT_EQ(layout.settings().levels.size(), 2U);
+  EXPECT_EQ(layout.settings().levels[1].name, "Level 5");
+
+  layout.undo();
+  EXPECT_EQ(layout.content(), before);
+  EXPECT_FALSE(placeBlock(layout, {}, {}).changed());
+  EXPECT_TRUE(layout.canRedo()) << "nothing placed, nothing pushed";
+}
+
+TEST(BlockPlacing, copiesOfASelectionJoinWhereTheyMeet) {
+  Layout layout = Plan().place("24188").extend("24130", 3).layout;
+  for (PlacedPiece& piece : layout.edit().pieces)
+    piece.sel = true;
+  const Block copy = blockFromSelection(layout);
+  // A straight and a quarter circle, four times, make a closed ring.
+  for (int i = 1; i < 4; ++i) {
+    const WorldConnector end =
+        ConnectorToWorld(layout.pieces().back(), *definitionOf(layout.pieces().back()), 1);
+    placeBlock(layout, copy, {end.x, end.y, end.heading});
+  }
+  EXPECT_EQ(layout.pieces().size(), 16U);
+  EXPECT_EQ(openEnds(layout), 0);
+  EXPECT_EQ(brokenRule(layout), "");
+}
+
+TEST(BlockPlacing, opensTheJointsOfADamagedBlock) {
+  Block block;
+  block.pieces = {straight(1, 0, {{2, 0}, {1, 1}, {2, -1}}), straight(2, 1000, {{1, 1}, {1, 40}}),
+                  straight(2, 2000, {{2, 1}})};
+  Layout layout;
+  placeBlock(layout, block, {});
+  for (const PlacedPiece& piece : layout.pieces())
+    for (const Joint& joint : piece.joints)
+      EXPECT_TRUE(joint.open());
+}
+
+} // namespace
+} // namespace trassix
