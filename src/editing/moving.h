@@ -21,7 +21,7 @@ class SelectionMove {
   /// Where the group would land with the pointer at `pointer`: the free move, or with `snapping`
   /// the nearest snap of one of the group's free ends (same distance, system and facing rules as a
   /// carried piece; the whole group turns to fit).
-  void update(Point pointer, bool snapping);
+  void update(Point pointer, bool snapping, const SnapIndex& index);
 
   /// Turns the group freely by `degrees` about `centre`, from where it was grasped.
   void turn(Point centre, double degrees);

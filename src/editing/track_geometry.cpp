@@ -123,7 +123,7 @@ double trackGauge(TrackSystem system) {
 TrackGeometry deriveTrackGeometry(const PieceDef& definition) {
   TrackGeometry geometry;
   geometry.halfWidth = trackHalfWidth(definition.system);
-  const double gauge = trackGauge(definition.system);
+  const double gauge = geometry.gauge = trackGauge(definition.system);
   for (const Route& route : deriveRoutes(definition)) {
     const std::vector<RoutePoint> line = sampleRoute(route, kDrawTolerance);
     if (line.size() < 2)

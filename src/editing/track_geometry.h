@@ -22,6 +22,7 @@ struct TrackGeometry {
   std::vector<std::vector<Point>> rails;       ///< two for each route
   std::vector<Point> sleepers;                 ///< pairs of ends
   double halfWidth = 0;
+  double gauge = 0;
   Point centre;            ///< of a circle that holds everything drawn
   double radius = 0;       ///< of that circle
   Point labelSpot;         ///< middle of the main route

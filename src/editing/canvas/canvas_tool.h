@@ -8,6 +8,7 @@
 #include "editing/snapping.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 namespace trassix {
@@ -44,6 +45,11 @@ struct KeyInput {
 
 enum class CursorShape : std::uint8_t { Arrow, Cross, Hand, Move, Rotate };
 
+/// One step of the wheel or the R key turns what is carried by this much, in degrees; with Shift by
+/// less.
+inline constexpr double kCarryTurn = 30.0;
+inline constexpr double kFineCarryTurn = 15.0;
+
 /// What a tool works on: the window, the view, and the indices derived from the plan.
 class ToolSite {
  public:
@@ -58,6 +64,11 @@ class ToolSite {
   /// Derived from the plan as it is now; rebuilt only when it has changed.
   const PlanIndex& planIndex();
   const SnapIndex& snapIndex();
+
+  /// True for a point of the canvas, false beside it.
+  bool holds(Point px) const {
+    return px.x >= 0 && px.y >= 0 && px.x < size.width && px.y < size.height;
+  }
 
   /// Millimetres that `px` pixels cover.
   double mm(double px) const { return px / view.zoom(); }

@@ -29,4 +29,11 @@ void ViewTransform::fit(const Box& content, double widthPx, double heightPx) {
              (roomY - zoom_ * height) * 0.5 + kFitMarginPx - zoom_ * content.minY};
 }
 
+ViewTransform ViewTransform::ofScale(double zoom, Point origin) {
+  ViewTransform view;
+  view.zoom_ = zoom;
+  view.origin_ = origin;
+  return view;
+}
+
 } // namespace trassix

@@ -31,6 +31,9 @@ class ViewTransform {
   /// Centres `content` (mm) in a window of the given size, with a margin on every side.
   void fit(const Box& content, double widthPx, double heightPx);
 
+  /// A fixed scale outside the limits for zooming by hand, for small pictures.
+  static ViewTransform ofScale(double zoom, Point origin);
+
   bool operator==(const ViewTransform&) const = default;
 
  private:

@@ -1,0 +1,67 @@
+#include "editing/annotations.h"
+
+#include <algorithm>
+
+namespace trassix {
+
+namespace {
+
+constexpr Color kShapeColor{120, 170, 110};
+constexpr std::uint8_t kShapeOpacity = 140;
+
+} // namespace
+
+std::int32_t addLabel(Layout& layout, Point at, std::string_view text) {
+  layout.pushHistory();
+  layout.clearSelection();
+  Label label;
+  label.id = layout.takeId();
+  label.text = text;
+  label.x = at.x;
+  label.y = at.y;
+  label.sel = true;
+  layout.edit().labels.push_back(label);
+  return label.id;
+}
+
+std::int32_t addMeasurement(Layout& layout, Point from, Point to) {
+  layout.pushHistory();
+  layout.clearSelection();
+  const std::int32_t id = layout.takeId();
+  layout.edit().measurements.push_back({id, from, to, true});
+  return id;
+}
+
+std::int32_t addShape(Layout& layout, const std::vector<Point>& points) {
+  if (points.size() < 3)
+    return -1;
+  layout.pushHistory();
+  layout.clearSelection();
+  Shape shape;
+  shape.id = layout.takeId();
+  shape.points = points;
+  shape.color = kShapeColor;
+  shape.a = kShapeOpacity;
+  shape.level = layout.settings().activeLevel;
+  shape.sel = true;
+  layout.edit().shapes.push_back(shape);
+  return shape.id;
+}
+
+bool editLabelText(Layout& layout, std::int32_t label, std::string_view text) {
+  const auto& labels = layout.content().labels;
+  const auto found = std::find_if(labels.begin(), labels.end(),
+                                  [label](const Label& record) { return record.id == label; });
+  if (found == labels.end() || found->text == text)
+    return false;
+  const auto position = found - labels.begin();
+  layout.pushHistory();
+  auto& edited = layout.edit().labels;
+  if (text.empty())
+    edited.erase(edited.begin() + position);
+  else
+    edited[static_cast<std::size_t>(position)].text = text;
+  return true;
+}
+
+} // namespace trassix

@@ -1,0 +1,22 @@
+// Labels, measurements and free shapes: edits of one record each, one undo step each.
+#pragma once
+
+#include "document/layout.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace trassix {
+
+/// Returns the new record's id; the record becomes the only selection.
+std::int32_t addLabel(Layout& layout, Point at, std::string_view text);
+std::int32_t addMeasurement(Layout& layout, Point from, Point to);
+
+/// A polygon on the active level with at least three points; -1 and nothing added for fewer.
+std::int32_t addShape(Layout& layout, const std::vector<Point>& points);
+
+/// False when there is no such label or the text is the same. An empty text removes the label.
+bool editLabelText(Layout& layout, std::int32_t label, std::string_view text);
+
+} // namespace trassix

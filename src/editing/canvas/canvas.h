@@ -1,0 +1,86 @@
+#pragma once
+
+#include "editing/canvas/canvas_tool.h"
+#include "editing/canvas/layout_painter.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace trassix {
+
+/// The plan as the user handles it, without a window: the view, panning, zooming, and one active tool
+/// to which everything else goes. The window feeds it plain input and paints what it draws.
+class Canvas {
+public:
+  explicit Canvas(LayoutHost& host);
+  ~Canvas();
+
+  enum class Button : std::uint8_t { Left, Middle, Right };
+
+  ViewTransform& view() { return site_.view; }
+  const ViewTransform& view() const { return site_.view; }
+  void resize(SizePx size) { site_.size = size; }
+
+  void press(Button button, const PointerInput& input);
+  void move(const PointerInput& input);
+  void release(Button button, const PointerInput& input);
+  void doubleClick(const PointerInput& input);
+  /// `rotation` is signed; only its sign counts. For precise devices see `zoomSmoothly`.
+  void wheel(const PointerInput& input, double rotation);
+  bool key(const KeyInput& input);
+  void setSpace(bool down) { space_ = down; }
+  /// Esc or a lost capture: ends whatever is under way and leaves no ghost.
+  void cancel();
+  /// True while a press, a pan or something carried needs the mouse captured.
+  bool wantsCapture() const;
+
+  /// Hangs a catalogue piece, a scenery item or a block on the pointer; ends another carry first.
+  /// `held`: the mouse button is down and letting go drops it.
+  void carryPiece(std::string_view article, const PointerInput& at, bool held);
+  void carryScenery(std::string_view key, const PointerInput& at, bool held);
+  bool carrying() const { return carry_ != nullptr; }
+  std::string_view carriedArticle() const;
+
+  /// Takes up the tool of the window's current mode.
+  void modeChanged();
+  void documentReplaced();
+
+  void zoomAboutCentre(double factor);
+  void fit();
+  void resetView();
+  void resetViewForSmall();
+
+  /// The plan as such, and over it what changes with every mouse move.
+  void paintPlan(Surface& surface);
+  void paintOverlay(Surface& surface);
+  /// Stays the same as long as `paintPlan` would draw the same.
+  std::uint64_t planStamp();
+
+  std::string hint() const;
+  CursorShape cursor() const;
+  ToolSite& site() { return site_; }
+
+private:
+  CanvasTool& tool() { return carry_ ? *carry_ : *base_; }
+  const CanvasTool& tool() const { return carry_ ? *carry_ : *base_; }
+  void startCarry(std::unique_ptr<CanvasTool> carry, const PointerInput& at);
+  void afterInput();
+  PaintOptions paintOptions() const;
+
+  enum class Gesture : std::uint8_t { None, Pending, Drag, PanPending, Pan };
+
+  ToolSite site_;
+  std::unique_ptr<CanvasTool> base_;
+  std::unique_ptr<CanvasTool> carry_;
+  std::string carriedArticle_;
+  ToolMode mode_ = ToolMode::Select;
+  Gesture gesture_ = Gesture::None;
+  PointerInput pressed_;
+  Point originAtPress_;
+  bool space_ = false;
+  PointerInput last_;
+};
+
+} // namespace trassix

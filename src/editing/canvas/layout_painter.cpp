@@ -1,0 +1,315 @@
+#include "editing/canvas/layout_painter.h"
+
+#include "catalog/helix_kits.h"
+#include "editing/canvas/grid_steps.h"
+#include "editing/canvas/occupancy.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/connector_geometry.h"
+#include "editing/measure_format.h"
+#include "editing/scenery_footprint.h"
+#include "editing/track_geometry.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_set>
+
+namespace trassix {
+
+namespace colors = plan_colors;
+
+namespace {
+
+constexpr double kGridFromPx = 9; ///< lines of the grid are at least this far apart
+constexpr double kArticleFromZoom = 0.22;
+
+double uprightAngle(double heading) {
+  double degrees = std::remainder(heading, 360.0);
+  if (degrees > 90)
+    degrees -= 180;
+  else if (degrees <= -90)
+    degrees += 180;
+  return degrees;
+}
+
+Rgba bedColor(const Layout& layout, const PlacedPiece& piece, const PieceDef& definition) {
+  if (piece.hasColor)
+    return opaque(piece.color);
+  if (const Level* level = layout.findLevel(piece.level); level && level->trackcolor)
+    return opaque(level->color);
+  if (definition.ramp)
+    return opaque(colors::kRampBed);
+  return opaque(definition.bridge ? colors::kBridgeBed : colors::kBed);
+}
+
+} // namespace
+
+struct LayoutPainter::Visible {
+  const PlacedPiece* piece;
+  const PieceDef* definition;
+  const TrackGeometry* geometry;
+  PieceLook look;
+};
+
+LayoutPainter::LayoutPainter(Surface& surface, SizePx size, const ViewTransform& view,
+                             const PaintOptions& options)
+    : surface_(surface), size_(size), view_(view), options_(options) {}
+
+void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
+  if (options_.desk) {
+    const std::array<Point, 4> sheet{
+        {{0, 0}, {size_.width, 0}, {size_.width, size_.height}, {0, size_.height}}};
+    surface_.polygon(sheet, layout.settings().baseboard.size() < 3 ? colors::kBoard : colors::kDesk,
+                     {});
+  }
+  paintBoard(layout);
+  if (options_.grid)
+    paintGrid(layout.settings().units);
+  paintShapes(layout);
+  paintHelices(layout);
+  paintScenery(layout);
+  paintTrack(layout, index);
+  paintMeasurements(layout);
+  paintLabels(layout);
+  if (options_.scaleBar)
+    paintScaleBar(layout.settings().units);
+}
+
+std::vector<Point> LayoutPainter::outline(std::span<const Point> points) const {
+  std::vector<Point> px;
+  px.reserve(points.size());
+  for (const Point& p : points)
+    px.push_back(view_.toScreen(p));
+  return px;
+}
+
+void LayoutPainter::paintBoard(const Layout& layout) {
+  const PlanSettings& settings = layout.settings();
+  if (settings.baseboard.size() >= 3)
+    surface_.polygon(outline(settings.baseboard), colors::kBoard, Stroke{colors::kBoardEdge, 1.5});
+  for (const Level& level : settings.levels) {
+    if (!level.visible || level.outline.size() < 3)
+      continue;
+    const bool active = level.id == settings.activeLevel;
+    surface_.polygon(outline(level.outline), opaque(level.color, active ? 60 : 28),
+                     Stroke{opaque(level.color), active ? 2.0 : 1.0, Stroke::Style::Dashed});
+  }
+}
+
+void LayoutPainter::paintGrid(std::int32_t units) {
+  const GridSteps steps = gridSteps(view_.zoom(), units, kGridFromPx);
+  const Point low = view_.toWorld({0, 0});
+  const Point high = view_.toWorld({size_.width, size_.height});
+  std::vector<Point> fine;
+  std::vector<Point> coarse;
+  const auto lines = [&](double from, double to, auto add) {
+    const auto last = static_cast<long>(std::floor(to / steps.fine));
+    for (auto i = static_cast<long>(std::ceil(from / steps.fine)); i <= last; ++i)
+      add(i % steps.major == 0 ? coarse : fine, static_cast<double>(i) * steps.fine);
+  };
+  // Half-pixel positions keep one-pixel lines crisp.
+  lines(low.x, high.x, [&](std::vector<Point>& to, double mm) {
+    const double x = std::floor(view_.toScreen({mm, 0}).x) + 0.5;
+    to.insert(to.end(), {{x, 0}, {x, size_.height}});
+  });
+  lines(low.y, high.y, [&](std::vector<Point>& to, double mm) {
+    const double y = std::floor(view_.toScreen({0, mm}).y) + 0.5;
+    to.insert(to.end(), {{0, y}, {size_.width, y}});
+  });
+  surface_.segments(fine, {colors::kGridFine, 1});
+  surface_.segments(coarse, {colors::kGridCoarse, 1});
+}
+
+void LayoutPainter::paintScaleBar(std::int32_t units) {
+  const ScaleLength bar = scaleLength(view_.zoom(), units, 160);
+  const double width = bar.mm * view_.zoom();
+  const double left = 16.5;
+  const double base = size_.height - 16.5;
+  const std::array<Point, 4> line{
+      {{left, base - 6}, {left, base}, {left + width, base}, {left + width, base - 6}}};
+  surface_.polyline(line, {{255, 255, 255, 200}, 4});
+  surface_.polyline(line, {colors::kRuler, 1.5});
+  surface_.text(bar.text, {left + width / 2, base - 11}, 0, {colors::kRuler, 11, false});
+}
+
+void LayoutPainter::paintShapes(const Layout& layout) {
+  for (const Shape& shape : layout.content().shapes) {
+    if (shape.points.size() < 2 || !layout.levelVisible(shape.level))
+      continue;
+    const std::vector<Point> px = outline(shape.points);
+    const Rgba fill = opaque(shape.color, shape.a);
+    const Stroke edge =
+        shape.sel ? Stroke{colors::kSelected, 2.5} : Stroke{opaque(shape.color), 1.5};
+    surface_.polygon(px, shape.outline ? std::nullopt : std::optional(fill), edge);
+    if (shape.label.empty())
+      continue;
+    Point middle;
+    for (const Point& p : px)
+      middle = {middle.x + p.x / static_cast<double>(px.size()),
+                middle.y + p.y / static_cast<double>(px.size())};
+    surface_.text(shape.label, middle, 0, {colors::kLabel, 12, false});
+  }
+}
+
+void LayoutPainter::paintScenery(const Layout& layout) {
+  for (const SceneryItem& item : layout.content().scenery) {
+    if (!layout.levelVisible(item.level))
+      continue;
+    Rgba fill = colors::kScenery;
+    fill.a = 70;
+    surface_.polygon(outline(sceneryOutline(layout, item)), fill,
+                     item.sel ? Stroke{colors::kSelected, 2.5} : Stroke{colors::kScenery, 1.2});
+  }
+}
+
+void LayoutPainter::paintHelices(const Layout& layout) {
+  for (const Helix& helix : layout.content().helices) {
+    const Point centre = view_.toScreen({helix.cx, helix.cy});
+    surface_.circle(centre, helixHalfSize(helix.variant) * view_.zoom(), Rgba{112, 104, 96, 30},
+                    Stroke{colors::kTunnel, 1.5, Stroke::Style::Dashed});
+    if (const HelixKit* kit = findHelixKit(helix.variant))
+      surface_.text(kit->name, centre, 0, {colors::kLabel, 12, false});
+  }
+}
+
+void LayoutPainter::paintTrack(const Layout& layout, const PlanIndex& index) {
+  const Point low = view_.toWorld({0, 0});
+  const Point high = view_.toWorld({size_.width, size_.height});
+  std::unordered_set<std::int32_t> covered;
+  for (const Tunnel& tunnel : layout.content().tunnels)
+    covered.insert(tunnel.covers.begin(), tunnel.covers.end());
+
+  std::vector<Visible> shown;
+  for (const std::size_t position : index.inBox({low.x, low.y, high.x, high.y}, false)) {
+    const PlacedPiece& piece = layout.pieces()[position];
+    const PieceDef* definition = index.definition(position);
+    if (!definition ||
+        std::binary_search(options_.leftOut.begin(), options_.leftOut.end(), piece.id))
+      continue;
+    PieceLook look;
+    look.bed = bedColor(layout, piece, *definition);
+    look.rails = options_.rails;
+    look.sleepers = options_.rails;
+    look.covered = !covered.empty() && covered.contains(piece.id);
+    look.faded =
+        piece.level != layout.settings().activeLevel && layout.findLevel(piece.level) != nullptr;
+    if (piece.sel)
+      look.accent = colors::kSelected;
+    shown.push_back({&piece, definition, &trackGeometryOf(*definition), look});
+  }
+
+  PiecePainter painter(surface_, view_);
+  // One level after the other, beds before rails: joined beds read as one, and an upper deck hides
+  // what runs below it.
+  for (std::size_t from = 0; from < shown.size();) {
+    std::size_t to = from;
+    while (to < shown.size() && shown[to].piece->level == shown[from].piece->level)
+      ++to;
+    for (std::size_t i = from; i < to; ++i)
+      painter.paintBed(*shown[i].geometry, poseOf(*shown[i].piece), shown[i].look);
+    for (std::size_t i = from; i < to; ++i)
+      painter.paintRails(*shown[i].geometry, poseOf(*shown[i].piece), shown[i].look);
+    from = to;
+  }
+  if (options_.labels) {
+    paintJoinDots(layout, shown);
+    paintArticles(shown);
+  }
+}
+
+void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible> pieces) {
+  for (const Visible& shown : pieces) {
+    const double reach = shown.geometry->halfWidth * view_.zoom();
+    const double radius = std::clamp(reach * 0.3, 2.0, 6.0);
+    for (std::int32_t i = 0; i < static_cast<std::int32_t>(shown.definition->connectors.size());
+         ++i) {
+      const WorldConnector end = ConnectorToWorld(*shown.piece, *shown.definition, i);
+      const Point at = view_.toScreen({end.x, end.y});
+      if (end.free) {
+        surface_.circle(at, radius, colors::kPaper, Stroke{colors::kOpenEnd, 2});
+        continue;
+      }
+      // A joint belongs to two pieces and gets one dot.
+      const std::int32_t other = shown.piece->joint(static_cast<std::size_t>(i)).target;
+      if (reach >= 4 && (shown.piece->id < other || !layout.findPiece(other)))
+        surface_.circle(at, radius * 0.6, colors::kJoinedEnd, {});
+    }
+  }
+}
+
+void LayoutPainter::paintArticles(std::span<const Visible> pieces) {
+  if (view_.zoom() * (pieces.empty() ? 1 : pieces.front().geometry->halfWidth / 18.7) <
+      kArticleFromZoom)
+    return;
+  Occupancy taken(size_);
+  PiecePainter painter(surface_, view_);
+  for (const Visible& shown : pieces)
+    for (const auto& line : shown.geometry->centreLines)
+      taken.mark(painter.toScreen(line, poseOf(*shown.piece)),
+                 shown.geometry->halfWidth * view_.zoom());
+  const TextStyle style{colors::kArticle, 10.5, false};
+  for (const Visible& shown : pieces) {
+    const SizePx box = surface_.textSize(shown.definition->article, style);
+    if (shown.geometry->mainLength * view_.zoom() < box.width * 0.9)
+      continue;
+    const Pose pose = poseOf(*shown.piece);
+    const Point spot = view_.toScreen(toWorld(pose, shown.geometry->labelSpot));
+    const double heading = pose.heading + shown.geometry->labelHeading;
+    const double away = shown.geometry->halfWidth * view_.zoom() + box.height / 2 + 1;
+    const double angle = uprightAngle(heading);
+    for (const double side : {-1.0, 1.0}) {
+      const double across = (heading + 90 * side) * kPi / 180;
+      const Point at{spot.x + std::cos(across) * away, spot.y + std::sin(across) * away};
+      const SizePx inner{box.width - 2, box.height - 4};
+      if (!taken.isFree(at, inner, angle))
+        continue;
+      taken.take(at, box, angle);
+      surface_.text(shown.definition->article, at, angle, style);
+      break;
+    }
+  }
+}
+
+void LayoutPainter::paintMeasurements(const Layout& layout) {
+  for (const Measurement& tape : layout.content().measurements)
+    paintTape(surface_, view_, tape.from, tape.to, layout.settings().units, tape.sel);
+}
+
+void LayoutPainter::paintLabels(const Layout& layout) {
+  for (const Label& label : layout.content().labels) {
+    const Point at = view_.toScreen({label.x, label.y});
+    const TextStyle style{colors::kLabel, 13, true};
+    const SizePx box = surface_.textSize(label.text, style);
+    const double w = box.width / 2 + 5;
+    const double h = box.height / 2 + 2;
+    const std::array<Point, 4> frame{
+        {{at.x - w, at.y - h}, {at.x + w, at.y - h}, {at.x + w, at.y + h}, {at.x - w, at.y + h}}};
+    surface_.polygon(frame, Rgba{255, 255, 255, 215},
+                     label.sel ? Stroke{colors::kSelected, 2} : Stroke{colors::kBedEdge, 1});
+    surface_.text(label.text, at, 0, style);
+  }
+}
+
+void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to,
+               std::int32_t units, bool selected) {
+  const Point a = view.toScreen(from);
+  const Point b = view.toScreen(to);
+  const Rgba color = selected ? colors::kSelected : colors::kMeasure;
+  const double length = std::hypot(b.x - a.x, b.y - a.y);
+  const Point along = length > 0 ? Point{(b.x - a.x) / length, (b.y - a.y) / length} : Point{1, 0};
+  const Point tick{-along.y * 6, along.x * 6};
+  const std::array<Point, 6> lines{{a,
+                                    b,
+                                    {a.x - tick.x, a.y - tick.y},
+                                    {a.x + tick.x, a.y + tick.y},
+                                    {b.x - tick.x, b.y - tick.y},
+                                    {b.x + tick.x, b.y + tick.y}}};
+  surface.segments(lines, {color, 1.5});
+  const std::string text = formatLength(std::hypot(to.x - from.x, to.y - from.y), units);
+  const TextStyle style{color, 12, true};
+  const double angle = uprightAngle(std::atan2(along.y, along.x) * 180 / kPi);
+  const double up = (angle - 90) * kPi / 180;
+  surface.text(text, {(a.x + b.x) / 2 + std::cos(up) * 10, (a.y + b.y) / 2 + std::sin(up) * 10},
+               angle, style);
+}
+
+} // namespace trassix

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "document/layout.h"
+#include "editing/canvas/piece_painter.h"
+#include "editing/canvas/surface.h"
+#include "editing/canvas/view_transform.h"
+#include "editing/plan_index.h"
+#include "editing/selection.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+namespace trassix {
+
+struct PaintOptions {
+  bool grid = true;
+  bool labels = true;   ///< article labels and join dots
+  bool rails = true;
+  bool scaleBar = true;
+  bool desk = true;     ///< fill the background; off for printing
+  std::span<const std::int32_t> leftOut; ///< sorted ids of pieces that are drawn elsewhere
+};
+
+/// Draws a plan on any surface: screen, printer, image or a recording. Knows nothing of windows or
+/// tools; what lies outside the surface is not drawn.
+class LayoutPainter {
+public:
+  LayoutPainter(Surface& surface, SizePx size, const ViewTransform& view, const PaintOptions& options);
+
+  void paint(const Layout& layout, const PlanIndex& index);
+
+private:
+  struct Visible;
+
+  void paintGrid(std::int32_t units);
+  void paintScaleBar(std::int32_t units);
+  void paintBoard(const Layout& layout);
+  void paintShapes(const Layout& layout);
+  void paintTrack(const Layout& layout, const PlanIndex& index);
+  void paintScenery(const Layout& layout);
+  void paintHelices(const Layout& layout);
+  void paintMeasurements(const Layout& layout);
+  void paintLabels(const Layout& layout);
+  void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);
+  void paintArticles(std::span<const Visible> pieces);
+  std::vector<Point> outline(std::span<const Point> points) const;
+
+  Surface& surface_;
+  SizePx size_;
+  const ViewTransform& view_;
+  PaintOptions options_;
+};
+
+/// Draws a tape between two points with its length.
+void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to,
+               std::int32_t units, bool selected);
+
+} // namespace trassix

@@ -1,0 +1,84 @@
+#include "editing/canvas/measure_tool.h"
+
+#include "editing/annotations.h"
+#include "editing/canvas/layout_painter.h"
+#include "editing/canvas/plan_colors.h"
+
+#include <cmath>
+
+namespace trassix {
+
+namespace {
+
+constexpr double kCatchPx = 9;
+
+} // namespace
+
+Point MeasureTool::caught(Point world) {
+  double best = site_.mm(kCatchPx);
+  Point point = world;
+  const PlanIndex& index = site_.planIndex();
+  const Box around{world.x - best, world.y - best, world.x + best, world.y + best};
+  for (const std::size_t position : index.inBox(around, false)) {
+    const PieceDef* definition = index.definition(position);
+    if (!definition)
+      continue;
+    for (const WorldConnector& end :
+         WorldConnectorsOf(site_.layout().pieces()[position], *definition)) {
+      const double distance = std::hypot(end.x - world.x, end.y - world.y);
+      if (distance < best) {
+        best = distance;
+        point = {end.x, end.y};
+      }
+    }
+  }
+  return point;
+}
+
+void MeasureTool::hover(const PointerInput& input) {
+  to_ = caught(input.world);
+  site_.host.repaint();
+}
+
+void MeasureTool::release(const PointerInput& input, bool) {
+  hover(input);
+  if (!from_) {
+    from_ = to_;
+    return;
+  }
+  if (*from_ == to_)
+    return;
+  addMeasurement(site_.layout(), *from_, to_);
+  from_.reset();
+  site_.host.selectionChanged();
+  site_.host.changed();
+}
+
+bool MeasureTool::key(const KeyInput& input) {
+  if (input.key != Key::Escape)
+    return false;
+  if (from_)
+    cancel();
+  else
+    site_.host.setToolMode(ToolMode::Select);
+  return true;
+}
+
+void MeasureTool::cancel() {
+  from_.reset();
+  site_.host.repaint();
+}
+
+void MeasureTool::paint(Surface& surface) const {
+  if (from_)
+    paintTape(surface, site_.view, *from_, to_, site_.layout().settings().units, false);
+  surface.circle(site_.view.toScreen(to_), 4, {}, Stroke{plan_colors::kMeasure, 1.5});
+}
+
+std::string MeasureTool::hint() const {
+  return from_ ? "Click the second point    Esc: start again"
+               : "Measuring tape: click the first point (track ends catch it)    Esc: back to "
+                 "selecting";
+}
+
+} // namespace trassix

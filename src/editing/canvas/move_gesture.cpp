@@ -1,0 +1,133 @@
+#include "catalog/track_catalog.h"
+#include "editing/canvas/gesture.h"
+#include "editing/canvas/piece_painter.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/scenery_footprint.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace trassix {
+
+namespace {
+
+/// A chain that hangs on one joint turns about that joint, anything else about its middle.
+Point turningCentre(const Layout& layout) {
+  const std::vector<std::int32_t> selected = selectedPieces(layout);
+  std::optional<Point> joint;
+  int joints = 0;
+  for (const std::int32_t id : selected) {
+    const PlacedPiece* piece = layout.findPiece(id);
+    const PieceDef* definition = TrackCatalog::instance().find(piece->cat);
+    for (std::size_t i = 0; definition && i < definition->connectors.size(); ++i) {
+      const std::int32_t other = piece->joint(i).target;
+      if (other == -1 || std::binary_search(selected.begin(), selected.end(), other))
+        continue;
+      const WorldConnector end = ConnectorToWorld(*piece, *definition, static_cast<int>(i));
+      joint = Point{end.x, end.y};
+      ++joints;
+    }
+  }
+  if (joints == 1)
+    return *joint;
+  const std::optional<Box> box = selectionBox(layout);
+  return box ? Point{(box->minX + box->maxX) / 2, (box->minY + box->maxY) / 2} : Point{};
+}
+
+double bearing(Point from, Point to) {
+  return std::atan2(to.y - from.y, to.x - from.x) * 180 / kPi;
+}
+
+} // namespace
+
+MoveGesture::MoveGesture(ToolSite& site, const PointerInput& from, bool turning)
+    : Gesture(site), from_(from), turning_(turning), move_(site.layout(), from.world) {
+  if (turning_)
+    centre_ = turningCentre(site.layout());
+}
+
+void MoveGesture::drag(const PointerInput& input) {
+  if (turning_) {
+    turned_ = bearing(centre_, input.world) - bearing(centre_, from_.world);
+    if (input.shift)
+      turned_ = std::round(turned_ / 15) * 15;
+    move_.turn(centre_, turned_);
+  } else {
+    move_.update(input.world, site_.host.switches().snap, site_.snapIndex());
+  }
+  site_.host.repaint();
+}
+
+bool MoveGesture::allowed() {
+  if (const std::optional<Notice> refusal =
+          lockGuard(site_.layout(), turning_ ? "rotate" : "move")) {
+    site_.host.show(*refusal);
+    return false;
+  }
+  return !move_.opensGradedJoints() ||
+         site_.host.confirm({turning_ ? "Rotate" : "Move",
+                             "This takes the selection apart from graded track. Go on?", false,
+                             true});
+}
+
+void MoveGesture::drop() {
+  if (allowed() && move_.commit(site_.layout()))
+    site_.host.changed();
+  else
+    site_.host.repaint();
+}
+
+void MoveGesture::paint(Surface& surface) const {
+  const Layout& layout = site_.layout();
+  PiecePainter painter(surface, site_.view);
+  PieceLook look;
+  look.bed = move_.snap() ? Rgba{150, 208, 172, 235} : Rgba{170, 198, 236, 215};
+  look.accent = move_.snap() ? plan_colors::kSnapped : plan_colors::kSelected;
+  for (const std::int32_t id : move_.pieces()) {
+    const PlacedPiece* piece = layout.findPiece(id);
+    const PieceDef* definition = piece ? TrackCatalog::instance().find(piece->cat) : nullptr;
+    if (definition)
+      painter.paint(trackGeometryOf(*definition), move_.moved(poseOf(*piece)), look);
+  }
+  const Stroke edge{plan_colors::kSelected, 2, Stroke::Style::Dashed};
+  const auto outline = [&](const std::vector<Point>& points) {
+    std::vector<Point> px;
+    px.reserve(points.size());
+    for (const Point& p : points)
+      px.push_back(site_.view.toScreen(move_.moved(p)));
+    surface.polygon(px, {}, edge);
+  };
+  for (const SceneryItem& item : layout.content().scenery)
+    if (item.sel)
+      outline(sceneryOutline(layout, item));
+  for (const Shape& shape : layout.content().shapes)
+    if (shape.sel)
+      outline(shape.points);
+  for (const Measurement& tape : layout.content().measurements)
+    if (tape.sel)
+      outline({tape.from, tape.to});
+  for (const Label& label : layout.content().labels)
+    if (label.sel)
+      surface.text(label.text, site_.view.toScreen(move_.moved(Point{label.x, label.y})), 0,
+                   {plan_colors::kSelected, 13, true});
+  if (turning_)
+    surface.circle(site_.view.toScreen(centre_), 4, plan_colors::kSelected,
+                   Stroke{plan_colors::kPaper, 1.5});
+  if (const auto& snap = move_.snap())
+    if (const PlacedPiece* target = layout.findPiece(snap->target))
+      if (const PieceDef* definition = TrackCatalog::instance().find(target->cat)) {
+        const WorldConnector end = ConnectorToWorld(*target, *definition, snap->targetConnector);
+        surface.circle(site_.view.toScreen({end.x, end.y}), 6, plan_colors::kSnapped,
+                       Stroke{plan_colors::kPaper, 2});
+      }
+}
+
+std::string MoveGesture::hint() const {
+  if (turning_)
+    return "Turned by " + std::to_string(static_cast<int>(std::lround(turned_))) +
+           "\u00b0    Shift: steps of 15\u00b0    Let go to keep    Esc: as it was";
+  return move_.snap() ? "Let go to join    Esc: as it was"
+                      : "Let go to place the selection here    Esc: as it was";
+}
+
+} // namespace trassix

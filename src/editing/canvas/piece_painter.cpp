@@ -1,0 +1,100 @@
+#include "editing/canvas/piece_painter.h"
+
+#include "editing/canvas/plan_colors.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace trassix {
+
+namespace {
+
+constexpr double kBedFromPx = 5.0;     ///< a narrower track bed is drawn as a line
+constexpr double kRailsFromPx = 3.2;   ///< distance between the rails from which both are drawn
+constexpr double kSleepersFromPx = 9.0;
+
+Rgba fade(Rgba color) {
+  // Towards the sheet rather than transparent, so that what lies below does not shine through.
+  const auto mix = [](std::uint8_t a, std::uint8_t b) {
+    return static_cast<std::uint8_t>((a * 2 + b * 3) / 5);
+  };
+  return {mix(color.r, plan_colors::kBoard.r), mix(color.g, plan_colors::kBoard.g),
+          mix(color.b, plan_colors::kBoard.b), color.a};
+}
+
+} // namespace
+
+bool PiecePainter::fromAfar(const TrackGeometry& geometry) const {
+  return geometry.halfWidth * 2 * view_.zoom() < kBedFromPx;
+}
+
+const std::vector<Point>& PiecePainter::toScreen(const std::vector<Point>& local,
+                                                 const Pose& pose) {
+  const double zoom = view_.zoom();
+  const double c = std::cos(pose.heading * kPi / 180) * zoom;
+  const double s = std::sin(pose.heading * kPi / 180) * zoom;
+  const Point at = view_.toScreen({pose.x, pose.y});
+  buffer_.resize(local.size());
+  for (std::size_t i = 0; i < local.size(); ++i)
+    buffer_[i] = {at.x + local[i].x * c - local[i].y * s, at.y + local[i].x * s + local[i].y * c};
+  return buffer_;
+}
+
+void PiecePainter::paintBed(const TrackGeometry& geometry, const Pose& pose, const PieceLook& look) {
+  if (fromAfar(geometry))
+    return;
+  const Rgba fill = look.faded ? fade(look.bed) : look.bed;
+  Stroke edge{plan_colors::kBedEdge, 1.0};
+  if (look.faded)
+    edge.color = fade(edge.color);
+  if (look.accent)
+    edge = {*look.accent, 2.0};
+  if (look.covered)
+    edge.style = Stroke::Style::Dashed;
+  // Outlines first, fills over them: where routes of one piece overlap, no edge crosses the bed.
+  for (const auto& outline : geometry.beds)
+    surface_.polygon(toScreen(outline, pose), {}, edge);
+  for (const auto& outline : geometry.beds)
+    surface_.polygon(toScreen(outline, pose),
+                     look.covered ? Rgba{fill.r, fill.g, fill.b, 90} : fill, {});
+}
+
+void PiecePainter::paintRails(const TrackGeometry& geometry, const Pose& pose,
+                              const PieceLook& look) {
+  const double zoom = view_.zoom();
+  if (fromAfar(geometry)) {
+    Rgba color = look.accent.value_or(plan_colors::kFarTrack);
+    if (look.faded && !look.accent)
+      color = fade(color);
+    const double width = std::max(geometry.halfWidth * zoom, look.accent ? 2.5 : 1.5);
+    for (const auto& line : geometry.centreLines)
+      surface_.polyline(toScreen(line, pose),
+                        {color, width, look.covered ? Stroke::Style::Dashed : Stroke::Style::Solid});
+    return;
+  }
+  const double gaugePx = geometry.gauge * zoom;
+  const Rgba rail = look.faded ? fade(plan_colors::kRail) : plan_colors::kRail;
+  const Stroke::Style style = look.covered ? Stroke::Style::Dashed : Stroke::Style::Solid;
+  if (look.rails && gaugePx >= kRailsFromPx) {
+    if (look.sleepers && !look.covered && gaugePx >= kSleepersFromPx) {
+      const Rgba sleeper = look.faded ? fade(plan_colors::kSleeper) : plan_colors::kSleeper;
+      surface_.segments(toScreen(geometry.sleepers, pose),
+                        {sleeper, std::max(1.0, gaugePx * 0.17)});
+    }
+    for (const auto& line : geometry.rails)
+      surface_.polyline(toScreen(line, pose), {rail, std::clamp(gaugePx * 0.06, 1.0, 4.0), style});
+  } else {
+    for (const auto& line : geometry.centreLines)
+      surface_.polyline(toScreen(line, pose), {rail, 1.0, style});
+  }
+  if (look.accent)
+    for (const auto& line : geometry.centreLines)
+      surface_.polyline(toScreen(line, pose), {*look.accent, 2.0});
+}
+
+void PiecePainter::paint(const TrackGeometry& geometry, const Pose& pose, const PieceLook& look) {
+  paintBed(geometry, pose, look);
+  paintRails(geometry, pose, look);
+}
+
+} // namespace trassix

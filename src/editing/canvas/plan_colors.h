@@ -1,0 +1,38 @@
+// The colours of the plan, in one place: a light sheet on which track stands out.
+#pragma once
+
+#include "editing/canvas/surface.h"
+
+namespace trassix::plan_colors {
+
+inline constexpr Rgba kDesk{232, 234, 237};
+inline constexpr Rgba kBoard{252, 250, 245};
+inline constexpr Rgba kBoardEdge{150, 140, 122};
+inline constexpr Rgba kGridFine{60, 80, 110, 22};
+inline constexpr Rgba kGridCoarse{60, 80, 110, 52};
+inline constexpr Rgba kRuler{84, 94, 108};
+
+inline constexpr Color kBed{203, 198, 187};
+inline constexpr Color kBridgeBed{176, 190, 204};
+inline constexpr Color kRampBed{214, 200, 160};
+inline constexpr Rgba kBedEdge{132, 126, 114};
+inline constexpr Rgba kSleeper{122, 102, 82};
+inline constexpr Rgba kRail{52, 58, 66};
+inline constexpr Rgba kFarTrack{74, 80, 90};
+
+inline constexpr Rgba kSelected{32, 108, 214};
+inline constexpr Rgba kHover{32, 108, 214, 120};
+inline constexpr Rgba kGhost{32, 108, 214, 90};
+inline constexpr Rgba kSnapped{22, 140, 72};
+
+inline constexpr Rgba kOpenEnd{214, 82, 30};
+inline constexpr Rgba kJoinedEnd{58, 128, 84};
+inline constexpr Rgba kPaper{255, 255, 255};
+
+inline constexpr Rgba kArticle{40, 46, 56};
+inline constexpr Rgba kLabel{24, 30, 40};
+inline constexpr Rgba kMeasure{170, 40, 110};
+inline constexpr Rgba kScenery{150, 116, 84};
+inline constexpr Rgba kTunnel{112, 104, 96};
+
+} // namespace trassix::plan_colors

@@ -1,0 +1,82 @@
+#include "editing/canvas/polygon_tool.h"
+
+#include "editing/annotations.h"
+#include "editing/canvas/plan_colors.h"
+
+namespace trassix {
+
+void PolygonTool::hover(const PointerInput& input) {
+  pointer_ = input.world;
+  site_.host.repaint();
+}
+
+void PolygonTool::release(const PointerInput& input, bool) {
+  hover(input);
+  if (points_.empty() || points_.back() != input.world)
+    points_.push_back(input.world);
+  site_.host.repaint();
+}
+
+void PolygonTool::doubleClick(const PointerInput&) {
+  // The first click of the two has already added the last point; no release follows for this press.
+  close();
+}
+
+void PolygonTool::close() {
+  if (addShape(site_.layout(), points_) == -1)
+    return;
+  points_.clear();
+  site_.host.selectionChanged();
+  site_.host.changed();
+}
+
+bool PolygonTool::key(const KeyInput& input) {
+  switch (input.key) {
+  case Key::Enter:
+    close();
+    return true;
+  case Key::Backspace:
+    if (points_.empty())
+      return false;
+    points_.pop_back();
+    site_.host.repaint();
+    return true;
+  case Key::Escape:
+    if (points_.empty())
+      site_.host.setToolMode(ToolMode::Select);
+    cancel();
+    return true;
+  default:
+    return false;
+  }
+}
+
+void PolygonTool::cancel() {
+  points_.clear();
+  site_.host.repaint();
+}
+
+void PolygonTool::paint(Surface& surface) const {
+  std::vector<Point> px;
+  for (const Point& p : points_)
+    px.push_back(site_.view.toScreen(p));
+  const std::size_t fixed = px.size();
+  px.push_back(site_.view.toScreen(pointer_));
+  if (fixed >= 2)
+    surface.polygon(px, Rgba{120, 170, 110, 70}, {});
+  if (fixed >= 1)
+    surface.polyline(px, {plan_colors::kSelected, 1.5});
+  for (std::size_t i = 0; i < fixed; ++i)
+    surface.circle(px[i], 3.5, plan_colors::kPaper, Stroke{plan_colors::kSelected, 1.5});
+}
+
+std::string PolygonTool::hint() const {
+  if (points_.empty())
+    return "Polygon: click its corners    Esc: back to selecting";
+  if (points_.size() < 3)
+    return "Click the next corner    Backspace: take the last one back    Esc: start again";
+  return "Click the next corner    Double-click or Enter: close    Backspace: take the last one "
+         "back    Esc: start again";
+}
+
+} // namespace trassix

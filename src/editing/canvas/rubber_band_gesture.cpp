@@ -1,0 +1,45 @@
+#include "editing/canvas/gesture.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/picking.h"
+
+#include <algorithm>
+#include <array>
+
+namespace trassix {
+
+RubberBandGesture::RubberBandGesture(ToolSite& site, const PointerInput& from)
+    : Gesture(site), from_(from), to_(from) {}
+
+void RubberBandGesture::drag(const PointerInput& input) {
+  to_ = input;
+  site_.host.repaint();
+}
+
+void RubberBandGesture::drop() {
+  const Box box{std::min(from_.world.x, to_.world.x), std::min(from_.world.y, to_.world.y),
+                std::max(from_.world.x, to_.world.x), std::max(from_.world.y, to_.world.y)};
+  if (!from_.shift && !to_.shift)
+    site_.layout().clearSelection();
+  selectInBox(site_.layout(), site_.planIndex(), box, encloses());
+  site_.host.selectionChanged();
+}
+
+void RubberBandGesture::paint(Surface& surface) const {
+  const Point a = from_.px;
+  const Point b = to_.px;
+  const std::array<Point, 4> box{{{a.x, a.y}, {b.x, a.y}, {b.x, b.y}, {a.x, b.y}}};
+  Rgba fill = plan_colors::kSelected;
+  fill.a = encloses() ? 36 : 18;
+  surface.polygon(box, fill,
+                  Stroke{plan_colors::kSelected, 1,
+                         encloses() ? Stroke::Style::Solid : Stroke::Style::Dashed});
+}
+
+std::string RubberBandGesture::hint() const {
+  return encloses() ? "Selects what lies in the box altogether    Drag to the left: whatever it "
+                      "touches    Shift: add    Esc: cancel"
+                    : "Selects whatever the box touches    Drag to the right: only what lies in it "
+                      "altogether    Shift: add    Esc: cancel";
+}
+
+} // namespace trassix

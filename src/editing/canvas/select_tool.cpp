@@ -1,0 +1,270 @@
+#include "editing/canvas/select_tool.h"
+
+#include "catalog/track_catalog.h"
+#include "editing/canvas/piece_painter.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/annotations.h"
+#include "editing/canvas/selection_menu.h"
+#include "editing/placing.h"
+#include "editing/selection.h"
+
+#include <algorithm>
+
+namespace trassix {
+
+namespace {
+
+constexpr double kNudge = 10.0; ///< mm
+constexpr double kFineNudge = 1.0;
+constexpr double kWheelTurn = 15.0; ///< degrees
+constexpr double kFineWheelTurn = 5.0;
+
+const Label* findLabel(const Layout& layout, std::int32_t id) {
+  for (const Label& label : layout.content().labels)
+    if (label.id == id)
+      return &label;
+  return nullptr;
+}
+
+} // namespace
+
+std::vector<Pick> SelectTool::picksAt(Point world) {
+  return trassix::picksAt(site_.layout(), site_.planIndex(), world, site_.mm(1));
+}
+
+void SelectTool::press(const PointerInput& input) { pressed_ = input; }
+
+void SelectTool::hover(const PointerInput& input) {
+  const std::vector<Pick> picks = picksAt(input.world);
+  const std::optional<Pick> top = picks.empty() ? std::nullopt : std::optional(picks.front());
+  if (top == hovered_)
+    return;
+  hovered_ = top;
+  site_.host.repaint();
+}
+
+void SelectTool::drag(const PointerInput& input) {
+  if (!gesture_)
+    startGesture(pressed_);
+  gesture_->drag(input);
+}
+
+void SelectTool::startGesture(const PointerInput& input) {
+  const std::vector<Pick> picks = picksAt(input.world);
+  const bool onSelected = std::any_of(picks.begin(), picks.end(), [this](const Pick& pick) {
+    return isSelected(site_.layout(), pick);
+  });
+  if (picks.empty() && !(input.alt && hasSelection(site_.layout()))) {
+    gesture_ = std::make_unique<RubberBandGesture>(site_, input);
+    return;
+  }
+  if (!onSelected && !picks.empty())
+    select(picks.front());
+  gesture_ = std::make_unique<MoveGesture>(site_, input, input.alt);
+}
+
+void SelectTool::release(const PointerInput& input, bool dragged) {
+  if (gesture_) {
+    // Kept here while it works: it may put a question, during which other events arrive.
+    const std::unique_ptr<Gesture> ending = std::move(gesture_);
+    ending->drop();
+  } else if (!dragged) {
+    click(input);
+  }
+}
+
+void SelectTool::select(const Pick& pick) {
+  site_.layout().clearSelection();
+  setSelected(site_.layout(), pick, true);
+  site_.host.selectionChanged();
+}
+
+void SelectTool::click(const PointerInput& input) {
+  Layout& layout = site_.layout();
+  const std::vector<Pick> picks = picksAt(input.world);
+  if (input.ctrl) {
+    if (picks.empty())
+      return;
+    setSelected(layout, picks.front(), !isSelected(layout, picks.front()));
+    site_.host.selectionChanged();
+    return;
+  }
+  if (picks.empty()) {
+    if (!hasSelection(layout))
+      return;
+    layout.clearSelection();
+    site_.host.selectionChanged();
+    return;
+  }
+  // A further click on the same spot goes on to what lies below.
+  const auto selected = std::find_if(picks.begin(), picks.end(), [&layout](const Pick& pick) {
+    return isSelected(layout, pick);
+  });
+  if (selected == picks.end())
+    select(picks.front());
+  else
+    select(selected + 1 == picks.end() ? picks.front() : *(selected + 1));
+}
+
+void SelectTool::report(const EditResult& result) {
+  if (result.refusal)
+    site_.host.show(*result.refusal);
+  if (!result.changed())
+    return;
+  site_.host.selectionChanged();
+  site_.host.changed();
+}
+
+void SelectTool::doubleClick(const PointerInput& input) {
+  Layout& layout = site_.layout();
+  const std::vector<Pick> picks = picksAt(input.world);
+  const auto first = [&picks](RecordKind kind) -> const Pick* {
+    const auto found = std::find_if(picks.begin(), picks.end(),
+                                    [kind](const Pick& pick) { return pick.kind == kind; });
+    return found == picks.end() ? nullptr : &*found;
+  };
+  const Pick* piece = first(RecordKind::Piece);
+  if (input.alt) {
+    if (!piece)
+      return;
+    layout.clearSelection();
+    for (const std::int32_t id : chainOf(layout, piece->id))
+      setSelected(layout, {RecordKind::Piece, id}, true);
+    site_.host.selectionChanged();
+    return;
+  }
+  if (const Pick* label = first(RecordKind::Label); label && !piece) {
+    const Label* record = findLabel(layout, label->id);
+    const auto text = site_.host.askText("Edit Label", "Text:", record->text);
+    if (text && editLabelText(layout, label->id, *text))
+      site_.host.changed();
+    return;
+  }
+  if (const Pick* shape = first(RecordKind::Shape)) {
+    site_.host.editShape(shape->id);
+    return;
+  }
+  if (piece)
+    report(cloneAndExtend(layout, piece->id));
+}
+
+bool SelectTool::wheel(const PointerInput& input, int direction) {
+  if (!input.ctrl || !selectionBox(site_.layout()))
+    return false;
+  if (const std::optional<Notice> refusal = lockGuard(site_.layout(), "rotate")) {
+    site_.host.show(*refusal);
+    return true;
+  }
+  if (rotateSelection(site_.layout(), direction * (input.shift ? kFineWheelTurn : kWheelTurn)))
+    site_.host.changed();
+  return true;
+}
+
+bool SelectTool::nudge(const KeyInput& input) {
+  Point step;
+  switch (input.key) {
+  case Key::Left:
+    step = {-1, 0};
+    break;
+  case Key::Right:
+    step = {1, 0};
+    break;
+  case Key::Up:
+    step = {0, -1};
+    break;
+  case Key::Down:
+    step = {0, 1};
+    break;
+  default:
+    return false;
+  }
+  Layout& layout = site_.layout();
+  if (!hasSelection(layout))
+    return false;
+  if (const std::optional<Notice> refusal = lockGuard(layout, "move")) {
+    site_.host.show(*refusal);
+    return true;
+  }
+  const bool continued = nudgedTo_ == layout.revision();
+  if (!continued && SelectionMove(layout, {}).opensGradedJoints() &&
+      !site_.host.confirm({"Move", "This takes the selection apart from graded track. Go on?",
+                           false, true}))
+    return true;
+  const double length = input.shift ? kFineNudge : kNudge;
+  if (nudgeSelection(layout, step.x * length, step.y * length, continued)) {
+    nudgedTo_ = layout.revision();
+    site_.host.changed();
+  }
+  return true;
+}
+
+bool SelectTool::key(const KeyInput& input) {
+  if (input.key == Key::Escape) {
+    if (!hasSelection(site_.layout()))
+      return false;
+    site_.layout().clearSelection();
+    site_.host.selectionChanged();
+    return true;
+  }
+  return nudge(input);
+}
+
+void SelectTool::cancel() {
+  gesture_.reset();
+  hovered_.reset();
+}
+
+std::span<const std::int32_t> SelectTool::lifted() const {
+  return gesture_ ? gesture_->lifted() : std::span<const std::int32_t>();
+}
+
+void SelectTool::contextMenu(const PointerInput& input) {
+  Layout& layout = site_.layout();
+  const std::vector<Pick> picks = picksAt(input.world);
+  if (!picks.empty() && std::none_of(picks.begin(), picks.end(), [&layout](const Pick& pick) {
+        return isSelected(layout, pick);
+      }))
+    select(picks.front());
+  site_.host.popupMenu(selectionMenu(site_, picks, input.world));
+}
+
+void SelectTool::paintHover(Surface& surface) const {
+  if (!hovered_ || hovered_->kind != RecordKind::Piece || isSelected(site_.layout(), *hovered_))
+    return;
+  const PlacedPiece* piece = site_.layout().findPiece(hovered_->id);
+  const PieceDef* definition = piece ? TrackCatalog::instance().find(piece->cat) : nullptr;
+  if (!definition)
+    return;
+  PiecePainter painter(surface, site_.view);
+  const TrackGeometry& geometry = trackGeometryOf(*definition);
+  for (const auto& outline : geometry.beds)
+    surface.polygon(painter.toScreen(outline, poseOf(*piece)), Rgba{32, 108, 214, 28},
+                    Stroke{plan_colors::kHover, 1.5});
+}
+
+void SelectTool::paint(Surface& surface) const {
+  if (gesture_)
+    gesture_->paint(surface);
+  else
+    paintHover(surface);
+}
+
+std::string SelectTool::hint() const {
+  if (gesture_)
+    return gesture_->hint();
+  if (hovered_ && hovered_->kind == RecordKind::Piece) {
+    const PlacedPiece* piece = site_.layout().findPiece(hovered_->id);
+    const PieceDef* definition = piece ? TrackCatalog::instance().find(piece->cat) : nullptr;
+    if (definition)
+      return definition->name + "    Click: select    Double-click: extend    Drag: move";
+  }
+  if (hasSelection(site_.layout()))
+    return "Drag: move    Alt+drag: turn    Ctrl+wheel: turn 15\u00b0    Arrows: nudge    Del: delete";
+  return "Ready";
+}
+
+CursorShape SelectTool::cursor() const {
+  return gesture_ ? gesture_->cursor() : CursorShape::Arrow;
+}
+
+} // namespace trassix

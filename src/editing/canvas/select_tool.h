@@ -1,0 +1,47 @@
+#pragma once
+
+#include "editing/canvas/canvas_tool.h"
+#include "editing/canvas/gesture.h"
+#include "editing/picking.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace trassix {
+
+/// The ordinary tool: selecting, and shaping what is selected.
+class SelectTool : public CanvasTool {
+public:
+  using CanvasTool::CanvasTool;
+
+  void press(const PointerInput& input) override;
+  void hover(const PointerInput& input) override;
+  void drag(const PointerInput& input) override;
+  void release(const PointerInput& input, bool dragged) override;
+  void doubleClick(const PointerInput& input) override;
+  void contextMenu(const PointerInput& input) override;
+  bool wheel(const PointerInput& input, int direction) override;
+  bool key(const KeyInput& input) override;
+  void cancel() override;
+  std::span<const std::int32_t> lifted() const override;
+  void paint(Surface& surface) const override;
+  std::string hint() const override;
+  CursorShape cursor() const override;
+
+private:
+  std::vector<Pick> picksAt(Point world);
+  void click(const PointerInput& input);
+  void select(const Pick& pick);
+  void startGesture(const PointerInput& input);
+  bool nudge(const KeyInput& input);
+  void report(const EditResult& result);
+  void paintHover(Surface& surface) const;
+
+  PointerInput pressed_;
+  std::optional<Pick> hovered_;
+  std::unique_ptr<Gesture> gesture_;
+  std::uint64_t nudgedTo_ = 0; ///< revision after the last nudge: a run of nudges is one undo step
+};
+
+} // namespace trassix

@@ -1,0 +1,71 @@
+#include "editing/canvas/selection_menu.h"
+
+#include "editing/annotations.h"
+#include "editing/placing.h"
+#include "editing/selection.h"
+
+namespace trassix {
+
+namespace {
+
+void report(ToolSite& site, const EditResult& result) {
+  if (result.refusal)
+    site.host.show(*result.refusal);
+  if (!result.changed())
+    return;
+  site.host.selectionChanged();
+  site.host.changed();
+}
+
+} // namespace
+
+std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& under, Point at) {
+  Layout& layout = site.layout();
+  std::vector<MenuRow> rows;
+  const auto separator = [&rows] {
+    if (!rows.empty() && !rows.back().text.empty())
+      rows.push_back({});
+  };
+  const bool onPiece = !under.empty() && under.front().kind == RecordKind::Piece;
+  if (onPiece) {
+    const std::int32_t piece = under.front().id;
+    rows.push_back({"Extend", "Double-click", true,
+                    [&site, piece] { report(site, cloneAndExtend(site.layout(), piece)); }});
+    rows.push_back({"Select Joined Track", "Alt+Double-click", true, [&site, piece] {
+                      site.layout().clearSelection();
+                      for (const std::int32_t id : chainOf(site.layout(), piece))
+                        setSelected(site.layout(), {RecordKind::Piece, id}, true);
+                      site.host.selectionChanged();
+                    }});
+  }
+  if (hasSelection(layout)) {
+    separator();
+    const auto turn = [&site](double degrees) {
+      if (const std::optional<Notice> refusal = lockGuard(site.layout(), "rotate"))
+        site.host.show(*refusal);
+      else if (rotateSelection(site.layout(), degrees))
+        site.host.changed();
+    };
+    if (selectionBox(layout)) {
+      rows.push_back({"Turn Right 15\u00b0", "Ctrl+Wheel", true, [turn] { turn(15); }});
+      rows.push_back({"Turn Left 15\u00b0", "Ctrl+Wheel", true, [turn] { turn(-15); }});
+    }
+    rows.push_back({"Delete", "Del", true, [&site] { site.host.deleteSelection(); }});
+  }
+  separator();
+  rows.push_back({"Select All", "Ctrl+A", true, [&site] {
+                    selectAll(site.layout());
+                    site.host.selectionChanged();
+                  }});
+  rows.push_back({"Add Label Here...", "", true, [&site, at] {
+                    const auto text = site.host.askText("Add Label", "Text:", "");
+                    if (!text || text->empty())
+                      return;
+                    addLabel(site.layout(), at, *text);
+                    site.host.selectionChanged();
+                    site.host.changed();
+                  }});
+  return rows;
+}
+
+} // namespace trassix

@@ -1,0 +1,46 @@
+#include "editing/measure_format.h"
+
+#include <array>
+#include <charconv>
+
+namespace trassix {
+
+namespace {
+
+std::string fixed(double value, int decimals) {
+  std::array<char, 64> text{};
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
+                                 std::chars_format::fixed, decimals);
+  return {text.data(), end.ptr};
+}
+
+} // namespace
+
+double millimetresPer(std::int32_t units) {
+  switch (units) {
+  case kCentimetres:
+    return 10.0;
+  case kInches:
+    return 25.4;
+  default:
+    return 1.0;
+  }
+}
+
+const char* unitName(std::int32_t units) {
+  switch (units) {
+  case kCentimetres:
+    return "cm";
+  case kInches:
+    return "in";
+  default:
+    return "mm";
+  }
+}
+
+std::string formatLength(double mm, std::int32_t units) {
+  const int decimals = units == kInches ? 3 : units == kCentimetres ? 2 : 1;
+  return fixed(mm / millimetresPer(units), decimals) + " " + unitName(units);
+}
+
+} // namespace trassix
