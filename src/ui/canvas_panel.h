@@ -1,0 +1,47 @@
+#pragma once
+
+#include "editing/canvas/canvas.h"
+
+#include <wx/bitmap.h>
+#include <wx/panel.h>
+
+namespace trassix {
+
+/// The plan in the middle of the main window: turns the toolkit's events into plain input for `Canvas`
+/// and shows what it draws. The plan itself is kept as a picture, so that carrying something over a large
+/// plan repaints only what moves.
+class CanvasPanel : public wxPanel {
+public:
+  CanvasPanel(wxWindow* parent, LayoutHost& host);
+
+  Canvas& canvas() { return canvas_; }
+
+  /// Shows the canvas's state after something outside changed it.
+  void update();
+
+  /// Takes a catalogue piece from another window whose mouse button is down.
+  void dragPiece(std::string_view article);
+  /// Hangs a catalogue piece on the pointer, to be dropped by a click.
+  void pickUpPiece(std::string_view article);
+  void dragScenery(std::string_view key);
+
+private:
+  PointerInput inputOf(const wxMouseEvent& event) const;
+  PointerInput inputAt(wxPoint px) const;
+  void onPaint(wxPaintEvent& event);
+  void onMouse(wxMouseEvent& event);
+  void onWheel(wxMouseEvent& event);
+  void onKeyDown(wxKeyEvent& event);
+  void onKeyUp(wxKeyEvent& event);
+  void onCaptureLost(wxMouseCaptureLostEvent& event);
+  void onSize(wxSizeEvent& event);
+  void syncCapture();
+  void renewPicture(wxDC& dc);
+
+  Canvas canvas_;
+  wxBitmap picture_;
+  std::uint64_t pictureStamp_ = 0;
+  CursorShape cursorShown_ = CursorShape::Arrow;
+};
+
+} // namespace trassix

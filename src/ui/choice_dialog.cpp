@@ -1,0 +1,52 @@
+#include "ui/choice_dialog.h"
+
+#include "ui/utf8.h"
+
+#include <wx/button.h>
+#include <wx/listbox.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+namespace trassix {
+
+ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
+    : wxDialog(parent, wxID_ANY, fromUtf8(choice.title), wxDefaultPosition, wxDefaultSize,
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+      choice_(choice) {
+  wxArrayString texts;
+  for (const std::string& row : choice.rows)
+    texts.Add(fromUtf8(row));
+  rows_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(460, 220)), texts,
+                        wxLB_SINGLE | wxLB_HSCROLL);
+  if (!texts.empty())
+    rows_->SetSelection(0);
+  auto* buttons = new wxStdDialogButtonSizer;
+  buttons->AddButton(new wxButton(this, wxID_OK, fromUtf8(choice.accept)));
+  buttons->AddButton(new wxButton(this, wxID_CANCEL));
+  buttons->Realize();
+
+  auto* sizer = new wxBoxSizer(wxVERTICAL);
+  sizer->Add(new wxStaticText(this, wxID_ANY, fromUtf8(choice.line)),
+             wxSizerFlags().Border(wxALL, FromDIP(10)));
+  sizer->Add(rows_, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT, FromDIP(10)));
+  sizer->Add(buttons, wxSizerFlags().Right().Border(wxALL, FromDIP(10)));
+  SetSizerAndFit(sizer);
+  SetDefaultItem(FindWindow(wxID_OK));
+  rows_->SetFocus();
+  CentreOnParent();
+
+  rows_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { highlight(); });
+  rows_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { EndModal(wxID_OK); });
+  CallAfter([this] { highlight(); });
+}
+
+std::size_t ChoiceDialog::chosen() const {
+  return static_cast<std::size_t>(std::max(0, rows_->GetSelection()));
+}
+
+void ChoiceDialog::highlight() {
+  if (choice_.highlighted && rows_->GetSelection() != wxNOT_FOUND)
+    choice_.highlighted(chosen());
+}
+
+} // namespace trassix

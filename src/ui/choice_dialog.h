@@ -1,0 +1,26 @@
+#pragma once
+
+#include "editing/canvas/layout_host.h"
+
+#include <wx/dialog.h>
+
+class wxListBox;
+
+namespace trassix {
+
+/// One of several rows, the first one highlighted at the start; tells which row is highlighted so
+/// that the plan can show it.
+class ChoiceDialog : public wxDialog {
+ public:
+  ChoiceDialog(wxWindow* parent, const Choice& choice);
+
+  std::size_t chosen() const;
+
+ private:
+  void highlight();
+
+  Choice choice_;
+  wxListBox* rows_;
+};
+
+} // namespace trassix

@@ -1,0 +1,42 @@
+#pragma once
+
+namespace trassix {
+
+/// Command identifiers that are not the toolkit's own. They are fixed: tests, scripts and notes of
+/// users go by them.
+enum CommandId : int {
+  kImportLayout = 1900,
+  kExportLayout = 1901,
+  kView3D = 2000,
+  kSaveBlock = 2001,
+  kUndo = 2002,
+  kRedo = 2003,
+  kDeleteSelection = 2004,
+  kSelectAll = 2005,
+  kZoomIn = 2006,
+  kZoomOut = 2007,
+  kZoomFit = 2008,
+  kShowGrid = 2009,
+  kSnap = 2010,
+  kHideLabels = 2011,
+  kShowRails = 2012,
+  kTunnel = 2013,
+  kMeasure = 2014,
+  kPolygon = 2015,
+  kRectangle = 2016,
+  kElevation = 2017,
+  kLayoutWizard = 2018,
+  kBridgeWizard = 2019,
+  kLayoutShape = 2020,
+  kUnitsMm = 2021,
+  kUnitsCm = 2022,
+  kUnitsInch = 2023,
+  kLevels = 2024,
+  kValidate = 2025,   ///< reserved
+  kProperties = 2026, ///< reserved
+  kHelp = 2027,
+  kLayoutWizardHelp = 2028,
+  kOptions = 2029,
+};
+
+} // namespace trassix

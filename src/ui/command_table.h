@@ -1,0 +1,39 @@
+#pragma once
+
+#include "document/layout.h"
+
+#include <wx/string.h>
+
+#include <span>
+
+class wxMenuBar;
+class wxToolBar;
+
+namespace trassix {
+
+class MainFrame;
+
+/// One command of the main window: what menus and tool bar show of it, when it is enabled, and what
+/// it does. Menus, tool bar, keys and enable rules all come from the one table.
+struct Command {
+  enum class Kind : unsigned char { Normal, Check, Radio };
+
+  int id;
+  const char* menuText;  ///< with mnemonic and, after a tab, its keys; null when it is in no menu
+  const char* toolLabel; ///< null when it is no tool
+  const char* tip;       ///< tool tip and help line
+  Kind kind;
+  bool (*enabled)(const Layout&); ///< null: always
+  void (MainFrame::*action)();    ///< null: comes with a later version and is disabled until then
+};
+
+std::span<const Command> commands();
+const Command* findCommand(int id);
+
+/// True when the command can be used on the document as it is.
+bool commandEnabled(const Command& command, const Layout& layout);
+
+wxMenuBar* makeMenuBar();
+void fillToolBar(wxToolBar& bar);
+
+} // namespace trassix

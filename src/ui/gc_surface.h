@@ -1,0 +1,40 @@
+#pragma once
+
+#include "editing/canvas/surface.h"
+
+#include <wx/graphics.h>
+
+#include <map>
+#include <memory>
+#include <tuple>
+
+namespace trassix {
+
+/// Draws on a toolkit graphics context, with anti-aliasing and in fractions of pixels.
+class GcSurface : public Surface {
+public:
+  /// Does not own the context, which must outlive the surface.
+  explicit GcSurface(wxGraphicsContext& context) : context_(context) {}
+
+  void polyline(std::span<const Point> points, const Stroke& stroke) override;
+  void polygon(std::span<const Point> points, std::optional<Rgba> fill,
+               std::optional<Stroke> outline) override;
+  void segments(std::span<const Point> ends, const Stroke& stroke) override;
+  void circle(Point centre, double radius, std::optional<Rgba> fill,
+              std::optional<Stroke> outline) override;
+  void text(std::string_view text, Point centre, double degrees, const TextStyle& style) override;
+  SizePx textSize(std::string_view text, const TextStyle& style) override;
+
+private:
+  void usePen(const std::optional<Stroke>& stroke);
+  void useBrush(const std::optional<Rgba>& fill);
+  void useFont(const TextStyle& style);
+
+  wxGraphicsContext& context_;
+  std::optional<std::optional<Stroke>> pen_; ///< in use on the context, if known
+  std::optional<std::optional<Rgba>> brush_;
+  std::optional<TextStyle> font_;
+  std::map<std::tuple<double, bool, std::uint32_t>, wxGraphicsFont> fonts_;
+};
+
+} // namespace trassix

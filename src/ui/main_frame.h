@@ -1,0 +1,123 @@
+#pragma once
+
+#include "document/layout.h"
+#include "editing/canvas/layout_host.h"
+
+#include <wx/cmndata.h>
+#include <wx/frame.h>
+
+#include <filesystem>
+#include <memory>
+
+class wxSplitterWindow;
+
+namespace trassix {
+
+class CanvasPanel;
+class PalettePanel;
+class PropertiesPanel;
+
+/// The program's only document window. Owns the open plan, the file it belongs to and whether it
+/// has unsaved changes; carries out the commands and passes everything else on.
+class MainFrame : public wxFrame, private LayoutHost {
+ public:
+  MainFrame();
+  ~MainFrame() override;
+
+  trassix::Layout& layout() override { return layout_; }
+  LayoutHost& host() { return *this; }
+  CanvasPanel& canvasPanel() { return *canvas_; }
+  PropertiesPanel* propertiesPanel() { return properties_; }
+  bool dirty() const { return dirty_; }
+
+  /// Opens a plan file in place of the present one; false, after telling why, when it cannot be
+  /// read.
+  bool loadLayout(const std::filesystem::path& path);
+  void refreshTitle();
+  /// Asks about unsaved changes if there are any; false when the user wants to stay.
+  bool promptUnsaved();
+
+  // The commands, see the command table.
+  void newLayout();
+  void openLayout();
+  void save();
+  void saveAs();
+  void importLayout();
+  void exportLayout();
+  void pageSetup();
+  void saveBlock();
+  void exit();
+  void undo();
+  void redo();
+  void deleteSelection() override;
+  void selectEverything();
+  void zoomIn();
+  void zoomOut();
+  void zoomToFit();
+  void toggleGrid();
+  void toggleSnap();
+  void toggleRails();
+  void toggleLabels();
+  void toggleMeasure();
+  void togglePolygon();
+  void unitsMm();
+  void unitsCm();
+  void unitsInch();
+  void options();
+  void validate();
+  void layoutProperties();
+
+ private:
+  static constexpr const char* kBaseTitle = "Trassix v1.7.1 by Quorrail";
+
+  // LayoutHost
+  const EditorSwitches& switches() const override { return switches_; }
+  void changed() override;
+  void selectionChanged() override;
+  void repaint() override;
+  void setHint(const std::string& hint) override;
+  void setPointer(Point world) override;
+  void setToolMode(ToolMode mode) override;
+  void show(const Notice& notice) override;
+  bool confirm(const Question& question) override;
+  std::optional<std::size_t> choose(const Choice& choice) override;
+  std::optional<std::string> askText(const std::string& title, const std::string& prompt,
+                                     const std::string& value) override;
+  void popupMenu(const std::vector<MenuRow>& rows) override;
+  void editShape(std::int32_t shape) override;
+  void putClipboard(const std::string& text) override;
+  std::string clipboard() override;
+
+  void buildMenuBar();
+  void buildToolBar();
+  void buildPanels();
+  void buildStatusBar();
+  void fitToDisplay();
+  void readPreferences();
+  void bindCommands();
+  void onClose(wxCloseEvent& event);
+
+  void tellAll();
+  void showPieceCount();
+  void showUnits();
+  void setUnits(std::int32_t units);
+  void placeFromPalette(std::string_view article);
+  void toggleMode(int tool, ToolMode mode);
+  bool menuChecked(int id) const;
+  bool write(const std::filesystem::path& path);
+  bool confirmReplace(const std::filesystem::path& target, const wxString& name);
+  wxString openedStatus() const;
+
+  PalettePanel* palette_ = nullptr;
+  CanvasPanel* canvas_ = nullptr;
+  PropertiesPanel* properties_ = nullptr;
+  trassix::Layout layout_;
+  std::filesystem::path currentPath_; ///< empty: never saved
+  wxString currentName_;
+  bool dirty_ = false;
+  wxPrintData printData_;
+  wxPageSetupDialogData pageSetup_;
+  EditorSwitches switches_;
+};
+
+} // namespace trassix

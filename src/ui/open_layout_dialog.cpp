@@ -1,0 +1,77 @@
+#include "ui/open_layout_dialog.h"
+
+#include "app/services/path_text.h"
+#include "ui/utf8.h"
+
+#include <wx/button.h>
+#include <wx/listbox.h>
+#include <wx/msgdlg.h>
+#include <wx/sizer.h>
+
+namespace trassix {
+
+OpenLayoutDialog::OpenLayoutDialog(wxWindow* parent, SavedLayouts saved,
+                                   std::function<void(const std::filesystem::path&)> deleted)
+    : wxDialog(parent, wxID_ANY, _("Open Layout"), wxDefaultPosition, {320, 420},
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+      saved_(std::move(saved)), deleted_(std::move(deleted)) {
+  wxArrayString texts;
+  for (const std::string& name : saved_.names())
+    texts.Add(fromUtf8(name));
+  names_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, texts,
+                         wxLB_SINGLE | wxLB_SORT, wxDefaultValidator, "layouts");
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(new wxButton(this, wxID_DELETE, _("Delete...")));
+  row->AddStretchSpacer();
+  row->Add(new wxButton(this, wxID_OK, _("Open")), wxSizerFlags().Border(wxRIGHT, 8));
+  row->Add(new wxButton(this, wxID_CANCEL, _("Cancel")));
+  auto* sizer = new wxBoxSizer(wxVERTICAL);
+  sizer->Add(names_, wxSizerFlags(1).Expand().Border(wxALL, 8));
+  sizer->Add(row, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, 8));
+  SetSizer(sizer);
+  FindWindow(wxID_OK)->SetName("open");
+  static_cast<wxButton*>(FindWindow(wxID_OK))->SetDefault();
+  enableButtons();
+  names_->SetFocus();
+  Centre();
+
+  names_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { enableButtons(); });
+  names_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { EndModal(wxID_OK); });
+  Bind(
+      wxEVT_BUTTON, [this](wxCommandEvent&) { deleteSelected(); }, wxID_DELETE);
+}
+
+void OpenLayoutDialog::enableButtons() {
+  const bool selected = names_->GetSelection() != wxNOT_FOUND;
+  FindWindow(wxID_DELETE)->Enable(selected);
+  FindWindow(wxID_OK)->Enable(selected);
+}
+
+std::optional<std::filesystem::path> OpenLayoutDialog::chosen() const {
+  if (names_->GetSelection() == wxNOT_FOUND)
+    return {};
+  return saved_.find(toUtf8(names_->GetStringSelection()));
+}
+
+void OpenLayoutDialog::deleteSelected() {
+  const std::optional<std::filesystem::path> file = chosen();
+  if (!file)
+    return;
+  const wxString question = wxString::Format(_("Delete layout \"%s\"?\n\nThis cannot be undone."),
+                                             names_->GetStringSelection());
+  if (wxMessageBox(question, _("Delete Layout"), wxYES_NO | wxNO_DEFAULT | wxICON_WARNING, this) !=
+      wxYES)
+    return;
+  std::error_code error;
+  if (!std::filesystem::remove(*file, error)) {
+    wxMessageBox(_("Could not delete:\n") + toText(*file), _("Delete Failed"), wxOK | wxICON_ERROR,
+                 this);
+    return;
+  }
+  names_->Delete(static_cast<unsigned>(names_->GetSelection()));
+  saved_.remove(*file);
+  enableButtons();
+  deleted_(*file);
+}
+
+} // namespace trassix

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace trassix {
+
+/// The file that a plan of this name (UTF-8, as typed) has in a folder.
+std::filesystem::path layoutFile(const std::filesystem::path& folder, std::string_view name);
+
+/// The plans in a folder: its .txl files, then its .xml ones. A name that exists with both
+/// extensions is listed twice, and both entries mean the .txl file.
+class SavedLayouts {
+ public:
+  explicit SavedLayouts(const std::filesystem::path& folder);
+
+  bool empty() const { return files_.empty(); }
+
+  /// Names without folder and extension, in ascending order, UTF-8.
+  std::vector<std::string> names() const;
+
+  /// The first file in listing order whose name is exactly this.
+  std::optional<std::filesystem::path> find(std::string_view name) const;
+
+  void remove(const std::filesystem::path& file);
+
+ private:
+  std::vector<std::filesystem::path> files_;
+};
+
+} // namespace trassix
