@@ -15,12 +15,6 @@ constexpr std::array<std::string_view, 9> kSpecialWords{"Circuit",   "Uncoupler"
                                                         "Isolat",    "Contact",   "Adapter",
                                                         "Turntable", "Spoke",     "Compensation"};
 
-bool hasSpecialWord(std::string_view name) {
-  return std::ranges::any_of(kSpecialWords, [name](std::string_view word) {
-    return name.find(word) != std::string_view::npos;
-  });
-}
-
 bool isLevelPiece(const PieceDef& piece, TrackSystem system, PieceKind kind) {
   return piece.system == system && piece.kind == kind && !piece.bridge && !piece.ramp;
 }
@@ -32,13 +26,19 @@ bool dividesQuarterCircle(double angle) {
 
 } // namespace
 
+bool hasOwnFunction(const PieceDef& piece) {
+  return std::ranges::any_of(kSpecialWords, [&piece](std::string_view word) {
+    return piece.name.find(word) != std::string::npos;
+  });
+}
+
 std::vector<PlainStraight> plainStraights(TrackSystem system) {
   const TrackCatalog& catalog = TrackCatalog::instance();
   std::vector<PlainStraight> straights;
   for (std::int32_t i = 0; i < catalog.count(); ++i) {
     const PieceDef& piece = *catalog.at(i);
     if (isLevelPiece(piece, system, PieceKind::Straight) && piece.length > 0 &&
-        !hasSpecialWord(piece.name)) {
+        !hasOwnFunction(piece)) {
       straights.push_back({&piece, piece.length});
     }
   }

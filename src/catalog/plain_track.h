@@ -14,9 +14,12 @@ struct PlainStraight {
   bool operator==(const PlainStraight&) const = default;
 };
 
+/// True when a word in the piece's name tells that it does more than carry trains, for example a
+/// feeder, a circuit track or an adapter.
+bool hasOwnFunction(const PieceDef& piece);
+
 /// The straights of a system that may fill any straight run, longest first (equal lengths in
-/// registration order). Bridges, ramps and all pieces with a function of their own, told by a word
-/// in their name, are left out.
+/// registration order). Bridges, ramps and all pieces with a function of their own are left out.
 std::vector<PlainStraight> plainStraights(TrackSystem system);
 
 /// One corner curve per radius: no bridge or ramp, and a whole number of them makes a quarter

@@ -1,0 +1,227 @@
+#include "panels/tally.h"
+
+#include "catalog/track_catalog.h"
+#include "editing/connector_geometry.h"
+#include "editing/routes.h"
+#include "editing/track_geometry.h"
+#include "panels/palette_model.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <tuple>
+#include <unordered_map>
+
+namespace trassix {
+
+namespace {
+
+/// What counting needs of an article, looked up once however often it is placed.
+struct Article {
+  const PieceDef* piece = nullptr;
+  const TrackGeometry* geometry = nullptr;
+  double length = 0;
+  std::int32_t placed = 0;
+};
+
+Article describe(const PieceDef* piece) {
+  if (piece == nullptr) {
+    return {};
+  }
+  const std::vector<Route>& routes = routesOf(*piece);
+  return {piece, &trackGeometryOf(*piece), routes.empty() ? 0 : routeLength(routes.front())};
+}
+
+std::int32_t openEndsOf(const PlacedPiece& placed, const PieceDef& piece) {
+  if (piece.kind == PieceKind::Turntable) {
+    return 0;
+  }
+  std::int32_t open = 0;
+  for (std::size_t i = 0; i < piece.connectors.size(); ++i) {
+    open += placed.joint(i).open() ? 1 : 0;
+  }
+  return open;
+}
+
+class ExtentFinder {
+ public:
+  /// Most pieces lie wholly inside what the others cover, which their circle tells.
+  void add(const Pose& pose, const TrackGeometry& geometry) {
+    const Point centre = toWorld(pose, geometry.centre);
+    if (centre.x - geometry.radius >= box_.minX && centre.x + geometry.radius <= box_.maxX &&
+        centre.y - geometry.radius >= box_.minY && centre.y + geometry.radius <= box_.maxY) {
+      return;
+    }
+    for (const std::vector<Point>& bed : geometry.beds) {
+      for (const Point& corner : bed) {
+        const Point at = toWorld(pose, corner);
+        box_.minX = std::min(box_.minX, at.x);
+        box_.minY = std::min(box_.minY, at.y);
+        box_.maxX = std::max(box_.maxX, at.x);
+        box_.maxY = std::max(box_.maxY, at.y);
+      }
+    }
+  }
+
+  std::optional<Box> box() const {
+    return box_.minX <= box_.maxX ? std::optional(box_) : std::nullopt;
+  }
+
+ private:
+  static constexpr double kFar = std::numeric_limits<double>::infinity();
+  Box box_{kFar, kFar, -kFar, -kFar};
+};
+
+TallyRow rowOf(const Article& article) {
+  const std::int32_t placed = article.placed;
+  const std::int32_t sold = article.piece->pair ? (placed + 1) / 2 : placed;
+  return {article.piece->system, article.piece->article, article.piece->name, placed, sold};
+}
+
+/// The number an article begins with, then the rest of it.
+std::pair<double, std::string_view> articleOrder(const std::string& article) {
+  const std::string_view text = article;
+  const std::size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
+  double number = digits == 0 ? std::numeric_limits<double>::infinity() : 0;
+  for (const char digit : text.substr(0, digits)) {
+    number = number * 10 + (digit - '0');
+  }
+  return {number, text.substr(digits)};
+}
+
+std::string_view systemText(const TallyRow& row) {
+  return row.system ? systemName(*row.system) : std::string_view{};
+}
+
+template <class Order>
+void sortBy(std::vector<TallyRow>& rows, bool ascending, const Order& order) {
+  std::ranges::stable_sort(rows, [&](const TallyRow& a, const TallyRow& b) {
+    return ascending ? order(a) < order(b) : order(b) < order(a);
+  });
+}
+
+using Cells = std::array<std::string, kTallyColumnCount>;
+
+Cells cellsOf(const TallyRow& row) {
+  return {std::string(systemText(row)), row.article, row.name, std::to_string(row.placed),
+          std::to_string(row.sold)};
+}
+
+/// Nothing in a clipboard table can be quoted, so that separators become blanks.
+std::string tableCell(std::string text) {
+  std::ranges::replace_if(
+      text, [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
+  return text;
+}
+
+std::string csvCell(const std::string& text) {
+  if (text.find_first_of(",\"\r\n") == std::string::npos) {
+    return text;
+  }
+  std::string quoted = "\"";
+  for (const char c : text) {
+    quoted.append(c == '"' ? 2 : 1, c);
+  }
+  return quoted + '"';
+}
+
+template <class CellText>
+std::string asLines(const std::vector<TallyRow>& rows, const TallyHeadings& headings,
+                    char separator, std::string_view lineEnd, const CellText& cellText) {
+  std::string text;
+  const auto addLine = [&](const Cells& cells) {
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      if (i > 0) {
+        text += separator;
+      }
+      text += cellText(cells[i]);
+    }
+    text += lineEnd;
+  };
+  addLine(headings);
+  for (const TallyRow& row : rows) {
+    addLine(cellsOf(row));
+  }
+  return text;
+}
+
+} // namespace
+
+Tally tallyOf(const Layout& layout) {
+  const TrackCatalog& catalog = TrackCatalog::instance();
+  Tally tally;
+  ExtentFinder extent;
+  std::unordered_map<std::string_view, Article> articles; // keys live in the plan
+  for (const PlacedPiece& placed : layout.pieces()) {
+    const auto [entry, isNew] = articles.try_emplace(placed.cat);
+    Article& article = entry->second;
+    if (isNew) {
+      article = describe(catalog.find(placed.cat));
+    }
+    ++article.placed;
+    ++tally.pieces;
+    if (article.piece != nullptr) {
+      tally.trackLength += article.length;
+      tally.openEnds += openEndsOf(placed, *article.piece);
+      extent.add(poseOf(placed), *article.geometry);
+    }
+  }
+  tally.extent = extent.box();
+
+  std::unordered_map<const PieceDef*, std::int32_t> counts;
+  for (const auto& [cat, article] : articles) {
+    if (article.piece != nullptr) {
+      counts[article.piece] += article.placed;
+    }
+  }
+  for (const TrackSystem system : paletteSystems()) {
+    for (std::int32_t i = 0; i < catalog.count(); ++i) {
+      const PieceDef* piece = catalog.at(i);
+      if (piece->system != system) {
+        continue;
+      }
+      if (const auto count = counts.find(piece); count != counts.end()) {
+        tally.rows.push_back(rowOf({piece, nullptr, 0, count->second}));
+      }
+    }
+  }
+  const auto known = static_cast<std::ptrdiff_t>(tally.rows.size());
+  for (const auto& [cat, article] : articles) {
+    if (article.piece == nullptr) {
+      tally.rows.push_back({std::nullopt, std::string(cat), {}, article.placed, article.placed});
+    }
+  }
+  std::sort(tally.rows.begin() + known, tally.rows.end(),
+            [](const TallyRow& a, const TallyRow& b) { return a.article < b.article; });
+  return tally;
+}
+
+void sortTally(std::vector<TallyRow>& rows, TallyColumn column, bool ascending) {
+  switch (column) {
+  case TallyColumn::System:
+    return sortBy(rows, ascending, [](const TallyRow& row) { return systemText(row); });
+  case TallyColumn::Article:
+    return sortBy(rows, ascending, [](const TallyRow& row) { return articleOrder(row.article); });
+  case TallyColumn::Name:
+    return sortBy(rows, ascending, [](const TallyRow& row) { return std::string_view(row.name); });
+  case TallyColumn::Placed:
+    return sortBy(rows, ascending, [](const TallyRow& row) { return row.placed; });
+  case TallyColumn::Sold:
+    return sortBy(rows, ascending, [](const TallyRow& row) { return row.sold; });
+  }
+}
+
+const TallyHeadings& tallyHeadings() {
+  static const TallyHeadings kHeadings{"System", "Article", "Name", "Placed", "To order"};
+  return kHeadings;
+}
+
+std::string tallyAsTable(const std::vector<TallyRow>& rows, const TallyHeadings& headings) {
+  return asLines(rows, headings, '\t', "\n", tableCell);
+}
+
+std::string tallyAsCsv(const std::vector<TallyRow>& rows, const TallyHeadings& headings) {
+  return asLines(rows, headings, ',', "\r\n", csvCell);
+}
+
+} // namespace trassix

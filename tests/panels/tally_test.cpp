@@ -1,0 +1,99 @@
+#include "panels/tally.h"
+
+#include <gmock/gmock.h>
+
+namespace trassix {
+namespace {
+
+using testing::ElementsAre;
+
+Layout planOf(const std::vector<const char*>& articles) {
+  Layout layout;
+  for (const char* article : articles) {
+    PlacedPiece& piece = layout.edit().pieces.emplace_back();
+    piece.id = layout.takeId();
+    piece.cat = article;
+  }
+  return layout;
+}
+
+std::vector<std::string> counts(const std::vector<TallyRow>& rows) {
+  std::vector<std::string> lines;
+  for (const TallyRow& row : rows) {
+    lines.push_back(row.article + " " + std::to_string(row.placed) + " " +
+                    std::to_string(row.sold));
+  }
+  return lines;
+}
+
+TEST(Tally, countsArticlesAsTheyAreSold) {
+  const Tally tally = tallyOf(planOf({"8500", "unknown", "24188", "74618", "74618", "74618",
+                                      "62636", "74636T", "24188", "7286", "2200", "another"}));
+  EXPECT_THAT(counts(tally.rows),
+              ElementsAre("24188 2 2", "74618 3 2", "74636T 2 2", "8500 1 1", "2200 1 1",
+                          "7286 1 1", "another 1 1", "unknown 1 1"));
+  EXPECT_EQ(tally.rows[1].name, "74618 Straight Ramp 180mm (pair)");
+  EXPECT_EQ(tally.rows[2].system, TrackSystem::TrixCTrack);
+  EXPECT_EQ(tally.rows[7].system, std::nullopt);
+  EXPECT_EQ(tally.pieces, 12);
+}
+
+TEST(Tally, measuresThePlan) {
+  Layout layout = planOf({"24188", "24130", "24977", "24611", "unknown"});
+  std::vector<PlacedPiece>& pieces = layout.edit().pieces;
+  pieces[0].joints = {{}, {2, 0}};
+  pieces[1].joints = {{1, 1}, {}};
+  pieces[1].x = 188.3;
+  pieces[2].heading = 90;
+  pieces[3].y = 500;
+  const Tally tally = tallyOf(layout);
+  EXPECT_NEAR(tally.trackLength, 188.3 + 188.496 + 48.3 + 188.3, 0.01);
+  EXPECT_EQ(tally.openEnds, 1 + 1 + 1 + 3);
+  ASSERT_TRUE(tally.extent);
+  EXPECT_NEAR(tally.extent->minX, -18.7, 0.01); // half the bed of the turned bumper
+  EXPECT_NEAR(tally.extent->minY, -18.7, 0.01);
+  EXPECT_NEAR(tally.extent->maxX, 188.3 + 180 + 18.7 / 2, 0.01);
+  EXPECT_NEAR(tally.extent->maxY, 518.7, 0.01); // the left branch bends away from this side
+
+  const Tally empty = tallyOf(planOf({"unknown"}));
+  EXPECT_FALSE(empty.extent);
+  EXPECT_EQ(empty.openEnds, 0);
+  EXPECT_EQ(tallyOf(planOf({"74861"})).openEnds, 0);
+}
+
+TEST(Tally, sortsByAnyColumn) {
+  std::vector<TallyRow> rows =
+      tallyOf(planOf({"24188", "8500", "24130", "24130", "74636T", "74636", "x1"})).rows;
+  const auto sorted = [&rows](TallyColumn column, bool ascending) {
+    sortTally(rows, column, ascending);
+    std::vector<std::string> articles;
+    for (const TallyRow& row : rows) {
+      articles.push_back(row.article);
+    }
+    return articles;
+  };
+  EXPECT_THAT(sorted(TallyColumn::Article, true),
+              ElementsAre("8500", "24130", "24188", "74636", "74636T", "x1"));
+  EXPECT_THAT(sorted(TallyColumn::Placed, false),
+              ElementsAre("24130", "8500", "24188", "74636", "74636T", "x1"));
+  EXPECT_THAT(sorted(TallyColumn::System, true),
+              ElementsAre("x1", "24130", "24188", "74636", "8500", "74636T"));
+  EXPECT_THAT(sorted(TallyColumn::Name, false),
+              ElementsAre("8500", "74636T", "74636", "24188", "24130", "x1"));
+}
+
+TEST(Tally, goesOutAsTableAndCsv) {
+  const std::vector<TallyRow> rows = tallyOf(planOf({"8500", "a\tb,\"c\"\n"})).rows;
+  const TallyHeadings headings{"S", "A", "N", "P", "O"};
+  EXPECT_EQ(tallyAsTable(rows, headings),
+            "S\tA\tN\tP\tO\n"
+            "Marklin Z-Track\t8500\t8500 Straight 110mm / 4-3/8\"\t1\t1\n"
+            "\ta b,\"c\" \t\t1\t1\n");
+  EXPECT_EQ(tallyAsCsv(rows, headings),
+            "S,A,N,P,O\r\n"
+            "Marklin Z-Track,8500,\"8500 Straight 110mm / 4-3/8\"\"\",1,1\r\n"
+            ",\"a\tb,\"\"c\"\"\n\",,1,1\r\n");
+}
+
+} // namespace
+} // namespace trassix
