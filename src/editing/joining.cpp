@@ -18,10 +18,10 @@ void writeJoint(PlacedPiece& piece, std::int32_t connector, Joint joint) {
   piece.joints[slot] = joint;
 }
 
-bool meet(const PlacedEnd& a, const PlacedEnd& b, double distance) {
-  return a.piece != b.piece && a.system == b.system && distance <= kClosingDistance &&
+bool meet(const PlacedEnd& a, const PlacedEnd& b, double distance, MeetingPlay play) {
+  return a.piece != b.piece && a.system == b.system && distance <= play.distance &&
          std::abs(a.height - b.height) <= kClosingDistance &&
-         180.0 - headingDifference(a.heading, b.heading) <= kClosingFacing;
+         180.0 - headingDifference(a.heading, b.heading) <= play.facing;
 }
 
 /// Calls `visit(piece, connector, joint)` for each joint that leads out of `pieces`.
@@ -103,7 +103,7 @@ Detachment detachmentOf(const Layout& layout, std::span<const std::int32_t> piec
   return result;
 }
 
-int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces) {
+int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces, MeetingPlay play) {
   std::vector<PlacedEnd> own;
   std::vector<PlacedEnd> others;
   std::int32_t position = 0;
@@ -125,7 +125,7 @@ int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces) {
     for (const PlacedEnd& end : ends) {
       bool near = false;
       if (end.joinedTo == -1)
-        ownGrid.visitNear(end.at, kClosingDistance, [&near](const PlacedEnd&) { near = true; });
+        ownGrid.visitNear(end.at, play.distance, [&near](const PlacedEnd&) { near = true; });
       if (near)
         others.push_back(end);
     }
@@ -136,9 +136,9 @@ int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces) {
   for (const PlacedEnd& mine : own) {
     const PlacedEnd* nearest = nullptr;
     double best = std::numeric_limits<double>::max();
-    grid.visitNear(mine.at, kClosingDistance, [&](const PlacedEnd& end) {
+    grid.visitNear(mine.at, play.distance, [&](const PlacedEnd& end) {
       const double distance = std::hypot(end.at.x - mine.at.x, end.at.y - mine.at.y);
-      if (!meet(mine, end, distance) || distance > best ||
+      if (!meet(mine, end, distance, play) || distance > best ||
           (distance == best && std::pair(nearest->position, nearest->connector) <
                                    std::pair(end.position, end.connector)))
         return;

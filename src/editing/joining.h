@@ -19,6 +19,15 @@ bool isGraded(const PlacedPiece& piece);
 /// its other ends, and falls when its grade is reversed.
 double endHeight(const PlacedPiece& piece, const PieceDef& definition, std::int32_t connector);
 
+/// How far apart ends may be that count as meeting.
+struct MeetingPlay {
+  double distance = kClosingDistance; ///< mm
+  double facing = kClosingFacing;     ///< degrees
+
+  /// For ends that must lie on each other, as those that were never apart do.
+  static MeetingPlay none() { return {0.01, 0.01}; }
+};
+
 /// Writes the joint on both pieces, lengthening their joint tables as needed; a joint that either
 /// end had before is opened first. Does nothing when a piece does not exist or an index is
 /// negative.
@@ -39,9 +48,9 @@ struct Detachment {
 Detachment detachmentOf(const Layout& layout, std::span<const std::int32_t> pieces);
 
 /// Joins each free connector of `pieces` (sorted ids) with the nearest free connector of any other
-/// piece that it meets within the closing tolerances, same system and height; of equally near ones
-/// with the first in document order. No pose changes. Returns the number of joints made.
-int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces);
+/// piece that it meets within the play, same system and height (1.0 mm); of equally near ones with
+/// the first in document order. No pose changes. Returns the number of joints made.
+int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces, MeetingPlay play = {});
 
 /// True when `id` is among the sorted ids.
 bool containsId(std::span<const std::int32_t> sortedIds, std::int32_t id);

@@ -3,6 +3,9 @@
 
 #include "document/layout.h"
 #include "editing/connector_geometry.h"
+#include "editing/end_grid.h"
+#include "editing/joining.h"
+#include "editing/rigid_motion.h"
 #include "editing/snapping.h"
 
 #include <cstdint>
@@ -26,32 +29,43 @@ class SelectionMove {
   /// Turns the group freely by `degrees` about `centre`, from where it was grasped.
   void turn(Point centre, double degrees);
 
-  /// Rigid motion since the start: a point p goes to `pose` applied to (p - anchor).
-  Point moved(Point p) const;
-  Pose moved(const Pose& pose) const;
+  /// Where a point or a piece of the group would land.
+  Point moved(Point p) const { return motion_(p); }
+  Pose moved(const Pose& pose) const { return motion_(pose); }
 
+  /// The snap, with the pose of the piece of the group that snaps; `snappingPiece` is its id.
   const std::optional<SnapResult>& snap() const { return snap_; }
+  std::int32_t snappingPiece() const { return snappingPiece_; }
   const std::vector<std::int32_t>& pieces() const { return pieces_; }
 
-  /// True when a joint between the group and the rest would open.
-  bool opensJoints() const { return opensJoints_; }
-  /// True when such a joint has a graded piece on either side: the user is asked first.
-  bool opensGradedJoints() const { return opensGradedJoints_; }
+  /// False when the group would land where it is and nothing would be joined.
+  bool changes() const;
 
-  /// Carries it out as one undo step: opens joints to the rest, moves, joins where it landed. False
-  /// and nothing changed when the group is where it was.
+  /// True when a joint between the group and the rest would open.
+  bool opensJoints() const { return detachment_.opensJoints && changes(); }
+  /// True when such a joint has a graded piece on either side: the user is asked first.
+  bool opensGradedJoints() const { return detachment_.opensGradedJoints && changes(); }
+
+  /// Carries it out as one undo step: opens joints to the rest, moves, joins where it landed. A
+  /// group that snapped takes the height of the end it snapped to, and what was on the level of the
+  /// snapping piece goes to the level of the target. False and nothing changed when the group is
+  /// where it was.
   bool commit(Layout& layout) const;
 
  private:
   const Layout& layout_;
   Point anchor_;
+  RigidMotion motion_;
   std::vector<std::int32_t> pieces_;
+  std::vector<PlacedEnd> ends_; ///< those that are free or would become so, where they are now
+  Detachment detachment_;
   std::optional<SnapResult> snap_;
-  bool opensJoints_ = false;
-  bool opensGradedJoints_ = false;
+  std::int32_t snappingPiece_ = -1;
+  double rise_ = 0; ///< mm by which the snap lifts the group
 };
 
-/// Moves the selection by (dx, dy) as one undo step, without snapping; joints to the rest open.
+/// Moves the selection by (dx, dy) as one undo step, without snapping; joints to the rest open
+/// unless their ends still lie on each other. False when nothing is selected.
 /// With `continued` the step belongs to the run of nudges before it and pushes no history of its
 /// own.
 bool nudgeSelection(Layout& layout, double dx, double dy, bool continued);

@@ -2,6 +2,7 @@
 
 #include "editing/connector_geometry.h"
 #include "editing/joining.h"
+#include "editing/rigid_motion.h"
 
 #include <algorithm>
 #include <cmath>
@@ -47,23 +48,6 @@ void addPiece(BoxBuilder& box, const PlacedPiece& piece) {
         toWorld(poseOf(piece), {0.5 * definition->length, definition->angle >= 0 ? -bow : bow}));
   }
 }
-
-struct Turn {
-  Point centre;
-  double degrees = 0;
-
-  Point operator()(Point p) const {
-    return toWorld({centre.x, centre.y, degrees}, {p.x - centre.x, p.y - centre.y});
-  }
-
-  template <class Record>
-  void apply(Record& record) const {
-    const Point at = (*this)({record.x, record.y});
-    record.x = at.x;
-    record.y = at.y;
-    record.heading = normaliseHeading(record.heading + degrees);
-  }
-};
 
 /// The piece that was dropped together with this one, as the second of a pair or the first.
 const PlacedPiece* otherOfPair(const Layout& layout, const PlacedPiece& piece) {
@@ -191,19 +175,9 @@ bool rotateSelection(Layout& layout, double degrees) {
   layout.pushHistory();
   const std::vector<std::int32_t> pieces = selectedPieces(layout);
   detach(layout, pieces);
-  const Turn turn{{(box->minX + box->maxX) / 2, (box->minY + box->maxY) / 2}, degrees};
-  PlanContent& content = layout.edit();
-  for (PlacedPiece& piece : content.pieces)
-    if (piece.sel)
-      turn.apply(piece);
-  for (SceneryItem& item : content.scenery)
-    if (item.sel)
-      turn.apply(item);
-  for (Shape& shape : content.shapes)
-    if (shape.sel)
-      for (Point& vertex : shape.points)
-        vertex = turn(vertex);
-  closeMeetingEnds(layout, pieces);
+  const Point centre{(box->minX + box->maxX) / 2, (box->minY + box->maxY) / 2};
+  moveSelectedBodies(layout.edit(), {centre, {centre.x, centre.y, degrees}});
+  closeMeetingEnds(layout, pieces, MeetingPlay::none());
   return true;
 }
 

@@ -20,7 +20,7 @@ PlacedPiece carriedPiece(const PieceDef& carried, const Pose& pose) {
   return piece;
 }
 
-double distanceBetween(Point a, const WorldConnector& b) {
+double distanceBetween(Point a, Point b) {
   return std::hypot(a.x - b.x, a.y - b.y);
 }
 
@@ -54,7 +54,7 @@ SnapResult FindSnap(const PieceDef& carried, const Pose& pose,
       if (end.joinedTo != -1)
         continue;
       for (std::size_t i = 0; i < own.size(); ++i) {
-        const double distance = distanceBetween(end.at, own[i]);
+        const double distance = distanceBetween(end.at, {own[i].x, own[i].y});
         if (carried.connectorSystem(i) == end.system && withinReach(distance) &&
             mayFace(end.heading, own[i].heading) && distance < best.distance)
           best = snapOnto(carried, own[i].index, end, distance);
@@ -75,7 +75,8 @@ std::optional<IncompatibleContact> FindIncompatibleContact(const PieceDef& carri
     for (const PlacedEnd& end : ends)
       for (std::size_t i = 0; i < own.size(); ++i)
         if (carried.connectorSystem(i) != end.system &&
-            withinReach(distanceBetween(end.at, own[i])) && mayFace(end.heading, own[i].heading))
+            withinReach(distanceBetween(end.at, {own[i].x, own[i].y})) &&
+            mayFace(end.heading, own[i].heading))
           return IncompatibleContact{carried.connectorSystem(i), end.system};
   }
   return std::nullopt;
@@ -99,31 +100,48 @@ std::uint64_t SnapIndex::revision() const {
   return data_->revision;
 }
 
-SnapResult SnapIndex::findSnap(const PieceDef& carried, const Pose& pose,
-                               std::span<const std::int32_t> ignored) const {
-  const auto own = WorldConnectorsOf(carriedPiece(carried, pose), carried);
+SnapResult SnapIndex::findSnap(const PieceDef& carried, const Pose& pose) const {
+  std::vector<PlacedEnd> own;
+  for (const WorldConnector& end : WorldConnectorsOf(carriedPiece(carried, pose), carried)) {
+    PlacedEnd mine;
+    mine.at = {end.x, end.y};
+    mine.heading = end.heading;
+    mine.system = carried.connectorSystem(static_cast<std::size_t>(end.index));
+    mine.connector = end.index;
+    own.push_back(mine);
+  }
+  const auto contact = findGroupSnap(own, {});
+  return contact ? snapOnto(carried, contact->own.connector, contact->target, contact->distance)
+                 : SnapResult{};
+}
+
+std::optional<EndContact> SnapIndex::findGroupSnap(std::span<const PlacedEnd> ends,
+                                                   std::span<const std::int32_t> group) const {
   const PlacedEnd* target = nullptr;
-  std::int32_t connector = -1;
+  const PlacedEnd* own = nullptr;
   double best = std::numeric_limits<double>::max();
-  for (const WorldConnector& mine : own) {
-    const TrackSystem system = carried.connectorSystem(static_cast<std::size_t>(mine.index));
-    data_->grid.visitNear({mine.x, mine.y}, kSnapDistance, [&](const PlacedEnd& end) {
-      if (end.joinedTo != -1 || !end.visible || end.system != system)
+  for (const PlacedEnd& mine : ends) {
+    data_->grid.visitNear(mine.at, kSnapDistance, [&](const PlacedEnd& end) {
+      if (!end.visible || end.system != mine.system ||
+          (end.joinedTo != -1 && !containsId(group, end.joinedTo)))
         return;
-      const double distance = distanceBetween(end.at, mine);
+      const double distance = distanceBetween(end.at, mine.at);
       if (!withinReach(distance) || distance > best || !mayFace(end.heading, mine.heading) ||
-          containsId(ignored, end.piece))
+          containsId(group, end.piece))
         return;
       // Of equal distances the pair that the plain loops meet first wins.
-      if (distance == best && std::tie(target->position, target->connector, connector) <
-                                  std::tie(end.position, end.connector, mine.index))
+      if (distance == best &&
+          std::tie(target->position, target->connector, own->position, own->connector) <
+              std::tie(end.position, end.connector, mine.position, mine.connector))
         return;
       target = &end;
-      connector = mine.index;
+      own = &mine;
       best = distance;
     });
   }
-  return target == nullptr ? SnapResult{} : snapOnto(carried, connector, *target, best);
+  if (target == nullptr)
+    return std::nullopt;
+  return EndContact{*own, *target, best};
 }
 
 std::optional<IncompatibleContact> SnapIndex::findIncompatibleContact(const PieceDef& carried,
@@ -134,7 +152,7 @@ std::optional<IncompatibleContact> SnapIndex::findIncompatibleContact(const Piec
   for (const WorldConnector& mine : own) {
     const TrackSystem system = carried.connectorSystem(static_cast<std::size_t>(mine.index));
     data_->grid.visitNear({mine.x, mine.y}, kSnapDistance, [&](const PlacedEnd& end) {
-      if (end.system == system || !withinReach(distanceBetween(end.at, mine)) ||
+      if (end.system == system || !withinReach(distanceBetween(end.at, {mine.x, mine.y})) ||
           !mayFace(end.heading, mine.heading))
         return;
       if (other != nullptr && std::tie(other->position, other->connector, connector) <

@@ -4,6 +4,7 @@
 #include "catalog/piece_def.h"
 #include "document/layout.h"
 #include "editing/connector_geometry.h"
+#include "editing/end_grid.h"
 
 #include <memory>
 #include <optional>
@@ -32,6 +33,13 @@ struct SnapResult {
 SnapResult FindSnap(const PieceDef& carried, const Pose& pose,
                     std::span<const PlacedPiece> candidates);
 
+/// Two ends that would join.
+struct EndContact {
+  PlacedEnd own;
+  PlacedEnd target;
+  double distance = 0; ///< mm between them
+};
+
 struct IncompatibleContact {
   TrackSystem carried = TrackSystem::CTrack;
   TrackSystem other = TrackSystem::CTrack;
@@ -58,10 +66,14 @@ class SnapIndex {
 
   std::uint64_t revision() const;
 
-  /// Ends of pieces whose id is in `ignored` (sorted) attract nothing: never snap to what is
-  /// dragged.
-  SnapResult findSnap(const PieceDef& carried, const Pose& pose,
-                      std::span<const std::int32_t> ignored = {}) const;
+  SnapResult findSnap(const PieceDef& carried, const Pose& pose) const;
+
+  /// The same search for the ends of a group of pieces that is being moved, given where they would
+  /// be: never to the group's own ends (`group`: sorted ids), while an end of the rest that is
+  /// joined to the group counts as free, because the move opens it.
+  std::optional<EndContact> findGroupSnap(std::span<const PlacedEnd> ends,
+                                          std::span<const std::int32_t> group) const;
+
   std::optional<IncompatibleContact> findIncompatibleContact(const PieceDef& carried,
                                                              const Pose& pose) const;
 
