@@ -1,8 +1,9 @@
 #include "ui/canvas_panel.h"
 
+#include "ui/command_ids.h"
 #include "ui/gc_surface.h"
 
-#include <wx/dcclient.h>
+#include <wx/dcbuffer.h>
 #include <wx/dcmemory.h>
 #include <wx/graphics.h>
 
@@ -89,6 +90,16 @@ CanvasPanel::CanvasPanel(wxWindow* parent, LayoutHost& host)
   Bind(wxEVT_KEY_UP, &CanvasPanel::onKeyUp, this);
   Bind(wxEVT_MOUSE_CAPTURE_LOST, &CanvasPanel::onCaptureLost, this);
   Bind(wxEVT_SIZE, &CanvasPanel::onSize, this);
+  wxAcceleratorEntry entries[] = {{wxACCEL_NORMAL, WXK_DELETE, kDeleteSelection},
+                                  {wxACCEL_NORMAL, WXK_BACK, kDeleteSelection}};
+  SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(std::size(entries)), entries));
+  Bind(
+      wxEVT_MENU,
+      [this](wxCommandEvent& event) {
+        // A polygon under way takes its last point back instead.
+        event.Skip(!canvas_.key({Key::Backspace}));
+      },
+      kDeleteSelection);
   Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
     canvas_.setSpace(false);
     event.Skip();
@@ -192,7 +203,9 @@ void CanvasPanel::onKeyUp(wxKeyEvent& event) {
     event.Skip();
 }
 
-void CanvasPanel::onCaptureLost(wxMouseCaptureLostEvent&) { canvas_.cancel(); }
+void CanvasPanel::onCaptureLost(wxMouseCaptureLostEvent&) {
+  canvas_.cancel();
+}
 
 void CanvasPanel::onSize(wxSizeEvent& event) {
   const wxSize size = GetClientSize();
@@ -201,7 +214,7 @@ void CanvasPanel::onSize(wxSizeEvent& event) {
   event.Skip();
 }
 
-void CanvasPanel::renewPicture(wxDC&) {
+void CanvasPanel::renewPicture() {
   const wxSize size = GetClientSize();
   const double scale = GetContentScaleFactor();
   const std::uint64_t stamp = canvas_.planStamp();
@@ -218,11 +231,11 @@ void CanvasPanel::renewPicture(wxDC&) {
 }
 
 void CanvasPanel::onPaint(wxPaintEvent&) {
-  wxPaintDC dc(this);
+  wxAutoBufferedPaintDC dc(this);
   const wxSize size = GetClientSize();
   if (size.x <= 0 || size.y <= 0)
     return;
-  renewPicture(dc);
+  renewPicture();
   dc.DrawBitmap(picture_, 0, 0);
   const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
   GcSurface surface(*context);

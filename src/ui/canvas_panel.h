@@ -7,11 +7,11 @@
 
 namespace trassix {
 
-/// The plan in the middle of the main window: turns the toolkit's events into plain input for `Canvas`
-/// and shows what it draws. The plan itself is kept as a picture, so that carrying something over a large
-/// plan repaints only what moves.
+/// The plan in the middle of the main window: turns the toolkit's events into plain input for
+/// `Canvas` and shows what it draws. The plan itself is kept as a picture, so that carrying
+/// something over a large plan repaints only what moves.
 class CanvasPanel : public wxPanel {
-public:
+ public:
   CanvasPanel(wxWindow* parent, LayoutHost& host);
 
   Canvas& canvas() { return canvas_; }
@@ -25,7 +25,7 @@ public:
   void pickUpPiece(std::string_view article);
   void dragScenery(std::string_view key);
 
-private:
+ private:
   PointerInput inputOf(const wxMouseEvent& event) const;
   PointerInput inputAt(wxPoint px) const;
   void onPaint(wxPaintEvent& event);
@@ -36,7 +36,7 @@ private:
   void onCaptureLost(wxMouseCaptureLostEvent& event);
   void onSize(wxSizeEvent& event);
   void syncCapture();
-  void renewPicture(wxDC& dc);
+  void renewPicture();
 
   Canvas canvas_;
   wxBitmap picture_;

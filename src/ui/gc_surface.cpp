@@ -6,7 +6,9 @@ namespace trassix {
 
 namespace {
 
-wxColour colour(Rgba c) { return {c.r, c.g, c.b, c.a}; }
+wxColour colour(Rgba c) {
+  return {c.r, c.g, c.b, c.a};
+}
 
 wxGraphicsPenInfo penInfo(const Stroke& stroke) {
   wxGraphicsPenInfo info(colour(stroke.color), stroke.width);
@@ -17,7 +19,9 @@ wxGraphicsPenInfo penInfo(const Stroke& stroke) {
   return info.Cap(wxCAP_BUTT).Join(wxJOIN_ROUND);
 }
 
-wxString toText(std::string_view utf8) { return wxString::FromUTF8(utf8.data(), utf8.size()); }
+wxString toText(std::string_view utf8) {
+  return wxString::FromUTF8(utf8.data(), utf8.size());
+}
 
 } // namespace
 

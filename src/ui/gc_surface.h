@@ -12,7 +12,7 @@ namespace trassix {
 
 /// Draws on a toolkit graphics context, with anti-aliasing and in fractions of pixels.
 class GcSurface : public Surface {
-public:
+ public:
   /// Does not own the context, which must outlive the surface.
   explicit GcSurface(wxGraphicsContext& context) : context_(context) {}
 
@@ -25,7 +25,7 @@ public:
   void text(std::string_view text, Point centre, double degrees, const TextStyle& style) override;
   SizePx textSize(std::string_view text, const TextStyle& style) override;
 
-private:
+ private:
   void usePen(const std::optional<Stroke>& stroke);
   void useBrush(const std::optional<Rgba>& fill);
   void useFont(const TextStyle& style);

@@ -183,9 +183,13 @@ void MainFrame::refreshTitle() {
 
 void MainFrame::tellAll() {
   canvas_->update();
+  refreshProperties();
+  showPieceCount();
+}
+
+void MainFrame::refreshProperties() {
   if (properties_)
     properties_->recompute();
-  showPieceCount();
 }
 
 void MainFrame::changed() {

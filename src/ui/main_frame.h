@@ -29,6 +29,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   CanvasPanel& canvasPanel() { return *canvas_; }
   PropertiesPanel* propertiesPanel() { return properties_; }
   bool dirty() const { return dirty_; }
+  void refreshProperties();
 
   /// Opens a plan file in place of the present one; false, after telling why, when it cannot be
   /// read.

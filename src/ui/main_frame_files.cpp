@@ -59,10 +59,8 @@ void MainFrame::newLayout() {
   canvas_->canvas().documentReplaced();
   canvas_->canvas().resetView();
   canvas_->update();
-  if (properties_) {
-    properties_->selectionChanged();
-    properties_->recompute();
-  }
+  selectionChanged();
+  refreshProperties();
   SetStatusText(_("Ready"), 0);
   showPieceCount();
 }
@@ -88,10 +86,8 @@ bool MainFrame::loadLayout(const std::filesystem::path& path) {
   else
     canvas_->canvas().fit();
   canvas_->update();
-  if (properties_) {
-    properties_->selectionChanged();
-    properties_->recompute();
-  }
+  selectionChanged();
+  refreshProperties();
   if (!layout_.pieces().empty())
     if (const PieceDef* first = TrackCatalog::instance().find(layout_.pieces().front().cat))
       palette_->showSystem(first->system);
