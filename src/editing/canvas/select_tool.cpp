@@ -160,6 +160,14 @@ bool SelectTool::wheel(const PointerInput& input, int direction) {
   return true;
 }
 
+bool SelectTool::mayLeave(Point step) {
+  SelectionMove move(site_.layout(), {});
+  move.update(step, false, site_.snapIndex());
+  return !move.opensGradedJoints() ||
+         site_.host.confirm(
+             {"Move", "This takes the selection apart from graded track. Go on?", false, true});
+}
+
 bool SelectTool::nudge(const KeyInput& input) {
   Point step;
   switch (input.key) {
@@ -186,11 +194,9 @@ bool SelectTool::nudge(const KeyInput& input) {
     return true;
   }
   const bool continued = nudgedTo_ == layout.revision();
-  if (!continued && SelectionMove(layout, {}).opensGradedJoints() &&
-      !site_.host.confirm({"Move", "This takes the selection apart from graded track. Go on?",
-                           false, true}))
-    return true;
   const double length = input.shift ? kFineNudge : kNudge;
+  if (!continued && !mayLeave({step.x * length, step.y * length}))
+    return true;
   if (nudgeSelection(layout, step.x * length, step.y * length, continued)) {
     nudgedTo_ = layout.revision();
     site_.host.changed();

@@ -35,6 +35,8 @@ private:
   void select(const Pick& pick);
   void startGesture(const PointerInput& input);
   bool nudge(const KeyInput& input);
+  /// Asks before the selection, going by `step`, leaves graded track.
+  bool mayLeave(Point step);
   void report(const EditResult& result);
   void paintHover(Surface& surface) const;
 
