@@ -10,7 +10,7 @@ namespace trassix {
 namespace {
 
 constexpr double kTolerancePx = 4;
-constexpr double kLabelCharPx = 8;    ///< mean advance of the label font
+constexpr double kLabelCharPx = 8; ///< mean advance of the label font
 constexpr double kLabelHalfHeightPx = 11;
 
 bool inside(const std::vector<Point>& polygon, Point at) {
@@ -50,15 +50,16 @@ bool inBox(const Box& box, const std::vector<Point>& polygon, bool whole) {
   const auto in = [&box](Point p) { return holds(box, p); };
   if (whole)
     return std::all_of(polygon.begin(), polygon.end(), in);
-  // Touching is generous for areas: a vertex in the box, a corner of the box in the area, or edges that
-  // pass through the middle of the box.
-  return std::any_of(polygon.begin(), polygon.end(), in) ||
-         inside(polygon, {box.minX, box.minY}) || inside(polygon, {box.maxX, box.maxY}) ||
+  // Touching is generous for areas: a vertex in the box, a corner of the box in the area, or edges
+  // that pass through the middle of the box.
+  return std::any_of(polygon.begin(), polygon.end(), in) || inside(polygon, {box.minX, box.minY}) ||
+         inside(polygon, {box.maxX, box.maxY}) ||
          nearOutline(polygon, {(box.minX + box.maxX) / 2, (box.minY + box.maxY) / 2},
                      std::min(box.maxX - box.minX, box.maxY - box.minY) / 2);
 }
 
-template <typename Records> auto* findRecord(Records& records, std::int32_t id) {
+template <typename Records>
+auto* findRecord(Records& records, std::int32_t id) {
   const auto found = std::find_if(records.begin(), records.end(),
                                   [id](const auto& record) { return record.id == id; });
   return found == records.end() ? nullptr : &*found;
@@ -109,8 +110,7 @@ std::vector<Pick> picksAt(const Layout& layout, const PlanIndex& index, Point at
   for (auto shape = content.shapes.rbegin(); shape != content.shapes.rend(); ++shape) {
     if (!layout.levelVisible(shape->level) || shape->points.size() < 2)
       continue;
-    if (nearOutline(shape->points, at, tolerance) ||
-        (!shape->outline && inside(shape->points, at)))
+    if (nearOutline(shape->points, at, tolerance) || (!shape->outline && inside(shape->points, at)))
       picks.push_back({RecordKind::Shape, shape->id});
   }
   return picks;

@@ -3,10 +3,13 @@
 #include "catalog/compatibility.h"
 #include "catalog/track_catalog.h"
 #include "editing/joining.h"
+#include "editing/scenery_footprint.h"
 #include "editing/selection.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <limits>
 #include <string>
 
 namespace trassix {
@@ -16,6 +19,11 @@ namespace {
 constexpr std::string_view kTurntable = "74861";
 constexpr std::string_view kTurntableTrack = "74871";
 constexpr std::array<std::int32_t, 5> kTurntableTrackEnds{29, 1, 14, 15, 16};
+
+constexpr std::string_view kRoundhouse = "72886";
+constexpr double kRoundhouseReach = 700.0; // mm, exclusive
+constexpr double kRoundhousePitch = 12.0;  // degrees between the turntable's tracks
+constexpr double kRoundhouseFront = 349.6; // mm from the turntable's centre to the doors
 
 bool hasEnd(const PieceDef& definition, std::int32_t connector) {
   return connector >= 0 && static_cast<std::size_t>(connector) < definition.connectors.size();
@@ -123,6 +131,26 @@ EditResult extend(Layout& layout, std::int32_t from, std::int32_t connector,
   return finish(layout, std::move(placed));
 }
 
+/// The roundhouse's doors look at the nearest turntable, on one of its tracks' directions.
+Pose seatedRoundhouse(const Layout& layout, const Footprint& size, const Pose& drop) {
+  const SceneryItem* turntable = nullptr;
+  double nearest = std::numeric_limits<double>::max();
+  for (const SceneryItem& item : layout.content().scenery) {
+    const double distance = std::hypot(item.x - drop.x, item.y - drop.y);
+    if (item.item == kTurntable && distance < nearest) {
+      nearest = distance;
+      turntable = &item;
+    }
+  }
+  if (turntable == nullptr || nearest >= kRoundhouseReach)
+    return drop;
+  const double heading =
+      normaliseHeading(std::round(drop.heading / kRoundhousePitch) * kRoundhousePitch);
+  const Point at =
+      toWorld({turntable->x, turntable->y, heading}, {0, 0.5 * size.depth + kRoundhouseFront});
+  return {at.x, at.y, heading};
+}
+
 } // namespace
 
 std::int32_t dropLevel(const Layout& layout) {
@@ -196,6 +224,28 @@ EditResult extendSelected(Layout& layout, std::string_view article) {
     if (hasEnd(*sourceDefinition, connector) && openAt(source, connector))
       return extend(layout, source.id, connector, *definition, true);
   return {};
+}
+
+EditResult dropScenery(Layout& layout, std::string_view key, const Pose& pose) {
+  const SceneryDef* definition = findScenery(key);
+  if (definition == nullptr)
+    return {};
+  layout.pushHistory();
+  layout.ensureLevel();
+  const Pose at = key == kRoundhouse
+                      ? seatedRoundhouse(layout, definition->footprint(planSystem(layout)), pose)
+                      : pose;
+  SceneryItem item;
+  item.id = layout.takeId();
+  item.item = key;
+  item.x = at.x;
+  item.y = at.y;
+  item.heading = at.heading;
+  item.level = dropLevel(layout);
+  item.sel = true;
+  layout.clearSelection();
+  layout.edit().scenery.push_back(item);
+  return {{item.id}, std::nullopt};
 }
 
 bool wantsSmallTrackView(const Layout& layout) {

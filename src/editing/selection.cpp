@@ -3,6 +3,7 @@
 #include "editing/connector_geometry.h"
 #include "editing/joining.h"
 #include "editing/rigid_motion.h"
+#include "editing/scenery_footprint.h"
 
 #include <algorithm>
 #include <cmath>
@@ -47,6 +48,15 @@ void addPiece(BoxBuilder& box, const PlacedPiece& piece) {
     box.add(
         toWorld(poseOf(piece), {0.5 * definition->length, definition->angle >= 0 ? -bow : bow}));
   }
+}
+
+/// The footprint counts unturned; an item that the catalogue does not know is a point.
+void addScenery(BoxBuilder& box, const Layout& layout, const SceneryItem& item) {
+  Footprint size{};
+  if (findScenery(item.item) != nullptr)
+    size = sceneryFootprint(layout, item);
+  box.add({item.x - size.width / 2, item.y - size.depth / 2});
+  box.add({item.x + size.width / 2, item.y + size.depth / 2});
 }
 
 /// The piece that was dropped together with this one, as the second of a pair or the first.
@@ -160,7 +170,7 @@ std::optional<Box> selectionBox(const Layout& layout) {
       addPiece(box, piece);
   for (const SceneryItem& item : layout.content().scenery)
     if (item.sel)
-      box.add({item.x, item.y});
+      addScenery(box, layout, item);
   for (const Shape& shape : layout.content().shapes)
     if (shape.sel)
       for (const Point& vertex : shape.points)

@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 namespace trassix {
 namespace {
 
@@ -144,6 +146,37 @@ TEST(Dropping, TheLastPieceOfACircleClosesIt) {
   ramp.layout.editPiece(pieceAt(ramp.layout, 0).id)->z = 1.1;
   ramp.extend("24130");
   EXPECT_EQ(openEnds(ramp.layout), 2);
+}
+
+TEST(Dropping, TheRoundhouseSeatsItselfAtATurntable) {
+  const struct {
+    Pose drop;
+    bool seated;
+    double heading;
+  } cases[] = {
+      {{699.9, 0, 50}, true, 48},
+      {{0, 100, 54}, true, 60},
+      {{0, -300, 355}, true, 0},
+      {{700, 0, 50}, false, 50},
+  };
+  for (const auto& c : cases) {
+    Layout layout;
+    dropScenery(layout, "74861", {5000, 0, 0});
+    dropScenery(layout, "74861", {0, 0, 0});
+    const EditResult result = dropScenery(layout, "72886", c.drop);
+    const SceneryItem& house = layout.content().scenery.back();
+    EXPECT_EQ(result.placed, std::vector<std::int32_t>{house.id});
+    EXPECT_TRUE(house.sel && !layout.content().scenery[1].sel);
+    const double distance = c.seated ? 346.0 / 2 + 349.6 : c.drop.x;
+    EXPECT_NEAR(house.heading, c.heading, 1e-9);
+    EXPECT_NEAR(std::hypot(house.x, house.y), distance, 1e-9);
+    EXPECT_NEAR(house.x, c.seated ? -std::sin(toRadians(c.heading)) * distance : 700, 1e-9);
+    layout.undo();
+    EXPECT_EQ(layout.content().scenery.size(), 2u);
+  }
+  Layout layout;
+  EXPECT_FALSE(dropScenery(layout, "no such item", {}).changed());
+  EXPECT_FALSE(layout.canUndo());
 }
 
 TEST(Extending, ClonesAtTheOpenEnd) {

@@ -1,4 +1,5 @@
 #include "editing/connector_geometry.h"
+#include "editing/placing.h"
 #include "editing/selection.h"
 #include "support/plan.h"
 
@@ -52,6 +53,14 @@ TEST(Selection, BoxTakesInEndsAndApexes) {
   EXPECT_NEAR(box->maxY, 360 * (1 - std::cos(toRadians(30))), 1e-9);
   plan.layout.clearSelection();
   EXPECT_FALSE(selectionBox(plan.layout));
+
+  // Scenery by its scaled footprint, unturned; as a point when nobody knows its size.
+  Layout scenery;
+  dropScenery(scenery, "72886", {100, 200, 90});
+  scenery.edit().scenery[0].scalex = 2;
+  EXPECT_EQ(selectionBox(scenery), (Box{100 - 368, 200 - 173, 100 + 368, 200 + 173}));
+  scenery.edit().scenery[0].item = "unknown";
+  EXPECT_EQ(selectionBox(scenery), (Box{100, 200, 100, 200}));
 }
 
 TEST(Selection, ChainFollowsJointsOnly) {
