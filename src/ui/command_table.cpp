@@ -4,6 +4,7 @@
 #include "ui/command_ids.h"
 #include "ui/main_frame.h"
 
+#include <wx/accel.h>
 #include <wx/menu.h>
 #include <wx/toolbar.h>
 
@@ -15,6 +16,7 @@ namespace trassix {
 namespace {
 
 using Kind = Command::Kind;
+using Hand = Command::Hand;
 
 bool somethingToUndo(const Layout& layout) {
   return layout.canUndo();
@@ -26,54 +28,60 @@ bool somethingSelected(const Layout& layout) {
   return hasSelection(layout);
 }
 
-constexpr const char* kLater = wxTRANSLATE("Not available in this version");
-
 // clang-format off
 const Command kCommands[] = {
-    // id, menu text, tool label, tip, kind, enabled, action
-    {wxID_NEW, wxTRANSLATE("&New Layout\tCtrl+N"), nullptr, wxTRANSLATE("Start an empty plan"), Kind::Normal, nullptr, &MainFrame::newLayout},
-    {wxID_OPEN, wxTRANSLATE("&Open Layout...\tCtrl+O"), nullptr, wxTRANSLATE("Open a saved plan"), Kind::Normal, nullptr, &MainFrame::openLayout},
-    {wxID_SAVE, wxTRANSLATE("&Save\tCtrl+S"), nullptr, wxTRANSLATE("Save the plan"), Kind::Normal, nullptr, &MainFrame::save},
-    {wxID_SAVEAS, wxTRANSLATE("Save &As...\tCtrl+Shift+S"), nullptr, wxTRANSLATE("Save the plan under another name"), Kind::Normal, nullptr, &MainFrame::saveAs},
-    {kImportLayout, wxTRANSLATE("&Import Layout..."), nullptr, wxTRANSLATE("Copy a plan from another folder to your plans"), Kind::Normal, nullptr, nullptr},
-    {kExportLayout, wxTRANSLATE("&Export Layout..."), nullptr, wxTRANSLATE("Copy one of your plans to another folder"), Kind::Normal, nullptr, nullptr},
-    {wxID_CLOSE, wxTRANSLATE("&Close Layout\tCtrl+W"), nullptr, wxTRANSLATE("Close the plan"), Kind::Normal, nullptr, &MainFrame::newLayout},
-    {wxID_PAGE_SETUP, wxTRANSLATE("Page Set&up..."), nullptr, wxTRANSLATE("Paper and margins"), Kind::Normal, nullptr, &MainFrame::pageSetup},
-    {wxID_PREVIEW, wxTRANSLATE("Print Pre&view..."), nullptr, kLater, Kind::Normal, nullptr, nullptr},
-    {wxID_PRINT, wxTRANSLATE("&Print...\tCtrl+P"), nullptr, kLater, Kind::Normal, nullptr, nullptr},
-    {kSaveBlock, wxTRANSLATE("Save as &Library Block..."), nullptr, wxTRANSLATE("Keep the selected track for use in other plans"), Kind::Normal, nullptr, nullptr},
-    {wxID_EXIT, wxTRANSLATE("E&xit"), nullptr, wxTRANSLATE("End the program"), Kind::Normal, nullptr, &MainFrame::exit},
-    {kUndo, wxTRANSLATE("&Undo\tCtrl+Z"), wxTRANSLATE("Undo"), wxTRANSLATE("Take the last change back"), Kind::Normal, somethingToUndo, &MainFrame::undo},
-    {kRedo, wxTRANSLATE("&Redo\tCtrl+Y"), wxTRANSLATE("Redo"), wxTRANSLATE("Do again what was taken back"), Kind::Normal, somethingToRedo, &MainFrame::redo},
-    {kDeleteSelection, wxTRANSLATE("&Delete\tDel"), nullptr, wxTRANSLATE("Remove what is selected"), Kind::Normal, somethingSelected, &MainFrame::deleteSelection},
-    {kSelectAll, wxTRANSLATE("Select &All\tCtrl+A"), nullptr, wxTRANSLATE("Select everything that is visible"), Kind::Normal, nullptr, &MainFrame::selectEverything},
-    {kZoomIn, wxTRANSLATE("Zoom &In\t+"), nullptr, wxTRANSLATE("Show the plan larger"), Kind::Normal, nullptr, &MainFrame::zoomIn},
-    {kZoomOut, wxTRANSLATE("Zoom &Out\t-"), nullptr, wxTRANSLATE("Show the plan smaller"), Kind::Normal, nullptr, &MainFrame::zoomOut},
-    {kZoomFit, wxTRANSLATE("Zoom to &Fit\tCtrl+0"), wxTRANSLATE("Fit"), wxTRANSLATE("Show the whole plan"), Kind::Normal, nullptr, &MainFrame::zoomToFit},
-    {kShowGrid, wxTRANSLATE("Show &Grid\tCtrl+G"), nullptr, wxTRANSLATE("Grid lines behind the plan"), Kind::Check, nullptr, &MainFrame::toggleGrid},
-    {kSnap, wxTRANSLATE("&Snap\tCtrl+Shift+G"), nullptr, wxTRANSLATE("Track ends snap to each other"), Kind::Check, nullptr, &MainFrame::toggleSnap},
-    {kShowRails, wxTRANSLATE("Show &Rails"), nullptr, wxTRANSLATE("Draw rails and sleepers"), Kind::Check, nullptr, &MainFrame::toggleRails},
-    {kUnitsMm, wxTRANSLATE("Millimetres (mm)"), nullptr, wxTRANSLATE("Show lengths in millimetres"), Kind::Radio, nullptr, &MainFrame::unitsMm},
-    {kUnitsCm, wxTRANSLATE("Centimetres (cm)"), nullptr, wxTRANSLATE("Show lengths in centimetres"), Kind::Radio, nullptr, &MainFrame::unitsCm},
-    {kUnitsInch, wxTRANSLATE("Inches (in)"), nullptr, wxTRANSLATE("Show lengths in inches"), Kind::Radio, nullptr, &MainFrame::unitsInch},
-    {kLayoutShape, wxTRANSLATE("Layout &Shape..."), nullptr, kLater, Kind::Normal, nullptr, nullptr},
-    {kLayoutWizard, wxTRANSLATE("Layout &Wizard (Experimental)..."), nullptr, kLater, Kind::Normal, nullptr, nullptr},
-    {kBridgeWizard, wxTRANSLATE("&Bridge Wizard (Experimental)..."), nullptr, kLater, Kind::Normal, nullptr, nullptr},
-    {kHelp, wxTRANSLATE("&Help\tF1"), nullptr, wxTRANSLATE("How to use the program"), Kind::Normal, nullptr, nullptr},
-    {kLayoutWizardHelp, wxTRANSLATE("Layout &Wizard Help"), nullptr, kLater, Kind::Normal, nullptr, nullptr},
-    {kOptions, wxTRANSLATE("&Options..."), nullptr, wxTRANSLATE("Playful or businesslike"), Kind::Normal, nullptr, &MainFrame::options},
-    {kLevels, nullptr, wxTRANSLATE("Levels"), wxTRANSLATE("Manage layout levels (decks): height, color, and shape"), Kind::Normal, nullptr, nullptr},
-    {kView3D, nullptr, wxTRANSLATE("3D View"), kLater, Kind::Normal, nullptr, nullptr},
-    {kHideLabels, nullptr, wxTRANSLATE("Hide Labels"), wxTRANSLATE("Toggle track labels and join dots"), Kind::Check, nullptr, &MainFrame::toggleLabels},
-    {kTunnel, nullptr, wxTRANSLATE("Tunnel"), wxTRANSLATE("Place tunnel portals on the selected chain (or remove if already in a tunnel)"), Kind::Normal, nullptr, nullptr},
-    {kMeasure, nullptr, wxTRANSLATE("Measure"), wxTRANSLATE("Measuring tape: click two points on the canvas to lay down a length annotation"), Kind::Check, nullptr, &MainFrame::toggleMeasure},
-    {kPolygon, nullptr, wxTRANSLATE("Polygon"), wxTRANSLATE("Draw a free-form polygon (access hatch, river, mountain, etc.)"), Kind::Check, nullptr, &MainFrame::togglePolygon},
-    {kRectangle, nullptr, wxTRANSLATE("Rectangle"), wxTRANSLATE("Place a rectangle of an exact size -- easier than drawing one by hand"), Kind::Normal, nullptr, nullptr},
-    {kElevation, nullptr, wxTRANSLATE("Elevation"), wxTRANSLATE("Open the Elevation Wizard to set up track grades and inclines"), Kind::Normal, nullptr, nullptr},
-    {kValidate, nullptr, nullptr, nullptr, Kind::Normal, nullptr, &MainFrame::validate},
-    {kProperties, nullptr, nullptr, nullptr, Kind::Normal, nullptr, &MainFrame::layoutProperties},
+    // id, menu text, menu help, tool label, tool tip, kind, hand, enabled, action
+    {wxID_NEW, wxTRANSLATE("&New Layout\tCtrl+N"), wxTRANSLATE("Start an empty plan"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::newLayout},
+    {wxID_OPEN, wxTRANSLATE("&Open Layout...\tCtrl+O"), wxTRANSLATE("Open a saved plan"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::openLayout},
+    {wxID_SAVE, wxTRANSLATE("&Save\tCtrl+S"), wxTRANSLATE("Save the plan"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::save},
+    {wxID_SAVEAS, wxTRANSLATE("Save &As...\tCtrl+Shift+S"), wxTRANSLATE("Save the plan under another name"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::saveAs},
+    {kImportLayout, wxTRANSLATE("&Import Layout..."), wxTRANSLATE("Copy a plan from another folder to your plans"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::importLayout},
+    {kExportLayout, wxTRANSLATE("&Export Layout..."), wxTRANSLATE("Copy one of your plans to another folder"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::exportLayout},
+    {wxID_CLOSE, wxTRANSLATE("&Close Layout\tCtrl+W"), wxTRANSLATE("Close the plan"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::newLayout},
+    {wxID_PAGE_SETUP, wxTRANSLATE("Page Set&up..."), wxTRANSLATE("Paper and margins"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::pageSetup},
+    {wxID_PREVIEW, wxTRANSLATE("Print Pre&view..."), wxTRANSLATE("See the plan as it would be printed"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {wxID_PRINT, wxTRANSLATE("&Print...\tCtrl+P"), wxTRANSLATE("Print the plan to scale"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {kSaveBlock, wxTRANSLATE("Save as &Library Block..."), wxTRANSLATE("Keep the selected track for use in other plans"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::saveBlock},
+    {wxID_EXIT, wxTRANSLATE("E&xit"), wxTRANSLATE("End the program"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::exit},
+    {kUndo, wxTRANSLATE("&Undo\tCtrl+Z"), wxTRANSLATE("Take the last change back"), wxTRANSLATE("Undo"), nullptr, Kind::Normal, Hand::Empties, somethingToUndo, &MainFrame::undo},
+    {kRedo, wxTRANSLATE("&Redo\tCtrl+Y"), wxTRANSLATE("Do again what was taken back"), wxTRANSLATE("Redo"), nullptr, Kind::Normal, Hand::Empties, somethingToRedo, &MainFrame::redo},
+    {kDeleteSelection, wxTRANSLATE("&Delete\tDel"), wxTRANSLATE("Remove what is selected"), nullptr, nullptr, Kind::Normal, Hand::Empties, somethingSelected, &MainFrame::deleteSelection},
+    {kSelectAll, wxTRANSLATE("Select &All\tCtrl+A"), wxTRANSLATE("Select everything that is visible"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::selectEverything},
+    {kZoomIn, wxTRANSLATE("Zoom &In\t+"), wxTRANSLATE("Show the plan larger"), nullptr, nullptr, Kind::Normal, Hand::Keeps, nullptr, &MainFrame::zoomIn},
+    {kZoomOut, wxTRANSLATE("Zoom &Out\t-"), wxTRANSLATE("Show the plan smaller"), nullptr, nullptr, Kind::Normal, Hand::Keeps, nullptr, &MainFrame::zoomOut},
+    {kZoomFit, wxTRANSLATE("Zoom to &Fit\tCtrl+0"), wxTRANSLATE("Show the whole plan"), wxTRANSLATE("Fit"), nullptr, Kind::Normal, Hand::Keeps, nullptr, &MainFrame::zoomToFit},
+    {kShowGrid, wxTRANSLATE("Show &Grid\tCtrl+G"), wxTRANSLATE("Grid lines behind the plan"), nullptr, nullptr, Kind::Check, Hand::Keeps, nullptr, &MainFrame::toggleGrid},
+    {kSnap, wxTRANSLATE("&Snap\tCtrl+Shift+G"), wxTRANSLATE("Track ends snap to each other"), nullptr, nullptr, Kind::Check, Hand::Keeps, nullptr, &MainFrame::toggleSnap},
+    {kShowRails, wxTRANSLATE("Show &Rails"), wxTRANSLATE("Draw rails and sleepers"), nullptr, nullptr, Kind::Check, Hand::Keeps, nullptr, &MainFrame::toggleRails},
+    {kUnitsMm, wxTRANSLATE("Millimetres (mm)"), wxTRANSLATE("Show lengths in millimetres"), nullptr, nullptr, Kind::Radio, Hand::Keeps, nullptr, &MainFrame::unitsMm},
+    {kUnitsCm, wxTRANSLATE("Centimetres (cm)"), wxTRANSLATE("Show lengths in centimetres"), nullptr, nullptr, Kind::Radio, Hand::Keeps, nullptr, &MainFrame::unitsCm},
+    {kUnitsInch, wxTRANSLATE("Inches (in)"), wxTRANSLATE("Show lengths in inches"), nullptr, nullptr, Kind::Radio, Hand::Keeps, nullptr, &MainFrame::unitsInch},
+    {kLayoutShape, wxTRANSLATE("Layout &Shape..."), wxTRANSLATE("Outline and measures of the baseboard"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {kLayoutWizard, wxTRANSLATE("Layout &Wizard (Experimental)..."), wxTRANSLATE("Make a loop of track for a table"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {kBridgeWizard, wxTRANSLATE("&Bridge Wizard (Experimental)..."), wxTRANSLATE("Make a bridge with its ramps"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {kHelp, wxTRANSLATE("&Help\tF1"), wxTRANSLATE("How to use the program"), nullptr, nullptr, Kind::Normal, Hand::Keeps, nullptr, &MainFrame::help},
+    {kLayoutWizardHelp, wxTRANSLATE("Layout &Wizard Help"), wxTRANSLATE("About the wizards"), nullptr, nullptr, Kind::Normal, Hand::Keeps, nullptr, &MainFrame::layoutWizardHelp},
+    {kOptions, wxTRANSLATE("&Options..."), wxTRANSLATE("Playful or businesslike"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::options},
+    {kLevels, nullptr, nullptr, wxTRANSLATE("Levels"), wxTRANSLATE("Manage layout levels (decks): height, color, and shape"), Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {kView3D, nullptr, nullptr, wxTRANSLATE("3D View"), nullptr, Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {kHideLabels, nullptr, nullptr, wxTRANSLATE("Hide Labels"), wxTRANSLATE("Toggle track labels and join dots"), Kind::Check, Hand::Keeps, nullptr, &MainFrame::toggleLabels},
+    {kTunnel, nullptr, nullptr, wxTRANSLATE("Tunnel"), wxTRANSLATE("Place tunnel portals on the selected chain (or remove if already in a tunnel)"), Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {kMeasure, nullptr, nullptr, wxTRANSLATE("Measure"), wxTRANSLATE("Measuring tape: click two points on the canvas to lay down a length annotation"), Kind::Check, Hand::Empties, nullptr, &MainFrame::toggleMeasure},
+    {kPolygon, nullptr, nullptr, wxTRANSLATE("Polygon"), wxTRANSLATE("Draw a free-form polygon (access hatch, river, mountain, etc.)"), Kind::Check, Hand::Empties, nullptr, &MainFrame::togglePolygon},
+    {kRectangle, nullptr, nullptr, wxTRANSLATE("Rectangle"), wxTRANSLATE("Place a rectangle of an exact size -- easier than drawing one by hand"), Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {kElevation, nullptr, nullptr, wxTRANSLATE("Elevation"), wxTRANSLATE("Open the Elevation Wizard to set up track grades and inclines"), Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {kValidate, nullptr, nullptr, nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::validate},
+    {kProperties, nullptr, nullptr, nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::layoutProperties},
 };
 // clang-format on
+
+struct MoreKeys {
+  int command;
+  int key;
+};
+
+/// Keys that do the same as those shown in the menu.
+constexpr MoreKeys kMoreKeys[] = {{kZoomIn, WXK_NUMPAD_ADD}, {kZoomOut, WXK_NUMPAD_SUBTRACT}};
 
 constexpr int kSeparator = 0;
 constexpr int kUnitsSubmenu = -1;
@@ -117,8 +125,21 @@ wxItemKind itemKind(Kind kind) {
 
 void append(wxMenu& menu, int id) {
   const Command* command = findCommand(id);
-  menu.Append(id, wxGetTranslation(command->menuText),
-              command->tip ? wxGetTranslation(command->tip) : wxString(), itemKind(command->kind));
+  const wxString help = wxGetTranslation(command->menuHelp);
+  wxMenuItem* item =
+      menu.Append(id, wxGetTranslation(command->menuText),
+                  command->action ? help : _("Not available in this version") + ": " + help,
+                  itemKind(command->kind));
+  for (const MoreKeys& more : kMoreKeys)
+    if (more.command == id)
+      item->AddExtraAccel(wxAcceleratorEntry(wxACCEL_NORMAL, more.key, id));
+}
+
+wxString toolTipOf(const Command& command) {
+  wxString tip = command.toolTip ? wxGetTranslation(command.toolTip) : wxString();
+  if (!command.action)
+    tip += (tip.empty() ? "" : "\n") + _("Not available in this version");
+  return tip;
 }
 
 wxMenu* unitsMenu() {
@@ -170,8 +191,8 @@ void fillToolBar(wxToolBar& bar) {
       continue;
     }
     const Command* command = findCommand(id);
-    bar.AddTool(id, wxGetTranslation(command->toolLabel), wxNullBitmap,
-                wxGetTranslation(command->tip), itemKind(command->kind));
+    bar.AddTool(id, wxGetTranslation(command->toolLabel), wxNullBitmap, toolTipOf(*command),
+                itemKind(command->kind));
   }
   bar.Realize();
 }

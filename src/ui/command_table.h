@@ -18,13 +18,18 @@ class MainFrame;
 struct Command {
   enum class Kind : unsigned char { Normal, Check, Radio };
 
+  /// What becomes of a piece that is being carried, or of a drag, when the command is given.
+  enum class Hand : unsigned char { Empties, Keeps };
+
   int id;
   const char* menuText;  ///< with mnemonic and, after a tab, its keys; null when it is in no menu
+  const char* menuHelp;  ///< shown in the status bar
   const char* toolLabel; ///< null when it is no tool
-  const char* tip;       ///< tool tip and help line
+  const char* toolTip;   ///< null for none
   Kind kind;
+  Hand hand;
   bool (*enabled)(const Layout&); ///< null: always
-  void (MainFrame::*action)();    ///< null: comes with a later version and is disabled until then
+  void (MainFrame::*action)();    ///< null: not in this version, shown disabled
 };
 
 std::span<const Command> commands();

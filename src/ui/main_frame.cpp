@@ -12,6 +12,7 @@
 #include "ui/command_ids.h"
 #include "ui/command_table.h"
 #include "ui/experience_dialog.h"
+#include "ui/help_dialog.h"
 #include "ui/palette_panel.h"
 #include "ui/properties_panel.h"
 #include "ui/utf8.h"
@@ -146,9 +147,9 @@ void MainFrame::readPreferences() {
 
 void MainFrame::bindCommands() {
   for (const Command& command : commands()) {
-    if (const auto action = command.action)
+    if (command.action)
       Bind(
-          wxEVT_MENU, [this, action](wxCommandEvent&) { (this->*action)(); }, command.id);
+          wxEVT_MENU, [this, &command](wxCommandEvent&) { run(command); }, command.id);
     Bind(
         wxEVT_UPDATE_UI,
         [this, &command](wxUpdateUIEvent& event) {
@@ -157,6 +158,18 @@ void MainFrame::bindCommands() {
         command.id);
   }
   Bind(wxEVT_CLOSE_WINDOW, &MainFrame::onClose, this);
+}
+
+void MainFrame::run(const Command& command) {
+  // What is under way is broken off first: it may hold the mouse, which a dialog needs, or parts of
+  // the plan that will not be there afterwards. To undo it is to break it off.
+  if (command.hand == Command::Hand::Empties && canvas_->canvas().wantsCapture()) {
+    canvas_->canvas().cancel();
+    canvas_->update();
+    if (command.id == kUndo)
+      return;
+  }
+  (this->*command.action)();
 }
 
 void MainFrame::onClose(wxCloseEvent& event) {
@@ -425,7 +438,22 @@ void MainFrame::showUnits() {
 }
 
 void MainFrame::options() {
-  ExperienceDialog(this).ShowModal();
+  askExperience(this);
+  refreshProperties();
+}
+
+void MainFrame::showHelp(HelpTopic topic) {
+  if (!help_)
+    help_ = new HelpDialog(this);
+  help_->showPage(topic);
+}
+
+void MainFrame::help() {
+  showHelp(HelpTopic::Plan);
+}
+
+void MainFrame::layoutWizardHelp() {
+  showHelp(HelpTopic::Wizards);
 }
 
 void MainFrame::validate() {

@@ -13,7 +13,10 @@ class wxSplitterWindow;
 
 namespace trassix {
 
+struct Command;
 class CanvasPanel;
+class HelpDialog;
+enum class HelpTopic;
 class PalettePanel;
 class PropertiesPanel;
 
@@ -65,6 +68,8 @@ class MainFrame : public wxFrame, private LayoutHost {
   void unitsCm();
   void unitsInch();
   void options();
+  void help();
+  void layoutWizardHelp();
   void validate();
   void layoutProperties();
 
@@ -96,6 +101,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   void fitToDisplay();
   void readPreferences();
   void bindCommands();
+  void run(const Command& command);
   void onClose(wxCloseEvent& event);
 
   void tellAll();
@@ -103,6 +109,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   void showUnits();
   void setUnits(std::int32_t units);
   void placeFromPalette(std::string_view article);
+  void showHelp(HelpTopic topic);
   void toggleMode(int tool, ToolMode mode);
   bool menuChecked(int id) const;
   bool write(const std::filesystem::path& path);
@@ -112,6 +119,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   PalettePanel* palette_ = nullptr;
   CanvasPanel* canvas_ = nullptr;
   PropertiesPanel* properties_ = nullptr;
+  HelpDialog* help_ = nullptr; ///< made when it is first wanted
   trassix::Layout layout_;
   std::filesystem::path currentPath_; ///< empty: never saved
   wxString currentName_;

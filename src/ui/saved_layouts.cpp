@@ -18,7 +18,11 @@ std::filesystem::path path(std::string_view utf8) {
 } // namespace
 
 std::filesystem::path layoutFile(const std::filesystem::path& folder, std::string_view name) {
-  return folder / path(std::string(name) + ".txl");
+  // Put together as text: a name that begins with a separator must not replace the folder.
+  std::filesystem::path file = folder;
+  file += std::filesystem::path::preferred_separator;
+  file += path(std::string(name) + ".txl");
+  return file;
 }
 
 SavedLayouts::SavedLayouts(const std::filesystem::path& folder) {

@@ -9,7 +9,7 @@
 
 namespace trassix {
 
-/// The file that a plan of this name (UTF-8, as typed) has in a folder.
+/// The file that a plan or block of this name (UTF-8, as typed) has in a folder.
 std::filesystem::path layoutFile(const std::filesystem::path& folder, std::string_view name);
 
 /// The plans in a folder: its .txl files, then its .xml ones. A name that exists with both
@@ -19,6 +19,7 @@ class SavedLayouts {
   explicit SavedLayouts(const std::filesystem::path& folder);
 
   bool empty() const { return files_.empty(); }
+  const std::vector<std::filesystem::path>& files() const { return files_; }
 
   /// Names without folder and extension, in ascending order, UTF-8.
   std::vector<std::string> names() const;

@@ -3,7 +3,9 @@
 #include "app/services/legacy_files.h"
 #include "app/services/path_text.h"
 
+#include <wx/filefn.h>
 #include <wx/stdpaths.h>
+#include <wx/utils.h>
 
 namespace trassix {
 
@@ -16,6 +18,11 @@ fs::path StandardFolders::logs() {
 
 fs::path StandardFolders::documents() {
   return toPath(wxStandardPaths::Get().GetDocumentsDir());
+}
+
+fs::path StandardFolders::downloads() {
+  const wxString folder = wxStandardPaths::Get().GetUserDir(wxStandardPaths::Dir_Downloads);
+  return toPath(!folder.empty() && wxDirExists(folder) ? folder : wxGetHomeDir());
 }
 
 fs::path StandardFolders::install() {

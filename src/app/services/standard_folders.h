@@ -12,6 +12,9 @@ class StandardFolders {
 
   static std::filesystem::path documents();
 
+  /// Where files from elsewhere arrive: the user's downloads, the home folder when there is none.
+  static std::filesystem::path downloads();
+
   /// Folder of the running executable.
   static std::filesystem::path install();
 

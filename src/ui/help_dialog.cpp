@@ -1,0 +1,111 @@
+#include "ui/help_dialog.h"
+
+#include "app/services/app_prefs.h"
+#include "ui/picture_panel.h"
+#include "ui/railway_scene.h"
+#include "ui/utf8.h"
+
+#include <wx/button.h>
+#include <wx/intl.h>
+#include <wx/listbox.h>
+#include <wx/sizer.h>
+#include <wx/textctrl.h>
+
+namespace trassix {
+
+namespace {
+
+constexpr int kGap = 12;
+/// Where the meaning of a key begins, in tenths of a millimetre.
+constexpr int kKeyColumn = 480;
+
+wxTextAttr lineStyle(const wxFont& font) {
+  wxTextAttr style;
+  style.SetFont(font);
+  wxArrayInt tabs;
+  tabs.Add(kKeyColumn);
+  style.SetTabs(tabs);
+  return style;
+}
+
+} // namespace
+
+HelpDialog::HelpDialog(wxWindow* parent)
+    : wxDialog(parent, wxID_ANY, _("Trassix Help"), wxDefaultPosition, wxDefaultSize,
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER, "help"),
+      picture_(new PicturePanel(this, FromDIP(wxSize(720, 120)), paintRailwayScene)),
+      titles_(new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(190, 380)), 0,
+                            nullptr, wxLB_SINGLE, wxDefaultValidator, "pages")),
+      text_(new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                           FromDIP(wxSize(530, 380)),
+                           wxTE_MULTILINE | wxTE_READONLY | wxTE_RICH2 | wxTE_BESTWRAP,
+                           wxDefaultValidator, "page")) {
+  for (const HelpPage& page : helpPages())
+    titles_->Append(wxGetTranslation(page.title));
+  auto* pages = new wxBoxSizer(wxHORIZONTAL);
+  pages->Add(titles_, wxSizerFlags().Expand().Border(wxRIGHT, FromDIP(kGap)));
+  pages->Add(text_, wxSizerFlags(1).Expand());
+  auto* sizer = new wxBoxSizer(wxVERTICAL);
+  sizer->Add(picture_, wxSizerFlags().Expand());
+  sizer->Add(pages, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(kGap)));
+  sizer->Add(new wxButton(this, wxID_CLOSE, _("Close")),
+             wxSizerFlags().Right().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(kGap)));
+  SetSizer(sizer);
+  SetEscapeId(wxID_CLOSE);
+  SetAffirmativeId(wxID_CLOSE);
+  titles_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { fill(); });
+}
+
+void HelpDialog::showPage(HelpTopic topic) {
+  picture_->Show(appPrefs().playful);
+  if (!IsShown()) {
+    Fit();
+    CentreOnParent();
+  }
+  int row = 0;
+  for (const HelpPage& page : helpPages()) {
+    if (page.topic == topic)
+      titles_->SetSelection(row);
+    ++row;
+  }
+  fill();
+  Show();
+  Raise();
+  titles_->SetFocus();
+}
+
+void HelpDialog::fill() {
+  const HelpPage& page = helpPages()[static_cast<std::size_t>(titles_->GetSelection())];
+  const wxFont body = text_->GetFont();
+  const wxTextAttr plain = lineStyle(body);
+  const wxTextAttr bold = lineStyle(body.Bold());
+  text_->Clear();
+  const auto write = [this](const wxTextAttr& style, const wxString& words) {
+    text_->SetDefaultStyle(style);
+    text_->AppendText(words);
+  };
+  write(lineStyle(body.Scaled(1.5F).Bold()), wxGetTranslation(page.title) + "\n");
+  bool keysBefore = false;
+  for (const char* line : page.lines) {
+    const wxString words = wxGetTranslation(fromUtf8(line));
+    const bool keys = words.Contains("|");
+    if (!keys || !keysBefore)
+      write(plain, "\n");
+    if (words.StartsWith("# ")) {
+      write(bold, words.Mid(2) + "\n");
+      keysBefore = true;
+      continue;
+    }
+    if (keys) {
+      write(bold, words.BeforeFirst('|') + "\t");
+      write(plain, words.AfterFirst('|') + "\n");
+    } else {
+      write(plain, words + "\n");
+    }
+    keysBefore = keys;
+  }
+  text_->ShowPosition(0);
+  text_->SetInsertionPoint(0);
+}
+
+} // namespace trassix

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <span>
+
+namespace trassix {
+
+enum class HelpTopic { Plan, MouseAndKeys, Autofill, LevelsAndBaseboard, Files, Wizards };
+
+/// One page of the help. Its lines are headings ("# Saving"), keys with their meaning, separated by
+/// a bar ("Ctrl+S|Save"), or paragraphs. To be translated where they are shown.
+struct HelpPage {
+  HelpTopic topic;
+  const char* title;
+  std::span<const char* const> lines;
+};
+
+std::span<const HelpPage> helpPages();
+
+} // namespace trassix
