@@ -7,8 +7,8 @@
 
 namespace trassix {
 
-/// The box of everything that is drawn of a plan, in mm: track beds, helices, scenery, shapes, labels,
-/// measurements and the baseboard. Empty for an empty plan.
+/// The box of everything that is drawn of a plan, in mm: track beds, helices, scenery, shapes,
+/// labels, measurements and the baseboard. Empty for an empty plan.
 std::optional<Box> contentBox(const Layout& layout);
 
 } // namespace trassix

@@ -18,8 +18,8 @@ struct Pick {
   bool operator==(const Pick&) const = default;
 };
 
-/// Everything under a point of the plan, topmost first. `mmPerPx` scales the tolerance and the extent of
-/// labels, which are drawn at one size whatever the zoom.
+/// Everything under a point of the plan, topmost first. `mmPerPx` scales the tolerance and the
+/// extent of labels, which are drawn at one size whatever the zoom.
 std::vector<Pick> picksAt(const Layout& layout, const PlanIndex& index, Point at, double mmPerPx);
 
 bool isSelected(const Layout& layout, const Pick& pick);

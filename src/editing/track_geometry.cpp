@@ -77,6 +77,42 @@ RoutePoint middleOf(const std::vector<RoutePoint>& line) {
           half};
 }
 
+constexpr int kPitPoints = 72;
+
+/// A turntable is seen as its pit with the bridge across it, and a stub of rails at each track end.
+/// The routes to the centre would only hide one another.
+void drawTurntable(TrackGeometry& geometry, const PieceDef& definition) {
+  const double ring = definition.radius;
+  std::vector<Point> pit;
+  for (int i = 0; i < kPitPoints; ++i) {
+    const double t = 2 * kPi * i / kPitPoints;
+    pit.push_back({ring * std::cos(t), ring * std::sin(t)});
+  }
+  geometry.beds.push_back(pit);
+  pit.push_back(pit.front());
+  geometry.centreLines.push_back(pit);
+
+  const double half = geometry.gauge / 2;
+  const double reach = ring * 0.93;
+  const double edge = geometry.halfWidth;
+  geometry.rails.push_back({{-reach, -half}, {reach, -half}});
+  geometry.rails.push_back({{-reach, half}, {reach, half}});
+  geometry.rails.push_back(
+      {{-reach, -edge}, {reach, -edge}, {reach, edge}, {-reach, edge}, {-reach, -edge}});
+  for (const Connector& end : definition.connectors) {
+    const Pose at{end.x, end.y, end.heading};
+    for (const double side : {-half, half})
+      geometry.rails.push_back({toWorld(at, {-ring * 0.05, side}), toWorld(at, {0, side})});
+  }
+  const int sleepers = static_cast<int>(2 * reach / (kSleeperSpacing * geometry.gauge));
+  for (int i = 0; i < sleepers; ++i) {
+    const double x = -reach + (i + 0.5) * 2 * reach / sleepers;
+    geometry.sleepers.push_back({x, -geometry.gauge * kSleeperLength / 2});
+    geometry.sleepers.push_back({x, geometry.gauge * kSleeperLength / 2});
+  }
+  geometry.mainLength = 2 * ring;
+}
+
 void enclose(TrackGeometry& geometry) {
   constexpr double kFar = std::numeric_limits<double>::max();
   Point low{kFar, kFar};
@@ -124,6 +160,11 @@ TrackGeometry deriveTrackGeometry(const PieceDef& definition) {
   TrackGeometry geometry;
   geometry.halfWidth = trackHalfWidth(definition.system);
   const double gauge = geometry.gauge = trackGauge(definition.system);
+  if (definition.kind == PieceKind::Turntable) {
+    drawTurntable(geometry, definition);
+    enclose(geometry);
+    return geometry;
+  }
   for (const Route& route : deriveRoutes(definition)) {
     const std::vector<RoutePoint> line = sampleRoute(route, kDrawTolerance);
     if (line.size() < 2)

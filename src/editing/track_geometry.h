@@ -17,10 +17,11 @@ double trackGauge(TrackSystem system);
 
 /// Lengths in mm in the piece's frame.
 struct TrackGeometry {
-  std::vector<std::vector<Point>> beds;        ///< closed outlines, one for each route
-  std::vector<std::vector<Point>> centreLines; ///< one for each route
-  std::vector<std::vector<Point>> rails;       ///< two for each route
-  std::vector<Point> sleepers;                 ///< pairs of ends
+  std::vector<std::vector<Point>>
+      beds; ///< closed outlines, one for each route, the pit of a turntable
+  std::vector<std::vector<Point>> centreLines; ///< lines for a view from afar
+  std::vector<std::vector<Point>> rails;
+  std::vector<Point> sleepers; ///< pairs of ends
   double halfWidth = 0;
   double gauge = 0;
   Point centre;            ///< of a circle that holds everything drawn

@@ -141,21 +141,37 @@ void CanvasPanel::syncCapture() {
     ReleaseMouse();
 }
 
-void CanvasPanel::dragPiece(std::string_view article) {
-  SetFocus();
-  canvas_.carryPiece(article, inputAt(ScreenToClient(wxGetMousePosition())), true);
-  update();
+PointerInput CanvasPanel::inputAtPointer() const {
+  return inputAt(ScreenToClient(wxGetMousePosition()));
 }
 
-void CanvasPanel::pickUpPiece(std::string_view article) {
-  SetFocus();
-  canvas_.carryPiece(article, inputAt(kPickUpPoint), false);
-  update();
+void CanvasPanel::dragPiece(std::string_view article) {
+  canvas_.carryPiece(article, inputAtPointer(), true);
+  tookUp();
 }
 
 void CanvasPanel::dragScenery(std::string_view key) {
+  canvas_.carryScenery(key, inputAtPointer(), true);
+  tookUp();
+}
+
+void CanvasPanel::pickUpPiece(std::string_view article) {
+  canvas_.carryPiece(article, inputAt(kPickUpPoint), false);
+  tookUp();
+}
+
+void CanvasPanel::pickUpScenery(std::string_view key) {
+  canvas_.carryScenery(key, inputAt(kPickUpPoint), false);
+  tookUp();
+}
+
+void CanvasPanel::pickUpBlock(Block block) {
+  canvas_.carryBlock(std::move(block), inputAt(kPickUpPoint), false);
+  tookUp();
+}
+
+void CanvasPanel::tookUp() {
   SetFocus();
-  canvas_.carryScenery(key, inputAt(ScreenToClient(wxGetMousePosition())), true);
   update();
 }
 

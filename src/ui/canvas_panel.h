@@ -19,15 +19,20 @@ class CanvasPanel : public wxPanel {
   /// Shows the canvas's state after something outside changed it.
   void update();
 
-  /// Takes a catalogue piece from another window whose mouse button is down.
+  /// Takes something from another window whose mouse button is down.
   void dragPiece(std::string_view article);
-  /// Hangs a catalogue piece on the pointer, to be dropped by a click.
-  void pickUpPiece(std::string_view article);
   void dragScenery(std::string_view key);
+
+  /// Hangs something on the pointer, to be dropped by a click.
+  void pickUpPiece(std::string_view article);
+  void pickUpScenery(std::string_view key);
+  void pickUpBlock(Block block);
 
  private:
   PointerInput inputOf(const wxMouseEvent& event) const;
   PointerInput inputAt(wxPoint px) const;
+  PointerInput inputAtPointer() const;
+  void tookUp();
   void onPaint(wxPaintEvent& event);
   void onMouse(wxMouseEvent& event);
   void onWheel(wxMouseEvent& event);

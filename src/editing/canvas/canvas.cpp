@@ -1,5 +1,7 @@
 #include "editing/canvas/canvas.h"
 
+#include "catalog/track_catalog.h"
+#include "editing/canvas/carry_block_tool.h"
 #include "editing/canvas/carry_piece_tool.h"
 #include "editing/canvas/carry_scenery_tool.h"
 #include "editing/canvas/measure_tool.h"
@@ -155,12 +157,13 @@ void Canvas::cancel() {
   gesture_ = Gesture::None;
   tool().cancel();
   carry_.reset();
-  carriedArticle_.clear();
   site_.host.repaint();
   afterInput();
 }
 
-bool Canvas::wantsCapture() const { return carry_ || gesture_ != Gesture::None; }
+bool Canvas::wantsCapture() const {
+  return carry_ || gesture_ != Gesture::None;
+}
 
 void Canvas::startCarry(std::unique_ptr<CanvasTool> carry, const PointerInput& at) {
   cancel();
@@ -170,21 +173,23 @@ void Canvas::startCarry(std::unique_ptr<CanvasTool> carry, const PointerInput& a
 }
 
 void Canvas::carryPiece(std::string_view article, const PointerInput& at, bool held) {
-  startCarry(std::make_unique<CarryPieceTool>(site_, article, held), at);
-  if (carry_)
-    carriedArticle_ = article;
+  if (const PieceDef* definition = TrackCatalog::instance().find(article))
+    startCarry(std::make_unique<CarryPieceTool>(site_, *definition, held), at);
 }
 
 void Canvas::carryScenery(std::string_view key, const PointerInput& at, bool held) {
-  startCarry(std::make_unique<CarrySceneryTool>(site_, key, held), at);
+  if (const SceneryDef* definition = findScenery(key))
+    startCarry(std::make_unique<CarrySceneryTool>(site_, *definition, held), at);
 }
 
-std::string_view Canvas::carriedArticle() const { return carriedArticle_; }
+void Canvas::carryBlock(Block block, const PointerInput& at, bool held) {
+  if (!block.empty())
+    startCarry(std::make_unique<CarryBlockTool>(site_, std::move(block), held), at);
+}
 
 void Canvas::afterInput() {
   if (carry_ && carry_->finished()) {
     carry_.reset();
-    carriedArticle_.clear();
     site_.host.repaint();
   }
   site_.host.setHint(hint());
@@ -246,7 +251,9 @@ void Canvas::paintPlan(Surface& surface) {
       .paint(site_.layout(), site_.planIndex());
 }
 
-void Canvas::paintOverlay(Surface& surface) { tool().paint(surface); }
+void Canvas::paintOverlay(Surface& surface) {
+  tool().paint(surface);
+}
 
 std::uint64_t Canvas::planStamp() {
   std::uint64_t stamp = 1469598103934665603u; // FNV-1a over everything paintPlan depends on

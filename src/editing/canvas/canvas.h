@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/block_file.h"
 #include "editing/canvas/canvas_tool.h"
 #include "editing/canvas/layout_painter.h"
 
@@ -10,10 +11,10 @@
 
 namespace trassix {
 
-/// The plan as the user handles it, without a window: the view, panning, zooming, and one active tool
-/// to which everything else goes. The window feeds it plain input and paints what it draws.
+/// The plan as the user handles it, without a window: the view, panning, zooming, and one active
+/// tool to which everything else goes. The window feeds it plain input and paints what it draws.
 class Canvas {
-public:
+ public:
   explicit Canvas(LayoutHost& host);
   ~Canvas();
 
@@ -38,10 +39,11 @@ public:
 
   /// Hangs a catalogue piece, a scenery item or a block on the pointer; ends another carry first.
   /// `held`: the mouse button is down and letting go drops it.
+  /// Unknown articles and keys, and empty blocks, are not carried.
   void carryPiece(std::string_view article, const PointerInput& at, bool held);
   void carryScenery(std::string_view key, const PointerInput& at, bool held);
+  void carryBlock(Block block, const PointerInput& at, bool held);
   bool carrying() const { return carry_ != nullptr; }
-  std::string_view carriedArticle() const;
 
   /// Takes up the tool of the window's current mode.
   void modeChanged();
@@ -62,7 +64,7 @@ public:
   CursorShape cursor() const;
   ToolSite& site() { return site_; }
 
-private:
+ private:
   CanvasTool& tool() { return carry_ ? *carry_ : *base_; }
   const CanvasTool& tool() const { return carry_ ? *carry_ : *base_; }
   void startCarry(std::unique_ptr<CanvasTool> carry, const PointerInput& at);
@@ -74,7 +76,6 @@ private:
   ToolSite site_;
   std::unique_ptr<CanvasTool> base_;
   std::unique_ptr<CanvasTool> carry_;
-  std::string carriedArticle_;
   ToolMode mode_ = ToolMode::Select;
   Gesture gesture_ = Gesture::None;
   PointerInput pressed_;

@@ -14,4 +14,13 @@ const SnapIndex& ToolSite::snapIndex() {
   return snapIndex_;
 }
 
+void ToolSite::report(const EditResult& result) {
+  if (result.refusal)
+    host.show(*result.refusal);
+  if (!result.changed())
+    return;
+  host.selectionChanged();
+  host.changed();
+}
+
 } // namespace trassix

@@ -45,11 +45,6 @@ struct KeyInput {
 
 enum class CursorShape : std::uint8_t { Arrow, Cross, Hand, Move, Rotate };
 
-/// One step of the wheel or the R key turns what is carried by this much, in degrees; with Shift by
-/// less.
-inline constexpr double kCarryTurn = 30.0;
-inline constexpr double kFineCarryTurn = 15.0;
-
 /// What a tool works on: the window, the view, and the indices derived from the plan.
 class ToolSite {
  public:
@@ -69,6 +64,9 @@ class ToolSite {
   bool holds(Point px) const {
     return px.x >= 0 && px.y >= 0 && px.x < size.width && px.y < size.height;
   }
+
+  /// Tells the window what an edit did: a refusal in words, or that the plan has changed.
+  void report(const EditResult& result);
 
   /// Millimetres that `px` pixels cover.
   double mm(double px) const { return px / view.zoom(); }

@@ -7,10 +7,10 @@
 
 namespace trassix {
 
-/// A drag of the select tool. It exists only during the drag and touches nothing until it is dropped, so
-/// that destroying it cancels it.
+/// A drag of the select tool. It exists only during the drag and touches nothing until it is
+/// dropped, so that destroying it cancels it.
 class Gesture {
-public:
+ public:
   explicit Gesture(ToolSite& site) : site_(site) {}
   virtual ~Gesture() = default;
 
@@ -21,14 +21,14 @@ public:
   virtual std::string hint() const = 0;
   virtual CursorShape cursor() const { return CursorShape::Arrow; }
 
-protected:
+ protected:
   ToolSite& site_;
 };
 
-/// Spans a box: from left to right it takes what lies in it altogether, from right to left whatever it
-/// touches. Shift adds to the selection.
+/// Spans a box: from left to right it takes what lies in it altogether, from right to left whatever
+/// it touches. Shift adds to the selection.
 class RubberBandGesture : public Gesture {
-public:
+ public:
   RubberBandGesture(ToolSite& site, const PointerInput& from);
 
   void drag(const PointerInput& input) override;
@@ -36,7 +36,7 @@ public:
   void paint(Surface& surface) const override;
   std::string hint() const override;
 
-private:
+ private:
   bool encloses() const { return to_.px.x >= from_.px.x; }
 
   PointerInput from_;
@@ -45,7 +45,7 @@ private:
 
 /// Carries the selection, or with `turning` turns it freely, as one rigid body.
 class MoveGesture : public Gesture {
-public:
+ public:
   MoveGesture(ToolSite& site, const PointerInput& from, bool turning);
 
   void drag(const PointerInput& input) override;
@@ -55,7 +55,7 @@ public:
   std::string hint() const override;
   CursorShape cursor() const override { return turning_ ? CursorShape::Rotate : CursorShape::Move; }
 
-private:
+ private:
   bool allowed();
 
   PointerInput from_;

@@ -11,8 +11,8 @@ struct GridSteps {
   int major = 10;
 };
 
-/// The smallest sensible spacing in the chosen unit whose lines are at least `minPx` apart: 1, 2, 5,
-/// 10, ... mm or cm; quarter, half and whole inches, then feet.
+/// The smallest sensible spacing in the chosen unit whose lines are at least `minPx` apart: 1, 2,
+/// 5, 10, ... mm or cm; quarter, half and whole inches, then feet.
 GridSteps gridSteps(double zoom, std::int32_t units, double minPx);
 
 /// A round length in the chosen unit that covers at most `maxPx`, with its text, for a scale bar.

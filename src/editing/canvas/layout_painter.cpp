@@ -22,6 +22,10 @@ namespace {
 constexpr double kGridFromPx = 9; ///< lines of the grid are at least this far apart
 constexpr double kArticleFromZoom = 0.22;
 
+/// Where the article is tried beside the middle of a piece: side of the track, and px farther out.
+constexpr std::array<std::pair<double, double>, 6> kArticlePlaces{
+    {{-1, 0}, {1, 0}, {-1, 5}, {1, 5}, {-1, 11}, {1, 11}}};
+
 double uprightAngle(double heading) {
   double degrees = std::remainder(heading, 360.0);
   if (degrees > 90)
@@ -245,7 +249,7 @@ void LayoutPainter::paintArticles(std::span<const Visible> pieces) {
   for (const Visible& shown : pieces)
     for (const auto& line : shown.geometry->centreLines)
       taken.mark(painter.toScreen(line, poseOf(*shown.piece)),
-                 shown.geometry->halfWidth * view_.zoom());
+                 shown.geometry->halfWidth * view_.zoom() - 1);
   const TextStyle style{colors::kArticle, 10.5, false};
   for (const Visible& shown : pieces) {
     const SizePx box = surface_.textSize(shown.definition->article, style);
@@ -256,11 +260,12 @@ void LayoutPainter::paintArticles(std::span<const Visible> pieces) {
     const double heading = pose.heading + shown.geometry->labelHeading;
     const double away = shown.geometry->halfWidth * view_.zoom() + box.height / 2 + 1;
     const double angle = uprightAngle(heading);
-    for (const double side : {-1.0, 1.0}) {
+    // Curves bend away from the text on one side only, so places farther out are tried as well.
+    for (const auto& [side, farther] : kArticlePlaces) {
       const double across = (heading + 90 * side) * kPi / 180;
-      const Point at{spot.x + std::cos(across) * away, spot.y + std::sin(across) * away};
-      const SizePx inner{box.width - 2, box.height - 4};
-      if (!taken.isFree(at, inner, angle))
+      const double reach = away + farther;
+      const Point at{spot.x + std::cos(across) * reach, spot.y + std::sin(across) * reach};
+      if (!taken.isFree(at, {box.width - 2, box.height - 5}, angle))
         continue;
       taken.take(at, box, angle);
       surface_.text(shown.definition->article, at, angle, style);

@@ -15,22 +15,23 @@ namespace trassix {
 
 struct PaintOptions {
   bool grid = true;
-  bool labels = true;   ///< article labels and join dots
+  bool labels = true; ///< article labels and join dots
   bool rails = true;
   bool scaleBar = true;
-  bool desk = true;     ///< fill the background; off for printing
+  bool desk = true;                      ///< fill the background; off for printing
   std::span<const std::int32_t> leftOut; ///< sorted ids of pieces that are drawn elsewhere
 };
 
 /// Draws a plan on any surface: screen, printer, image or a recording. Knows nothing of windows or
 /// tools; what lies outside the surface is not drawn.
 class LayoutPainter {
-public:
-  LayoutPainter(Surface& surface, SizePx size, const ViewTransform& view, const PaintOptions& options);
+ public:
+  LayoutPainter(Surface& surface, SizePx size, const ViewTransform& view,
+                const PaintOptions& options);
 
   void paint(const Layout& layout, const PlanIndex& index);
 
-private:
+ private:
   struct Visible;
 
   void paintGrid(std::int32_t units);

@@ -8,7 +8,7 @@ namespace trassix {
 
 /// The measuring tape: two clicks lay down a length. Points near a track end take the end itself.
 class MeasureTool : public CanvasTool {
-public:
+ public:
   using CanvasTool::CanvasTool;
 
   void hover(const PointerInput& input) override;
@@ -20,7 +20,7 @@ public:
   std::string hint() const override;
   CursorShape cursor() const override { return CursorShape::Cross; }
 
-private:
+ private:
   Point caught(Point world);
 
   std::optional<Point> from_;

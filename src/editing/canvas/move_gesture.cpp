@@ -80,9 +80,7 @@ void MoveGesture::drop() {
 void MoveGesture::paint(Surface& surface) const {
   const Layout& layout = site_.layout();
   PiecePainter painter(surface, site_.view);
-  PieceLook look;
-  look.bed = move_.snap() ? Rgba{150, 208, 172, 235} : Rgba{170, 198, 236, 215};
-  look.accent = move_.snap() ? plan_colors::kSnapped : plan_colors::kSelected;
+  const PieceLook look = carriedLook(move_.snap().has_value());
   for (const std::int32_t id : move_.pieces()) {
     const PlacedPiece* piece = layout.findPiece(id);
     const PieceDef* definition = piece ? TrackCatalog::instance().find(piece->cat) : nullptr;

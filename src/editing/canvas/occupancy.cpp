@@ -13,19 +13,23 @@ Occupancy::Occupancy(SizePx size)
       taken_(static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_)) {}
 
 void Occupancy::mark(const std::vector<Point>& line, double halfWidth) {
-  const int reach = static_cast<int>(halfWidth / kCellPx);
+  const double reach = halfWidth / kCellPx;
   const auto stamp = [&](Point p) {
-    const int column = static_cast<int>(std::floor(p.x / kCellPx));
-    const int row = static_cast<int>(std::floor(p.y / kCellPx));
-    const int left = std::max(column - reach, 0);
-    const int right = std::min(column + reach, columns_ - 1);
-    for (int y = std::max(row - reach, 0); y <= std::min(row + reach, rows_ - 1); ++y)
+    const double column = p.x / kCellPx - 0.5;
+    const double row = p.y / kCellPx - 0.5;
+    const int top = std::max(static_cast<int>(std::ceil(row - reach)), 0);
+    const int bottom = std::min(static_cast<int>(std::floor(row + reach)), rows_ - 1);
+    for (int y = top; y <= bottom; ++y) {
+      const double half = std::sqrt(std::max(0.0, reach * reach - (y - row) * (y - row)));
+      const int left = std::max(static_cast<int>(std::ceil(column - half)), 0);
+      const int right = std::min(static_cast<int>(std::floor(column + half)), columns_ - 1);
       for (int x = left; x <= right; ++x)
         taken_[static_cast<std::size_t>(y * columns_ + x)] = 1;
+    }
   };
   for (std::size_t i = 0; i + 1 < line.size(); ++i) {
     const double length = std::hypot(line[i + 1].x - line[i].x, line[i + 1].y - line[i].y);
-    const double strideInPx = std::max(kCellPx, halfWidth);
+    const double strideInPx = std::max(kCellPx, halfWidth / 2);
     const int steps = std::clamp(static_cast<int>(length / strideInPx) + 1, 1, 400);
     for (int k = 0; k <= steps; ++k) {
       const double t = static_cast<double>(k) / steps;

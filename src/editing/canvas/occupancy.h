@@ -7,10 +7,10 @@
 
 namespace trassix {
 
-/// A coarse map of the pixels that are taken, so that labels find a place beside the track and beside
-/// one another.
+/// A coarse map of the pixels that are taken, so that labels find a place beside the track and
+/// beside one another.
 class Occupancy {
-public:
+ public:
   explicit Occupancy(SizePx size);
 
   /// Marks a line of the given half width.
@@ -20,10 +20,11 @@ public:
   bool isFree(Point centre, SizePx box, double degrees) const;
   void take(Point centre, SizePx box, double degrees);
 
-private:
+ private:
   static constexpr double kCellPx = 4;
 
-  template <typename Visit> bool visitBox(Point centre, SizePx box, double degrees, Visit visit) const;
+  template <typename Visit>
+  bool visitBox(Point centre, SizePx box, double degrees, Visit visit) const;
 
   int columns_;
   int rows_;

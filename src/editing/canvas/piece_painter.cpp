@@ -9,8 +9,8 @@ namespace trassix {
 
 namespace {
 
-constexpr double kBedFromPx = 5.0;     ///< a narrower track bed is drawn as a line
-constexpr double kRailsFromPx = 3.2;   ///< distance between the rails from which both are drawn
+constexpr double kBedFromPx = 5.0;   ///< a narrower track bed is drawn as a line
+constexpr double kRailsFromPx = 3.2; ///< distance between the rails from which both are drawn
 constexpr double kSleepersFromPx = 9.0;
 
 Rgba fade(Rgba color) {
@@ -23,6 +23,13 @@ Rgba fade(Rgba color) {
 }
 
 } // namespace
+
+PieceLook carriedLook(bool snapped) {
+  PieceLook look;
+  look.bed = snapped ? Rgba{150, 208, 172, 235} : Rgba{170, 198, 236, 215};
+  look.accent = snapped ? plan_colors::kSnapped : plan_colors::kSelected;
+  return look;
+}
 
 bool PiecePainter::fromAfar(const TrackGeometry& geometry) const {
   return geometry.halfWidth * 2 * view_.zoom() < kBedFromPx;
@@ -40,7 +47,8 @@ const std::vector<Point>& PiecePainter::toScreen(const std::vector<Point>& local
   return buffer_;
 }
 
-void PiecePainter::paintBed(const TrackGeometry& geometry, const Pose& pose, const PieceLook& look) {
+void PiecePainter::paintBed(const TrackGeometry& geometry, const Pose& pose,
+                            const PieceLook& look) {
   if (fromAfar(geometry))
     return;
   const Rgba fill = look.faded ? fade(look.bed) : look.bed;
@@ -68,8 +76,9 @@ void PiecePainter::paintRails(const TrackGeometry& geometry, const Pose& pose,
       color = fade(color);
     const double width = std::max(geometry.halfWidth * zoom, look.accent ? 2.5 : 1.5);
     for (const auto& line : geometry.centreLines)
-      surface_.polyline(toScreen(line, pose),
-                        {color, width, look.covered ? Stroke::Style::Dashed : Stroke::Style::Solid});
+      surface_.polyline(
+          toScreen(line, pose),
+          {color, width, look.covered ? Stroke::Style::Dashed : Stroke::Style::Solid});
     return;
   }
   const double gaugePx = geometry.gauge * zoom;

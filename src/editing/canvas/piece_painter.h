@@ -16,15 +16,18 @@ struct PieceLook {
   Rgba bed;
   bool rails = true;
   bool sleepers = true;
-  bool covered = false; ///< runs under a tunnel: dashed
-  bool faded = false;   ///< on another level than the active one
+  bool covered = false;       ///< runs under a tunnel: dashed
+  bool faded = false;         ///< on another level than the active one
   std::optional<Rgba> accent; ///< edge and centre line of a selected, hovered or carried piece
 };
 
-/// Draws single pieces of track: as a line from afar, as bed and rails from nearer, with sleepers from
-/// close up. Keeps its point buffers between pieces.
+/// The look of a piece that is being carried, `snapped` when it would join something where it is.
+PieceLook carriedLook(bool snapped);
+
+/// Draws single pieces of track: as a line from afar, as bed and rails from nearer, with sleepers
+/// from close up. Keeps its point buffers between pieces.
 class PiecePainter {
-public:
+ public:
   PiecePainter(Surface& surface, const ViewTransform& view) : surface_(surface), view_(view) {}
 
   /// The bed, drawn for all pieces before any rails so that joined beds read as one.
@@ -37,7 +40,7 @@ public:
   /// Points of the piece's frame in pixels; good until the next call.
   const std::vector<Point>& toScreen(const std::vector<Point>& local, const Pose& pose);
 
-private:
+ private:
   bool fromAfar(const TrackGeometry& geometry) const;
 
   Surface& surface_;

@@ -8,7 +8,7 @@ namespace trassix {
 
 /// Draws a free polygon point by point.
 class PolygonTool : public CanvasTool {
-public:
+ public:
   using CanvasTool::CanvasTool;
 
   void hover(const PointerInput& input) override;
@@ -21,7 +21,7 @@ public:
   std::string hint() const override;
   CursorShape cursor() const override { return CursorShape::Cross; }
 
-private:
+ private:
   void close();
 
   std::vector<Point> points_;

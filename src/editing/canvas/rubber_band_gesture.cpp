@@ -30,9 +30,9 @@ void RubberBandGesture::paint(Surface& surface) const {
   const std::array<Point, 4> box{{{a.x, a.y}, {b.x, a.y}, {b.x, b.y}, {a.x, b.y}}};
   Rgba fill = plan_colors::kSelected;
   fill.a = encloses() ? 36 : 18;
-  surface.polygon(box, fill,
-                  Stroke{plan_colors::kSelected, 1,
-                         encloses() ? Stroke::Style::Solid : Stroke::Style::Dashed});
+  surface.polygon(
+      box, fill,
+      Stroke{plan_colors::kSelected, 1, encloses() ? Stroke::Style::Solid : Stroke::Style::Dashed});
 }
 
 std::string RubberBandGesture::hint() const {

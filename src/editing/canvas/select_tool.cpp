@@ -1,9 +1,9 @@
 #include "editing/canvas/select_tool.h"
 
 #include "catalog/track_catalog.h"
+#include "editing/annotations.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
-#include "editing/annotations.h"
 #include "editing/canvas/selection_menu.h"
 #include "editing/placing.h"
 #include "editing/selection.h"
@@ -32,7 +32,9 @@ std::vector<Pick> SelectTool::picksAt(Point world) {
   return trassix::picksAt(site_.layout(), site_.planIndex(), world, site_.mm(1));
 }
 
-void SelectTool::press(const PointerInput& input) { pressed_ = input; }
+void SelectTool::press(const PointerInput& input) {
+  pressed_ = input;
+}
 
 void SelectTool::hover(const PointerInput& input) {
   const std::vector<Pick> picks = picksAt(input.world);
@@ -97,22 +99,12 @@ void SelectTool::click(const PointerInput& input) {
     return;
   }
   // A further click on the same spot goes on to what lies below.
-  const auto selected = std::find_if(picks.begin(), picks.end(), [&layout](const Pick& pick) {
-    return isSelected(layout, pick);
-  });
+  const auto selected = std::find_if(
+      picks.begin(), picks.end(), [&layout](const Pick& pick) { return isSelected(layout, pick); });
   if (selected == picks.end())
     select(picks.front());
   else
     select(selected + 1 == picks.end() ? picks.front() : *(selected + 1));
-}
-
-void SelectTool::report(const EditResult& result) {
-  if (result.refusal)
-    site_.host.show(*result.refusal);
-  if (!result.changed())
-    return;
-  site_.host.selectionChanged();
-  site_.host.changed();
 }
 
 void SelectTool::doubleClick(const PointerInput& input) {
@@ -145,7 +137,7 @@ void SelectTool::doubleClick(const PointerInput& input) {
     return;
   }
   if (piece)
-    report(cloneAndExtend(layout, piece->id));
+    site_.report(cloneAndExtend(layout, piece->id));
 }
 
 bool SelectTool::wheel(const PointerInput& input, int direction) {
@@ -265,7 +257,8 @@ std::string SelectTool::hint() const {
       return definition->name + "    Click: select    Double-click: extend    Drag: move";
   }
   if (hasSelection(site_.layout()))
-    return "Drag: move    Alt+drag: turn    Ctrl+wheel: turn 15\u00b0    Arrows: nudge    Del: delete";
+    return "Drag: move    Alt+drag: turn    Ctrl+wheel: turn 15\u00b0    Arrows: nudge    Del: "
+           "delete";
   return "Ready";
 }
 

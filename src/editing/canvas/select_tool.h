@@ -12,7 +12,7 @@ namespace trassix {
 
 /// The ordinary tool: selecting, and shaping what is selected.
 class SelectTool : public CanvasTool {
-public:
+ public:
   using CanvasTool::CanvasTool;
 
   void press(const PointerInput& input) override;
@@ -29,7 +29,7 @@ public:
   std::string hint() const override;
   CursorShape cursor() const override;
 
-private:
+ private:
   std::vector<Pick> picksAt(Point world);
   void click(const PointerInput& input);
   void select(const Pick& pick);
@@ -37,7 +37,6 @@ private:
   bool nudge(const KeyInput& input);
   /// Asks before the selection, going by `step`, leaves graded track.
   bool mayLeave(Point step);
-  void report(const EditResult& result);
   void paintHover(Surface& surface) const;
 
   PointerInput pressed_;

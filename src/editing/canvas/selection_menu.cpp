@@ -6,19 +6,6 @@
 
 namespace trassix {
 
-namespace {
-
-void report(ToolSite& site, const EditResult& result) {
-  if (result.refusal)
-    site.host.show(*result.refusal);
-  if (!result.changed())
-    return;
-  site.host.selectionChanged();
-  site.host.changed();
-}
-
-} // namespace
-
 std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& under, Point at) {
   Layout& layout = site.layout();
   std::vector<MenuRow> rows;
@@ -30,7 +17,7 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
   if (onPiece) {
     const std::int32_t piece = under.front().id;
     rows.push_back({"Extend", "Double-click", true,
-                    [&site, piece] { report(site, cloneAndExtend(site.layout(), piece)); }});
+                    [&site, piece] { site.report(cloneAndExtend(site.layout(), piece)); }});
     rows.push_back({"Select Joined Track", "Alt+Double-click", true, [&site, piece] {
                       site.layout().clearSelection();
                       for (const std::int32_t id : chainOf(site.layout(), piece))

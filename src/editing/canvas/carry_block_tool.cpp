@@ -1,0 +1,41 @@
+#include "editing/canvas/carry_block_tool.h"
+
+#include "catalog/track_catalog.h"
+#include "editing/block_placing.h"
+#include "editing/canvas/piece_painter.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/scenery_footprint.h"
+
+namespace trassix {
+
+EditResult CarryBlockTool::drop() {
+  return placeBlock(site_.layout(), block_, pose());
+}
+
+void CarryBlockTool::paint(Surface& surface) const {
+  const auto carried = [this](double x, double y, double heading) {
+    const Point at = toWorld(pose(), {x, y});
+    return Pose{at.x, at.y, normaliseHeading(heading + pose().heading)};
+  };
+  PiecePainter painter(surface, site_.view);
+  const PieceLook look = carriedLook(false);
+  for (const PlacedPiece& piece : block_.pieces)
+    if (const PieceDef* definition = TrackCatalog::instance().find(piece.cat))
+      painter.paint(trackGeometryOf(*definition), carried(piece.x, piece.y, piece.heading), look);
+  for (SceneryItem item : block_.scenery) {
+    const Pose at = carried(item.x, item.y, item.heading);
+    item.x = at.x;
+    item.y = at.y;
+    item.heading = at.heading;
+    std::vector<Point> px;
+    for (const Point& p : sceneryOutline(site_.layout(), item))
+      px.push_back(site_.view.toScreen(p));
+    surface.polygon(px, {}, Stroke{plan_colors::kSelected, 1.5, Stroke::Style::Dashed});
+  }
+}
+
+std::string CarryBlockTool::hint() const {
+  return "Click to place " + (block_.name.empty() ? "the copy" : block_.name) + turningHint();
+}
+
+} // namespace trassix

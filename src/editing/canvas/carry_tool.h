@@ -1,0 +1,45 @@
+#pragma once
+
+#include "editing/canvas/canvas_tool.h"
+#include "editing/connector_geometry.h"
+
+namespace trassix {
+
+/// Something that hangs on the pointer until it is dropped or discarded. The mouse wheel and R turn
+/// it.
+class CarryTool : public CanvasTool {
+ public:
+  /// `held`: the mouse button is already down and its release drops what is carried. Otherwise a
+  /// click does, and the release that ends a double-click elsewhere does not.
+  CarryTool(ToolSite& site, bool held) : CanvasTool(site), armed_(held) {}
+
+  void press(const PointerInput& input) final;
+  void hover(const PointerInput& input) final;
+  void drag(const PointerInput& input) final { hover(input); }
+  void release(const PointerInput& input, bool dragged) final;
+  bool wheel(const PointerInput& input, int direction) final;
+  bool key(const KeyInput& input) final;
+  void cancel() final { done_ = true; }
+  bool finished() const final { return done_; }
+  bool carries() const final { return true; }
+  CursorShape cursor() const final { return CursorShape::Move; }
+
+ protected:
+  /// The pose has changed.
+  virtual void posed() {}
+  virtual EditResult drop() = 0;
+
+  const Pose& pose() const { return pose_; }
+  /// "Wheel or R: ..." for the end of a hint.
+  static const char* turningHint();
+
+ private:
+  void moveTo(Point world);
+  void turn(double degrees);
+
+  Pose pose_;
+  bool armed_;
+  bool done_ = false;
+};
+
+} // namespace trassix
