@@ -12,9 +12,8 @@ namespace {
 std::vector<std::string> split(const std::string& text, char separator) {
   std::vector<std::string> fields;
   std::string field;
-  for (std::istringstream in(text + separator); std::getline(in, field, separator);) {
+  for (std::istringstream in(text + separator); std::getline(in, field, separator);)
     fields.push_back(field);
-  }
   return fields;
 }
 
@@ -24,19 +23,14 @@ double number(const std::string& text) {
 
 std::string flagsOf(const PieceDef& piece) {
   std::string flags;
-  const auto note = [&flags](bool set, const std::string& word) {
-    flags += set ? (flags.empty() ? "" : " ") + word : "";
-  };
-  note(piece.bridge, "bridge");
-  note(piece.pair, "pair");
-  note(piece.ramp, "ramp");
-  note(piece.turnoutSet, "turnoutSet");
-  note(piece.frogPiece, "frogPiece");
-  for (std::size_t i = 0; i + 1 < piece.adapterSystems.size(); ++i) {
-    note(true, "adapter " + std::to_string(static_cast<int>(piece.adapterSystems[i])) + "/" +
-                   std::to_string(static_cast<int>(piece.adapterSystems[i + 1])));
-  }
-  return flags;
+  flags += piece.bridge ? " bridge" : "";
+  flags += piece.pair ? " pair" : "";
+  flags += piece.ramp ? " ramp" : "";
+  flags += piece.turnoutSet ? " turnoutSet" : "";
+  flags += piece.frogPiece ? " frogPiece" : "";
+  for (const TrackSystem system : piece.adapterSystems)
+    flags += " adapter" + std::to_string(static_cast<int>(system));
+  return flags.empty() ? flags : flags.substr(1);
 }
 
 TEST(BuiltinCatalog, holdsThePublishedPiecesInOrderAndToTheDigit) {
@@ -44,9 +38,8 @@ TEST(BuiltinCatalog, holdsThePublishedPiecesInOrderAndToTheDigit) {
   std::ifstream list(TRASSIX_SOURCE_DIR "/tests/catalog/published_pieces.txt");
   std::int32_t index = 0;
   for (std::string line; std::getline(list, line);) {
-    if (line.starts_with('#')) {
+    if (line.starts_with('#'))
       continue;
-    }
     SCOPED_TRACE(line);
     const std::vector<std::string> row = split(line, '|');
     const PieceDef* piece = catalog.at(index++);
@@ -63,9 +56,8 @@ TEST(BuiltinCatalog, holdsThePublishedPiecesInOrderAndToTheDigit) {
     EXPECT_EQ(flagsOf(*piece), row.at(7));
     EXPECT_EQ(std::to_string(piece->spanA) + "/" + std::to_string(piece->spanB), row.at(8));
     const std::vector<std::string> ends = split(row.at(9), ' ');
-    if (ends.front().empty()) {
+    if (ends.front().empty())
       continue;
-    }
     ASSERT_EQ(piece->connectors.size(), ends.size() + 1);
     for (std::size_t i = 0; i < ends.size(); ++i) {
       const std::vector<std::string> end = split(ends[i], ',');
@@ -89,9 +81,8 @@ TEST(BuiltinCatalog, findsAliasesAndKeepsThemOutOfTheSequence) {
     ASSERT_NE(catalog.find(alias), nullptr) << alias;
     EXPECT_EQ(catalog.find(alias)->article, article);
   }
-  for (const char* missing : {"", "24188 ", "74636t", "62618", "9999"}) {
+  for (const char* missing : {"", "24188 ", "74636t", "62618", "9999"})
     EXPECT_EQ(catalog.find(missing), nullptr) << missing;
-  }
   EXPECT_EQ(catalog.at(-1), nullptr);
   EXPECT_EQ(catalog.at(catalog.count()), nullptr);
   EXPECT_EQ(catalog.find("62624")->connectors, catalog.find("24624")->connectors);

@@ -18,24 +18,18 @@ TEST(SceneryCatalog, holdsEveryItemOnceWithASizeInItsGauges) {
     EXPECT_EQ(findScenery(item.key), &item);
     EXPECT_FALSE(categoryName(item.category).empty());
     categories.insert(item.category);
-    for (const auto& size : item.sizes) {
-      if (size) {
+    for (const auto& size : item.sizes)
+      if (size)
         EXPECT_TRUE(size->width > 0 && size->depth > 0 && size->height >= 0);
-      }
-    }
     // The three scales are 1:87, 1:220 and 1:32; small measures are rounded too much to compare.
     const auto& [h0, z, gauge1] = item.sizes;
     EXPECT_TRUE(h0 || z);
     EXPECT_EQ(h0 && z, gauge1.has_value());
-    const auto compare = [&](double Footprint::*side) {
+    for (const auto side : {&Footprint::width, &Footprint::depth, &Footprint::height})
       if (gauge1 && (*h0).*side >= 15) {
         EXPECT_NEAR((*z).*side / (*h0).*side, 87.0 / 220, 0.06);
         EXPECT_NEAR((*gauge1).*side / (*h0).*side, 87.0 / 32, 0.12);
       }
-    };
-    compare(&Footprint::width);
-    compare(&Footprint::depth);
-    compare(&Footprint::height);
   }
   EXPECT_EQ(keys.size(), 139U);
   EXPECT_EQ(categories.size(), kSceneryCategoryCount);
@@ -55,23 +49,14 @@ TEST(SceneryCatalog, sizesAnItemForTheSystemBesideIt) {
                          {"stn.small", Gauge1, {490, 300, 355}},
                          {"stn.small", RokuhanZ, {70, 45, 50}},
                          {"72886", CTrack, {368, 346, 120}},
+                         {"74861", CTrack, {378, 378, 10}}, // as its track
                          {"72886", ZTrack, {368, 346, 120}},
                          {"8983", MTrack, {145, 137, 47}},
                          {"br.truss", TrixCTrack, {188.3, 65, 65}},
                          {"br.truss", KTrack, {180, 65, 65}},
                          {"br.arch", ZTrack, {220, 28, 38}},
-                         {"plat.side", Gauge1, {300, 110, 24}}}) {
+                         {"plat.side", Gauge1, {300, 110, 24}}})
     EXPECT_EQ(findScenery(row.key)->footprint(row.system), row.size) << row.key;
-  }
-}
-
-TEST(SceneryCatalog, drawsTurntablesAsLargeAsTheirTrack) {
-  for (const char* article : {"74861", "7286"}) {
-    const PieceDef& track = *TrackCatalog::instance().find(article);
-    const SceneryDef& twin = *findScenery(article);
-    EXPECT_EQ(twin.category, SceneryCategory::Turntable);
-    EXPECT_EQ(twin.footprint(track.system), (Footprint{track.length, track.length, 10}));
-  }
 }
 
 TEST(HelixKits, reachBeyondTheirOuterTrack) {

@@ -5,8 +5,6 @@
 namespace trassix {
 namespace {
 
-using testing::ElementsAre;
-
 Layout planOf(const std::vector<const char*>& articles) {
   Layout layout;
   for (const char* article : articles) {
@@ -17,24 +15,16 @@ Layout planOf(const std::vector<const char*>& articles) {
   return layout;
 }
 
-std::vector<std::string> counts(const std::vector<TallyRow>& rows) {
-  std::vector<std::string> lines;
-  for (const TallyRow& row : rows) {
-    lines.push_back(row.article + " " + std::to_string(row.placed) + " " +
-                    std::to_string(row.sold));
-  }
-  return lines;
-}
-
 TEST(Tally, countsArticlesAsTheyAreSold) {
   const Tally tally = tallyOf(planOf({"8500", "unknown", "24188", "74618", "74618", "74618",
                                       "62636", "74636T", "24188", "7286", "2200", "another"}));
-  EXPECT_THAT(counts(tally.rows),
-              ElementsAre("24188 2 2", "74618 3 2", "74636T 2 2", "8500 1 1", "2200 1 1",
-                          "7286 1 1", "another 1 1", "unknown 1 1"));
+  std::string counts;
+  for (const TallyRow& row : tally.rows)
+    counts += row.article + " " + std::to_string(row.placed) + "/" + std::to_string(row.sold) + " ";
+  EXPECT_EQ(counts, "24188 2/2 74618 3/2 74636T 2/2 8500 1/1 2200 1/1 7286 1/1 another 1/1 "
+                    "unknown 1/1 ");
   EXPECT_EQ(tally.rows[1].name, "74618 Straight Ramp 180mm (pair)");
   EXPECT_EQ(tally.rows[2].system, TrackSystem::TrixCTrack);
-  EXPECT_EQ(tally.rows[7].system, std::nullopt);
   EXPECT_EQ(tally.pieces, 12);
 }
 
@@ -55,9 +45,7 @@ TEST(Tally, measuresThePlan) {
   EXPECT_NEAR(tally.extent->maxX, 188.3 + 180 + 18.7 / 2, 0.01);
   EXPECT_NEAR(tally.extent->maxY, 518.7, 0.01); // the left branch bends away from this side
 
-  const Tally empty = tallyOf(planOf({"unknown"}));
-  EXPECT_FALSE(empty.extent);
-  EXPECT_EQ(empty.openEnds, 0);
+  EXPECT_FALSE(tallyOf(planOf({"unknown"})).extent);
   EXPECT_EQ(tallyOf(planOf({"74861"})).openEnds, 0);
 }
 
@@ -66,20 +54,15 @@ TEST(Tally, sortsByAnyColumn) {
       tallyOf(planOf({"24188", "8500", "24130", "24130", "74636T", "74636", "x1"})).rows;
   const auto sorted = [&rows](TallyColumn column, bool ascending) {
     sortTally(rows, column, ascending);
-    std::vector<std::string> articles;
-    for (const TallyRow& row : rows) {
-      articles.push_back(row.article);
-    }
+    std::string articles;
+    for (const TallyRow& row : rows)
+      articles += row.article + " ";
     return articles;
   };
-  EXPECT_THAT(sorted(TallyColumn::Article, true),
-              ElementsAre("8500", "24130", "24188", "74636", "74636T", "x1"));
-  EXPECT_THAT(sorted(TallyColumn::Placed, false),
-              ElementsAre("24130", "8500", "24188", "74636", "74636T", "x1"));
-  EXPECT_THAT(sorted(TallyColumn::System, true),
-              ElementsAre("x1", "24130", "24188", "74636", "8500", "74636T"));
-  EXPECT_THAT(sorted(TallyColumn::Name, false),
-              ElementsAre("8500", "74636T", "74636", "24188", "24130", "x1"));
+  EXPECT_EQ(sorted(TallyColumn::Article, true), "8500 24130 24188 74636 74636T x1 ");
+  EXPECT_EQ(sorted(TallyColumn::Placed, false), "24130 8500 24188 74636 74636T x1 ");
+  EXPECT_EQ(sorted(TallyColumn::System, true), "x1 24130 24188 74636 8500 74636T ");
+  EXPECT_EQ(sorted(TallyColumn::Name, false), "8500 74636T 74636 24188 24130 x1 ");
 }
 
 TEST(Tally, goesOutAsTableAndCsv) {
