@@ -83,10 +83,10 @@ Point centreBlock(Block& block) {
   return middle;
 }
 
-std::string writeBlock(const Block& block, std::string& text) {
+std::string writeBlock(const Block& block, const TextSink& sink) {
   if (block.empty())
     return "No pieces or scenery selected";
-  ElementWriter writer;
+  ElementWriter writer(sink);
   writer.line("", kXmlDeclaration);
   writer.open("", "<block");
   writer.text("name", block.name);
@@ -96,8 +96,7 @@ std::string writeBlock(const Block& block, std::string& text) {
     writePiece(writer, piece, "  ");
   writeScenery(writer, block.scenery);
   writer.line("", "</block>");
-  text = writer.take();
-  return writer.failure();
+  return writer.finish();
 }
 
 std::string readBlock(std::string_view text, Block& block) {
@@ -115,9 +114,7 @@ std::string saveBlock(const Layout& layout, const std::filesystem::path& path,
                       std::string_view name) {
   Block block = blockFromSelection(layout);
   block.name = name;
-  std::string text;
-  const std::string failure = writeBlock(block, text);
-  return failure.empty() ? writeTextFile(path, text) : failure;
+  return replaceTextFile(path, [&block](const TextSink& sink) { return writeBlock(block, sink); });
 }
 
 std::string loadBlock(const std::filesystem::path& path, Block& block) {

@@ -2,6 +2,7 @@
 // over the canvas. Placing one is in editing/block_placing.h.
 #pragma once
 
+#include "document/element_writer.h"
 #include "document/layout.h"
 
 #include <filesystem>
@@ -29,9 +30,9 @@ Block blockFromSelection(const Layout& layout);
 /// extents) becomes the origin. Returns where that middle was.
 Point centreBlock(Block& block);
 
-/// The whole text of a block file in `text`. Returns a message, empty on success; an empty block
+/// Gives the text of a block file to `sink`. Returns a message, empty on success; an empty block
 /// and numbers that are not finite are refused.
-std::string writeBlock(const Block& block, std::string& text);
+std::string writeBlock(const Block& block, const TextSink& sink);
 
 /// Fills `block` from the text of a block file. Heights, grades, colours, helices and flags stay in
 /// the file: a block from the library comes level, plain and not selected. Returns a message, empty

@@ -1,17 +1,51 @@
 #include "document/element_reader.h"
 
+#include "document/layout.h"
 #include "document/number_text.h"
 
+#include <algorithm>
+#include <bit>
 #include <cstring>
 
 namespace trassix {
 
 namespace {
 
-constexpr std::int32_t kLargestId = 2'000'000'000;
-
 const char* findChar(const char* begin, const char* end, char c) {
   return static_cast<const char*>(std::memchr(begin, c, static_cast<std::size_t>(end - begin)));
+}
+
+/// Calls `visit` with every quote until it returns false. Values are short: looking at eight
+/// characters at once is faster than a call of memchr for each.
+template <class Visit>
+void visitQuotes(const char* begin, const char* end, Visit visit) {
+  if constexpr (std::endian::native == std::endian::little) {
+    constexpr std::uint64_t kQuotes = 0x2222222222222222;
+    constexpr std::uint64_t kLow = 0x7f7f7f7f7f7f7f7f;
+    for (; end - begin >= 8; begin += 8) {
+      std::uint64_t word = 0;
+      std::memcpy(&word, begin, sizeof word);
+      word ^= kQuotes;
+      // The top bit of each byte that was a quote.
+      for (std::uint64_t found = ~(((word & kLow) + kLow) | word | kLow); found != 0;
+           found &= found - 1) {
+        if (!visit(begin + std::countr_zero(found) / 8))
+          return;
+      }
+    }
+  }
+  for (; begin != end; ++begin) {
+    if (*begin == '"' && !visit(begin))
+      return;
+  }
+}
+
+std::string_view between(const char* open, const char* close) {
+  return {open + 1, static_cast<std::size_t>(close - open - 1)};
+}
+
+std::uint64_t letterBit(char c) {
+  return std::uint64_t{1} << (static_cast<unsigned char>(c) % 64U);
 }
 
 /// A value in a message: short, and nothing that a message box could stumble over.
@@ -36,7 +70,7 @@ bool ElementReader::next() {
   line_ = rest_.substr(0, length);
   rest_.remove_prefix(end == nullptr ? length : length + 1);
   ++lineNumber_;
-  quotesFound_ = false;
+  attributesFound_ = false;
 
   tagCount_ = 0;
   end = begin + length;
@@ -55,62 +89,93 @@ bool ElementReader::has(std::string_view opening) const {
     return line_.find(opening) != std::string_view::npos;
   const char* end = line_.data() + line_.size();
   for (std::size_t i = 0; i < tagCount_; ++i) {
-    if (static_cast<std::size_t>(end - tags_[i]) >= opening.size() &&
+    if (static_cast<std::size_t>(end - tags_[i]) >= opening.size() && tags_[i][1] == opening[1] &&
         std::memcmp(tags_[i], opening.data(), opening.size()) == 0)
       return true;
   }
   return false;
 }
 
-void ElementReader::findQuotes() {
-  quotesFound_ = true;
-  quoteCount_ = 0;
+void ElementReader::findAttributes() {
+  attributesFound_ = true;
+  attributeCount_ = 0;
+  expected_ = 0;
+  attributes_[0].earlierEnds = 0;
   if (tagCount_ == 0)
     return;
-  const char* end = line_.data() + line_.size();
-  for (const char* c = tags_[0]; c != end; ++c) {
-    if (*c != '"')
-      continue;
-    if (quoteCount_ == kMostQuotes) {
-      ++quoteCount_;
-      return;
+  const char* open = nullptr;
+  visitQuotes(tags_[0], line_.data() + line_.size(), [this, &open](const char* quote) {
+    if (open == nullptr) {
+      open = quote;
+      return true;
     }
-    quotes_[quoteCount_++] = c;
+    if (attributeCount_ == kMostAttributes) {
+      ++attributeCount_;
+      return false;
+    }
+    Attribute& attribute = attributes_[attributeCount_++];
+    attribute.open = open;
+    attribute.close = quote;
+    attributes_[attributeCount_].earlierEnds =
+        attribute.earlierEnds | (open - tags_[0] < 2 ? 0 : letterBit(open[-2]));
+    open = nullptr;
+    return true;
+  });
+}
+
+bool ElementReader::nameEndsAt(const char* open, std::string_view name) const {
+  if (open[-1] != '=' || static_cast<std::size_t>(open - line_.data()) <= name.size())
+    return false;
+  const char* c = open - 1;
+  for (std::size_t i = name.size(); i-- > 0;) {
+    if (*--c != name[i])
+      return false;
   }
+  return true;
 }
 
 std::string_view ElementReader::text(std::string_view name) {
-  if (!quotesFound_)
-    findQuotes();
-  const auto opens = [this, name](const char* quote) {
-    return static_cast<std::size_t>(quote - line_.data()) > name.size() && quote[-1] == '=' &&
-           quote[-2] == name.back() &&
-           std::memcmp(quote - 1 - name.size(), name.data(), name.size()) == 0;
-  };
-  const auto between = [](const char* open, const char* close) {
-    return std::string_view(open + 1, static_cast<std::size_t>(close - open - 1));
-  };
-  if (quoteCount_ <= kMostQuotes) {
-    for (std::size_t i = 0; i + 1 < quoteCount_; i += 2) {
-      if (opens(quotes_[i]))
-        return between(quotes_[i], quotes_[i + 1]);
-    }
+  if (!attributesFound_)
+    findAttributes();
+  if (attributeCount_ > kMostAttributes)
+    return searchLine(name);
+  const std::uint64_t letter = letterBit(name.back());
+  if ((attributes_[attributeCount_].earlierEnds & letter) == 0)
     return {};
-  }
-  const char* end = line_.data() + line_.size();
-  const char* open = quotes_[0];
-  const char* close = quotes_[1];
-  while (open != nullptr && close != nullptr) {
-    if (opens(open))
-      return between(open, close);
-    open = findChar(close + 1, end, '"');
-    close = open == nullptr ? nullptr : findChar(open + 1, end, '"');
+  std::size_t i = (attributes_[expected_].earlierEnds & letter) == 0 ? expected_ : 0;
+  for (; i < attributeCount_; ++i) {
+    if (nameEndsAt(attributes_[i].open, name)) {
+      expected_ = i + 1;
+      return between(attributes_[i].open, attributes_[i].close);
+    }
   }
   return {};
 }
 
+std::string_view ElementReader::searchLine(std::string_view name) const {
+  const char* end = line_.data() + line_.size();
+  const char* open = tags_[0];
+  for (;;) {
+    open = findChar(open, end, '"');
+    const char* close = open == nullptr ? nullptr : findChar(open + 1, end, '"');
+    if (close == nullptr)
+      return {};
+    if (nameEndsAt(open, name))
+      return between(open, close);
+    open = close + 1;
+  }
+}
+
 std::int32_t ElementReader::integer(std::string_view name) {
+  return toInteger(name, text(name));
+}
+
+std::int32_t ElementReader::integer(std::string_view name, std::int32_t absent) {
   const std::string_view value = text(name);
+  return value.empty() ? absent : toInteger(name, value);
+}
+
+std::int32_t ElementReader::toInteger(std::string_view name, std::string_view value) const {
   std::int32_t number = 0;
   const NumberError error = readInteger(value, number);
   if (error != NumberError::None)
@@ -119,12 +184,16 @@ std::int32_t ElementReader::integer(std::string_view name) {
   return number;
 }
 
-std::int32_t ElementReader::integer(std::string_view name, std::int32_t absent) {
-  return text(name).empty() ? absent : integer(name);
+double ElementReader::real(std::string_view name) {
+  return toReal(name, text(name));
 }
 
-double ElementReader::real(std::string_view name) {
+double ElementReader::real(std::string_view name, double absent) {
   const std::string_view value = text(name);
+  return value.empty() ? absent : toReal(name, value);
+}
+
+double ElementReader::toReal(std::string_view name, std::string_view value) const {
   double number = 0;
   const NumberError error = readReal(value, number);
   if (error != NumberError::None)
@@ -133,18 +202,15 @@ double ElementReader::real(std::string_view name) {
   return number;
 }
 
-double ElementReader::real(std::string_view name, double absent) {
-  return text(name).empty() ? absent : real(name);
-}
-
 std::int32_t ElementReader::id(std::string_view name) {
   const std::int32_t value = integer(name);
-  if (value > kLargestId)
+  if (value > Layout::kLargestId)
     fail("id too large", name, text(name));
   return value;
 }
 
-void ElementReader::fail(std::string_view reason, std::string_view name, std::string_view value) {
+void ElementReader::fail(std::string_view reason, std::string_view name,
+                         std::string_view value) const {
   throw ReadFailure(std::string(reason) + " (line " + std::to_string(lineNumber_) + ", " +
                     std::string(name) + "=\"" + excerpt(value) + "\")");
 }

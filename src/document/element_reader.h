@@ -49,13 +49,25 @@ class ElementReader {
   std::int32_t id(std::string_view name);
 
   /// Throws with the reason, the line number, the attribute and its value.
-  [[noreturn]] void fail(std::string_view reason, std::string_view name, std::string_view value);
+  [[noreturn]] void fail(std::string_view reason, std::string_view name,
+                         std::string_view value) const;
 
  private:
-  void findQuotes();
+  /// An opening quote with what helps to compare the name before it.
+  struct Attribute {
+    const char* open;
+    const char* close;
+    std::uint64_t earlierEnds; ///< a bit for each last letter of the names before this one
+  };
 
-  /// Lines of ours have fewer quotes and one '<'; longer ones are searched afresh each time.
-  static constexpr std::size_t kMostQuotes = 40;
+  std::int32_t toInteger(std::string_view name, std::string_view value) const;
+  double toReal(std::string_view name, std::string_view value) const;
+  void findAttributes();
+  bool nameEndsAt(const char* open, std::string_view name) const;
+  std::string_view searchLine(std::string_view name) const;
+
+  /// Lines of ours have fewer attributes and one '<'; longer ones are searched afresh each time.
+  static constexpr std::size_t kMostAttributes = 20;
   static constexpr std::size_t kMostTags = 4;
 
   std::string_view rest_;
@@ -63,9 +75,10 @@ class ElementReader {
   std::size_t lineNumber_ = 0;
   std::array<const char*, kMostTags> tags_{}; ///< every '<' of the line
   std::size_t tagCount_ = 0;                  ///< more than kMostTags: search the line
-  std::array<const char*, kMostQuotes> quotes_{};
-  std::size_t quoteCount_ = 0; ///< more than kMostQuotes: search the line
-  bool quotesFound_ = false;
+  std::array<Attribute, kMostAttributes + 1> attributes_{}; ///< one more to hold the last ends
+  std::size_t attributeCount_ = 0; ///< more than kMostAttributes: search the line
+  std::size_t expected_ = 0;       ///< the one after the one found last
+  bool attributesFound_ = false;
 };
 
 } // namespace trassix

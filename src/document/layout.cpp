@@ -44,6 +44,18 @@ void deselect(Records& records) {
     record.sel = false;
 }
 
+template <class Records>
+bool holdsId(const Records& records, std::int32_t id) {
+  return std::any_of(records.begin(), records.end(),
+                     [id](const auto& record) { return record.id == id; });
+}
+
+bool inUse(const PlanContent& content, std::int32_t id) {
+  return holdsId(content.pieces, id) || holdsId(content.scenery, id) ||
+         holdsId(content.labels, id) || holdsId(content.shapes, id) ||
+         holdsId(content.tunnels, id) || holdsId(content.helices, id);
+}
+
 } // namespace
 
 PlanContent& Layout::edit() {
@@ -103,6 +115,21 @@ void Layout::ensureLevel(std::int32_t id) {
   editSettings().levels.push_back(level);
 }
 
+std::int32_t Layout::takeId() {
+  if (nextPieceId_ > kLargestId) {
+    nextPieceId_ = 1;
+    reusingIds_ = true;
+  }
+  while (reusingIds_ && inUse(content_, nextPieceId_))
+    ++nextPieceId_;
+  return nextPieceId_++;
+}
+
+void Layout::setNextPieceId(std::int32_t id) {
+  nextPieceId_ = id;
+  reusingIds_ = false;
+}
+
 void Layout::startGradeRun(std::int32_t anchor, std::int32_t connector, double degrees) {
   PlanContent& content = edit();
   const auto run =
@@ -131,7 +158,7 @@ void Layout::clearSelection() {
 void Layout::clear() {
   content_ = {};
   settings_ = {};
-  nextPieceId_ = 1;
+  setNextPieceId(1);
   history_.clear();
   stamp();
 }

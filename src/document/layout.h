@@ -59,11 +59,15 @@ class Layout {
   /// Creates the level with this id, named after its number, when it is missing.
   void ensureLevel(std::int32_t id);
 
+  /// No record has a larger id.
+  static constexpr std::int32_t kLargestId = 2'000'000'000;
+
   /// The id the next new record receives; pieces, scenery, labels, shapes, tunnels and helices
   /// share the counter.
   std::int32_t nextPieceId() const { return nextPieceId_; }
-  std::int32_t takeId() { return nextPieceId_++; }
-  void setNextPieceId(std::int32_t id) { nextPieceId_ = id; }
+  /// Beyond the largest id, which only a file from elsewhere can bring about, unused ones follow.
+  std::int32_t takeId();
+  void setNextPieceId(std::int32_t id);
 
   /// Records or replaces the run that starts at `anchor`, then makes the last run the current
   /// grade.
@@ -87,6 +91,7 @@ class Layout {
   PlanContent content_;
   PlanSettings settings_;
   std::int32_t nextPieceId_ = 1;
+  bool reusingIds_ = false; ///< the counter has started over and must pass over ids in use
   History history_;
   std::uint64_t revision_ = 0;
 };

@@ -143,10 +143,10 @@ void writeHelix(ElementWriter& writer, const Helix& helix) {
 
 } // namespace
 
-std::string writeLayout(const Layout& layout, std::string_view name, std::string& text) {
+std::string writeLayout(const Layout& layout, std::string_view name, const TextSink& sink) {
   const PlanContent& content = layout.content();
   const PlanSettings& settings = layout.settings();
-  ElementWriter writer;
+  ElementWriter writer(sink);
   writer.line("", kXmlDeclaration);
   writer.open("", "<layout");
   writer.text("name", name);
@@ -167,15 +167,18 @@ std::string writeLayout(const Layout& layout, std::string_view name, std::string
   writeSection(writer, "<tunnels>", "</tunnels>", content.tunnels, writeTunnel);
   writeSection(writer, "<helices>", "</helices>", content.helices, writeHelix);
   writer.line("", "</layout>");
-  text = writer.take();
-  return writer.failure();
+  return writer.finish();
+}
+
+std::string writeLayout(const Layout& layout, std::string_view name, std::string& text) {
+  text.clear();
+  return writeLayout(layout, name, [&text](std::string_view part) { text += part; });
 }
 
 std::string saveLayout(const Layout& layout, const std::filesystem::path& path,
                        std::string_view name) {
-  std::string text;
-  const std::string failure = writeLayout(layout, name, text);
-  return failure.empty() ? writeTextFile(path, text) : failure;
+  return replaceTextFile(path,
+                         [&](const TextSink& sink) { return writeLayout(layout, name, sink); });
 }
 
 } // namespace trassix

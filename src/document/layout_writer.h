@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/element_writer.h"
 #include "document/layout.h"
 
 #include <filesystem>
@@ -8,8 +9,12 @@
 
 namespace trassix {
 
-/// The whole text of a layout file in `text`. Returns a message, empty on success; the only failure
-/// is a number that is not finite, which no file may hold because none could be read back.
+/// Gives the text of a layout file to `sink`, part by part. Returns a message, empty on success;
+/// the only failure is a number that is not finite, which no file may hold because none could be
+/// read back.
+std::string writeLayout(const Layout& layout, std::string_view name, const TextSink& sink);
+
+/// The same, the whole text in `text`.
 std::string writeLayout(const Layout& layout, std::string_view name, std::string& text);
 
 /// Saves without ever leaving a damaged file: see `writeTextFile`. Returns a message, empty on

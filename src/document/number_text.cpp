@@ -136,8 +136,10 @@ char* writeReal(char* out, double value) {
   }
   out = writeDigits(out, whole);
   *out++ = '.';
-  for (std::uint32_t unit = 1000; unit != 0; unit /= 10)
-    *out++ = static_cast<char>('0' + decimals / unit % 10);
+  *out++ = static_cast<char>('0' + decimals / 1000);
+  *out++ = static_cast<char>('0' + decimals / 100 % 10);
+  *out++ = static_cast<char>('0' + decimals / 10 % 10);
+  *out++ = static_cast<char>('0' + decimals % 10);
   return out;
 }
 

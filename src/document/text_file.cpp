@@ -48,28 +48,19 @@ std::error_code createBeside(const fs::path& target, bool exists, FileOperations
   return error;
 }
 
-std::string replaceFile(const fs::path& path, std::string_view text, FileOperations& operations) {
-  const fs::path target = behindLinks(path);
+/// Writes what is produced and makes sure that it is on the disk. A failure of the producer comes
+/// first: it is what the user can do something about.
+std::string fill(const fs::path& path, const TextProducer& produce, FileOperations& operations) {
   std::error_code error;
-  const fs::file_status status = fs::status(target, error);
-  const bool exists = fs::exists(status);
-  if (!target.has_filename() || (exists && !fs::is_regular_file(status)))
-    return cannotOpen(path);
-
-  fs::path temporary;
-  if (createBeside(target, exists, operations, temporary))
-    return cannotOpen(path);
-  error = operations.write(text);
+  std::string message = produce([&error, &operations](std::string_view text) {
+    if (!error)
+      error = operations.write(text);
+  });
   if (!error)
     error = operations.flush();
   if (const std::error_code closing = operations.close(); !error)
     error = closing;
-  if (!error)
-    error = operations.rename(temporary, target);
-  if (!error)
-    return {};
-  operations.remove(temporary);
-  return cannotWrite(path, error);
+  return error && message.empty() ? cannotWrite(path, error) : message;
 }
 
 } // namespace
@@ -100,17 +91,38 @@ std::string readTextFile(const fs::path& path, std::string& text) {
   }
 }
 
-std::string writeTextFile(const fs::path& path, std::string_view text) {
+std::string replaceTextFile(const fs::path& path, const TextProducer& produce) {
   SystemFileOperations operations;
-  return writeTextFile(path, text, operations);
+  return replaceTextFile(path, produce, operations);
 }
 
-std::string writeTextFile(const fs::path& path, std::string_view text, FileOperations& operations) {
+std::string replaceTextFile(const fs::path& path, const TextProducer& produce,
+                            FileOperations& operations) {
+  const fs::path target = behindLinks(path);
+  std::error_code error;
+  const fs::file_status status = fs::status(target, error);
+  const bool exists = fs::exists(status);
+  if (!target.has_filename() || (exists && !fs::is_regular_file(status)))
+    return cannotOpen(path);
+
+  fs::path temporary;
+  if (createBeside(target, exists, operations, temporary))
+    return cannotOpen(path);
+  std::string message;
   try {
-    return replaceFile(path, text, operations);
+    message = fill(path, produce, operations);
+    if (message.empty()) {
+      error = operations.rename(temporary, target);
+      if (error)
+        message = cannotWrite(path, error);
+    }
   } catch (const std::exception& failure) {
-    return "Cannot write file: " + pathText(path) + " (" + failure.what() + ")";
+    static_cast<void>(operations.close());
+    message = "Cannot write file: " + pathText(path) + " (" + failure.what() + ")";
   }
+  if (!message.empty())
+    operations.remove(temporary);
+  return message;
 }
 
 } // namespace trassix

@@ -5,6 +5,7 @@
 #include "document/file_operations.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,11 +17,16 @@ std::string pathText(const std::filesystem::path& path);
 /// Reads a regular file as it is. On failure `text` is left alone.
 std::string readTextFile(const std::filesystem::path& path, std::string& text);
 
+/// Gives the text of a file to the sink it is called with, and returns a message: when that is not
+/// empty, the text is thrown away.
+using TextProducer = std::function<std::string(const std::function<void(std::string_view)>& sink)>;
+
 /// Writes a temporary file in the target's folder, flushes it to the disk and renames it over the
 /// target. A symbolic link stays and what it points to is replaced; the target's permissions are
-/// kept. When a step fails, the target is as it was and the temporary file is removed.
-std::string writeTextFile(const std::filesystem::path& path, std::string_view text);
-std::string writeTextFile(const std::filesystem::path& path, std::string_view text,
-                          FileOperations& operations);
+/// kept. When a step or the producer fails, the target is as it was and the temporary file is
+/// removed.
+std::string replaceTextFile(const std::filesystem::path& path, const TextProducer& produce);
+std::string replaceTextFile(const std::filesystem::path& path, const TextProducer& produce,
+                            FileOperations& operations);
 
 } // namespace trassix

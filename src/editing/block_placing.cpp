@@ -2,6 +2,7 @@
 
 #include "editing/joining.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -29,35 +30,24 @@ std::vector<PlacedPiece> freshPieces(Layout& layout, const Block& block, const P
   return pieces;
 }
 
-/// Joints get the new id of their target, or are opened when that is not in the block.
+/// Joints get the new id of their target, or are opened when that is not in the block. A damaged
+/// file can hold joints that only one side knows of, or of a piece with itself; no plan may have
+/// these.
 void remapJoints(std::vector<PlacedPiece>& pieces, const Block& block) {
   std::unordered_map<std::int32_t, std::size_t> positions;
   for (std::size_t i = 0; i < pieces.size(); ++i)
     positions.emplace(block.pieces[i].id, i);
-  for (PlacedPiece& piece : pieces) {
-    for (Joint& joint : piece.joints) {
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    const std::int32_t oldId = block.pieces[i].id;
+    for (std::size_t slot = 0; slot < pieces[i].joints.size(); ++slot) {
+      Joint& joint = pieces[i].joints[slot];
       const auto target = positions.find(joint.target);
-      if (target == positions.end())
+      const Joint back{oldId, static_cast<std::int32_t>(slot)};
+      if (target == positions.end() || target->second == i || positions[oldId] != i ||
+          block.pieces[target->second].joint(static_cast<std::size_t>(joint.tconn)) != back)
         joint = {};
       else
         joint.target = pieces[target->second].id;
-    }
-  }
-}
-
-/// A damaged file can hold joints that only one side knows of, or of a piece with itself; no plan
-/// may have these. The pieces' ids are consecutive.
-void openBadJoints(std::vector<PlacedPiece>& pieces) {
-  for (PlacedPiece& piece : pieces) {
-    for (std::size_t slot = 0; slot < piece.joints.size(); ++slot) {
-      Joint& joint = piece.joints[slot];
-      if (joint.open())
-        continue;
-      const auto position = static_cast<std::size_t>(joint.target - pieces.front().id);
-      const Joint back{piece.id, static_cast<std::int32_t>(slot)};
-      if (joint.target == piece.id ||
-          pieces[position].joint(static_cast<std::size_t>(joint.tconn)) != back)
-        joint = {};
     }
   }
 }
@@ -81,14 +71,13 @@ EditResult placeBlock(Layout& layout, const Block& block, const Pose& pose) {
 
   std::vector<PlacedPiece> pieces = freshPieces(layout, block, pose);
   remapJoints(pieces, block);
-  openBadJoints(pieces);
   PlanContent& content = layout.edit();
   for (PlacedPiece& piece : pieces) {
     result.placed.push_back(piece.id);
     content.pieces.push_back(std::move(piece));
   }
-  // Ids were taken in rising order.
-  const std::vector<std::int32_t> placedPieces = result.placed;
+  std::vector<std::int32_t> placedPieces = result.placed;
+  std::sort(placedPieces.begin(), placedPieces.end());
   for (SceneryItem item : block.scenery) {
     item.id = layout.takeId();
     move(item, pose);

@@ -21,7 +21,7 @@ TEST(BlockFile, writesTheDocumentedExampleAsItIs) {
     piece.sel = true;
   block.scenery[0].sel = true;
   std::string text;
-  EXPECT_EQ(writeBlock(block, text), "");
+  EXPECT_EQ(writeBlock(block, [&text](std::string_view part) { text += part; }), "");
   EXPECT_EQ(text, example);
 }
 

@@ -1,3 +1,4 @@
+#include "catalog/track_catalog.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
 #include "support/comma_locale.h"
@@ -153,6 +154,8 @@ TEST(LayoutFile, saysWhatIsWrongAndWhere) {
       {line("<tunnel id=\"1\" portalA=\"-99999999999\""),
        "stoi argument out of range (line 3, portalA=\"-99999999999\")"},
   };
+  for (std::int32_t i = 0; i < TrackCatalog::instance().count(); ++i)
+    EXPECT_LE(TrackCatalog::instance().at(i)->connectors.size(), 48U);
   for (const auto& c : cases) {
     Layout layout;
     std::string name;

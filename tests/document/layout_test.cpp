@@ -73,6 +73,15 @@ TEST(Layout, stampsEveryChangeAndNothingElse) {
   EXPECT_EQ(other.content(), copy.content());
 }
 
+TEST(Layout, givesUnusedIdsWhenTheLargestIsTaken) {
+  Layout layout;
+  layout.edit().pieces = {pieceAt(Layout::kLargestId, 0), pieceAt(2, 0)};
+  layout.edit().labels = {{1, "", 0, 0, false}};
+  layout.setNextPieceId(Layout::kLargestId + 1);
+  EXPECT_EQ(layout.takeId(), 3);
+  EXPECT_EQ(layout.takeId(), 4);
+}
+
 TEST(Layout, mirrorsTheLastGradeRun) {
   Layout layout;
   layout.startGradeRun(4, 1, 2.5);

@@ -23,6 +23,17 @@ enum class Step { Create, Write, Flush, Close, Rename, Done };
 constexpr Step kFailingSteps[] = {Step::Create, Step::Write, Step::Flush, Step::Close,
                                   Step::Rename};
 
+std::string writeTextFile(const fs::path& path, std::string_view text,
+                          FileOperations&& operations = SystemFileOperations()) {
+  return replaceTextFile(
+      path,
+      [text](const auto& sink) {
+        sink(text);
+        return std::string();
+      },
+      operations);
+}
+
 /// Fails at one step, or ends the process there as a power cut would.
 class FaultyOperations : public SystemFileOperations {
  public:
@@ -72,8 +83,7 @@ TEST(TextFile, keepsTheOldFileWhenAnyStepFails) {
   const fs::path target = folder.path() / "plan.txl";
   writeText(target, "old");
   for (const Step step : kFailingSteps) {
-    FaultyOperations operations(step);
-    const std::string message = writeTextFile(target, "the new text", operations);
+    const std::string message = writeTextFile(target, "the new text", FaultyOperations(step));
     const bool opened = step != Step::Create;
     EXPECT_TRUE(message.starts_with((opened ? "Cannot write file: " : "Cannot open file: ") +
                                     target.string()))
@@ -89,8 +99,7 @@ TEST(TextFileDeathTest, keepsACompleteFileWhenKilledAtAnyStep) {
     const TempFolder folder;
     const fs::path target = folder.path() / "plan.txl";
     writeText(target, "old");
-    FaultyOperations operations(step, true);
-    EXPECT_EXIT(static_cast<void>(writeTextFile(target, "the new text", operations)),
+    EXPECT_EXIT(writeTextFile(target, "the new text", FaultyOperations(step, true)),
                 testing::ExitedWithCode(9), "");
     EXPECT_EQ(readText(target), step == Step::Done ? "the new text" : "old");
   }

@@ -20,9 +20,9 @@ inline void PrintTo(const Joint& joint, std::ostream* out) {
 }
 
 inline void PrintTo(const PlacedPiece& piece, std::ostream* out) {
-  ElementWriter writer;
+  ElementWriter writer([out](std::string_view text) { *out << '\n' << text; });
   writePiece(writer, piece, "");
-  *out << '\n' << writer.take();
+  writer.finish();
 }
 
 } // namespace trassix
