@@ -42,7 +42,8 @@ void expectGeometryOfKind(const PieceDef& piece) {
   const double aside = half * std::sin(piece.angle * kRadian);
   switch (piece.kind) {
   case PieceKind::TrackEnd:
-    return EXPECT_EQ(ends, 1U);
+    EXPECT_EQ(ends, 1U);
+    return;
   case PieceKind::Straight:
   case PieceKind::Uncoupler:
     EXPECT_EQ(ends, 2U);

@@ -19,17 +19,17 @@ TEST(SceneryCatalog, holdsEveryItemOnceWithASizeInItsGauges) {
     EXPECT_FALSE(categoryName(item.category).empty());
     categories.insert(item.category);
     for (const auto& size : item.sizes)
-      if (size)
-        EXPECT_TRUE(size->width > 0 && size->depth > 0 && size->height >= 0);
+      EXPECT_TRUE(!size || (size->width > 0 && size->depth > 0 && size->height >= 0));
     // The three scales are 1:87, 1:220 and 1:32; small measures are rounded too much to compare.
     const auto& [h0, z, gauge1] = item.sizes;
     EXPECT_TRUE(h0 || z);
     EXPECT_EQ(h0 && z, gauge1.has_value());
-    for (const auto side : {&Footprint::width, &Footprint::depth, &Footprint::height})
+    for (const auto side : {&Footprint::width, &Footprint::depth, &Footprint::height}) {
       if (gauge1 && (*h0).*side >= 15) {
         EXPECT_NEAR((*z).*side / (*h0).*side, 87.0 / 220, 0.06);
         EXPECT_NEAR((*gauge1).*side / (*h0).*side, 87.0 / 32, 0.12);
       }
+    }
   }
   EXPECT_EQ(keys.size(), 139U);
   EXPECT_EQ(categories.size(), kSceneryCategoryCount);
