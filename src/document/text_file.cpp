@@ -125,4 +125,11 @@ std::string replaceTextFile(const fs::path& path, const TextProducer& produce,
   return message;
 }
 
+std::string writeTextFile(const fs::path& path, std::string_view text) {
+  return replaceTextFile(path, [text](const std::function<void(std::string_view)>& sink) {
+    sink(text);
+    return std::string{};
+  });
+}
+
 } // namespace trassix

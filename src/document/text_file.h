@@ -29,4 +29,7 @@ std::string replaceTextFile(const std::filesystem::path& path, const TextProduce
 std::string replaceTextFile(const std::filesystem::path& path, const TextProducer& produce,
                             FileOperations& operations);
 
+/// The same for a text that is there already.
+std::string writeTextFile(const std::filesystem::path& path, std::string_view text);
+
 } // namespace trassix
