@@ -87,7 +87,11 @@ void MainFrame::buildPanels() {
   auto* outer = makeSplitter(root, "outerSplitter");
   palette_ =
       new PalettePanel(outer, {[this](std::string_view article) { canvas_->dragPiece(article); },
-                               [this](std::string_view article) { placeFromPalette(article); }});
+                               [this](std::string_view article) { placeFromPalette(article); },
+                               [this](std::string_view key) { canvas_->dragScenery(key); },
+                               [this](std::string_view key) { canvas_->pickUpScenery(key); },
+                               [this](const Block& block) { canvas_->pickUpBlock(block); },
+                               [this] { return layout_.settings().units; }});
   palette_->SetMinSize({kPaletteMinWidth, -1});
   FrameTrace::write("BuildPanels: palette created");
   auto* inner = makeSplitter(outer, "innerSplitter");
@@ -429,6 +433,7 @@ void MainFrame::setUnits(std::int32_t units) {
   layout_.editSettings().units = units;
   appPrefs().units = units;
   writePrefs(appPrefs(), StandardFolders::prefsFile());
+  palette_->unitsChanged();
   tellAll();
 }
 

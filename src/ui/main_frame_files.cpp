@@ -88,9 +88,7 @@ bool MainFrame::loadLayout(const std::filesystem::path& path) {
   canvas_->update();
   selectionChanged();
   refreshProperties();
-  if (!layout_.pieces().empty())
-    if (const PieceDef* first = TrackCatalog::instance().find(layout_.pieces().front().cat))
-      palette_->showSystem(first->system);
+  palette_->followLayout(layout_);
   SetStatusText(openedStatus(), 0);
   showPieceCount();
   return true;

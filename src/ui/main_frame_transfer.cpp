@@ -109,7 +109,7 @@ void MainFrame::saveBlock() {
   if (dialog.ShowModal() != wxID_OK || dialog.GetValue().empty())
     return;
   const wxString name = dialog.GetValue();
-  const std::filesystem::path folder = UserPaths::libraryFolder(systemName(palette_->system()));
+  const std::filesystem::path folder = palette_->libraryFolder();
   // A folder that cannot be made shows as a block that cannot be written.
   std::error_code ignored;
   std::filesystem::create_directories(folder, ignored);
@@ -119,7 +119,7 @@ void MainFrame::saveBlock() {
     wxMessageBox(fromUtf8(message), _("Save Block Failed"), wxOK | wxICON_ERROR, this);
     return;
   }
-  palette_->showSystem(palette_->system());
+  palette_->reloadLibrary();
   wxMessageBox(_("Block saved: ") + name, _("Save Block"), wxOK | wxICON_INFORMATION, this);
 }
 

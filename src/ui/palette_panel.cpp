@@ -1,56 +1,137 @@
 #include "ui/palette_panel.h"
 
-#include "catalog/track_catalog.h"
-#include "ui/piece_list.h"
+#include "app/services/path_text.h"
+#include "app/services/user_paths.h"
+#include "editing/measure_format.h"
+#include "ui/catalog_list.h"
+#include "ui/palette_drawings.h"
 #include "ui/utf8.h"
 
 #include <wx/choice.h>
+#include <wx/menu.h>
+#include <wx/msgdlg.h>
+#include <wx/simplebook.h>
 #include <wx/sizer.h>
 #include <wx/srchctrl.h>
+#include <wx/tglbtn.h>
 
 #include <algorithm>
+#include <system_error>
 
 namespace trassix {
 
+namespace {
+
+/// The article stands above: the name need not begin with it again.
+wxString nameWithoutArticle(const PieceDef& piece) {
+  wxString name = fromUtf8(piece.name);
+  wxString rest;
+  if (name.StartsWith(fromUtf8(piece.article) + " ", &rest))
+    name = rest;
+  if (name.StartsWith("- ", &rest))
+    name = rest;
+  return name;
+}
+
+wxString headingOf(const PaletteGroup& group, std::int32_t units) {
+  const wxString name = wxGetTranslation(fromUtf8(groupName(group.group)));
+  if (group.group != PieceGroup::Curves)
+    return name;
+  return wxString::Format(_("%s, radius %s"), name, fromUtf8(formatLength(group.radius, units)));
+}
+
+wxString sizeText(const Footprint& size, std::int32_t units) {
+  return wxString::Format(wxS("%s \u00d7 %s"),
+                          fromUtf8(formatLength(size.width, units)).BeforeFirst(' '),
+                          fromUtf8(formatLength(size.depth, units)));
+}
+
+CatalogRow heading(const wxString& title) {
+  CatalogRow row;
+  row.heading = true;
+  row.title = title;
+  return row;
+}
+
+} // namespace
+
 PalettePanel::PalettePanel(wxWindow* parent, Actions actions)
-    : wxPanel(parent), actions_(std::move(actions)),
+    : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, "palette"),
+      actions_(std::move(actions)),
       choice_(new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
                            wxDefaultValidator, "systems")),
-      search_(new wxSearchCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
-                               wxDefaultValidator, "search")),
-      list_(new PieceList(
-          this, [this](const PieceDef& piece) { actions_.drag(piece.article); },
-          [this](const PieceDef& piece) { actions_.activate(piece.article); })) {
+      search_(new wxSearchCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                               wxTE_PROCESS_ENTER, wxDefaultValidator, "search")),
+      pages_(new wxSimplebook(this)) {
+  const auto typed = [this](const wxString& text) {
+    search_->SetFocus();
+    search_->SetValue(search_->GetValue() + text);
+    search_->SetInsertionPointEnd();
+  };
+  trackList_ = new CatalogList(pages_, "pieces",
+                               {[this](std::size_t row) {
+                                  const std::string article = pieces_[row]->article;
+                                  actions_.dragPiece(article);
+                                  model_.noteUse(article);
+                                  CallAfter([this] { fillTrack(); });
+                                },
+                                [this](std::size_t row) { usePiece(row); },
+                                {},
+                                typed});
+  sceneryList_ =
+      new CatalogList(pages_, "scenery",
+                      {[this](std::size_t row) { actions_.dragScenery(scenery_[row]->key); },
+                       [this](std::size_t row) { actions_.useScenery(scenery_[row]->key); },
+                       {},
+                       typed});
+  libraryList_ = new CatalogList(pages_, "library",
+                                 {{},
+                                  [this](std::size_t row) { loadEntry(*blocks_[row]); },
+                                  [this](std::size_t row) { showEntryMenu(*blocks_[row]); },
+                                  typed});
+  pages_->AddPage(trackList_, _("Track"));
+  pages_->AddPage(sceneryList_, _("Scenery"));
+  pages_->AddPage(libraryList_, _("Library"));
+  auto* tabRow = new wxBoxSizer(wxHORIZONTAL);
+  for (const Tab tab : {kTrackTab, kSceneryTab, kLibraryTab}) {
+    auto* button = new wxToggleButton(this, wxID_ANY, pages_->GetPageText(tab), wxDefaultPosition,
+                                      wxDefaultSize, wxBU_EXACTFIT);
+    button->SetMinSize({1, -1});
+    button->Bind(wxEVT_TOGGLEBUTTON, [this, tab](wxCommandEvent&) { showTab(tab); });
+    tabRow->Add(button, wxSizerFlags(1).Expand());
+    tabs_.at(tab) = button;
+  }
+  showTab(kTrackTab);
+
   search_->SetDescriptiveText(_("Article, name or number"));
   search_->ShowCancelButton(true);
   choice_->SetToolTip(_("Track system"));
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   sizer->Add(choice_, wxSizerFlags().Expand().Border(wxALL, FromDIP(4)));
   sizer->Add(search_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(4)));
-  sizer->Add(list_, wxSizerFlags(1).Expand());
+  sizer->Add(tabRow, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(4)));
+  sizer->Add(pages_, wxSizerFlags(1).Expand());
   SetSizer(sizer);
-  choice_->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { fill(); });
-  search_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { fill(); });
+
+  choice_->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
+    showSystem(systems_[static_cast<std::size_t>(event.GetSelection())]);
+  });
+  search_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { searchFor(search_->GetValue()); });
   search_->Bind(wxEVT_SEARCHCTRL_CANCEL_BTN, [this](wxCommandEvent&) { search_->Clear(); });
+  search_->Bind(wxEVT_CHAR_HOOK, &PalettePanel::onSearchKey, this);
 }
 
 void PalettePanel::populate() {
-  const TrackCatalog& catalog = TrackCatalog::instance();
-  systems_.clear();
+  systems_ = paletteSystems();
   choice_->Clear();
-  for (std::int32_t i = 0; i < catalog.count(); ++i) {
-    const TrackSystem system = catalog.at(i)->system;
-    if (std::find(systems_.begin(), systems_.end(), system) == systems_.end()) {
-      systems_.push_back(system);
-      choice_->Append(fromUtf8(systemName(system)));
-    }
-  }
-  choice_->SetSelection(0);
-  fill();
+  for (const TrackSystem system : systems_)
+    choice_->Append(fromUtf8(systemName(system)));
+  showSystem(systems_.front());
 }
 
-TrackSystem PalettePanel::system() const {
-  return systems_[static_cast<std::size_t>(std::max(0, choice_->GetSelection()))];
+void PalettePanel::followLayout(const trassix::Layout& layout) {
+  if (const std::optional<TrackSystem> system = chiefSystem(layout))
+    showSystem(*system);
 }
 
 void PalettePanel::showSystem(TrackSystem system) {
@@ -58,20 +139,184 @@ void PalettePanel::showSystem(TrackSystem system) {
   if (found == systems_.end())
     return;
   choice_->SetSelection(static_cast<int>(found - systems_.begin()));
-  fill();
+  model_.setSystem(system);
+  fillTrack();
+  fillScenery();
+  reloadLibrary();
 }
 
-void PalettePanel::fill() {
-  const TrackCatalog& catalog = TrackCatalog::instance();
-  const wxString wanted = search_->GetValue().Lower();
-  std::vector<const PieceDef*> pieces;
-  for (std::int32_t i = 0; i < catalog.count(); ++i) {
-    const PieceDef* piece = catalog.at(i);
-    if (piece->system == system() &&
-        (wanted.empty() || fromUtf8(piece->article + " " + piece->name).Lower().Contains(wanted)))
-      pieces.push_back(piece);
+void PalettePanel::showTab(Tab tab) {
+  pages_->SetSelection(static_cast<std::size_t>(tab));
+  for (const Tab other : {kTrackTab, kSceneryTab, kLibraryTab})
+    tabs_.at(other)->SetValue(other == tab);
+}
+
+void PalettePanel::unitsChanged() {
+  fillTrack();
+  fillScenery();
+}
+
+std::filesystem::path PalettePanel::libraryFolder() const {
+  return UserPaths::libraryFolder(systemName(system()));
+}
+
+void PalettePanel::reloadLibrary() {
+  blocks_.clear();
+  library_ = libraryBlocks(libraryFolder());
+  fillLibrary();
+}
+
+void PalettePanel::searchFor(const wxString& text) {
+  model_.setSearch(toUtf8(text));
+  fillTrack();
+  fillScenery();
+  fillLibrary();
+}
+
+CatalogList& PalettePanel::shownList() const {
+  return *static_cast<CatalogList*>(pages_->GetCurrentPage());
+}
+
+void PalettePanel::onSearchKey(wxKeyEvent& event) {
+  switch (event.GetKeyCode()) {
+  case WXK_UP:
+    return shownList().moveSelection(-1);
+  case WXK_DOWN:
+    return shownList().moveSelection(1);
+  case WXK_RETURN:
+  case WXK_NUMPAD_ENTER:
+    return shownList().activateSelected();
+  case WXK_ESCAPE:
+    search_->Clear();
+    return shownList().SetFocus();
+  default:
+    event.Skip();
   }
-  list_->setPieces(std::move(pieces));
+}
+
+void PalettePanel::fillTrack() {
+  const std::int32_t units = actions_.units();
+  std::vector<CatalogRow> rows;
+  pieces_.clear();
+  const double widest = widestToScale(model_.system());
+  for (const PaletteGroup& group : model_.groups()) {
+    rows.push_back(heading(headingOf(group, units)));
+    pieces_.push_back(nullptr);
+    for (const PieceDef* piece : group.pieces) {
+      rows.push_back({false, true, fromUtf8(piece->article), nameWithoutArticle(*piece),
+                      fromUtf8(piece->name),
+                      [piece, widest](Surface& surface, const PictureRoom& room) {
+                        drawPiece(surface, room, *piece, widest);
+                      }});
+      pieces_.push_back(piece);
+    }
+  }
+  trackList_->setRows(std::move(rows), _("No track of this system\nfits the search."));
+}
+
+void PalettePanel::fillScenery() {
+  const std::int32_t units = actions_.units();
+  const TrackSystem shown = model_.system();
+  std::vector<CatalogRow> rows;
+  scenery_.clear();
+  for (const SceneryGroup& group : model_.scenery()) {
+    rows.push_back(heading(wxGetTranslation(fromUtf8(categoryName(group.category)))));
+    scenery_.push_back(nullptr);
+    double widest = 0;
+    for (const SceneryDef* item : group.items)
+      widest = std::max(widest, item->footprint(shown).width);
+    for (const SceneryDef* item : group.items) {
+      const Footprint size = item->footprint(shown);
+      wxString name = fromUtf8(item->name);
+      if (!name.empty())
+        name[0] = wxToupper(name[0]);
+      const wxString measures = sizeText(size, units);
+      rows.push_back({false, false, name, measures, name + "\n" + measures,
+                      [item, size, widest](Surface& surface, const PictureRoom& room) {
+                        drawScenery(surface, room, *item, size, widest);
+                      }});
+      scenery_.push_back(item);
+    }
+  }
+  sceneryList_->setRows(std::move(rows), _("No scenery of this gauge\nfits the search."));
+}
+
+void PalettePanel::fillLibrary() {
+  const wxString wanted = search_->GetValue().Lower();
+  std::vector<CatalogRow> rows;
+  blocks_.clear();
+  for (const LibraryEntry& entry : library_) {
+    const wxString name = fromUtf8(entry.name);
+    if (!name.Lower().Contains(wanted))
+      continue;
+    const wxString content =
+        !entry.problem.empty()
+            ? _("Cannot be read")
+            : wxString::Format(wxPLURAL("%zu piece", "%zu pieces",
+                                        static_cast<unsigned>(entry.block.pieces.size())),
+                               entry.block.pieces.size());
+    rows.push_back({false, false, name, content,
+                    entry.problem.empty() ? name : fromUtf8(entry.problem),
+                    [&entry](Surface& surface, const PictureRoom& room) {
+                      drawBlock(surface, room, entry.block);
+                    }});
+    blocks_.push_back(&entry);
+  }
+  libraryList_->setRows(
+      std::move(rows),
+      library_.empty() ? _("No blocks of this system yet.\n\nSelect track on the plan and choose\n"
+                           "File > Save as Library Block.")
+                       : _("No block fits the search."));
+}
+
+void PalettePanel::usePiece(std::size_t row) {
+  noteUse(*pieces_[row]);
+  actions_.usePiece(pieces_[row]->article);
+}
+
+void PalettePanel::noteUse(const PieceDef& piece) {
+  // Later: the list is still at work on the click or key that used the piece.
+  CallAfter([this, &piece] {
+    const int above = trackList_->rowsAboveSelection();
+    model_.noteUse(piece.article);
+    fillTrack();
+    const auto last = std::find(pieces_.rbegin(), pieces_.rend(), &piece);
+    if (last != pieces_.rend())
+      trackList_->select(static_cast<std::size_t>(pieces_.rend() - last - 1), above);
+  });
+}
+
+void PalettePanel::loadEntry(const LibraryEntry& entry) {
+  Block block;
+  if (const std::string message = loadBlock(entry.file, block); !message.empty()) {
+    wxMessageBox(fromUtf8(message), _("Load Block Failed"), wxOK | wxICON_ERROR, this);
+    return;
+  }
+  if (block.empty())
+    return;
+  centreBlock(block);
+  actions_.useBlock(block);
+}
+
+void PalettePanel::showEntryMenu(const LibraryEntry& entry) {
+  wxMenu menu;
+  menu.Append(wxID_DELETE, _("Delete..."));
+  if (libraryList_->GetPopupMenuSelectionFromUser(menu) == wxID_DELETE)
+    deleteEntry(entry);
+}
+
+void PalettePanel::deleteEntry(const LibraryEntry& entry) {
+  const wxString question = wxString::Format(
+      _("Delete library block \"%s\"?\n\nThis cannot be undone."), fromUtf8(entry.name));
+  if (wxMessageBox(question, _("Delete Library Block"), wxYES_NO | wxNO_DEFAULT | wxICON_WARNING,
+                   this) != wxYES)
+    return;
+  const std::filesystem::path file = entry.file;
+  std::error_code error;
+  if (!std::filesystem::remove(file, error))
+    wxMessageBox(_("Could not delete:\n") + toText(file), _("Delete Failed"), wxOK | wxICON_ERROR,
+                 this);
+  reloadLibrary();
 }
 
 } // namespace trassix

@@ -1,44 +1,84 @@
 #pragma once
 
-#include "catalog/piece_def.h"
+#include "document/block_file.h"
+#include "panels/block_library.h"
+#include "panels/palette_model.h"
 
 #include <wx/panel.h>
 
+#include <array>
+#include <filesystem>
 #include <functional>
 #include <string_view>
+#include <vector>
 
 class wxChoice;
 class wxSearchCtrl;
+class wxSimplebook;
+class wxToggleButton;
 
 namespace trassix {
 
-class PieceList;
+class CatalogList;
 
-/// The pieces of one track system, to be dragged onto the plan.
+/// What can be put on the plan: the track and scenery of one system and the user's own blocks.
 class PalettePanel : public wxPanel {
  public:
+  /// Dragging means that the mouse is leaving an entry with its button down; otherwise it was
+  /// double-clicked or chosen with Enter.
   struct Actions {
-    /// The mouse is leaving an entry with its button down.
-    std::function<void(std::string_view article)> drag;
-    /// Double-click or Enter on an entry.
-    std::function<void(std::string_view article)> activate;
+    std::function<void(std::string_view article)> dragPiece;
+    std::function<void(std::string_view article)> usePiece;
+    std::function<void(std::string_view key)> dragScenery;
+    std::function<void(std::string_view key)> useScenery;
+    std::function<void(const Block& block)> useBlock; ///< centred, never empty
+    std::function<std::int32_t()> units;
   };
 
   PalettePanel(wxWindow* parent, Actions actions);
 
   /// Fills the list of systems and shows the first one.
   void populate();
-  void showSystem(TrackSystem system);
-  TrackSystem system() const;
+  /// Shows the system that most of the plan is built in; a plan without track changes nothing.
+  void followLayout(const trassix::Layout& layout);
+  void unitsChanged();
+  void reloadLibrary();
+
+  TrackSystem system() const { return model_.system(); }
+  /// Where blocks of the shown system are kept; not made here.
+  std::filesystem::path libraryFolder() const;
 
  private:
-  void fill();
+  enum Tab { kTrackTab, kSceneryTab, kLibraryTab };
+
+  void showSystem(TrackSystem system);
+  void showTab(Tab tab);
+  void searchFor(const wxString& text);
+  void onSearchKey(wxKeyEvent& event);
+  void fillTrack();
+  void fillScenery();
+  void fillLibrary();
+  void usePiece(std::size_t row);
+  void noteUse(const PieceDef& piece);
+  void loadEntry(const LibraryEntry& entry);
+  void showEntryMenu(const LibraryEntry& entry);
+  void deleteEntry(const LibraryEntry& entry);
+  CatalogList& shownList() const;
 
   Actions actions_;
+  PaletteModel model_;
   std::vector<TrackSystem> systems_;
+  std::vector<const PieceDef*> pieces_;     ///< by row of the list, null for a heading
+  std::vector<const SceneryDef*> scenery_;  ///< likewise
+  std::vector<LibraryEntry> library_;       ///< all blocks of the folder
+  std::vector<const LibraryEntry*> blocks_; ///< by row
   wxChoice* choice_;
   wxSearchCtrl* search_;
-  PieceList* list_;
+  std::array<wxToggleButton*, 3> tabs_; ///< by Tab; narrower than the toolkit's own
+  wxSimplebook* pages_;
+  CatalogList* trackList_;
+  CatalogList* sceneryList_;
+  CatalogList* libraryList_;
 };
 
 } // namespace trassix

@@ -1,0 +1,26 @@
+// The blocks that the user keeps in a library folder.
+#pragma once
+
+#include "document/block_file.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace trassix {
+
+/// A block of the library as the list shows it.
+struct LibraryEntry {
+  std::filesystem::path file;
+  std::string name;    ///< of the file, without folder and extension; UTF-8
+  Block block;         ///< centred; what could be read of it
+  std::string problem; ///< why the file could not be read; empty when it could
+
+  bool operator==(const LibraryEntry&) const = default;
+};
+
+/// The ".txl" files that lie in the folder, by name; none for a folder that is not there. Each is
+/// read, so that it can be shown.
+std::vector<LibraryEntry> libraryBlocks(const std::filesystem::path& folder);
+
+} // namespace trassix

@@ -1,0 +1,37 @@
+#include "panels/block_library.h"
+#include "support/temp_folder.h"
+
+#include <gmock/gmock.h>
+
+namespace trassix {
+namespace {
+
+TEST(BlockLibrary, listsTheFilesOfAFolderByName) {
+  const test::TempFolder folder;
+  EXPECT_TRUE(libraryBlocks(folder.path() / "missing").empty());
+
+  Layout layout;
+  PlacedPiece& piece = layout.edit().pieces.emplace_back();
+  piece.id = 1;
+  piece.cat = "24188";
+  piece.x = 500;
+  piece.sel = true;
+  ASSERT_EQ(saveBlock(layout, folder.path() / u8"Züge.txl", "another name"), "");
+  ASSERT_EQ(saveBlock(layout, folder.path() / "Yard.v2.txl", "Yard"), "");
+  test::writeText(folder.path() / "Broken.txl", "<block name=\"x\">\n<piece id=\"a\" />\n");
+  test::writeText(folder.path() / "notes.txt", "");
+  test::writeText(folder.path() / "folder.txl" / "inner.txl", "");
+
+  const std::vector<LibraryEntry> entries = libraryBlocks(folder.path());
+  ASSERT_EQ(entries.size(), 3U);
+  EXPECT_EQ(entries[0].name, "Broken");
+  EXPECT_NE(entries[0].problem, "");
+  EXPECT_EQ(entries[1].name, "Yard.v2");
+  EXPECT_EQ(entries[2].name, "Züge");
+  EXPECT_EQ(entries[2].problem, "");
+  ASSERT_EQ(entries[2].block.pieces.size(), 1U);
+  EXPECT_EQ(entries[2].block.pieces[0].x, 0);
+}
+
+} // namespace
+} // namespace trassix
