@@ -115,6 +115,7 @@ TEST(LayoutFile, refusesToSaveWhatCouldNotBeLoaded) {
   EXPECT_TRUE(message.starts_with("Not a finite number: heading in <piece id=\"2\"")) << message;
   EXPECT_EQ(message.find('\n'), std::string::npos);
   EXPECT_EQ(test::readText(file), "old");
+  EXPECT_TRUE(std::filesystem::remove(file) && std::filesystem::is_empty(folder.path()));
 }
 
 TEST(LayoutFile, saysWhatIsWrongAndWhere) {

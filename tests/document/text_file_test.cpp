@@ -23,8 +23,7 @@ enum class Step { Create, Write, Flush, Close, Rename, Done };
 constexpr Step kFailingSteps[] = {Step::Create, Step::Write, Step::Flush, Step::Close,
                                   Step::Rename};
 
-std::string writeTextFile(const fs::path& path, std::string_view text,
-                          FileOperations&& operations = SystemFileOperations()) {
+std::string writeWith(FileOperations&& operations, const fs::path& path, std::string_view text) {
   return replaceTextFile(
       path,
       [text](const auto& sink) {
@@ -83,7 +82,7 @@ TEST(TextFile, keepsTheOldFileWhenAnyStepFails) {
   const fs::path target = folder.path() / "plan.txl";
   writeText(target, "old");
   for (const Step step : kFailingSteps) {
-    const std::string message = writeTextFile(target, "the new text", FaultyOperations(step));
+    const std::string message = writeWith(FaultyOperations(step), target, "the new text");
     const bool opened = step != Step::Create;
     EXPECT_TRUE(message.starts_with((opened ? "Cannot write file: " : "Cannot open file: ") +
                                     target.string()))
@@ -99,7 +98,7 @@ TEST(TextFileDeathTest, keepsACompleteFileWhenKilledAtAnyStep) {
     const TempFolder folder;
     const fs::path target = folder.path() / "plan.txl";
     writeText(target, "old");
-    EXPECT_EXIT(writeTextFile(target, "the new text", FaultyOperations(step, true)),
+    EXPECT_EXIT(writeWith(FaultyOperations(step, true), target, "the new text"),
                 testing::ExitedWithCode(9), "");
     EXPECT_EQ(readText(target), step == Step::Done ? "the new text" : "old");
   }
