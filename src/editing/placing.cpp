@@ -44,22 +44,6 @@ Notice incompatible(TrackSystem added, TrackSystem present) {
   return {"Incompatible Track Systems", incompatibilityText(added, present), Notice::Icon::Warning};
 }
 
-/// Appends a piece with all ends open; returns its id.
-std::int32_t addPiece(Layout& layout, const PieceDef& definition, const Pose& pose,
-                      std::int32_t level, double height) {
-  PlacedPiece piece;
-  piece.id = layout.takeId();
-  piece.cat = definition.article;
-  piece.x = pose.x;
-  piece.y = pose.y;
-  piece.heading = pose.heading;
-  piece.level = level;
-  piece.z = height;
-  piece.joints.resize(definition.connectors.size());
-  layout.edit().pieces.push_back(std::move(piece));
-  return layout.pieces().back().id;
-}
-
 /// Appends a piece joined by its connector `own` to `connector` of `from`, on the same level and at
 /// the same height.
 std::int32_t attach(Layout& layout, const PieceDef& definition, std::int32_t own, std::int32_t from,
@@ -163,6 +147,21 @@ std::int32_t dropLevel(const Layout& layout) {
     }
   }
   return level;
+}
+
+std::int32_t addPiece(Layout& layout, const PieceDef& definition, const Pose& pose,
+                      std::int32_t level, double height) {
+  PlacedPiece piece;
+  piece.id = layout.takeId();
+  piece.cat = definition.article;
+  piece.x = pose.x;
+  piece.y = pose.y;
+  piece.heading = pose.heading;
+  piece.level = level;
+  piece.z = height;
+  piece.joints.resize(definition.connectors.size());
+  layout.edit().pieces.push_back(std::move(piece));
+  return layout.pieces().back().id;
 }
 
 EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,

@@ -18,6 +18,11 @@ namespace trassix {
 /// height (the first of equal heights), else the active one.
 std::int32_t dropLevel(const Layout& layout);
 
+/// Appends a piece with all ends open and returns its id. A building block: pushes no history,
+/// joins and selects nothing.
+std::int32_t addPiece(Layout& layout, const PieceDef& definition, const Pose& pose,
+                      std::int32_t level, double height);
+
 /// Drops a carried piece: at the snapped pose, else at `pose`. With `snapping` on, a drop that did
 /// not snap but touches an incompatible system is refused. Turntables bring their five spoke
 /// tracks, articles sold in pairs their second piece. An article that is not in the catalogue

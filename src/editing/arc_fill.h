@@ -1,0 +1,21 @@
+// Which arcs lead from one open end to another.
+#pragma once
+
+#include "editing/connector_geometry.h"
+
+#include <vector>
+
+namespace trassix {
+
+inline constexpr double kArcClosure = 2.0; ///< mm
+
+/// An arc that leaves the start end along its heading and arrives facing the other end.
+struct ConnectingArc {
+  double radius = 0; ///< mm
+  double turn = 0;   ///< degrees, positive to the right
+};
+
+/// At most one arc to each side, ending within 2.0 mm of `end`. Ends a micrometre apart have none.
+std::vector<ConnectingArc> connectingArcs(const WorldConnector& start, const WorldConnector& end);
+
+} // namespace trassix
