@@ -110,6 +110,30 @@ void removePieces(PlanContent& content, std::span<const std::int32_t> ids) {
   }
 }
 
+std::optional<Notice> guard(const Layout& layout, std::span<const std::int32_t> pieces,
+                            std::span<const std::int32_t> scenery, const std::string& verb) {
+  std::unordered_set<std::int32_t> locked;
+  for (const Tunnel& tunnel : layout.content().tunnels) {
+    locked.insert(tunnel.covers.begin(), tunnel.covers.end());
+    locked.insert({tunnel.portalA, tunnel.portalB});
+  }
+  locked.erase(-1);
+  const auto isLocked = [&locked](std::int32_t id) { return locked.contains(id); };
+  const bool inHelix = std::ranges::any_of(pieces, [&layout](std::int32_t id) {
+    const PlacedPiece* piece = layout.findPiece(id);
+    return piece != nullptr && piece->helix != -1;
+  });
+  if (inHelix)
+    return Notice{"Helix track is locked",
+                  "Selection includes track that is part of a helix. Helix track cannot be " +
+                      verb + "ed individually."};
+  if (std::ranges::any_of(pieces, isLocked) || std::ranges::any_of(scenery, isLocked))
+    return Notice{"Tunnel is locked",
+                  "Selection includes tunnel track or portals. Remove the tunnel first, then " +
+                      verb + "."};
+  return std::nullopt;
+}
+
 } // namespace
 
 bool hasSelection(const Layout& layout) {
@@ -192,30 +216,16 @@ bool rotateSelection(Layout& layout, double degrees) {
 }
 
 std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb) {
-  std::unordered_set<std::int32_t> covered;
-  std::unordered_set<std::int32_t> portals;
-  for (const Tunnel& tunnel : layout.content().tunnels) {
-    covered.insert(tunnel.covers.begin(), tunnel.covers.end());
-    portals.insert({tunnel.portalA, tunnel.portalB});
-  }
-  portals.erase(-1);
-  bool inTunnel = false;
-  for (const PlacedPiece& piece : layout.pieces()) {
-    if (!piece.sel)
-      continue;
-    if (piece.helix != -1)
-      return Notice{"Helix track is locked",
-                    "Selection includes track that is part of a helix. Helix track cannot be " +
-                        verb + "ed individually."};
-    inTunnel = inTunnel || covered.contains(piece.id) || portals.contains(piece.id);
-  }
+  std::vector<std::int32_t> scenery;
   for (const SceneryItem& item : layout.content().scenery)
-    inTunnel = inTunnel || (item.sel && portals.contains(item.id));
-  if (!inTunnel)
-    return std::nullopt;
-  return Notice{"Tunnel is locked",
-                "Selection includes tunnel track or portals. Remove the tunnel first, then " +
-                    verb + "."};
+    if (item.sel)
+      scenery.push_back(item.id);
+  return guard(layout, selectedPieces(layout), scenery, verb);
+}
+
+std::optional<Notice> lockGuard(const Layout& layout, std::span<const std::int32_t> pieces,
+                                const std::string& verb) {
+  return guard(layout, pieces, {}, verb);
 }
 
 bool selectionHasGrades(const Layout& layout) {

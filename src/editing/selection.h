@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace trassix {
@@ -39,6 +40,10 @@ bool rotateSelection(Layout& layout, double degrees);
 /// Why the selection must not be changed ("Helix track is locked", "Tunnel is locked"). `verb` is
 /// put into the text, for example "delete".
 std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb);
+
+/// The same for pieces that need not be selected (sorted ids).
+std::optional<Notice> lockGuard(const Layout& layout, std::span<const std::int32_t> pieces,
+                                const std::string& verb);
 
 bool selectionHasGrades(const Layout& layout);
 

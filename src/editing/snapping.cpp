@@ -82,6 +82,19 @@ std::optional<IncompatibleContact> FindIncompatibleContact(const PieceDef& carri
   return std::nullopt;
 }
 
+std::vector<PlacedEnd> endsOfCarried(const PieceDef& carried, const Pose& pose) {
+  std::vector<PlacedEnd> ends;
+  for (const WorldConnector& end : WorldConnectorsOf(carriedPiece(carried, pose), carried)) {
+    PlacedEnd own;
+    own.at = {end.x, end.y};
+    own.heading = end.heading;
+    own.system = carried.connectorSystem(static_cast<std::size_t>(end.index));
+    own.connector = end.index;
+    ends.push_back(own);
+  }
+  return ends;
+}
+
 struct SnapIndex::Data {
   std::uint64_t revision = 0;
   EndGrid grid;
@@ -101,15 +114,7 @@ std::uint64_t SnapIndex::revision() const {
 }
 
 SnapResult SnapIndex::findSnap(const PieceDef& carried, const Pose& pose) const {
-  std::vector<PlacedEnd> own;
-  for (const WorldConnector& end : WorldConnectorsOf(carriedPiece(carried, pose), carried)) {
-    PlacedEnd mine;
-    mine.at = {end.x, end.y};
-    mine.heading = end.heading;
-    mine.system = carried.connectorSystem(static_cast<std::size_t>(end.index));
-    mine.connector = end.index;
-    own.push_back(mine);
-  }
+  const std::vector<PlacedEnd> own = endsOfCarried(carried, pose);
   const auto contact = findGroupSnap(own, {});
   return contact ? snapOnto(carried, contact->own.connector, contact->target, contact->distance)
                  : SnapResult{};
@@ -142,6 +147,25 @@ std::optional<EndContact> SnapIndex::findGroupSnap(std::span<const PlacedEnd> en
   if (target == nullptr)
     return std::nullopt;
   return EndContact{*own, *target, best};
+}
+
+std::optional<EndContact> SnapIndex::findJoint(const PlacedEnd& own, double reach,
+                                               double facing) const {
+  std::optional<EndContact> best;
+  const auto rank = [&own](const PlacedEnd& end, double distance) {
+    // Both ends of a joint lie on one spot but for rounding.
+    return std::tuple(std::llround(distance * 100), -headingDifference(end.heading, own.heading),
+                      end.position, end.connector);
+  };
+  data_->grid.visitNear(own.at, reach, [&](const PlacedEnd& end) {
+    const double distance = distanceBetween(end.at, own.at);
+    if (end.joinedTo == -1 || !end.visible || end.system != own.system || !(distance <= reach) ||
+        headingDifference(end.heading, own.heading) < facing)
+      return;
+    if (!best || rank(end, distance) < rank(best->target, best->distance))
+      best = EndContact{own, end, distance};
+  });
+  return best;
 }
 
 std::optional<IncompatibleContact> SnapIndex::findIncompatibleContact(const PieceDef& carried,

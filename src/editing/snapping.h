@@ -9,7 +9,7 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <utility>
+#include <vector>
 
 namespace trassix {
 
@@ -32,6 +32,9 @@ struct SnapResult {
 /// (candidate order, then its connectors, then the carried piece's).
 SnapResult FindSnap(const PieceDef& carried, const Pose& pose,
                     std::span<const PlacedPiece> candidates);
+
+/// The ends of a piece that is not on the plan.
+std::vector<PlacedEnd> endsOfCarried(const PieceDef& carried, const Pose& pose);
 
 /// Two ends that would join.
 struct EndContact {
@@ -73,6 +76,11 @@ class SnapIndex {
   /// joined to the group counts as free, because the move opens it.
   std::optional<EndContact> findGroupSnap(std::span<const PlacedEnd> ends,
                                           std::span<const std::int32_t> group) const;
+
+  /// The nearest joined end of the same system within `reach` mm (at most the snap distance) whose
+  /// heading differs by at least `facing` degrees, of visible pieces; of the two ends of a joint
+  /// the one that faces `own` better.
+  std::optional<EndContact> findJoint(const PlacedEnd& own, double reach, double facing) const;
 
   std::optional<IncompatibleContact> findIncompatibleContact(const PieceDef& carried,
                                                              const Pose& pose) const;

@@ -1,0 +1,153 @@
+#include "editing/swapping.h"
+
+#include "catalog/track_catalog.h"
+#include "editing/joining.h"
+#include "editing/routes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace trassix {
+
+namespace {
+
+PlacedPiece at(const Pose& pose) {
+  PlacedPiece piece;
+  piece.x = pose.x;
+  piece.y = pose.y;
+  piece.heading = pose.heading;
+  return piece;
+}
+
+bool coincide(const WorldConnector& a, const WorldConnector& b) {
+  return std::hypot(a.x - b.x, a.y - b.y) <= kClosingDistance &&
+         headingDifference(a.heading, b.heading) <= kClosingFacing;
+}
+
+/// Ends that the new piece has to have, as indices of the present one's.
+std::vector<std::size_t> requiredEnds(const PlacedPiece& piece, const PieceDef& definition) {
+  std::vector<std::size_t> required;
+  for (std::size_t i = 0; i < definition.connectors.size(); ++i)
+    if (!piece.joint(i).open())
+      required.push_back(i);
+  if (required.size() != 1)
+    return required;
+  for (std::size_t i = 0; i < std::min<std::size_t>(2, definition.connectors.size()); ++i)
+    if (required.front() != i)
+      required.push_back(i);
+  return required;
+}
+
+/// True when a train can still go between any two required ends between which it could go before.
+bool keepsWays(const SwapFit& fit, const PieceDef& presentDefinition,
+               const std::vector<std::size_t>& required) {
+  const auto wanted = [&required](std::int32_t end) {
+    return end != -1 &&
+           std::ranges::find(required, static_cast<std::size_t>(end)) != required.end();
+  };
+  return std::ranges::all_of(routesOf(presentDefinition), [&](const Route& way) {
+    if (!wanted(way.from) || !wanted(way.to))
+      return true;
+    const std::int32_t from = fit.ends[static_cast<std::size_t>(way.from)];
+    const std::int32_t to = fit.ends[static_cast<std::size_t>(way.to)];
+    return std::ranges::any_of(routesOf(*fit.definition), [from, to](const Route& route) {
+      return (route.from == from && route.to == to) || (route.from == to && route.to == from);
+    });
+  });
+}
+
+/// Finds for each end of the present piece the end of the new one that lies on it and, if all
+/// required ends have one, gives the fit.
+std::optional<SwapFit> fitAt(const PieceDef& definition, const Pose& pose,
+                             const std::vector<WorldConnector>& present,
+                             const PieceDef& presentDefinition,
+                             const std::vector<std::size_t>& required) {
+  SwapFit fit{&definition, pose, std::vector<std::int32_t>(present.size(), -1)};
+  for (const WorldConnector& end : WorldConnectorsOf(at(pose), definition)) {
+    const TrackSystem system = definition.connectorSystem(static_cast<std::size_t>(end.index));
+    for (std::size_t i = 0; i < present.size(); ++i)
+      if (fit.ends[i] == -1 && coincide(end, present[i]) &&
+          presentDefinition.connectorSystem(i) == system) {
+        fit.ends[i] = end.index;
+        break;
+      }
+  }
+  const bool complete = std::all_of(required.begin(), required.end(),
+                                    [&fit](std::size_t i) { return fit.ends[i] != -1; });
+  return complete && keepsWays(fit, presentDefinition, required) ? std::optional(fit)
+                                                                 : std::nullopt;
+}
+
+/// True when all ends of the one lie on ends of the other.
+bool looksTheSame(const SwapFit& a, const SwapFit& b) {
+  const auto endsA = WorldConnectorsOf(at(a.pose), *a.definition);
+  const auto endsB = WorldConnectorsOf(at(b.pose), *b.definition);
+  return a.definition == b.definition && std::ranges::all_of(endsA, [&endsB](const auto& end) {
+           return std::ranges::any_of(endsB,
+                                      [&end](const auto& other) { return coincide(end, other); });
+         });
+}
+
+} // namespace
+
+std::vector<SwapFit> swapFits(const Layout& layout, std::int32_t piece) {
+  const PlacedPiece* present = layout.findPiece(piece);
+  const PieceDef* presentDefinition = present == nullptr ? nullptr : definitionOf(*present);
+  if (presentDefinition == nullptr)
+    return {};
+  const std::vector<std::size_t> required = requiredEnds(*present, *presentDefinition);
+  if (required.empty())
+    return {};
+  const auto ends = WorldConnectorsOf(*present, *presentDefinition);
+  // A neighbour that lies exactly on the first of them.
+  WorldConnector facing = ends[required.front()];
+  facing.heading = normaliseHeading(facing.heading + 180.0);
+
+  const SwapFit itself{presentDefinition, poseOf(*present), {}};
+  std::vector<SwapFit> fits;
+  const TrackCatalog& catalog = TrackCatalog::instance();
+  for (std::int32_t i = 0; i < catalog.count(); ++i) {
+    const PieceDef& definition = *catalog.at(i);
+    for (std::size_t k = 0; k < definition.connectors.size() && !definition.pair; ++k) {
+      const Pose pose = AttachPose(definition, static_cast<std::int32_t>(k), facing);
+      const auto fit = fitAt(definition, pose, ends, *presentDefinition, required);
+      if (fit && !looksTheSame(*fit, itself) &&
+          std::ranges::none_of(fits, [&fit](const SwapFit& f) { return looksTheSame(f, *fit); }))
+        fits.push_back(*fit);
+    }
+  }
+  return fits;
+}
+
+bool swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit) {
+  const std::vector<SwapFit> fits = swapFits(layout, piece);
+  if (std::ranges::find(fits, fit) == fits.end())
+    return false;
+  layout.pushHistory();
+  const PlacedPiece before = *layout.findPiece(piece);
+  const PieceDef& definition = *definitionOf(before);
+  for (std::size_t i = 0; i < before.joints.size(); ++i)
+    openJoint(layout, piece, static_cast<std::int32_t>(i));
+
+  PlacedPiece& changed = *layout.editPiece(piece);
+  changed.cat = fit.definition->article;
+  changed.x = fit.pose.x;
+  changed.y = fit.pose.y;
+  changed.heading = fit.pose.heading;
+  changed.joints.assign(fit.definition->connectors.size(), Joint{});
+  // The height belongs to connector 0: a piece that lies the other way round starts at its far end.
+  const auto start = std::ranges::find(fit.ends, 0);
+  const auto startEnd = static_cast<std::int32_t>(start - fit.ends.begin());
+  if (start != fit.ends.end() && startEnd != 0) {
+    changed.z = endHeight(before, definition, startEnd);
+    changed.rev = isGraded(before) ? !before.rev : before.rev;
+  }
+  for (std::size_t i = 0; i < before.joints.size(); ++i)
+    if (const Joint joint = before.joints[i]; !joint.open() && fit.ends[i] != -1)
+      join(layout, piece, fit.ends[i], joint.target, joint.tconn);
+  closeMeetingEnds(layout, std::span(&piece, 1));
+  return true;
+}
+
+} // namespace trassix
