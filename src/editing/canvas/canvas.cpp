@@ -39,7 +39,9 @@ std::unique_ptr<CanvasTool> makeTool(ToolMode mode, ToolSite& site) {
 
 } // namespace
 
-Canvas::Canvas(LayoutHost& host) : site_(host), base_(makeTool(ToolMode::Select, site_)) {}
+Canvas::Canvas(LayoutHost& host) : site_(host), base_(makeTool(ToolMode::Select, site_)) {
+  site_.carryBlock = [this](Block block) { carryBlock(std::move(block), last_, false); };
+}
 
 Canvas::~Canvas() = default;
 

@@ -2,14 +2,17 @@
 
 #include "document/records.h"
 #include "editing/canvas/layout_host.h"
+#include "editing/canvas/plan_clipboard.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
 #include "editing/plan_index.h"
 #include "editing/snapping.h"
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace trassix {
 
@@ -50,9 +53,17 @@ class ToolSite {
  public:
   explicit ToolSite(LayoutHost& window) : host(window) {}
 
+  struct Preview {
+    const PieceDef* definition; ///< the catalogue's own
+    Pose pose;
+  };
+
   LayoutHost& host;
   ViewTransform view;
-  SizePx size; ///< of the canvas, px
+  std::vector<Preview> preview; ///< pieces shown on the plan that are not on it
+  PlanClipboard clipboard;
+  std::function<void(Block)> carryBlock; ///< hangs a block on the pointer
+  SizePx size;                           ///< of the canvas, px
 
   Layout& layout() const { return host.layout(); }
 

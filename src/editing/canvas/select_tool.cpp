@@ -204,7 +204,25 @@ bool SelectTool::key(const KeyInput& input) {
     site_.host.selectionChanged();
     return true;
   }
-  return nudge(input);
+  switch (input.key) {
+  case Key::Copy:
+    return site_.clipboard.copy(site_.host);
+  case Key::Cut:
+    if (site_.clipboard.copy(site_.host))
+      site_.host.deleteSelection();
+    return true;
+  case Key::Paste:
+    site_.carryBlock(site_.clipboard.paste(site_.host));
+    return true;
+  case Key::Duplicate: {
+    Block copy = blockFromSelection(site_.layout());
+    centreBlock(copy);
+    site_.carryBlock(std::move(copy));
+    return true;
+  }
+  default:
+    return nudge(input);
+  }
 }
 
 void SelectTool::cancel() {

@@ -1,6 +1,8 @@
 #include "editing/canvas/selection_menu.h"
 
 #include "editing/annotations.h"
+#include "editing/autofill.h"
+#include "editing/canvas/autofill_command.h"
 #include "editing/placing.h"
 #include "editing/selection.h"
 
@@ -37,9 +39,25 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
       rows.push_back({"Turn Right 15\u00b0", "Ctrl+Wheel", true, [turn] { turn(15); }});
       rows.push_back({"Turn Left 15\u00b0", "Ctrl+Wheel", true, [turn] { turn(-15); }});
     }
+    if (canAutofill(layout))
+      rows.push_back({"Autofill Gap...", "", true, [&site] { runAutofill(site); }});
+    const bool copyable = !blockFromSelection(layout).empty();
+    rows.push_back({"Cut", "Ctrl+X", copyable, [&site] {
+                      if (site.clipboard.copy(site.host))
+                        site.host.deleteSelection();
+                    }});
+    rows.push_back({"Copy", "Ctrl+C", copyable, [&site] { site.clipboard.copy(site.host); }});
+    rows.push_back({"Duplicate", "Ctrl+D", copyable, [&site] {
+                      Block copy = blockFromSelection(site.layout());
+                      centreBlock(copy);
+                      site.carryBlock(std::move(copy));
+                    }});
     rows.push_back({"Delete", "Del", true, [&site] { site.host.deleteSelection(); }});
   }
   separator();
+  const Block pasted = site.clipboard.paste(site.host);
+  rows.push_back(
+      {"Paste", "Ctrl+V", !pasted.empty(), [&site, pasted] { site.carryBlock(pasted); }});
   rows.push_back({"Select All", "Ctrl+A", true, [&site] {
                     selectAll(site.layout());
                     site.host.selectionChanged();

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "document/block_file.h"
+#include "editing/canvas/layout_host.h"
+
+#include <string>
+
+namespace trassix {
+
+/// Copies of the selection by way of the system's clipboard, as the text of a block file, so that
+/// track can be carried from one running program to another. What this program copied itself comes
+/// back complete, with heights, grades and colours.
+class PlanClipboard {
+ public:
+  /// False when nothing is selected.
+  bool copy(LayoutHost& host);
+
+  /// Centred on its origin; empty when the clipboard holds no block.
+  Block paste(LayoutHost& host) const;
+
+ private:
+  Block copied_;
+  std::string text_;
+};
+
+} // namespace trassix
