@@ -8,7 +8,7 @@ bool PlanClipboard::copy(LayoutHost& host) {
     return false;
   centreBlock(block);
   std::string text;
-  if (!writeBlock(block, text).empty())
+  if (!writeBlock(block, [&text](std::string_view part) { text += part; }).empty())
     return false;
   copied_ = std::move(block);
   text_ = std::move(text);

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "editing/canvas/canvas.h"
+#include "editing/canvas/fake_host.h"
+
+namespace trassix::test {
+
+enum Mod : unsigned { kNone = 0, kCtrl = 1, kShift = 2, kAlt = 4 };
+
+/// A canvas handled by scripted input, in layout millimetres.
+class CanvasScript {
+ public:
+  FakeHost host;
+  Canvas canvas{host};
+
+  explicit CanvasScript(Layout plan = {}) {
+    host.plan = std::move(plan);
+    host.plan.ensureLevel();
+    canvas.resize({1600, 1000});
+  }
+
+  PointerInput at(Point world, unsigned mods = kNone) {
+    return {canvas.view().toScreen(world), world, (mods & kCtrl) != 0, (mods & kShift) != 0,
+            (mods & kAlt) != 0};
+  }
+
+  void move(Point world, unsigned mods = kNone) { canvas.move(at(world, mods)); }
+  void press(Point world, unsigned mods = kNone) {
+    canvas.press(Canvas::Button::Left, at(world, mods));
+  }
+  void release(Point world, unsigned mods = kNone) {
+    canvas.release(Canvas::Button::Left, at(world, mods));
+  }
+  void click(Point world, unsigned mods = kNone) {
+    move(world, mods);
+    press(world, mods);
+    release(world, mods);
+  }
+  void doubleClick(Point world, unsigned mods = kNone) {
+    click(world, mods);
+    canvas.doubleClick(at(world, mods));
+    release(world, mods);
+  }
+  /// Moves there with the button down, without letting go.
+  void dragTo(Point from, Point to, unsigned mods = kNone) {
+    press(from, mods);
+    move({(from.x + to.x) / 2, (from.y + to.y) / 2}, mods);
+    move(to, mods);
+  }
+  void drag(Point from, Point to, unsigned mods = kNone) {
+    dragTo(from, to, mods);
+    release(to, mods);
+  }
+  bool key(Key key, bool shift = false) { return canvas.key({key, shift}); }
+  void wheel(Point world, int direction, unsigned mods = kNone) {
+    canvas.wheel(at(world, mods), 120.0 * direction);
+  }
+  /// Carries a catalogue piece from the palette to this point.
+  void carry(std::string_view article, Point world) {
+    canvas.carryPiece(article, at({world.x - 300, world.y}), true);
+    move(world);
+  }
+
+  const std::vector<PlacedPiece>& pieces() const { return host.plan.pieces(); }
+};
+
+} // namespace trassix::test

@@ -1,0 +1,235 @@
+#include "editing/canvas/canvas_script.h"
+#include "support/plan.h"
+#include "support/print_records.h"
+
+#include <gmock/gmock.h>
+
+namespace trassix::test {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(CanvasView, WheelZoomsAboutThePointerWithinLimits) {
+  struct Case {
+    double zoom;
+    int direction;
+    double expected;
+  };
+  for (const Case& c : {Case{0.4, 1, 0.46}, Case{0.46, -1, 0.4}, Case{19.0, 1, 20.0},
+                        Case{0.32, -1, 0.3}, Case{0.1, -1, 0.3}}) {
+    CanvasScript script;
+    script.canvas.view() = ViewTransform::ofScale(c.zoom, {40, 50});
+    const Point world = script.canvas.view().toWorld({500, 300});
+    script.wheel(world, c.direction);
+    EXPECT_NEAR(script.canvas.view().zoom(), c.expected, 1e-9);
+    EXPECT_NEAR(script.canvas.view().toScreen(world).x, 500, 1e-6);
+    EXPECT_NEAR(script.canvas.view().toScreen(world).y, 300, 1e-6);
+  }
+}
+
+TEST(CanvasView, FitCentresTheContentWithItsMargin) {
+  ViewTransform view;
+  view.fit({0, 0, 2000, 500}, 1160, 960);
+  EXPECT_NEAR(view.zoom(), 0.5, 1e-12);
+  EXPECT_NEAR(view.toScreen({0, 0}).x, 80, 1e-9);
+  EXPECT_NEAR(view.toScreen({2000, 250}).x, 1080, 1e-9);
+  EXPECT_NEAR(view.toScreen({0, 250}).y, 480, 1e-9);
+  view.fit({5, 5, 5, 5}, 1160, 960);
+  EXPECT_EQ(view.zoom(), 20.0);
+  view.fit({0, 0, 1e6, 1}, 1160, 960);
+  EXPECT_EQ(view.zoom(), 0.05);
+}
+
+TEST(CanvasView, CtrlDragPansBeyondThreePixelsOnly) {
+  for (const auto& [pixels, pans] : {std::pair{3.0, false}, std::pair{4.0, true}}) {
+    CanvasScript script;
+    const Point origin = script.canvas.view().origin();
+    const auto input = [&](double x) {
+      const Point px{x, 200};
+      return PointerInput{px, script.canvas.view().toWorld(px), true, false, false};
+    };
+    script.canvas.press(Canvas::Button::Left, input(100));
+    script.canvas.move(input(100 + pixels));
+    EXPECT_EQ(script.canvas.cursor(), pans ? CursorShape::Hand : CursorShape::Arrow);
+    script.canvas.release(Canvas::Button::Left, input(100 + pixels));
+    EXPECT_EQ(script.canvas.view().origin().x, origin.x + (pans ? pixels : 0));
+  }
+}
+
+TEST(CanvasView, SpaceAndTheMiddleButtonPanAndEscGoesBack) {
+  for (const bool middle : {false, true}) {
+    CanvasScript script;
+    script.canvas.setSpace(!middle);
+    const auto button = middle ? Canvas::Button::Middle : Canvas::Button::Left;
+    script.canvas.press(button, script.at({0, 0}));
+    const PointerInput to{{260, 160}, {}, false, false, false};
+    script.canvas.move(to);
+    EXPECT_EQ(script.canvas.view().origin(), (Point{260, 160}));
+    script.key(Key::Escape);
+    EXPECT_EQ(script.canvas.view().origin(), (Point{60, 60}));
+    script.canvas.release(button, to);
+    EXPECT_FALSE(script.canvas.wantsCapture());
+  }
+}
+
+TEST(CarryPiece, TurnsByWheelAndKeyAndJoinsWhereItSnaps) {
+  Plan plan;
+  plan.place("24188");
+  CanvasScript script(plan.layout);
+  script.carry("24130", {600, 300});
+  script.wheel({600, 300}, 1);
+  script.wheel({600, 300}, -1, kShift);
+  EXPECT_TRUE(script.key(Key::R));
+  script.release({600, 300});
+  ASSERT_EQ(script.pieces().size(), 2u);
+  EXPECT_EQ(script.pieces()[1].heading, 45);
+  EXPECT_EQ(selectedPieces(script.host.plan), std::vector<std::int32_t>{2});
+
+  script.carry("24188", {195, 12});
+  EXPECT_THAT(script.host.hint, testing::StartsWith("Let go to join"));
+  script.release({195, 12});
+  EXPECT_EQ(script.pieces()[2].joint(0), (Joint{1, 1}));
+  EXPECT_EQ(script.pieces()[2].x, 188.3);
+  EXPECT_EQ(script.host.changes, 2);
+}
+
+TEST(CarryPiece, SnapSwitchedOffPlacesFree) {
+  Plan plan;
+  plan.place("24188");
+  CanvasScript script(plan.layout);
+  script.host.state.snap = false;
+  script.carry("2200", {195, 12});
+  script.release({195, 12});
+  ASSERT_EQ(script.pieces().size(), 2u);
+  EXPECT_TRUE(script.pieces()[1].joint(0).open());
+  EXPECT_TRUE(script.host.notices.empty());
+}
+
+TEST(CarryPiece, NothingIsPlacedWhenItIsGivenUp) {
+  struct Case {
+    const char* how;
+    void (*end)(CanvasScript&);
+    std::size_t notices;
+  };
+  for (const Case& c : {Case{"Esc", [](CanvasScript& s) { s.key(Key::Escape); }, 0},
+                        Case{"lost capture", [](CanvasScript& s) { s.canvas.cancel(); }, 0},
+                        Case{"right click",
+                             [](CanvasScript& s) {
+                               s.canvas.press(Canvas::Button::Right, s.at({195, 12}));
+                             },
+                             0},
+                        Case{"let go beside the plan",
+                             [](CanvasScript& s) {
+                               s.release({-3000, 12});
+                             },
+                             0},
+                        Case{"refused",
+                             [](CanvasScript& s) {
+                               s.release({195, 12});
+                             },
+                             1}}) {
+    SCOPED_TRACE(c.how);
+    Plan plan;
+    plan.place("24188");
+    CanvasScript script(plan.layout);
+    const PlanContent before = script.host.plan.content();
+    script.carry("2200", {195, 12}); // K-Track at an end of C-Track
+    c.end(script);
+    EXPECT_FALSE(script.canvas.carrying());
+    EXPECT_FALSE(script.canvas.wantsCapture());
+    EXPECT_EQ(script.host.plan.content(), before);
+    EXPECT_EQ(script.host.notices.size(), c.notices);
+  }
+}
+
+TEST(CarryPiece, PickedUpByDoubleClickItWaitsForAClickOfItsOwn) {
+  CanvasScript script;
+  script.canvas.carryPiece("8500", script.at({600, 350}), false);
+  script.release({600, 350}); // ends the double-click
+  EXPECT_TRUE(script.canvas.carrying());
+  script.move({100, 100});
+  script.press({100, 100});
+  script.release({100, 100});
+  ASSERT_EQ(script.pieces().size(), 1u);
+  EXPECT_EQ(script.pieces()[0].x, 100);
+  EXPECT_EQ(script.canvas.view().zoom(), 1.0) << "the first small piece starts the view over";
+}
+
+TEST(CarryPiece, ASecondCarryEndsTheFirst) {
+  CanvasScript script;
+  script.carry("24188", {100, 100});
+  script.canvas.carryScenery("stn.small", script.at({300, 300}), true);
+  script.release({300, 300});
+  EXPECT_TRUE(script.pieces().empty());
+  ASSERT_EQ(script.host.plan.content().scenery.size(), 1u);
+  EXPECT_EQ(script.host.plan.content().scenery[0].item, "stn.small");
+}
+
+TEST(CanvasWheel, CtrlTurnsTheSelectionAndZoomsWithoutOne) {
+  Plan plan;
+  plan.place("24188");
+  CanvasScript script(plan.layout);
+  script.host.plan.clearSelection();
+  script.wheel({94, 0}, 1, kCtrl);
+  EXPECT_NEAR(script.canvas.view().zoom(), 0.46, 1e-12);
+  script.click({94, 0});
+  script.wheel({94, 0}, 1, kCtrl);
+  script.wheel({94, 0}, -1, kCtrl | kShift);
+  const PlacedPiece& piece = script.pieces()[0];
+  EXPECT_NEAR(piece.heading, 10, 1e-9);
+  const Point middle = toWorld(poseOf(piece), {94.15, 0});
+  EXPECT_NEAR(middle.x, 94.15, 1e-9) << "about the middle of its ends";
+  EXPECT_NEAR(middle.y, 0, 1e-9);
+}
+
+TEST(MeasureTool, LaysATapeBetweenTwoClicksAndCatchesTrackEnds) {
+  Plan plan;
+  plan.place("24188");
+  CanvasScript script(plan.layout);
+  script.host.state.mode = ToolMode::Measure;
+  script.canvas.modeChanged();
+  script.click({5, -4});
+  script.move({60, 0});
+  script.key(Key::Escape);
+  script.click({5, -4});
+  script.click({190, 5});
+  ASSERT_EQ(script.host.plan.content().measurements.size(), 1u);
+  EXPECT_EQ(script.host.plan.content().measurements[0].from, (Point{0, 0}));
+  EXPECT_EQ(script.host.plan.content().measurements[0].to, (Point{188.3, 0}));
+  EXPECT_TRUE(script.host.plan.undo());
+  EXPECT_TRUE(script.host.plan.content().measurements.empty());
+  script.key(Key::Escape);
+  EXPECT_EQ(script.host.state.mode, ToolMode::Select);
+}
+
+TEST(PolygonTool, DrawsTakesBackClosesAndCancels) {
+  for (const bool byEnter : {true, false}) {
+    CanvasScript script;
+    script.host.state.mode = ToolMode::Polygon;
+    script.canvas.modeChanged();
+    script.click({0, 0});
+    script.click({100, 0});
+    EXPECT_TRUE(script.key(Key::Enter));
+    EXPECT_EQ(script.host.plan.content().shapes.size(), 0u) << "two points are no area";
+    script.click({500, 500});
+    EXPECT_TRUE(script.key(Key::Backspace));
+    script.click({100, 80});
+    if (byEnter) {
+      script.click({0, 80});
+      script.key(Key::Enter);
+    } else {
+      script.doubleClick({0, 80});
+    }
+    ASSERT_EQ(script.host.plan.content().shapes.size(), 1u);
+    EXPECT_THAT(script.host.plan.content().shapes[0].points,
+                ElementsAre(Point{0, 0}, Point{100, 0}, Point{100, 80}, Point{0, 80}));
+    script.click({300, 300});
+    EXPECT_TRUE(script.key(Key::Escape));
+    script.click({0, 0});
+    script.key(Key::Enter);
+    EXPECT_EQ(script.host.plan.content().shapes.size(), 1u);
+  }
+}
+
+} // namespace
+} // namespace trassix::test

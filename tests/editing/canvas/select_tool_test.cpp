@@ -1,0 +1,231 @@
+#include "editing/annotations.h"
+#include "editing/canvas/canvas_script.h"
+#include "support/plan.h"
+#include "support/print_records.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace trassix::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+/// Three joined straights along x from the origin, ids 1 to 3, ends at 188.3 and 376.6.
+Layout row() {
+  Plan plan;
+  plan.layout.ensureLevel();
+  plan.place("24188").extend("24188", 2);
+  plan.layout.clearSelection();
+  Layout fresh; // without the history of its building
+  fresh.edit() = plan.layout.content();
+  fresh.setNextPieceId(plan.layout.nextPieceId());
+  return fresh;
+}
+
+constexpr Point kOnFirst{90, 5};
+constexpr Point kOnSecond{280, -5};
+constexpr Point kOnThird{470, 0};
+
+TEST(SelectTool, ClicksSelectToggleAndClear) {
+  CanvasScript script(row());
+  script.click(kOnSecond);
+  EXPECT_THAT(selectedPieces(script.host.plan), ElementsAre(2));
+  script.click(kOnThird, kCtrl);
+  EXPECT_THAT(selectedPieces(script.host.plan), ElementsAre(2, 3));
+  script.click(kOnSecond, kCtrl);
+  EXPECT_THAT(selectedPieces(script.host.plan), ElementsAre(3));
+  script.click({90, 400});
+  EXPECT_THAT(selectedPieces(script.host.plan), IsEmpty());
+  EXPECT_EQ(script.host.changes, 0) << "selecting is no change of the document";
+}
+
+TEST(SelectTool, RepeatedClicksGoThroughTheStack) {
+  Plan plan;
+  plan.place("24188").place("24188", {0, 3, 0}).place("24188", {0, 6, 0});
+  CanvasScript script(plan.layout);
+  script.host.plan.clearSelection();
+  for (const std::int32_t expected : {3, 2, 1, 3}) {
+    script.click({90, 3});
+    EXPECT_THAT(selectedPieces(script.host.plan), ElementsAre(expected));
+  }
+}
+
+TEST(SelectTool, RubberBandEnclosesToTheRightAndTouchesToTheLeft) {
+  struct Case {
+    Point from, to;
+    unsigned mods;
+    std::vector<std::int32_t> selected;
+  };
+  for (const Case& c :
+       {Case{{-30, -60}, {300, 60}, kNone, {1}}, Case{{300, 60}, {-30, -60}, kNone, {1, 2}},
+        Case{{-30, -60}, {600, 60}, kNone, {1, 2, 3}}, Case{{160, 60}, {100, 30}, kNone, {}},
+        Case{{700, 60}, {560, -60}, kShift, {1, 3}}}) {
+    CanvasScript script(row());
+    if (c.mods & kShift)
+      selectOnly(script.host.plan, 1);
+    script.drag(c.from, c.to, c.mods);
+    EXPECT_EQ(selectedPieces(script.host.plan), c.selected) << c.from.x << " to " << c.to.x;
+  }
+}
+
+TEST(SelectTool, MovingOpensTheJointAndBringingItBackJoinsAgain) {
+  CanvasScript script(row());
+  const PlanContent before = script.host.plan.content();
+  script.drag(kOnThird, {700, 300});
+  EXPECT_TRUE(script.pieces()[1].joint(1).open());
+  EXPECT_NEAR(script.pieces()[2].y, 300, 1e-6);
+  EXPECT_EQ(script.host.changes, 1);
+
+  // Let go 20 mm beside its old place it snaps home.
+  script.drag({700, 300}, {480, 15});
+  EXPECT_EQ(script.pieces()[1].joint(1), (Joint{3, 0}));
+  EXPECT_NEAR(script.pieces()[2].x, 376.6, 1e-9);
+  EXPECT_NEAR(script.pieces()[2].y, 0, 1e-9);
+
+  script.host.plan.undo();
+  script.host.plan.undo();
+  EXPECT_EQ(script.host.plan.content().pieces[1], before.pieces[1]) << "each drag is one step";
+  EXPECT_FALSE(script.host.plan.canUndo());
+}
+
+TEST(SelectTool, EscapeInADragRestoresEverything) {
+  for (const unsigned mods : {kNone, kAlt}) {
+    CanvasScript script(row());
+    script.click(kOnThird);
+    const PlanContent before = script.host.plan.content();
+    script.dragTo(kOnThird, {500, 200}, mods);
+    EXPECT_TRUE(script.key(Key::Escape));
+    script.release({500, 200}, mods);
+    EXPECT_EQ(script.host.plan.content(), before);
+    EXPECT_FALSE(script.host.plan.canUndo());
+    EXPECT_FALSE(script.canvas.wantsCapture());
+  }
+}
+
+TEST(SelectTool, AltDragTurnsAboutTheOneJoint) {
+  CanvasScript script(row());
+  script.click(kOnThird);
+  // From straight ahead of the joint at x = 376.6 to square below it: a quarter turn to the right.
+  script.drag({476.6, 0}, {376.6, 100}, kAlt);
+  const PlacedPiece& turned = script.pieces()[2];
+  EXPECT_NEAR(turned.heading, 90, 1e-6);
+  EXPECT_NEAR(turned.x, 376.6, 1e-6);
+  EXPECT_NEAR(turned.y, 0, 1e-6);
+}
+
+TEST(SelectTool, NudgesAreOneUndoStep) {
+  CanvasScript script(row());
+  script.click(kOnThird);
+  for (int i = 0; i < 3; ++i)
+    EXPECT_TRUE(script.key(Key::Down));
+  EXPECT_TRUE(script.key(Key::Right, true));
+  EXPECT_NEAR(script.pieces()[2].y, 30, 1e-9);
+  EXPECT_NEAR(script.pieces()[2].x, 377.6, 1e-9);
+  EXPECT_TRUE(script.pieces()[2].joint(0).open());
+  EXPECT_TRUE(script.host.plan.undo());
+  EXPECT_NEAR(script.pieces()[2].y, 0, 1e-9);
+  EXPECT_FALSE(script.host.plan.canUndo());
+}
+
+TEST(SelectTool, GradedNeighboursAreAskedForAndNoLeavesThemJoined) {
+  Layout plan = row();
+  plan.edit().pieces[1].grade = 1.5;
+  for (const bool yes : {false, true}) {
+    CanvasScript script(plan);
+    script.host.answers = {yes};
+    script.drag(kOnThird, {700, 300});
+    EXPECT_EQ(script.host.questions.size(), 1u);
+    EXPECT_EQ(script.pieces()[2].joint(0).open(), yes);
+    EXPECT_EQ(script.host.changes, yes ? 1 : 0);
+  }
+}
+
+TEST(SelectTool, HelixTrackIsLockedAgainstMovingAndTurning) {
+  CanvasScript script(row());
+  script.host.plan.edit().pieces[2].helix = 7;
+  const std::vector<PlacedPiece> before = script.pieces();
+  script.drag(kOnThird, {700, 300});
+  script.wheel(kOnThird, 1, kCtrl);
+  ASSERT_EQ(script.host.notices.size(), 2u);
+  EXPECT_EQ(script.host.notices[0].text, "Selection includes track that is part of a helix. Helix "
+                                         "track cannot be moveed individually.");
+  EXPECT_NEAR(script.pieces()[2].x, before[2].x, 1e-9);
+}
+
+TEST(SelectTool, DoubleClicksExtendOrSelectTheChain) {
+  CanvasScript script(row());
+  script.doubleClick(kOnThird);
+  ASSERT_EQ(script.pieces().size(), 4u);
+  EXPECT_EQ(script.pieces()[3].joint(0), (Joint{3, 1}));
+  EXPECT_THAT(selectedPieces(script.host.plan), ElementsAre(4));
+
+  script.host.plan.edit().pieces.push_back(script.pieces().front());
+  script.host.plan.edit().pieces.back().id = 50;
+  script.host.plan.edit().pieces.back().y = 500;
+  script.host.plan.edit().pieces.back().joints.clear();
+  script.doubleClick(kOnFirst, kAlt);
+  EXPECT_THAT(selectedPieces(script.host.plan), UnorderedElementsAre(1, 2, 3, 4));
+}
+
+TEST(SelectTool, LabelsAreEditedUnlessTrackLiesThere) {
+  CanvasScript script(row());
+  addLabel(script.host.plan, {90, 300}, "Yard");
+  addLabel(script.host.plan, kOnFirst, "On track");
+  script.host.typed = "Goods yard";
+  script.doubleClick({90, 300});
+  EXPECT_EQ(script.host.plan.content().labels[0].text, "Goods yard");
+  script.doubleClick(kOnFirst);
+  EXPECT_EQ(script.host.plan.content().labels[1].text, "On track");
+  EXPECT_EQ(script.pieces().size(), 4u) << "the piece under the label was extended";
+}
+
+TEST(SelectTool, CopiesKeepHeightAndComeBackByPasteAndDuplicate) {
+  CanvasScript script(row());
+  script.host.plan.edit().pieces[0].z = 80;
+  script.drag({-30, -60}, {400, 60});
+  EXPECT_TRUE(script.key(Key::Copy));
+  EXPECT_TRUE(script.key(Key::Paste));
+  EXPECT_TRUE(script.canvas.carrying());
+  script.click({300, 400});
+  ASSERT_EQ(script.pieces().size(), 5u);
+  EXPECT_EQ(script.pieces()[3].z, 80);
+  EXPECT_EQ(script.pieces()[3].joint(1), (Joint{5, 0}));
+  EXPECT_EQ(brokenRule(script.host.plan), "");
+
+  EXPECT_TRUE(script.key(Key::Duplicate));
+  EXPECT_TRUE(script.key(Key::Escape));
+  EXPECT_FALSE(script.canvas.carrying());
+  EXPECT_EQ(script.pieces().size(), 5u);
+
+  script.host.clipboardText = "shopping list";
+  script.key(Key::Paste);
+  EXPECT_FALSE(script.canvas.carrying());
+}
+
+TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
+  Plan plan;
+  plan.place("24188").place("24188", {548.3, 0, 0});
+  CanvasScript script(plan.layout);
+  script.click({90, 0});
+  script.click({640, 0}, kCtrl);
+  script.canvas.press(Canvas::Button::Right, script.at({90, 0}));
+  const auto fill = std::find_if(script.host.menu.begin(), script.host.menu.end(),
+                                 [](const MenuRow& r) { return r.text == "Autofill Gap..."; });
+  ASSERT_NE(fill, script.host.menu.end());
+  fill->action();
+  EXPECT_EQ(script.pieces().size(), 2u) << "cancelled";
+  ASSERT_FALSE(script.host.offered.empty());
+  EXPECT_THAT(script.host.offered[0], testing::HasSubstr("24360"));
+  script.host.choice = 0;
+  fill->action();
+  EXPECT_EQ(script.pieces().size(), 3u);
+  EXPECT_TRUE(script.canvas.site().preview.empty());
+  EXPECT_EQ(openEnds(script.host.plan), 2);
+}
+
+} // namespace
+} // namespace trassix::test
