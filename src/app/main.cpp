@@ -1,0 +1,3 @@
+#include "app/trassix_app.h"
+
+wxIMPLEMENT_APP(trassix::TrassixApp);

@@ -1,0 +1,91 @@
+#include "app/trassix_app.h"
+
+#include "app/services/app_prefs.h"
+#include "app/services/diagnostic_log.h"
+#include "app/services/standard_folders.h"
+#include "catalog/track_catalog.h"
+#include "ui/main_frame.h"
+#include "ui/splash_dialog.h"
+
+#include <wx/evtloop.h>
+#include <wx/image.h>
+#include <wx/stopwatch.h>
+
+#include <exception>
+#include <string>
+
+namespace trassix {
+
+namespace {
+
+/// Handles events until `done`, at most two seconds.
+void dispatchUntil(const bool& done) {
+  wxGUIEventLoop loop;
+  const wxEventLoopActivator activate(&loop);
+  for (const wxStopWatch watch; !done && watch.Time() < 2000;) {
+    loop.DispatchTimeout(50);
+  }
+}
+
+} // namespace
+
+TrassixApp::TrassixApp() {
+  // The per-user folders are named after the program, whatever the executable is called.
+  SetAppName("trassix");
+  SetAppDisplayName("Trassix");
+}
+
+bool TrassixApp::OnInit() {
+  if (!wxApp::OnInit()) {
+    return false;
+  }
+  DiagnosticLog::open(StandardFolders::logs() / DiagnosticLog::kFileName);
+  DiagnosticLog::write("=== Trassix starting ===");
+  wxInitAllImageHandlers();
+  DiagnosticLog::write("Image handlers registered");
+  DiagnosticLog::write("Built-in catalog loaded - " +
+                       std::to_string(TrackCatalog::instance().count()) + " pieces");
+  try {
+    openWindow();
+  } catch (const std::exception& error) {
+    DiagnosticLog::write(std::string("EXCEPTION: ") + error.what());
+    return false;
+  } catch (...) {
+    DiagnosticLog::write("UNKNOWN EXCEPTION in MainFrame");
+    return false;
+  }
+  return true;
+}
+
+void TrassixApp::openWindow() {
+  DiagnosticLog::write("Creating MainFrame...");
+  MainFrame* frame = makeFrame();
+  DiagnosticLog::write("MainFrame created OK");
+  // Some window managers put a dialog below a parent that came later, and the toolkit may delay
+  // the parent: the welcome waits for it.
+  frame->Bind(wxEVT_SHOW, [this](wxShowEvent& event) {
+    frameOnScreen_ = true;
+    event.Skip();
+  });
+  frame->Show();
+  DiagnosticLog::write("Show OK");
+  frame->layout().ensureLevel();
+  readPrefsOrMigrate(appPrefs(), StandardFolders::prefsFile(), StandardFolders::legacyPrefsFile());
+  if (appPrefs().playful) {
+    dispatchUntil(frameOnScreen_);
+    SplashDialog(frame).ShowModal();
+  }
+  frame->refreshProperties();
+}
+
+MainFrame* TrassixApp::makeFrame() {
+  return new MainFrame;
+}
+
+int TrassixApp::OnExit() {
+  DiagnosticLog::write("OnExit");
+  DiagnosticLog::close();
+  return wxApp::OnExit();
+}
+
+} // namespace trassix

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <wx/gdicmn.h>
+#include <wx/kbdstate.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class wxWindow;
+
+namespace trassix::test {
+
+/// Handles events until `condition` holds. After a generous time (20 s) it gives up, fails the test
+/// with `what` ("the dialog is open") and gives false. Tests wait with this and never sleep.
+bool waitUntil(const std::string& what, const std::function<bool()>& condition);
+
+/// Handles what the input sent so far has caused.
+void settle();
+
+/// Where in a window: client coordinates, by default its middle.
+struct Spot {
+  wxWindow* window = nullptr;
+  wxPoint client;
+
+  Spot(wxWindow& inWindow);
+  Spot(wxWindow& inWindow, wxPoint point) : window(&inWindow), client(point) {}
+  wxPoint onScreen() const;
+};
+
+/// The real mouse. Moves go over several intermediate points, as a hand does.
+void moveMouse(const Spot& to);
+void click(const Spot& at);
+void rightClick(const Spot& at);
+void doubleClick(const Spot& at);
+void pressMouse(const Spot& at);
+void releaseMouse();
+/// Presses, moves over `stops` and releases at the last of them.
+void drag(const Spot& from, const std::vector<Spot>& stops);
+/// Turns the wheel where the pointer is; positive notches turn away from the user.
+void turnWheel(int notches);
+
+/// The real keyboard, to whatever has the focus. Texts are plain ASCII.
+void pressKey(int keyCode, int modifiers = wxMOD_NONE);
+void typeText(const std::string& text);
+
+/// Looks through every open window. Null when there is none or it is not on the screen.
+wxWindow* findNamed(const std::string& name);
+wxWindow* findLabelled(const std::string& label);
+
+/// Writes what the whole screen shows to "ui-screenshots/NAME.png" in the build folder.
+void takeScreenshot(const std::string& name);
+
+} // namespace trassix::test

@@ -1,0 +1,140 @@
+#include "driver.h"
+#include "ui/main_frame.h"
+#include "ui_test.h"
+
+#include <wx/app.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <functional>
+#include <regex>
+#include <sstream>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace trassix::test {
+namespace {
+
+std::vector<std::string> linesOf(const std::filesystem::path& file) {
+  std::istringstream in(readText(file));
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(in, line);) {
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+/// The log's lines, each checked for its time and freed of it.
+std::vector<std::string> eventsOf(const std::filesystem::path& log) {
+  static const std::regex stamp(R"(\d\d:\d\d:\d\d\.\d\d\d (.*))");
+  std::vector<std::string> events;
+  for (const std::string& line : linesOf(log)) {
+    std::smatch parts;
+    EXPECT_TRUE(std::regex_match(line, parts, stamp)) << line;
+    events.push_back(parts[1]);
+  }
+  return events;
+}
+
+using Lines = std::vector<std::string>;
+
+TEST_F(UiTest, StartWritesItsLogAndTraceAnew) {
+  const auto trace = home() / ".trassix" / "mainframe.log";
+  writeText(logFile(), "from the run before\n");
+  writeText(trace, "from the run before\n");
+  start();
+  finish();
+  EXPECT_EQ(eventsOf(logFile()),
+            (Lines{"=== Trassix starting ===", "Image handlers registered",
+                   "Built-in catalog loaded - 246 pieces", "Creating MainFrame...",
+                   "MainFrame created OK", "Show OK", "OnExit"}));
+  EXPECT_EQ(linesOf(trace),
+            (Lines{"A: wxFrame base constructed", "B: MenuBar done", "C: ToolBar done",
+                   "BuildPanels: start", "BuildPanels: root panel created",
+                   "BuildPanels: palette created", "BuildPanels: splitter created",
+                   "BuildPanels: canvas created", "BuildPanels: properties created",
+                   "BuildPanels: split done", "BuildPanels: adding to sizer",
+                   "BuildPanels: outerSplit added", "BuildPanels: sizer set",
+                   "BuildPanels: layout done", "BuildPanels: palette populated", "D: Panels done",
+                   "E: StatusBar done", "F: MainFrame constructor complete"}));
+}
+
+struct Answer {
+  const char* name;
+  void (*give)();
+  const char* prefs; ///< the file afterwards
+};
+
+void PrintTo(const Answer& answer, std::ostream* out) {
+  *out << answer.name;
+}
+
+class FirstStart : public UiTest, public testing::WithParamInterface<Answer> {};
+
+TEST_P(FirstStart, WelcomesAndThenAsksForTheExperience) {
+  dialogs.drive("Welcome to Trassix", [](wxDialog&) { pressKey(WXK_RETURN); });
+  dialogs.drive("Choose Your Experience", [this](wxDialog&) {
+    EXPECT_FALSE(std::filesystem::exists(prefsFile()));
+    takeScreenshot(std::string("experience-") + GetParam().name);
+    GetParam().give();
+  });
+  ASSERT_TRUE(startAsIs());
+  waitUntil("the question is answered",
+            [this] { return dialogs.finished() && frame().IsActive(); });
+  EXPECT_EQ(readText(prefsFile()), GetParam().prefs);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Answers, FirstStart,
+    testing::Values(Answer{"Enter", [] { pressKey(WXK_RETURN); }, "playful=1\nasked=1\nunits=0\n"},
+                    Answer{"Playful", [] { click(*findLabelled("Keep it Playful")); },
+                           "playful=1\nasked=1\nunits=0\n"},
+                    Answer{"Business", [] { click(*findLabelled("Down to Business")); },
+                           "playful=0\nasked=1\nunits=0\n"},
+                    Answer{"Esc", [] { pressKey(WXK_ESCAPE); }, ""}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+TEST_F(UiTest, AFailingStartIsLoggedAndEnds) {
+  const auto failWith = [this](const std::function<void()>& fault) {
+    beforeFrame(fault);
+    EXPECT_FALSE(startAsIs());
+    return eventsOf(logFile()).back();
+  };
+  EXPECT_EQ(failWith([] { throw std::runtime_error("no palette"); }), "EXCEPTION: no palette");
+  EXPECT_EQ(failWith([] { throw 7; }), "UNKNOWN EXCEPTION in MainFrame");
+}
+
+/// The real program, started from an install folder that an older release has used.
+TEST_F(UiTest, TheFirstStartTakesOverAnOlderReleasesFiles) {
+  const auto installed = home() / "install";
+  const std::string oldPrefs = "playful=0\nasked=1\nunits=2\n";
+  writeText(installed / "prefs.cfg", oldPrefs);
+  writeText(installed / "Yard.txl", "a plan");
+  writeText(installed / "catalog.xml", "");
+  std::filesystem::copy_file(TRASSIX_PROGRAM, installed / "trassix");
+
+  const pid_t program = fork();
+  if (program == 0) {
+    execl((installed / "trassix").c_str(), "trassix", nullptr);
+    _exit(127);
+  }
+  waitUntil("the program runs",
+            [this] { return readText(logFile()).find("Show OK") != std::string::npos; });
+  waitUntil("it tells of the copied file", [] {
+    return std::system("xdotool search --onlyvisible --name '^Trassix Information$' >/dev/null") ==
+           0;
+  });
+  takeScreenshot("migration");
+  kill(program, SIGTERM);
+  waitpid(program, nullptr, 0);
+
+  EXPECT_EQ(readText(prefsFile()), oldPrefs);
+  EXPECT_EQ(readText(installed / "prefs.cfg"), oldPrefs);
+  EXPECT_EQ(readText(layoutsFolder() / "Yard.txl"), "a plan");
+  EXPECT_FALSE(std::filesystem::exists(layoutsFolder() / "catalog.xml"));
+}
+
+} // namespace
+} // namespace trassix::test
