@@ -280,16 +280,24 @@ std::optional<std::string> MainFrame::askText(const std::string& title, const st
 void MainFrame::popupMenu(const std::vector<MenuRow>& rows) {
   wxMenu menu;
   std::function<void()> chosen;
+  wxMenu* submenu = nullptr;
+  std::string submenuName;
   for (const MenuRow& row : rows) {
     if (row.text.empty()) {
       menu.AppendSeparator();
       continue;
     }
+    if (row.submenu != submenuName) {
+      submenuName = row.submenu;
+      submenu = submenuName.empty() ? nullptr : new wxMenu;
+      if (submenu)
+        menu.AppendSubMenu(submenu, wxGetTranslation(fromUtf8(submenuName)));
+    }
     // The keys are shown in the text: as an accelerator the menu would take them over.
     wxString text = wxGetTranslation(fromUtf8(row.text));
     if (!row.keys.empty())
       text += "   (" + wxGetTranslation(fromUtf8(row.keys)) + ")";
-    wxMenuItem* item = menu.Append(wxID_ANY, text);
+    wxMenuItem* item = (submenu ? *submenu : menu).Append(wxID_ANY, text);
     item->Enable(row.enabled);
     menu.Bind(
         wxEVT_MENU, [&chosen, &row](wxCommandEvent&) { chosen = row.action; }, item->GetId());

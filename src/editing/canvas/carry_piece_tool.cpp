@@ -7,11 +7,18 @@
 namespace trassix {
 
 void CarryPieceTool::posed() {
-  snap_ =
-      site_.host.switches().snap ? site_.snapIndex().findSnap(definition_, pose()) : SnapResult();
+  snap_ = {};
+  insert_.reset();
+  if (!site_.host.switches().snap)
+    return;
+  snap_ = site_.snapIndex().findSnap(definition_, pose());
+  if (!snap_.snapped)
+    insert_ = findInsertSpot(site_.layout(), site_.snapIndex(), definition_, pose());
 }
 
 EditResult CarryPieceTool::drop() {
+  if (insert_)
+    return insertPiece(site_.layout(), definition_.article, *insert_);
   const EditResult result =
       dropPiece(site_.layout(), definition_.article, pose(), snap_, site_.host.switches().snap);
   if (result.changed() && wantsSmallTrackView(site_.layout()))
@@ -19,16 +26,25 @@ EditResult CarryPieceTool::drop() {
   return result;
 }
 
+Pose CarryPieceTool::landing() const {
+  return insert_ ? insert_->pose : snap_.snapped ? snap_.pose : pose();
+}
+
+std::int32_t CarryPieceTool::joiningEnd() const {
+  return insert_ ? insert_->enter : snap_.snapped ? snap_.newConnector : -1;
+}
+
 void CarryPieceTool::paint(Surface& surface) const {
-  const Pose at = snap_.snapped ? snap_.pose : pose();
-  PiecePainter(surface, site_.view)
-      .paint(trackGeometryOf(definition_), at, carriedLook(snap_.snapped));
   PlacedPiece ghost;
+  const Pose at = landing();
   ghost.x = at.x;
   ghost.y = at.y;
   ghost.heading = at.heading;
+  const std::int32_t joining = joiningEnd();
+  PiecePainter(surface, site_.view)
+      .paint(trackGeometryOf(definition_), at, carriedLook(joining != -1));
   for (const WorldConnector& end : WorldConnectorsOf(ghost, definition_)) {
-    const bool joins = snap_.snapped && end.index == snap_.newConnector;
+    const bool joins = end.index == joining;
     surface.circle(site_.view.toScreen({end.x, end.y}), joins ? 6 : 3.5,
                    joins ? plan_colors::kSnapped : plan_colors::kPaper,
                    Stroke{joins ? plan_colors::kPaper : plan_colors::kSelected, 2});
@@ -36,6 +52,9 @@ void CarryPieceTool::paint(Surface& surface) const {
 }
 
 std::string CarryPieceTool::hint() const {
+  if (insert_)
+    return "Let go to insert " + definition_.article + " here: the shorter side makes room" +
+           turningHint();
   return (snap_.snapped ? "Let go to join " : "Click or let go to place ") + definition_.article +
          turningHint();
 }

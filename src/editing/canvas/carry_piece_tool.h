@@ -2,7 +2,9 @@
 
 #include "catalog/piece_def.h"
 #include "editing/canvas/carry_tool.h"
+#include "editing/inserting.h"
 
+#include <optional>
 #include <string>
 
 namespace trassix {
@@ -22,7 +24,12 @@ class CarryPieceTool : public CarryTool {
   EditResult drop() override;
 
   const PieceDef& definition_;
+  Pose landing() const;
+  /// The end of the carried piece that would join, -1 for none.
+  std::int32_t joiningEnd() const;
+
   SnapResult snap_;
+  std::optional<InsertSpot> insert_; ///< where it would go into finished track
 };
 
 } // namespace trassix

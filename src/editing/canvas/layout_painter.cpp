@@ -186,9 +186,12 @@ void LayoutPainter::paintTrack(const Layout& layout, const PlanIndex& index) {
   for (const std::size_t position : index.inBox({low.x, low.y, high.x, high.y}, false)) {
     const PlacedPiece& piece = layout.pieces()[position];
     const PieceDef* definition = index.definition(position);
-    if (!definition ||
-        std::binary_search(options_.leftOut.begin(), options_.leftOut.end(), piece.id))
+    if (std::binary_search(options_.leftOut.begin(), options_.leftOut.end(), piece.id))
       continue;
+    if (!definition) {
+      paintUnknown(piece);
+      continue;
+    }
     PieceLook look;
     look.bed = bedColor(layout, piece, *definition);
     look.rails = options_.rails;
@@ -218,6 +221,19 @@ void LayoutPainter::paintTrack(const Layout& layout, const PlanIndex& index) {
     paintJoinDots(layout, shown);
     paintArticles(shown);
   }
+}
+
+void LayoutPainter::paintUnknown(const PlacedPiece& piece) {
+  // Its article is in no catalogue here: it is shown where it lies so that it can be found and
+  // removed.
+  const Point at = view_.toScreen({piece.x, piece.y});
+  const std::array<Point, 4> box{
+      {{at.x - 7, at.y - 7}, {at.x + 7, at.y - 7}, {at.x + 7, at.y + 7}, {at.x - 7, at.y + 7}}};
+  surface_.polygon(box, colors::kPaper,
+                   Stroke{piece.sel ? colors::kSelected : colors::kOpenEnd, 2});
+  surface_.text("?", at, 0, {colors::kArticle, 11, true});
+  if (options_.labels)
+    surface_.text(piece.cat, {at.x, at.y + 16}, 0, {colors::kArticle, 10.5, false});
 }
 
 void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible> pieces) {

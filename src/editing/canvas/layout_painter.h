@@ -39,6 +39,7 @@ class LayoutPainter {
   void paintBoard(const Layout& layout);
   void paintShapes(const Layout& layout);
   void paintTrack(const Layout& layout, const PlanIndex& index);
+  void paintUnknown(const PlacedPiece& piece);
   void paintScenery(const Layout& layout);
   void paintHelices(const Layout& layout);
   void paintMeasurements(const Layout& layout);

@@ -5,8 +5,29 @@
 #include "editing/canvas/autofill_command.h"
 #include "editing/placing.h"
 #include "editing/selection.h"
+#include "editing/swapping.h"
 
 namespace trassix {
+
+namespace {
+
+/// "Swap for ...": one row for each article that fits the ends of the piece.
+void addSwaps(std::vector<MenuRow>& rows, ToolSite& site, std::int32_t piece) {
+  for (const SwapFit& fit : swapFits(site.layout(), piece)) {
+    MenuRow row;
+    row.text = fit.definition->name;
+    row.submenu = "Swap for";
+    row.action = [&site, piece, fit] {
+      if (const std::optional<Notice> refusal = lockGuard(site.layout(), "swap"))
+        site.host.show(*refusal);
+      else if (swapPiece(site.layout(), piece, fit))
+        site.host.changed();
+    };
+    rows.push_back(row);
+  }
+}
+
+} // namespace
 
 std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& under, Point at) {
   Layout& layout = site.layout();
@@ -27,6 +48,8 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
                       site.host.selectionChanged();
                     }});
   }
+  if (onPiece)
+    addSwaps(rows, site, under.front().id);
   if (hasSelection(layout)) {
     separator();
     const auto turn = [&site](double degrees) {

@@ -93,6 +93,21 @@ TEST(CarryPiece, TurnsByWheelAndKeyAndJoinsWhereItSnaps) {
   EXPECT_EQ(script.host.changes, 2);
 }
 
+TEST(CarryPiece, DroppedOnAJointItGoesIntoTheTrack) {
+  Plan plan;
+  plan.place("24188").extend("24188", 3);
+  CanvasScript script(plan.layout);
+  // Its near end lies on the joint between the third and the fourth piece.
+  script.carry("24094", {564.9 + 4, 3});
+  EXPECT_THAT(script.host.hint, testing::StartsWith("Let go to insert"));
+  script.release({564.9 + 4, 3});
+  ASSERT_EQ(script.pieces().size(), 5u);
+  EXPECT_EQ(openEnds(script.host.plan), 2);
+  EXPECT_EQ(brokenRule(script.host.plan), "");
+  EXPECT_TRUE(script.host.plan.undo());
+  EXPECT_EQ(script.pieces().size(), 4u);
+}
+
 TEST(CarryPiece, SnapSwitchedOffPlacesFree) {
   Plan plan;
   plan.place("24188");

@@ -206,6 +206,20 @@ TEST(SelectTool, CopiesKeepHeightAndComeBackByPasteAndDuplicate) {
   EXPECT_FALSE(script.canvas.carrying());
 }
 
+TEST(SelectTool, TheMenuSwapsAPieceForOneThatFits) {
+  CanvasScript script(row());
+  script.canvas.press(Canvas::Button::Right, script.at(kOnSecond));
+  const auto swap =
+      std::find_if(script.host.menu.begin(), script.host.menu.end(), [](const MenuRow& r) {
+        return r.submenu == "Swap for" && r.text.starts_with("74620");
+      });
+  ASSERT_NE(swap, script.host.menu.end()) << "the truss bridge is as long";
+  swap->action();
+  EXPECT_EQ(script.pieces()[1].cat, "74620");
+  EXPECT_EQ(openEnds(script.host.plan), 2);
+  EXPECT_EQ(script.host.changes, 1);
+}
+
 TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
   Plan plan;
   plan.place("24188").place("24188", {548.3, 0, 0});
