@@ -1,5 +1,6 @@
 #include "ui/choice_dialog.h"
 
+#include "ui/accept_later.h"
 #include "ui/utf8.h"
 
 #include <wx/button.h>
@@ -36,7 +37,7 @@ ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
   CentreOnParent();
 
   rows_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { highlight(); });
-  rows_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { EndModal(wxID_OK); });
+  rows_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptLater(*this); });
   CallAfter([this] { highlight(); });
 }
 

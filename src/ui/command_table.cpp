@@ -4,7 +4,6 @@
 #include "ui/command_ids.h"
 #include "ui/main_frame.h"
 
-#include <wx/accel.h>
 #include <wx/menu.h>
 #include <wx/toolbar.h>
 
@@ -75,13 +74,17 @@ const Command kCommands[] = {
 };
 // clang-format on
 
-struct MoreKeys {
-  int command;
+struct PlainKey {
   int key;
+  int command;
 };
 
-/// Keys that do the same as those shown in the menu.
-constexpr MoreKeys kMoreKeys[] = {{kZoomIn, WXK_NUMPAD_ADD}, {kZoomOut, WXK_NUMPAD_SUBTRACT}};
+/// With the plus as American keyboards name it, and those of the number pad.
+constexpr PlainKey kPlainKeys[] = {{'+', kZoomIn},
+                                   {'=', kZoomIn},
+                                   {WXK_NUMPAD_ADD, kZoomIn},
+                                   {'-', kZoomOut},
+                                   {WXK_NUMPAD_SUBTRACT, kZoomOut}};
 
 constexpr int kSeparator = 0;
 constexpr int kUnitsSubmenu = -1;
@@ -126,13 +129,9 @@ wxItemKind itemKind(Kind kind) {
 void append(wxMenu& menu, int id) {
   const Command* command = findCommand(id);
   const wxString help = wxGetTranslation(command->menuHelp);
-  wxMenuItem* item =
-      menu.Append(id, wxGetTranslation(command->menuText),
-                  command->action ? help : _("Not available in this version") + ": " + help,
-                  itemKind(command->kind));
-  for (const MoreKeys& more : kMoreKeys)
-    if (more.command == id)
-      item->AddExtraAccel(wxAcceleratorEntry(wxACCEL_NORMAL, more.key, id));
+  menu.Append(id, wxGetTranslation(command->menuText),
+              command->action ? help : _("Not available in this version") + ": " + help,
+              itemKind(command->kind));
 }
 
 wxString toolTipOf(const Command& command) {
@@ -159,6 +158,13 @@ const Command* findCommand(int id) {
   const auto found = std::find_if(std::begin(kCommands), std::end(kCommands),
                                   [id](const Command& command) { return command.id == id; });
   return found == std::end(kCommands) ? nullptr : &*found;
+}
+
+const Command* commandOfPlainKey(int key) {
+  for (const PlainKey& plain : kPlainKeys)
+    if (plain.key == key)
+      return findCommand(plain.command);
+  return nullptr;
 }
 
 bool commandEnabled(const Command& command, const Layout& layout) {

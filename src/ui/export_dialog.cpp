@@ -1,5 +1,6 @@
 #include "ui/export_dialog.h"
 
+#include "ui/accept_later.h"
 #include "ui/folder_field.h"
 #include "ui/utf8.h"
 
@@ -51,10 +52,7 @@ ExportDialog::ExportDialog(wxWindow* parent, SavedLayouts saved,
   Centre();
 
   names_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { offerName(); });
-  names_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) {
-    if (FindWindow(wxID_OK)->IsEnabled())
-      EndModal(wxID_OK);
-  });
+  names_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptLater(*this); });
   folder_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { enableButtons(); });
   name_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { enableButtons(); });
 }

@@ -1,6 +1,7 @@
 #include "ui/import_dialog.h"
 
 #include "app/services/path_text.h"
+#include "ui/accept_later.h"
 #include "ui/folder_field.h"
 #include "ui/saved_layouts.h"
 
@@ -46,10 +47,7 @@ ImportDialog::ImportDialog(wxWindow* parent, const std::filesystem::path& folder
 
   folder_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { list(); });
   names_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { offerName(); });
-  names_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) {
-    if (FindWindow(wxID_OK)->IsEnabled())
-      EndModal(wxID_OK);
-  });
+  names_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptLater(*this); });
   name_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { enableButtons(); });
 }
 

@@ -29,6 +29,8 @@
 #include <wx/textdlg.h>
 #include <wx/toolbar.h>
 
+#include <utility>
+
 namespace trassix {
 
 namespace {
@@ -138,7 +140,14 @@ void MainFrame::fitToDisplay() {
   const wxRect area =
       wxDisplay(display == wxNOT_FOUND ? 0u : static_cast<unsigned>(display)).GetClientArea();
   const wxSize size(std::min(GetSize().x, area.width), std::min(GetSize().y, area.height));
-  SetSize(area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2, size.x, size.y);
+  SetSize(size);
+  const wxPoint place(area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2);
+  // Some window managers lose a place that is given before the window is there.
+  Bind(wxEVT_SHOW, [this, place, moved = false](wxShowEvent& event) mutable {
+    event.Skip();
+    if (!std::exchange(moved, true))
+      Move(place);
+  });
 }
 
 void MainFrame::readPreferences() {
@@ -162,6 +171,7 @@ void MainFrame::bindCommands() {
         command.id);
   }
   Bind(wxEVT_CLOSE_WINDOW, &MainFrame::onClose, this);
+  Bind(wxEVT_CHAR_HOOK, &MainFrame::onCharHook, this);
 }
 
 void MainFrame::run(const Command& command) {
@@ -174,6 +184,16 @@ void MainFrame::run(const Command& command) {
       return;
   }
   (this->*command.action)();
+}
+
+void MainFrame::onCharHook(wxKeyEvent& event) {
+  // Controls may be typed into, so they keep these keys.
+  const Command* command = commandOfPlainKey(event.GetKeyCode());
+  if (command && (event.GetModifiers() & ~wxMOD_SHIFT) == 0 &&
+      !dynamic_cast<wxControl*>(FindFocus()))
+    run(*command);
+  else
+    event.Skip();
 }
 
 void MainFrame::onClose(wxCloseEvent& event) {

@@ -102,6 +102,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   void readPreferences();
   void bindCommands();
   void run(const Command& command);
+  void onCharHook(wxKeyEvent& event);
   void onClose(wxCloseEvent& event);
 
   void tellAll();

@@ -1,6 +1,7 @@
 #include "ui/open_layout_dialog.h"
 
 #include "app/services/path_text.h"
+#include "ui/accept_later.h"
 #include "ui/utf8.h"
 
 #include <wx/button.h>
@@ -36,7 +37,7 @@ OpenLayoutDialog::OpenLayoutDialog(wxWindow* parent, SavedLayouts saved,
   Centre();
 
   names_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { enableButtons(); });
-  names_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { EndModal(wxID_OK); });
+  names_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptLater(*this); });
   Bind(
       wxEVT_BUTTON, [this](wxCommandEvent&) { deleteSelected(); }, wxID_DELETE);
 }
