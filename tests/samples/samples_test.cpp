@@ -1,0 +1,39 @@
+#include "catalog/track_catalog.h"
+#include "document/layout_reader.h"
+#include "document/layout_writer.h"
+#include "document/text_file.h"
+#include "support/plan.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <set>
+
+namespace trassix {
+namespace {
+
+TEST(Samples, OpenSoundAndClosedAndSaveBackByteForByte) {
+  std::set<TrackSystem> systems;
+  for (const auto& entry :
+       std::filesystem::directory_iterator(std::filesystem::path(TRASSIX_SOURCE_DIR) / "samples")) {
+    SCOPED_TRACE(entry.path().filename().string());
+    std::string text;
+    ASSERT_EQ(readTextFile(entry.path(), text), "");
+    Layout layout;
+    std::string name;
+    ASSERT_EQ(readLayout(text, layout, name), "");
+    EXPECT_EQ(name, entry.path().stem().string());
+    EXPECT_EQ(brokenRule(layout), "");
+    EXPECT_EQ(openEnds(layout), 0);
+    EXPECT_LT(largestPlay(layout).distance, 1.0);
+    EXPECT_GE(layout.settings().baseboard.size(), 4u);
+    std::string saved;
+    ASSERT_EQ(writeLayout(layout, name, saved), "");
+    EXPECT_EQ(saved, text);
+    systems.insert(definitionOf(layout.pieces().at(0))->system);
+  }
+  EXPECT_EQ(systems.size(), 6u);
+}
+
+} // namespace
+} // namespace trassix

@@ -1,0 +1,415 @@
+// Writes the sample plans: make_samples FOLDER. Each is built piece by piece with the functions
+// that also serve the mouse, so that every joint is what the program itself would have made.
+#include "document/layout_writer.h"
+#include "editing/annotations.h"
+#include "editing/placing.h"
+#include "support/plan.h"
+
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <vector>
+
+namespace trassix {
+
+namespace {
+
+/// A plan with what stands around its track.
+class Sample : public Plan {
+ public:
+  void table(double left, double top, double width, double height) {
+    PlanSettings& settings = layout.editSettings();
+    settings.baseboard = {
+        {left, top}, {left + width, top}, {left + width, top + height}, {left, top + height}};
+    settings.lastShape = {0, width, height, 0, 0};
+  }
+
+  void scenery(std::string_view key, double x, double y, double heading = 0) {
+    dropScenery(layout, key, {x, y, heading});
+  }
+
+  void row(std::string_view key, double x, double y, double stepX, double stepY, int count) {
+    for (int i = 0; i < count; ++i)
+      scenery(key, x + i * stepX, y + i * stepY);
+  }
+
+  void trees(std::initializer_list<Point> places) {
+    static constexpr std::string_view kKinds[] = {"tree.broad.m", "tree.fir.l", "tree.broad.s",
+                                                  "tree.broad.l", "tree.fir.m"};
+    std::size_t kind = 0;
+    for (const Point& place : places)
+      scenery(kKinds[kind++ % std::size(kKinds)], place.x, place.y);
+  }
+
+  void area(const std::vector<Point>& outline, Color color, std::string_view label = {}) {
+    const std::int32_t id = addShape(layout, outline);
+    for (Shape& shape : layout.edit().shapes) {
+      if (shape.id != id)
+        continue;
+      shape.color = color;
+      shape.label = label;
+    }
+  }
+
+  void label(double x, double y, std::string_view text) { addLabel(layout, {x, y}, text); }
+};
+
+constexpr Color kMeadow{168, 200, 132};
+constexpr Color kWater{132, 182, 214};
+constexpr Color kGround{206, 196, 178};
+
+/// Main line on R2 with a passing siding in the station and a goods siding off it.
+Sample cTrackOval() {
+  Sample s;
+  s.table(-560, -300, 2410, 1400);
+  s.area({{120, 360}, {1150, 330}, {1230, 620}, {1010, 760}, {170, 740}, {60, 540}}, kMeadow);
+  s.area({{1010, 520}, {1110, 500}, {1180, 560}, {1150, 640}, {1050, 660}, {980, 600}}, kWater,
+         "Mill pond");
+  s.place("24612");
+  const std::int32_t west = s.last();
+  s.extend("24172").extend("24188", 3).extend("24172").extendBy("24611", 1, 0);
+  const std::int32_t east = s.last();
+  s.extend("24230", 6).extend("24172").extend("24188", 5).extend("24172").extend("24230", 6);
+  s.at(west, 2).extendLeft("24224").extend("24188").extend("24612");
+  const std::int32_t goods = s.last();
+  s.extend("24188").extendLeft("24224");
+  s.at(goods, 2).extendLeft("24224").extend("24188").extendBy("24977", 0, 0);
+  static_cast<void>(east);
+
+  s.scenery("stn.medium", 640, -130);
+  s.row("plat.side", 460, -42, 180, 0, 3);
+  s.row("plat.island77", 460, 39, 180, 0, 3);
+  s.scenery("goods.shed", 1060, 262);
+  s.scenery("box.ground", 60, -95);
+  s.scenery("sig.light.home", -150, -40);
+  s.scenery("sig.light.home", 1430, 120);
+  s.scenery("bus.shelter", 900, -120);
+  s.row("road.minor", -380, -257, 250, 0, 9);
+  s.scenery("church.village", 420, 560, 20);
+  s.scenery("inn", 640, 480);
+  s.scenery("house.detached", 250, 480, 10);
+  s.scenery("house.timber", 800, 470, 350);
+  s.scenery("house.two", 560, 660);
+  s.scenery("farm.barn", 800, 640, 15);
+  s.scenery("mill", 940, 470, 30);
+  s.trees({{180, 600}, {290, 660}, {720, 600}, {900, 690}, {330, 400}, {1180, 450}, {1230, 700}});
+  s.trees({{-480, -120},
+           {-500, 160},
+           {-490, 420},
+           {-500, 700},
+           {-460, 980},
+           {1760, -120},
+           {1790, 180},
+           {1770, 470},
+           {1780, 760},
+           {1750, 1000},
+           {300, 1040},
+           {700, 1050},
+           {1100, 1040}});
+  s.label(560, -140, "Neustadt");
+  s.label(900, 240, "Goods");
+  return s;
+}
+
+/// Five tracks off one ladder, with a headshunt and the road to the engine shed.
+Sample kTrackYard() {
+  Sample s;
+  s.table(-1020, -330, 3150, 900);
+  s.area({{880, -60}, {1940, -60}, {1940, 320}, {880, 320}}, kGround);
+  s.place("2263");
+  const std::int32_t first = s.last();
+  struct Road {
+    std::int32_t turnout;
+    std::int32_t end;
+  };
+  std::vector<Road> roads{{first, 1}};
+  s.at(first, 2);
+  for (int i = 0; i < 3; ++i) {
+    s.extend("2262");
+    roads.push_back({s.last(), 2});
+  }
+  s.extendLeft("2232");
+  roads.push_back({s.last(), 0});
+  // Each turnout further up the ladder begins its track one 156 mm straight further on.
+  for (std::size_t i = 0; i < roads.size(); ++i) {
+    s.at(roads[i].turnout, roads[i].end);
+    s.extend("2207", static_cast<int>(roads.size() - 1 - i)).extend("2200", 2).extend("2297");
+    s.extend("2200", 3).extendBy("7389", 0, 0);
+  }
+  s.at(first, 0).extend("2200", 2).extendBy("2263", 1, 0);
+  const std::int32_t shed = s.last();
+  s.extend("2200", 2).extendBy("7389", 0, 0);
+  s.at(shed, 2).extend("2232").extend("2200", 1).extend("2201");
+  const WorldConnector shedRoad = s.front();
+  s.extendBy("7391", 0, 0);
+
+  s.scenery("shed.loco1", shedRoad.x, shedRoad.y, shedRoad.heading);
+  s.scenery("water.tower", -330, 60);
+  s.scenery("coal.stage", -560, 120, 45);
+  s.scenery("diesel.pump", -620, -110);
+  s.scenery("house.two", -330, -160);
+  s.scenery("box.tall", 40, -110);
+  s.scenery("goods.shed", 1120, -130);
+  s.scenery("warehouse", 1420, -140);
+  s.scenery("goods.ramp", 1680, -100);
+  s.scenery("goods.gantry", 1500, 259);
+  s.scenery("lamp.yard", 800, -60);
+  s.scenery("lamp.yard", 1500, 330);
+  s.scenery("lamp.yard", 840, 330);
+  s.row("road.main", -780, -270, 250, 0, 12);
+  s.scenery("factory.small", 400, 440);
+  s.scenery("tank", 640, 440);
+  s.scenery("tank", 740, 440);
+  s.scenery("silo", 860, 450);
+  s.trees({{-880, 200},
+           {-760, 350},
+           {-620, 420},
+           {-420, 430},
+           {-20, 330},
+           {120, 450},
+           {1200, 460},
+           {1420, 480},
+           {1640, 450},
+           {1880, 470}});
+  s.label(-930, 90, "Headshunt");
+  s.label(1000, 400, "Freight yard");
+  return s;
+}
+
+/// Two loops on a table top, the inner one with a passing siding.
+Sample zTrackTabletop() {
+  Sample s;
+  s.table(-270, -90, 1310, 570);
+  s.area({{60, 130}, {640, 120}, {720, 250}, {600, 325}, {90, 320}}, kMeadow);
+  s.area({{470, 190}, {560, 180}, {580, 250}, {500, 290}, {450, 250}}, kWater);
+  s.place("8563", {0, 25, 0});
+  const std::int32_t west = s.last();
+  s.extend("8500").extend("8500", 3).extend("8500").extendBy("8562", 1, 0);
+  s.extend("8520", 4).extend("8500", 7).extend("8520", 4);
+  s.at(west, 2).extendLeft("8591").extend("8500", 3).extendLeft("8591");
+  s.place("8500", {0, 0, 0}).extend("8500", 6).extend("8530", 4).extend("8500", 7);
+  s.extend("8530", 4);
+
+  s.scenery("8970", 385, -40);
+  s.row("plat.side", 275, 75, 110, 0, 3);
+  s.scenery("goods.shed", 640, 90);
+  s.scenery("church.village", 150, 200, 15);
+  s.scenery("house.detached", 240, 180);
+  s.scenery("house.timber", 300, 230, 340);
+  s.scenery("inn", 370, 170);
+  s.scenery("house.two", 220, 280);
+  s.scenery("mill", 430, 200, 30);
+  s.row("road.minor", 110, 345, 100, 0, 6);
+  s.trees({{100, 160},
+           {330, 290},
+           {420, 300},
+           {620, 290},
+           {-60, 180},
+           {-90, 260},
+           {740, 200},
+           {780, 300},
+           {850, 160},
+           {880, 250},
+           {-235, -55},
+           {-230, 450},
+           {1000, -50},
+           {1005, 445},
+           {30, 380},
+           {760, 370}});
+  s.label(470, -50, "Seebach");
+  return s;
+}
+
+/// Two ovals; a line branches off the inner one and crosses the outer one on the level.
+Sample mTrackCrossing() {
+  Sample s;
+  s.table(-600, -460, 2100, 1430);
+  s.area({{60, 150}, {820, 140}, {900, 360}, {760, 560}, {120, 570}, {0, 360}}, kMeadow);
+  s.place("5117");
+  const std::int32_t branch = s.last();
+  s.extend("5106", 4).extend("5100", 6).extend("5106", 5).extend("5100", 6);
+  s.at(branch, 2).extendBy("5114", 0, 1);
+  const std::int32_t crossing = s.last();
+  s.extend("5100").extend("5106", 2).extend("5112").extendBy("5190", 0, 0);
+  s.at(crossing, 3).extend("5106", 3).extend("5200", 3).extend("5110").extend("5200", 3);
+  s.extend("5106", 5).extend("5200", 3).extend("5110").extend("5200", 3);
+  s.extend("5107").extend("5108").extend("5210", 2);
+
+  s.scenery("stn.small", 450, 118);
+  s.row("plat.side", 270, 41, 180, 0, 3);
+  s.scenery("goods.shed", 760, -280);
+  s.scenery("goods.ramp", 560, -265);
+  s.scenery("7039", -150, -150);
+  s.scenery("box.ground", 130, -190);
+  s.row("road.minor", -400, -400, 250, 0, 7);
+  s.scenery("house.detached", 180, 300, 12);
+  s.scenery("house.timber", 330, 280);
+  s.scenery("church.chapel", 470, 330, 20);
+  s.scenery("inn", 640, 290);
+  s.scenery("house.two", 300, 450, 350);
+  s.scenery("farm.house", 620, 470);
+  s.trees({{100, 420},
+           {200, 520},
+           {450, 480},
+           {780, 400},
+           {760, 220},
+           {100, 200},
+           {-520, -260},
+           {-530, 0},
+           {-535, 330},
+           {-520, 700},
+           {1400, -280},
+           {1420, 100},
+           {1430, 420},
+           {1400, 760},
+           {200, 890},
+           {560, 900},
+           {900, 890}});
+  s.label(390, 205, "Birkenau");
+  s.label(700, -350, "Sawmill siding");
+  return s;
+}
+
+/// A loop for the garden with a long passing siding.
+Sample gauge1Loop() {
+  Sample s;
+  s.table(-1350, -500, 5620, 3050);
+  s.area({{300, 700}, {2500, 650}, {2800, 1200}, {2300, 1700}, {500, 1650}, {150, 1200}}, kMeadow);
+  s.area({{1700, 1050}, {2050, 980}, {2350, 1150}, {2250, 1420}, {1850, 1450}, {1600, 1260}},
+         kWater, "Garden pond");
+  s.place("59083");
+  const std::int32_t west = s.last();
+  s.extend("59061").extend("59053").extend("59051", 2).extend("59059").extendBy("59084", 1, 0);
+  s.extend("59035", 8).extend("59061", 3).extend("59053").extend("59051", 2).extend("59035", 8);
+  s.at(west, 2).extend("59058").extendLeft("59078").extend("59059").extend("59054");
+  s.extendLeft("59078").extend("59058");
+
+  s.scenery("stn.small", 1450, -330);
+  s.row("plat.side", 970, -100, 490, 0, 3);
+  s.scenery("goods.shed", 1460, 420);
+  s.scenery("water.crane", 500, 240);
+  s.scenery("house.detached", 700, 950, 10);
+  s.scenery("kiosk", 1200, 850);
+  s.trees({{500, 1250},
+           {900, 1450},
+           {1250, 1250},
+           {1400, 1500},
+           {2450, 900},
+           {2600, 1500},
+           {-1100, -250},
+           {-1150, 600},
+           {-1150, 1500},
+           {-1050, 2300},
+           {4000, -250},
+           {4070, 700},
+           {4060, 1500},
+           {3950, 2300},
+           {600, 2350},
+           {1450, 2380},
+           {2300, 2350}});
+  s.label(1250, -340, "Garden Halt");
+  return s;
+}
+
+/// A double-track main line below, a terminus on its own deck above.
+Sample trixTwoLevels() {
+  Sample s;
+  s.table(-700, -160, 2520, 1360);
+  s.layout.ensureLevel();
+  s.layout.editSettings().levels.front().name = "Main line";
+  s.place("62612");
+  const std::int32_t outer = s.last();
+  s.extend("62172").extend("62188", 4).extend("62330", 6).extend("62172").extend("62188", 5);
+  s.extend("62330", 6);
+  s.at(outer, 2).extendBy("62612", 2, 1).extend("62172").extendLeft("62230", 6);
+  s.extend("62188", 5).extend("62172").extendLeft("62230", 6).extend("62188", 4);
+  s.row("plat.island77", 560, 39, 180, 0, 3);
+  s.scenery("box.ground", 190, -90);
+  s.trees({{-620, 20},
+           {-630, 300},
+           {-620, 640},
+           {-600, 1000},
+           {1740, 20},
+           {1750, 320},
+           {1740, 660},
+           {1720, 1000},
+           {200, 1150},
+           {700, 1150},
+           {1100, 1150}});
+  s.label(600, -110, "Main line, level 0");
+
+  Level deck;
+  deck.id = 2;
+  deck.name = "Upper deck";
+  deck.height = 120;
+  deck.trackcolor = true;
+  deck.color = {176, 132, 92};
+  deck.outline = {{-60, 290}, {1240, 290}, {1240, 760}, {-60, 760}};
+  s.layout.editSettings().levels.push_back(deck);
+  s.layout.editSettings().activeLevel = 2;
+  s.place("62188", {70, 530, 0});
+  const std::int32_t start = s.last();
+  s.extend("62188").extend("62630");
+  const std::int32_t fan = s.last();
+  s.at(fan, 1).extend("62172").extend("62188", 2).extendBy("62977", 0, 0);
+  s.at(fan, 2).extendLeft("62224").extend("62188", 2).extendBy("62977", 0, 0);
+  s.at(fan, 3).extend("62224").extend("62188", 2).extendBy("62977", 0, 0);
+  s.at(start, 0).extendBy("62977", 0, 0);
+  s.scenery("stn.small", 960, 370);
+  s.row("plat.island77", 900, 491, 180, 0, 2);
+  s.row("plat.island77", 900, 569, 180, 0, 2);
+  s.scenery("shed.loco1", 140, 640);
+  s.scenery("water.tower", 320, 640);
+  s.scenery("house.timber", 160, 390, 10);
+  s.scenery("church.chapel", 330, 390);
+  s.scenery("house.two", 500, 390, 350);
+  s.trees({{620, 360}, {20, 340}, {430, 690}, {560, 690}, {720, 700}});
+  s.label(60, 265, "Terminus, level +120");
+  s.layout.editSettings().activeLevel = 1;
+  return s;
+}
+
+struct File {
+  const char* name;
+  Sample (*make)();
+};
+
+constexpr File kFiles[] = {
+    {"C-Track Oval with Siding", cTrackOval}, {"K-Track Freight Yard", kTrackYard},
+    {"Z-Track Tabletop", zTrackTabletop},     {"M-Track Oval with Crossing", mTrackCrossing},
+    {"Gauge 1 Garden Loop", gauge1Loop},      {"TRIX on Two Levels", trixTwoLevels},
+};
+
+int writeAll(const std::filesystem::path& folder) {
+  for (const File& file : kFiles) {
+    Sample sample = file.make();
+    sample.layout.ensureLevel();
+    sample.layout.clearSelection();
+    const std::string message =
+        saveLayout(sample.layout, folder / (std::string(file.name) + ".txl"), file.name);
+    const Play play = largestPlay(sample.layout);
+    std::printf("%-28s %3zu pieces, %d open ends, largest play %.3f mm %.3f deg %s\n", file.name,
+                sample.layout.pieces().size(), openEnds(sample.layout), play.distance, play.heading,
+                message.c_str());
+    if (!message.empty())
+      return 1;
+  }
+  return 0;
+}
+
+} // namespace
+
+} // namespace trassix
+
+int main(int argc, char** argv) {
+  if (argc != 2) {
+    std::fputs("make_samples FOLDER\n", stderr);
+    return 2;
+  }
+  try {
+    return trassix::writeAll(argv[1]);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+}
