@@ -1,0 +1,60 @@
+#pragma once
+
+#include "editing/placing.h"
+#include "ui/main_frame.h"
+#include "ui_test.h"
+
+#include <wx/listbox.h>
+#include <wx/textctrl.h>
+#include <wx/textdlg.h>
+
+#include <algorithm>
+
+namespace trassix::test {
+
+/// A test of the main window's commands.
+class FrameTest : public UiTest {
+ protected:
+  void put(int command) {
+    wxCommandEvent event(wxEVT_MENU, command);
+    frame().ProcessWindowEvent(event);
+  }
+  void placePiece(double x = 0) {
+    dropPiece(frame().layout(), "24188", {x, 0, 0}, {}, false);
+    frame().host().changed();
+  }
+  std::size_t pieces() const { return frame().layout().pieces().size(); }
+  std::string title() const { return frame().GetTitle().utf8_string(); }
+
+  static wxListBox& list(wxDialog& dialog, const char* name) {
+    return dynamic_cast<wxListBox&>(*wxWindow::FindWindowByName(name, &dialog));
+  }
+  static void choose(wxDialog& dialog, const char* name, const char* row) {
+    wxListBox& box = list(dialog, name);
+    ASSERT_TRUE(box.SetStringSelection(row)) << row;
+    wxCommandEvent event(wxEVT_LISTBOX, box.GetId());
+    event.SetEventObject(&box);
+    box.ProcessWindowEvent(event);
+  }
+  static void type(wxDialog& dialog, const char* name, const wxString& text) {
+    dynamic_cast<wxTextCtrl&>(*wxWindow::FindWindowByName(name, &dialog)).SetValue(text);
+  }
+  static void press(wxDialog& dialog, int button) {
+    wxCommandEvent event(wxEVT_BUTTON, button);
+    dialog.ProcessWindowEvent(event);
+  }
+
+  /// Answers the dialog that asks for a line of text.
+  void answerText(const std::string& dialog, const wxString& text) {
+    dialogs.answer(dialog, [text](wxDialog& shown) {
+      dynamic_cast<wxTextEntryDialog&>(shown).SetValue(text);
+      return wxID_OK;
+    });
+  }
+  void saveAs(const wxString& name) {
+    answerText("Save Layout", name);
+    put(wxID_SAVEAS);
+  }
+};
+
+} // namespace trassix::test
