@@ -1,0 +1,156 @@
+#include "catalog/track_catalog.h"
+#include "driver.h"
+#include "support/plan.h"
+#include "support/print_records.h"
+#include "ui/canvas_panel.h"
+#include "ui/catalog_list.h"
+#include "ui/main_frame.h"
+#include "ui_test.h"
+
+#include <wx/listbox.h>
+#include <wx/statusbr.h>
+#include <wx/textdlg.h>
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+namespace trassix::test {
+namespace {
+
+/// Plans with real mouse and keys.
+class PlanningTest : public UiTest {
+ protected:
+  Layout& plan() { return frame().layout(); }
+  Canvas& canvas() { return frame().canvasPanel().canvas(); }
+
+  Spot onPlan(Point world) {
+    const Point px = canvas().view().toScreen(world);
+    return {frame().canvasPanel(),
+            wxPoint(static_cast<int>(std::lround(px.x)), static_cast<int>(std::lround(px.y)))};
+  }
+
+  /// The middle of an entry of the palette, scrolled into view.
+  Spot inPalette(const wxString& article) {
+    auto* list = dynamic_cast<CatalogList*>(findNamed("pieces"));
+    const auto& rows = list->rows();
+    const auto row = static_cast<std::size_t>(
+        std::find_if(rows.begin(), rows.end(),
+                     [&](const CatalogRow& r) { return r.title == article; }) -
+        rows.begin());
+    list->select(row, 1);
+    wxRect rect;
+    waitUntil("the palette shows " + article.ToStdString(), [&] {
+      rect = list->GetItemRect(row);
+      return !rect.IsEmpty();
+    });
+    return {*list, rect.GetPosition() + wxPoint(rect.width / 2, rect.height / 2)};
+  }
+
+  /// Throws when they do not come, since nothing that follows makes sense then.
+  void waitForPieces(std::size_t count) {
+    if (!waitUntil(std::to_string(count) + " pieces",
+                   [&] { return plan().pieces().size() == count; }))
+      throw std::runtime_error("the plan has " + std::to_string(plan().pieces().size()) +
+                               " pieces");
+  }
+
+  /// Goes on from the selected piece by Enter in the palette.
+  void extendByEnter(const wxString& article, std::size_t times) {
+    click(inPalette(article));
+    for (std::size_t i = 0; i < times; ++i) {
+      const std::size_t before = plan().pieces().size();
+      pressKey(WXK_RETURN);
+      waitForPieces(before + 1);
+    }
+  }
+};
+
+TEST_F(PlanningTest, AnOvalIsPlannedSavedAndFoundAgainAllJoined) {
+  start();
+  drag(inPalette("24188"), {onPlan({300, 200}), onPlan({500, 160})});
+  waitForPieces(1);
+
+  // Carried near the open end, it is let go joined.
+  const PlacedPiece first = plan().pieces()[0];
+  drag(inPalette("24130"), {onPlan({500, 400}), onPlan({first.x + 188.3 + 12, first.y + 9})});
+  waitForPieces(2);
+  EXPECT_EQ(plan().pieces()[1].joint(0), (Joint{first.id, 1}));
+
+  extendByEnter("24130", 5);
+  doubleClick(inPalette("24188"));
+  waitForPieces(8);
+  extendByEnter("24130", 6);
+  EXPECT_EQ(openEnds(plan()), 0) << "the last curve closes the oval";
+  EXPECT_EQ(brokenRule(plan()), "");
+  EXPECT_EQ(frame().GetTitle(), "Trassix v1.7.1 by Quorrail *");
+  EXPECT_EQ(frame().GetStatusBar()->GetStatusText(1), "Pieces: 14");
+
+  dialogs.drive("Save Layout", [](wxDialog&) {
+    typeText("Evening oval");
+    pressKey(WXK_RETURN);
+  });
+  pressKey('S', wxMOD_CONTROL);
+  ASSERT_TRUE(waitUntil("saved", [&] { return !frame().dirty(); }));
+  EXPECT_TRUE(std::filesystem::exists(layoutsFolder() / "Evening oval.txl"));
+  const PlanContent saved = plan().content();
+
+  pressKey('W', wxMOD_CONTROL);
+  waitForPieces(0);
+  dialogs.drive("Open Layout", [](wxDialog&) {
+    pressKey(WXK_DOWN);
+    pressKey(WXK_RETURN);
+  });
+  pressKey('O', wxMOD_CONTROL);
+  waitForPieces(14);
+  EXPECT_EQ(openEnds(plan()), 0);
+  for (std::size_t i = 0; i < saved.pieces.size(); ++i) {
+    EXPECT_EQ(plan().pieces()[i].cat, saved.pieces[i].cat);
+    EXPECT_EQ(plan().pieces()[i].joints, saved.pieces[i].joints);
+    EXPECT_NEAR(plan().pieces()[i].x, saved.pieces[i].x, 1e-4);
+  }
+  EXPECT_EQ(frame().GetTitle(), "Trassix v1.7.1 by Quorrail - Evening oval");
+  takeScreenshot("oval");
+  finish();
+}
+
+TEST_F(PlanningTest, MouseAndKeysShapeThePlan) {
+  start();
+  drag(inPalette("24188"), {onPlan({300, 200}), onPlan({400, 300})});
+  waitForPieces(1);
+
+  // Turned by the wheel while it is carried, given up by Esc.
+  pressMouse(inPalette("24172"));
+  moveMouse(onPlan({900, 600}));
+  ASSERT_TRUE(waitUntil("carrying", [&] { return canvas().carrying(); }));
+  turnWheel(1);
+  pressKey(WXK_ESCAPE);
+  ASSERT_TRUE(waitUntil("given up", [&] { return !canvas().carrying(); }));
+  releaseMouse();
+  EXPECT_EQ(plan().pieces().size(), 1u);
+
+  const Point origin = canvas().view().origin();
+  moveMouse(onPlan({1000, 900}));
+  turnWheel(1);
+  ASSERT_TRUE(waitUntil("zoomed in", [&] { return canvas().view().zoom() > 0.45; }));
+  turnWheel(-1);
+  ASSERT_TRUE(waitUntil("zoomed out", [&] { return canvas().view().zoom() < 0.41; }));
+  EXPECT_NEAR(canvas().view().origin().x, origin.x, 1);
+
+  // A rubber band around the piece, moved by drag, turned by the wheel, taken back by undo.
+  plan().clearSelection();
+  const PlacedPiece before = plan().pieces()[0];
+  drag(onPlan({before.x - 60, before.y - 120}), {onPlan({before.x + 260, before.y + 120})});
+  ASSERT_TRUE(waitUntil("selected", [&] { return plan().pieces()[0].sel; }));
+  drag(onPlan({before.x + 90, before.y}), {onPlan({before.x + 190, before.y + 200})});
+  ASSERT_TRUE(waitUntil("moved", [&] { return plan().pieces()[0].y > before.y + 150; }));
+  pressKey('Z', wxMOD_CONTROL);
+  ASSERT_TRUE(waitUntil("undone", [&] { return plan().pieces()[0].y == before.y; }));
+  click(onPlan({before.x + 90, before.y}));
+  pressKey(WXK_DELETE);
+  waitForPieces(0);
+  finish();
+}
+
+} // namespace
+} // namespace trassix::test
