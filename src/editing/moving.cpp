@@ -106,7 +106,8 @@ bool SelectionMove::commit(Layout& layout) const {
       changeLevel(layout.edit(), from, to);
     join(layout, snappingPiece_, snap_->newConnector, snap_->target, snap_->targetConnector);
   }
-  closeMeetingEnds(layout, pieces_);
+  // Let go of by hand, ends that were joined a moment ago must not be joined again with a gap.
+  closeMeetingEnds(layout, pieces_, snap_ ? MeetingPlay{} : MeetingPlay::none());
   return true;
 }
 

@@ -46,10 +46,10 @@ class SelectionMove {
   /// True when such a joint has a graded piece on either side: the user is asked first.
   bool opensGradedJoints() const { return detachment_.opensGradedJoints && changes(); }
 
-  /// Carries it out as one undo step: opens joints to the rest, moves, joins where it landed. A
-  /// group that snapped takes the height of the end it snapped to, and what was on the level of the
-  /// snapping piece goes to the level of the target. False and nothing changed when the group is
-  /// where it was.
+  /// Carries it out as one undo step: opens joints to the rest, moves, joins where it landed; after
+  /// a free move only ends that lie exactly on each other. A group that snapped takes the height of
+  /// the end it snapped to, and what was on the level of the snapping piece goes to the level of
+  /// the target. False and nothing changed when the group is where it was.
   bool commit(Layout& layout) const;
 
  private:

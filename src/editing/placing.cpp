@@ -156,7 +156,7 @@ std::int32_t addPiece(Layout& layout, const PieceDef& definition, const Pose& po
   piece.cat = definition.article;
   piece.x = pose.x;
   piece.y = pose.y;
-  piece.heading = pose.heading;
+  piece.heading = normaliseHeading(pose.heading);
   piece.level = level;
   piece.z = height;
   piece.joints.resize(definition.connectors.size());

@@ -25,6 +25,29 @@ bool coincide(const WorldConnector& a, const WorldConnector& b) {
          headingDifference(a.heading, b.heading) <= kClosingFacing;
 }
 
+WorldConnector reversed(WorldConnector end) {
+  end.heading = normaliseHeading(end.heading + 180.0);
+  return end;
+}
+
+/// The piece's ends, joined ones where the neighbour has them: a joint with play must not let the
+/// new piece wander off.
+std::vector<WorldConnector> endsToMeet(const Layout& layout, const PlacedPiece& piece,
+                                       const PieceDef& definition) {
+  std::vector<WorldConnector> ends = WorldConnectorsOf(piece, definition);
+  for (WorldConnector& end : ends) {
+    const Joint joint = piece.joint(static_cast<std::size_t>(end.index));
+    const PlacedPiece* neighbour = layout.findPiece(joint.target);
+    const PieceDef* other = neighbour == nullptr ? nullptr : definitionOf(*neighbour);
+    if (other == nullptr)
+      continue;
+    const std::int32_t index = end.index;
+    end = reversed(ConnectorToWorld(*neighbour, *other, joint.tconn));
+    end.index = index;
+  }
+  return ends;
+}
+
 /// Ends that the new piece has to have, as indices of the present one's.
 std::vector<std::size_t> requiredEnds(const PlacedPiece& piece, const PieceDef& definition) {
   std::vector<std::size_t> required;
@@ -99,11 +122,8 @@ std::vector<SwapFit> swapFits(const Layout& layout, std::int32_t piece) {
   const std::vector<std::size_t> required = requiredEnds(*present, *presentDefinition);
   if (required.empty())
     return {};
-  const auto ends = WorldConnectorsOf(*present, *presentDefinition);
-  // A neighbour that lies exactly on the first of them.
-  WorldConnector facing = ends[required.front()];
-  facing.heading = normaliseHeading(facing.heading + 180.0);
-
+  const std::vector<WorldConnector> ends = endsToMeet(layout, *present, *presentDefinition);
+  const WorldConnector facing = reversed(ends[required.front()]);
   const SwapFit itself{presentDefinition, poseOf(*present), {}};
   std::vector<SwapFit> fits;
   const TrackCatalog& catalog = TrackCatalog::instance();

@@ -44,7 +44,7 @@ PlainFills plainStraightFills(std::span<const double> lengths, double gap, long 
   const int most = std::clamp(static_cast<int>(std::ceil(gap / lengths.back())) + 2, 1, 32);
   for (int count = 1; count <= most && search.found.size() < 16; ++count)
     search.extend(0, count, 0);
-  return {search.found, search.steps >= 0};
+  return {search.found, mostSteps - search.steps, search.steps >= 0};
 }
 
 } // namespace trassix

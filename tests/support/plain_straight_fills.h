@@ -6,11 +6,11 @@
 
 namespace trassix {
 
-/// What `straightFills` must answer, by trying all combinations; with the steps it took, so that a
-/// hopeless search can be told from a finished one.
+/// What `straightFills` must answer, by trying all combinations.
 struct PlainFills {
   std::vector<std::vector<std::size_t>> runs;
-  bool finished = false;
+  long steps = 0;
+  bool finished = false; ///< within `mostSteps`
 };
 PlainFills plainStraightFills(std::span<const double> lengths, double gap, long mostSteps);
 
