@@ -1,5 +1,6 @@
 #include "editing/picking.h"
 
+#include "editing/polygons.h"
 #include "editing/scenery_footprint.h"
 
 #include <algorithm>
@@ -13,49 +14,8 @@ constexpr double kTolerancePx = 4;
 constexpr double kLabelCharPx = 8; ///< mean advance of the label font
 constexpr double kLabelHalfHeightPx = 11;
 
-bool inside(const std::vector<Point>& polygon, Point at) {
-  bool in = false;
-  for (std::size_t i = 0, j = polygon.size() - 1; i < polygon.size(); j = i++) {
-    const Point& a = polygon[i];
-    const Point& b = polygon[j];
-    if ((a.y > at.y) != (b.y > at.y) && at.x < (b.x - a.x) * (at.y - a.y) / (b.y - a.y) + a.x)
-      in = !in;
-  }
-  return in;
-}
-
-double distanceToSegment(Point at, Point a, Point b) {
-  const double dx = b.x - a.x;
-  const double dy = b.y - a.y;
-  const double squared = dx * dx + dy * dy;
-  const double t =
-      squared > 0 ? std::clamp(((at.x - a.x) * dx + (at.y - a.y) * dy) / squared, 0.0, 1.0) : 0.0;
-  return std::hypot(at.x - a.x - t * dx, at.y - a.y - t * dy);
-}
-
-bool nearOutline(const std::vector<Point>& polygon, Point at, double tolerance) {
-  for (std::size_t i = 0; i < polygon.size(); ++i)
-    if (distanceToSegment(at, polygon[i], polygon[(i + 1) % polygon.size()]) <= tolerance)
-      return true;
-  return false;
-}
-
-bool holds(const Box& box, Point p) {
-  return p.x >= box.minX && p.x <= box.maxX && p.y >= box.minY && p.y <= box.maxY;
-}
-
-bool inBox(const Box& box, const std::vector<Point>& polygon, bool whole) {
-  if (polygon.empty())
-    return false;
-  const auto in = [&box](Point p) { return holds(box, p); };
-  if (whole)
-    return std::all_of(polygon.begin(), polygon.end(), in);
-  // Touching is generous for areas: a vertex in the box, a corner of the box in the area, or edges
-  // that pass through the middle of the box.
-  return std::any_of(polygon.begin(), polygon.end(), in) || inside(polygon, {box.minX, box.minY}) ||
-         inside(polygon, {box.maxX, box.maxY}) ||
-         nearOutline(polygon, {(box.minX + box.maxX) / 2, (box.minY + box.maxY) / 2},
-                     std::min(box.maxX - box.minX, box.maxY - box.minY) / 2);
+bool inBox(const Box& box, const Polygon& polygon, bool whole) {
+  return !polygon.empty() && (whole ? liesIn(polygon, box) : touches(polygon, box));
 }
 
 template <typename Records>
@@ -100,7 +60,7 @@ std::vector<Pick> picksAt(const Layout& layout, const PlanIndex& index, Point at
       picks.push_back({RecordKind::Label, label.id});
   }
   for (const Measurement& tape : content.measurements)
-    if (distanceToSegment(at, tape.from, tape.to) <= tolerance)
+    if (distanceToEdge(at, tape.from, tape.to) <= tolerance)
       picks.push_back({RecordKind::Measurement, tape.id});
   for (const std::size_t position : index.hits(at, tolerance))
     picks.push_back({RecordKind::Piece, layout.pieces()[position].id});

@@ -1,5 +1,6 @@
 #include "editing/piece_outline.h"
 
+#include "editing/polygons.h"
 #include "editing/track_geometry.h"
 
 #include <algorithm>
@@ -14,52 +15,6 @@ namespace {
 
 constexpr double kUnknownHalfSize = 15.0; // mm
 constexpr int kPitCorners = 48;
-
-using Polygon = std::vector<Point>;
-
-template <class Visit>
-void visitEdges(const Polygon& polygon, Visit visit) {
-  for (std::size_t i = 0, before = polygon.size() - 1; i < polygon.size(); before = i++)
-    visit(polygon[before], polygon[i]);
-}
-
-bool inside(const Polygon& polygon, Point at) {
-  bool in = false;
-  visitEdges(polygon, [&](Point a, Point b) {
-    if ((a.y > at.y) != (b.y > at.y) && at.x < (b.x - a.x) * (at.y - a.y) / (b.y - a.y) + a.x)
-      in = !in;
-  });
-  return in;
-}
-
-double distanceToEdge(Point at, Point a, Point b) {
-  const double dx = b.x - a.x;
-  const double dy = b.y - a.y;
-  const double squared = dx * dx + dy * dy;
-  const double t =
-      squared > 0 ? std::clamp(((at.x - a.x) * dx + (at.y - a.y) * dy) / squared, 0.0, 1.0) : 0.0;
-  return std::hypot(at.x - a.x - t * dx, at.y - a.y - t * dy);
-}
-
-bool holds(const Box& box, Point p) {
-  return p.x >= box.minX && p.x <= box.maxX && p.y >= box.minY && p.y <= box.maxY;
-}
-
-/// Clips the edge by the four sides of the box and sees whether anything is left.
-bool edgeTouches(Point a, Point b, const Box& box) {
-  double from = 0;
-  double to = 1;
-  const auto clip = [&](double start, double way, double low, double high) {
-    if (way == 0)
-      return start >= low && start <= high;
-    const double first = (low - start) / way;
-    const double second = (high - start) / way;
-    from = std::max(from, std::min(first, second));
-    to = std::min(to, std::max(first, second));
-    return from <= to;
-  };
-  return clip(a.x, b.x - a.x, box.minX, box.maxX) && clip(a.y, b.y - a.y, box.minY, box.maxY);
-}
 
 Point toLocal(const Pose& pose, Point world) {
   const double radians = toRadians(pose.heading);
@@ -129,27 +84,18 @@ bool covers(const PieceOutline& outline, const Pose& pose, Point at, double tole
           local))
     return false;
   return std::any_of(outline.areas.begin(), outline.areas.end(), [&](const Polygon& area) {
-    bool near = inside(area, local);
-    visitEdges(area,
-               [&](Point a, Point b) { near = near || distanceToEdge(local, a, b) <= tolerance; });
-    return near;
+    return inside(area, local) || nearOutline(area, local, tolerance);
   });
 }
 
 bool touches(const PieceOutline& outline, const Pose& pose, const Box& box) {
-  return std::any_of(outline.areas.begin(), outline.areas.end(), [&](const Polygon& area) {
-    const Polygon world = placed(area, pose);
-    bool meets = inside(world, {box.minX, box.minY}); // the box lies within the area
-    visitEdges(world, [&](Point a, Point b) { meets = meets || edgeTouches(a, b, box); });
-    return meets;
-  });
+  return std::any_of(outline.areas.begin(), outline.areas.end(),
+                     [&](const Polygon& area) { return touches(placed(area, pose), box); });
 }
 
 bool liesIn(const PieceOutline& outline, const Pose& pose, const Box& box) {
-  return std::all_of(outline.areas.begin(), outline.areas.end(), [&](const Polygon& area) {
-    const Polygon world = placed(area, pose);
-    return std::all_of(world.begin(), world.end(), [&](Point p) { return holds(box, p); });
-  });
+  return std::all_of(outline.areas.begin(), outline.areas.end(),
+                     [&](const Polygon& area) { return liesIn(placed(area, pose), box); });
 }
 
 Box boundsOf(const PieceOutline& outline, const Pose& pose) {

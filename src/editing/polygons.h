@@ -1,0 +1,25 @@
+// Points, boxes and areas of the plan, in mm.
+#pragma once
+
+#include "document/records.h"
+#include "editing/selection.h"
+
+#include <vector>
+
+namespace trassix {
+
+/// Corners of a closed area; the last one is joined to the first.
+using Polygon = std::vector<Point>;
+
+bool holds(const Box& box, Point p);
+bool inside(const Polygon& polygon, Point at);
+double distanceToEdge(Point at, Point a, Point b);
+
+/// True for a point at most `tolerance` away from an edge of the area.
+bool nearOutline(const Polygon& polygon, Point at, double tolerance);
+
+/// True when the area and the box share a point.
+bool touches(const Polygon& polygon, const Box& box);
+bool liesIn(const Polygon& polygon, const Box& box);
+
+} // namespace trassix
