@@ -1,0 +1,130 @@
+#include "editing/canvas/grid_steps.h"
+#include "editing/canvas/layout_painter.h"
+#include "editing/canvas/occupancy.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/recording_surface.h"
+#include "support/plan.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace trassix::test {
+namespace {
+
+using testing::Contains;
+using testing::Not;
+
+RecordingSurface drawn(const Layout& layout, double zoom, Point origin = {400, 300},
+                       PaintOptions options = {}) {
+  RecordingSurface surface;
+  options.grid = false;
+  const ViewTransform view = ViewTransform::ofScale(zoom, origin);
+  LayoutPainter(surface, {1200, 800}, view, options).paint(layout, PlanIndex(layout));
+  return surface;
+}
+
+Layout turnoutWithCurve() {
+  Plan plan;
+  plan.layout.ensureLevel();
+  plan.place("24611").extend("24130");
+  plan.layout.clearSelection();
+  return plan.layout;
+}
+
+TEST(LayoutPainter, EveryRouteHasItsRailsFromNearAndOneLineFromAfar) {
+  const Layout plan = turnoutWithCurve(); // two routes and one
+  struct Case {
+    double zoom;
+    std::size_t rails, sleepers, farLines;
+  };
+  for (const Case& c :
+       {Case{0.05, 0, 0, 3}, Case{0.4, 6, 0, 0}, Case{1.5, 6, 2, 0}, Case{3, 6, 2, 0}}) {
+    const RecordingSurface picture = drawn(plan, c.zoom, {300, 300});
+    EXPECT_EQ(picture.linesIn(plan_colors::kRail), c.rails) << c.zoom;
+    EXPECT_EQ(picture.linesIn(plan_colors::kFarTrack), c.farLines) << c.zoom;
+    EXPECT_EQ(picture.hatches.size(), c.sleepers) << c.zoom;
+  }
+}
+
+TEST(LayoutPainter, RailsLieAGaugeApartWhereTheTrackIs) {
+  Plan plan;
+  plan.place("24188", {10, 20, 90});
+  plan.layout.clearSelection();
+  const RecordingSurface picture = drawn(plan.layout, 2);
+  std::vector<double> xs;
+  for (const auto& line : picture.lines) {
+    if (line.stroke.color != plan_colors::kRail)
+      continue;
+    xs.push_back(line.points.front().x);
+    EXPECT_NEAR(line.points.front().y, 300 + 20 * 2, 1e-6);
+    EXPECT_NEAR(line.points.back().y, 300 + (20 + 188.3) * 2, 1e-6);
+  }
+  ASSERT_EQ(xs.size(), 2u);
+  EXPECT_NEAR(std::abs(xs[0] - xs[1]), 16.5 * 2, 1e-6);
+  EXPECT_NEAR((xs[0] + xs[1]) / 2, 400 + 10 * 2, 1e-6);
+}
+
+TEST(LayoutPainter, SwitchesLevelsAndTheWindowDecideWhatIsDrawn) {
+  const Layout plan = turnoutWithCurve();
+  PaintOptions plain;
+  plain.labels = false;
+  plain.rails = false;
+  const RecordingSurface bare = drawn(plan, 1.5, {300, 300}, plain);
+  EXPECT_THAT(bare.texts, Not(Contains("24611")));
+  EXPECT_TRUE(bare.dots.empty());
+  EXPECT_EQ(bare.linesIn(plan_colors::kRail), 3u) << "a centre line for each route";
+
+  Layout hidden = plan;
+  hidden.editSettings().levels[0].visible = false;
+  EXPECT_EQ(drawn(hidden, 1.5).lines.size(), drawn(Layout(), 1.5).lines.size());
+  EXPECT_EQ(drawn(plan, 1.5, {-4000, 0}).lines.size(), drawn(Layout(), 1.5).lines.size());
+
+  Layout tunnelled = plan;
+  tunnelled.edit().tunnels.push_back({9, -1, -1, -1, -1, {2}});
+  const RecordingSurface covered = drawn(tunnelled, 1.5, {300, 300});
+  EXPECT_EQ(
+      std::count_if(covered.lines.begin(), covered.lines.end(),
+                    [](const auto& line) { return line.stroke.style == Stroke::Style::Dashed; }),
+      2)
+      << "both rails of the covered curve";
+}
+
+TEST(LayoutPainter, APieceOfAnUnknownArticleIsShownWithItsNumber) {
+  Layout plan;
+  PlacedPiece piece;
+  piece.id = 1;
+  piece.cat = "99999";
+  plan.edit().pieces.push_back(piece);
+  EXPECT_THAT(drawn(plan, 1).texts, Contains("99999"));
+}
+
+TEST(LayoutPainter, ArticlesKeepOffTheTrackAndOffOneAnother) {
+  Occupancy taken({400, 400});
+  taken.mark({{50, 100}, {350, 100}}, 20);
+  const SizePx box{40, 12};
+  EXPECT_FALSE(taken.isFree({200, 100}, box, 0));
+  EXPECT_FALSE(taken.isFree({200, 118}, box, 0)) << "half on the track";
+  EXPECT_TRUE(taken.isFree({200, 134}, box, 0));
+  EXPECT_FALSE(taken.isFree({200, 134}, box, 90)) << "upright it reaches up to the track";
+  taken.take({200, 134}, box, 0);
+  EXPECT_FALSE(taken.isFree({230, 134}, box, 0));
+  EXPECT_TRUE(taken.isFree({260, 134}, box, 0));
+}
+
+TEST(GridSteps, LinesStayApartInSensibleUnits) {
+  for (const std::int32_t units : {0, 1, 2}) {
+    for (double zoom = 0.05; zoom < 20; zoom *= 1.3) {
+      const GridSteps steps = gridSteps(zoom, units, 9);
+      EXPECT_GE(steps.fine * zoom, 9) << units << " at " << zoom;
+      EXPECT_LE(scaleLength(zoom, units, 160).mm * zoom, 160 + 1e-9);
+      EXPECT_GE(scaleLength(zoom, units, 160).mm * zoom, 60);
+    }
+  }
+  EXPECT_EQ(scaleLength(0.1, 0, 160).text, "1 m");
+  EXPECT_EQ(scaleLength(1, 1, 160).text, "10 cm");
+  EXPECT_EQ(scaleLength(1, 2, 160).text, "5 in");
+}
+
+} // namespace
+} // namespace trassix::test
