@@ -33,20 +33,23 @@ wxTextAttr lineStyle(const wxFont& font) {
 HelpDialog::HelpDialog(wxWindow* parent)
     : wxDialog(parent, wxID_ANY, _("Trassix Help"), wxDefaultPosition, wxDefaultSize,
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER, "help"),
-      picture_(new PicturePanel(this, FromDIP(wxSize(720, 120)), paintRailwayScene)),
-      titles_(new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(190, 380)), 0,
+      picture_(new PicturePanel(this, FromDIP(wxSize(230, 115)), paintRailwayScene)),
+      titles_(new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(230, 260)), 0,
                             nullptr, wxLB_SINGLE, wxDefaultValidator, "pages")),
       text_(new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition,
                            FromDIP(wxSize(530, 380)),
                            wxTE_MULTILINE | wxTE_READONLY | wxTE_RICH2 | wxTE_BESTWRAP,
                            wxDefaultValidator, "page")) {
+  text_->SetMargins(FromDIP(kGap), FromDIP(kGap));
   for (const HelpPage& page : helpPages())
     titles_->Append(wxGetTranslation(page.title));
   auto* pages = new wxBoxSizer(wxHORIZONTAL);
-  pages->Add(titles_, wxSizerFlags().Expand().Border(wxRIGHT, FromDIP(kGap)));
+  auto* left = new wxBoxSizer(wxVERTICAL);
+  left->Add(picture_, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(kGap)));
+  left->Add(titles_, wxSizerFlags(1).Expand());
+  pages->Add(left, wxSizerFlags().Expand().Border(wxRIGHT, FromDIP(kGap)));
   pages->Add(text_, wxSizerFlags(1).Expand());
   auto* sizer = new wxBoxSizer(wxVERTICAL);
-  sizer->Add(picture_, wxSizerFlags().Expand());
   sizer->Add(pages, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(kGap)));
   sizer->Add(new wxButton(this, wxID_CLOSE, _("Close")),
              wxSizerFlags().Right().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(kGap)));
@@ -85,24 +88,24 @@ void HelpDialog::fill() {
     text_->AppendText(words);
   };
   write(lineStyle(body.Scaled(1.5F).Bold()), wxGetTranslation(page.title) + "\n");
-  bool keysBefore = false;
+  bool inKeys = false;
+  bool apart = true; // whether the line stands apart from the one before it
   for (const char* line : page.lines) {
     const wxString words = wxGetTranslation(fromUtf8(line));
+    const bool heading = words.StartsWith("# ");
     const bool keys = words.Contains("|");
-    if (!keys || !keysBefore)
+    if (apart || (!keys && !heading && inKeys) || heading)
       write(plain, "\n");
-    if (words.StartsWith("# ")) {
+    if (heading) {
       write(bold, words.Mid(2) + "\n");
-      keysBefore = true;
-      continue;
-    }
-    if (keys) {
+    } else if (keys) {
       write(bold, words.BeforeFirst('|') + "\t");
       write(plain, words.AfterFirst('|') + "\n");
     } else {
       write(plain, words + "\n");
     }
-    keysBefore = keys;
+    inKeys = keys;
+    apart = !heading && !keys;
   }
   text_->ShowPosition(0);
   text_->SetInsertionPoint(0);

@@ -9,8 +9,8 @@ class wxTextCtrl;
 
 namespace trassix {
 
-/// The help: its pages on the left, the chosen one on the right, under a picture when the user
-/// likes it playful. Stays open beside the work; closing only hides it.
+/// The help: its pages on the left, under a picture when the user likes it playful, and the chosen
+/// one on the right. Stays open beside the work; closing only hides it.
 class HelpDialog : public wxDialog {
  public:
   explicit HelpDialog(wxWindow* parent);
