@@ -241,6 +241,18 @@ TEST_F(FrameTest, KeysTypedIntoATextStayThere) {
   waitUntil("it is back", [this] { return pieces() == 1; });
 }
 
+TEST_F(FrameTest, EscLeavesTheModesOfTheToolBar) {
+  start();
+  for (const int tool : {+kMeasure, +kPolygon}) {
+    frame().GetToolBar()->ToggleTool(tool, true);
+    put(tool);
+    EXPECT_NE(frame().host().switches().mode, ToolMode::Select);
+    EXPECT_TRUE(frame().canvasPanel().canvas().key({Key::Escape}));
+    EXPECT_EQ(frame().host().switches().mode, ToolMode::Select);
+    EXPECT_FALSE(frame().GetToolBar()->GetToolState(tool));
+  }
+}
+
 TEST_F(FrameTest, StandsInTheMiddleOfTheDisplay) {
   start();
   waitUntil("the window is in the middle", [this] {

@@ -46,6 +46,7 @@ Canvas::Canvas(LayoutHost& host) : site_(host), base_(makeTool(ToolMode::Select,
 Canvas::~Canvas() = default;
 
 void Canvas::press(Button button, const PointerInput& input) {
+  const Input working(*this);
   last_ = input;
   if (button == Button::Right) {
     if (carry_ || gesture_ != Gesture::None)
@@ -69,6 +70,7 @@ void Canvas::press(Button button, const PointerInput& input) {
 }
 
 void Canvas::move(const PointerInput& input) {
+  const Input working(*this);
   last_ = input;
   site_.host.setPointer(input.world);
   switch (gesture_) {
@@ -98,6 +100,7 @@ void Canvas::move(const PointerInput& input) {
 }
 
 void Canvas::release(Button button, const PointerInput& input) {
+  const Input working(*this);
   last_ = input;
   if (button == Button::Right)
     return;
@@ -126,6 +129,7 @@ void Canvas::release(Button button, const PointerInput& input) {
 }
 
 void Canvas::doubleClick(const PointerInput& input) {
+  const Input working(*this);
   last_ = input;
   gesture_ = Gesture::None;
   tool().doubleClick(input);
@@ -133,6 +137,7 @@ void Canvas::doubleClick(const PointerInput& input) {
 }
 
 void Canvas::wheel(const PointerInput& input, double rotation) {
+  const Input working(*this);
   last_ = input;
   if (rotation == 0)
     return;
@@ -144,6 +149,7 @@ void Canvas::wheel(const PointerInput& input, double rotation) {
 }
 
 bool Canvas::key(const KeyInput& input) {
+  const Input working(*this);
   if (input.key == Key::Escape && (carry_ || gesture_ != Gesture::None)) {
     cancel();
     return true;
@@ -153,12 +159,19 @@ bool Canvas::key(const KeyInput& input) {
   return used;
 }
 
+void Canvas::retire(std::unique_ptr<CanvasTool>& tool) {
+  // A tool may well end its own mode, or put a question during which it is cancelled.
+  if (tool && inputDepth_ > 0)
+    retired_.push_back(std::move(tool));
+  tool.reset();
+}
+
 void Canvas::cancel() {
   if (gesture_ == Gesture::Pan)
     site_.view.panTo(originAtPress_);
   gesture_ = Gesture::None;
   tool().cancel();
-  carry_.reset();
+  retire(carry_);
   site_.host.repaint();
   afterInput();
 }
@@ -191,7 +204,7 @@ void Canvas::carryBlock(Block block, const PointerInput& at, bool held) {
 
 void Canvas::afterInput() {
   if (carry_ && carry_->finished()) {
-    carry_.reset();
+    retire(carry_);
     site_.host.repaint();
   }
   site_.host.setHint(hint());
@@ -203,6 +216,7 @@ void Canvas::modeChanged() {
     return;
   cancel();
   mode_ = mode;
+  retire(base_);
   base_ = makeTool(mode, site_);
   afterInput();
   site_.host.repaint();
@@ -210,6 +224,7 @@ void Canvas::modeChanged() {
 
 void Canvas::documentReplaced() {
   cancel();
+  retire(base_);
   base_ = makeTool(mode_, site_);
 }
 

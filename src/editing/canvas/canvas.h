@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace trassix {
 
@@ -71,11 +72,31 @@ class Canvas {
   void afterInput();
   PaintOptions paintOptions() const;
 
+  /// Around everything that lets a tool work.
+  class Input {
+   public:
+    explicit Input(Canvas& canvas) : canvas_(canvas) { ++canvas_.inputDepth_; }
+    ~Input() {
+      if (--canvas_.inputDepth_ == 0)
+        canvas_.retired_.clear();
+    }
+    Input(const Input&) = delete;
+    Input& operator=(const Input&) = delete;
+
+   private:
+    Canvas& canvas_;
+  };
+
+  void retire(std::unique_ptr<CanvasTool>& tool);
+
   enum class Gesture : std::uint8_t { None, Pending, Drag, PanPending, Pan };
 
   ToolSite site_;
   std::unique_ptr<CanvasTool> base_;
   std::unique_ptr<CanvasTool> carry_;
+  /// Tools that were put away while one of their functions ran, until it is back.
+  std::vector<std::unique_ptr<CanvasTool>> retired_;
+  int inputDepth_ = 0;
   ToolMode mode_ = ToolMode::Select;
   Gesture gesture_ = Gesture::None;
   PointerInput pressed_;
