@@ -1,4 +1,5 @@
-// Putting together and writing out a layout file against the same lines through fprintf.
+// Putting together and writing out a layout file against the same lines through fprintf, both to a
+// device that swallows them: the disk is as slow for either.
 #include "document/layout_writer.h"
 #include "ratio.h"
 #include "support/random_plan.h"
@@ -121,31 +122,46 @@ void printLayout(std::FILE* file, const Layout& layout) {
   std::fprintf(file, "  </helices>\n</layout>\n");
 }
 
+void writeOut(std::FILE* file, const Layout& layout) {
+  writeLayout(layout, "plan",
+              [file](std::string_view text) { std::fwrite(text.data(), 1, text.size(), file); });
+}
+
+template <class Print>
+long lengthOf(const Layout& layout, Print print) {
+  std::FILE* file = std::tmpfile();
+  if (file == nullptr)
+    return -1;
+  print(file, layout);
+  const long length = std::ftell(file);
+  std::fclose(file);
+  return length;
+}
+
 void save(benchmark::State& state) {
   const Layout plan = test::randomPlan(1, static_cast<int>(state.range(0)));
-  std::FILE* file = std::tmpfile();
-  if (file == nullptr) {
-    state.SkipWithError("no temporary file");
+  if (lengthOf(plan, writeOut) != lengthOf(plan, printLayout)) {
+    state.SkipWithError("not the same lines");
     return;
   }
-  long ourLength = 0;
-  long length = 0;
+#ifdef _WIN32
+  std::FILE* file = std::fopen("NUL", "w");
+#else
+  std::FILE* file = std::fopen("/dev/null", "w");
+#endif
+  if (file == nullptr) {
+    state.SkipWithError("nothing to write to");
+    return;
+  }
   const auto ours = [&] {
-    std::rewind(file);
-    writeLayout(plan, "plan",
-                [file](std::string_view text) { std::fwrite(text.data(), 1, text.size(), file); });
+    writeOut(file, plan);
     std::fflush(file);
-    ourLength = std::ftell(file);
   };
   const auto printed = [&] {
-    std::rewind(file);
     printLayout(file, plan);
     std::fflush(file);
-    length = std::ftell(file);
   };
   compare(state, 1.0 / 3, ours, printed);
-  if (ourLength != length)
-    state.SkipWithError("not the same lines");
   std::fclose(file);
 }
 BENCHMARK(save)->Arg(1000)->Arg(10000)->Arg(100000)->UseManualTime()->Unit(benchmark::kMillisecond);
