@@ -119,7 +119,8 @@ void listMenu(const wxMenu& menu, std::vector<std::string>& rows) {
       listMenu(*item->GetSubMenu(), rows);
       continue;
     }
-    row += " " + std::to_string(item->GetId());
+    row += ' ';
+    row += std::to_string(item->GetId());
     row += item->GetKind() == wxITEM_CHECK   ? " check"
            : item->GetKind() == wxITEM_RADIO ? " radio"
                                              : " normal";
