@@ -69,6 +69,8 @@ MainFrame::MainFrame() : wxFrame(nullptr, wxID_ANY, kBaseTitle, wxDefaultPositio
   pageSetup_.SetMarginTopLeft({kMarginMm, kMarginMm});
   pageSetup_.SetMarginBottomRight({kMarginMm, kMarginMm});
   bindCommands();
+  // Without a focus the keys of the menus would wait for the first click.
+  canvas_->SetFocus();
   readPreferences();
 }
 
