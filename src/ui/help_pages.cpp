@@ -82,16 +82,17 @@ constexpr const char* kAutofill[] = {
 
 constexpr const char* kLevelsAndBaseboard[] = {
     wxTRANSLATE("# Levels"),
-    wxTRANSLATE("A layout can have several decks. \"Levels\" in the tool bar shows them: each has "
-                "a name, a height, and a colour for its track if you like. A hidden level is "
-                "neither drawn nor can it be changed by mistake. A new piece takes the level of "
-                "the track it snaps to."),
+    wxTRANSLATE("A layout can have several decks, each with a name, a height, and a colour for its "
+                "track. A hidden level is neither drawn nor can it be changed by mistake. A new "
+                "piece takes the level of the track it snaps to. This version shows the levels of "
+                "a plan but cannot change them yet: its tool is greyed out."),
     wxTRANSLATE("# Baseboard"),
-    wxTRANSLATE("Layout > Layout Shape gives the table its outline, a rectangle, an L or a U in "
-                "your measures. It lies behind the track and is never in the way of a click."),
+    wxTRANSLATE("A plan that brings an outline of its table shows it behind the track, never in "
+                "the way of a click. The dialogs for the table and for exact rectangles are not "
+                "available in this version."),
     wxTRANSLATE("# Shapes"),
-    wxTRANSLATE("\"Rectangle\" in the tool bar places a rectangle of an exact size, \"Polygon\" "
-                "draws any outline corner by corner: an access hatch, a lake, a road."),
+    wxTRANSLATE("\"Polygon\" in the tool bar draws any outline corner by corner: an access hatch, "
+                "a lake, a road."),
     wxTRANSLATE("# Measures"),
     wxTRANSLATE("Layout > Units of Measure changes how lengths are shown. The plan itself stays "
                 "exact to a fraction of a millimetre, whichever unit you choose."),
