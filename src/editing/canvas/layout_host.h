@@ -38,7 +38,8 @@ struct MenuRow {
   std::string keys; ///< shown at the right, for example "Del"
   bool enabled = true;
   std::function<void()> action;
-  std::string submenu = {}; ///< neighbouring rows with the same text here stand in a menu of that name
+  std::string submenu =
+      {}; ///< neighbouring rows with the same text here stand in a menu of that name
 };
 
 /// Choosing one of several rows, with the highlighted one shown on the plan meanwhile.
