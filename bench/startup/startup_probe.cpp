@@ -38,7 +38,7 @@ class PaintWatch {
 
   /// Returns when a window of a document's size is drawn into for the first time. Small windows are
   /// the toolkit's helpers, unmanaged ones the window manager's.
-  void waitForPaintedWindow() {
+  Window waitForPaintedWindow() {
     const auto deadline = Clock::now() + std::chrono::seconds(30);
     while (Clock::now() < deadline) {
       if (XPending(display_) == 0) {
@@ -53,14 +53,21 @@ class PaintWatch {
       } else if (event.type == damage_ + XDamageNotify) {
         const auto& drawn = reinterpret_cast<const XDamageNotifyEvent&>(event);
         if (drawn.geometry.width > 600 && drawn.geometry.height > 400) {
-          return;
+          return drawn.drawable;
         }
       }
     }
     throw std::runtime_error("no window was painted");
   }
 
-  void forget() { XSync(display_, True); }
+  /// Returns when a window is gone, after which nothing it caused can be taken for the next one's.
+  void waitUntilGone(Window window) {
+    XWindowAttributes attributes;
+    while (XGetWindowAttributes(display_, window, &attributes) != 0) {
+      usleep(1000);
+    }
+    XSync(display_, True);
+  }
 
  private:
   Display* display_;
@@ -68,17 +75,17 @@ class PaintWatch {
 };
 
 double startOnce(PaintWatch& screen, const char* program) {
-  screen.forget();
   const auto start = Clock::now();
   const pid_t process = fork();
   if (process == 0) {
     execl(program, program, nullptr);
     _exit(127);
   }
-  screen.waitForPaintedWindow();
+  const Window window = screen.waitForPaintedWindow();
   const std::chrono::duration<double, std::milli> time = Clock::now() - start;
   kill(process, SIGKILL);
   waitpid(process, nullptr, 0);
+  screen.waitUntilGone(window);
   return time.count();
 }
 
