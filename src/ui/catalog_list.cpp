@@ -31,6 +31,9 @@ CatalogList::CatalogList(wxWindow* parent, const wxString& name, Actions actions
     : wxVListBox(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_NONE),
       actions_(std::move(actions)) {
   SetName(name);
+  // Without its own the list would make a native list box at every look at its font or colour.
+  SetFont(parent->GetFont());
+  SetForegroundColour(systemColour(wxSYS_COLOUR_LISTBOXTEXT));
   SetBackgroundColour(systemColour(wxSYS_COLOUR_LISTBOX));
   for (const auto& type : {wxEVT_LEFT_DOWN, wxEVT_LEFT_UP, wxEVT_LEFT_DCLICK, wxEVT_MOTION,
                            wxEVT_RIGHT_DOWN, wxEVT_RIGHT_UP})
@@ -205,13 +208,21 @@ void CatalogList::drawEntry(wxDC& dc, const wxRect& rect, const CatalogRow& row,
     dc.SetPen(*wxTRANSPARENT_PEN);
     dc.SetBrush(wxColour(252, 250, 245));
     dc.DrawRectangle(wxRect(frame).Deflate(padding / 2));
-    const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::CreateFromUnknownDC(dc));
-    if (context) {
+    // The context that the rows are drawn through anyway, where there is one.
+    wxGraphicsContext* context = dc.GetGraphicsContext();
+    std::unique_ptr<wxGraphicsContext> own;
+    if (context == nullptr) {
+      own.reset(wxGraphicsContext::CreateFromUnknownDC(dc));
+      context = own.get();
+    }
+    if (context != nullptr) {
+      context->PushState();
       context->Clip(frame.x, frame.y, frame.width, frame.height);
       GcSurface surface(*context);
       row.picture(surface,
                   {{frame.x + frame.width / 2.0, frame.y + frame.height / 2.0},
                    {static_cast<double>(picture), static_cast<double>(rect.height - 2 * padding)}});
+      context->PopState();
     }
   }
   const int left = frame.GetRight() + padding;
@@ -220,8 +231,9 @@ void CatalogList::drawEntry(wxDC& dc, const wxRect& rect, const CatalogRow& row,
       systemColour(chosen ? wxSYS_COLOUR_HIGHLIGHTTEXT : wxSYS_COLOUR_LISTBOXTEXT));
   const auto draw = [&](const wxString& text, const wxFont& font, int middle) {
     dc.SetFont(font);
-    dc.DrawText(wxControl::Ellipsize(text, dc, wxELLIPSIZE_END, room), left,
-                middle - dc.GetCharHeight() / 2);
+    const wxSize extent = dc.GetTextExtent(text);
+    dc.DrawText(extent.x <= room ? text : wxControl::Ellipsize(text, dc, wxELLIPSIZE_END, room),
+                left, middle - extent.y / 2);
   };
   if (row.detail.empty()) {
     draw(row.title, GetFont(), rect.y + rect.height / 2);
