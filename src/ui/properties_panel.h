@@ -1,15 +1,18 @@
 #pragma once
 
+#include "panels/property_changes.h"
+
 #include <wx/panel.h>
 
-class wxListCtrl;
-class wxStaticText;
+#include <string>
 
 namespace trassix {
 
 class LayoutHost;
+class PropertyFields;
+class TallyPanel;
 
-/// What the plan and the selection consist of.
+/// What is selected, with its values to edit, and below it what the plan consists of.
 class PropertiesPanel : public wxPanel {
  public:
   PropertiesPanel(wxWindow* parent, LayoutHost& host);
@@ -19,9 +22,11 @@ class PropertiesPanel : public wxPanel {
   void selectionChanged();
 
  private:
+  std::string enter(PropertyId id, const PropertyValue& value);
+
   LayoutHost& host_;
-  wxStaticText* summary_;
-  wxListCtrl* tally_;
+  PropertyFields* fields_;
+  TallyPanel* tally_;
 };
 
 } // namespace trassix

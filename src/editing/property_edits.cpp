@@ -1,0 +1,113 @@
+#include "editing/property_edits.h"
+
+#include "editing/joining.h"
+#include "editing/selection.h"
+
+#include <algorithm>
+#include <array>
+
+namespace trassix {
+
+namespace {
+
+template <class Record>
+bool replaceIn(Layout& layout, std::vector<Record> PlanContent::*records, const Record& wanted) {
+  const auto& present = layout.content().*records;
+  const auto found = std::ranges::find(present, wanted.id, &Record::id);
+  if (found == present.end())
+    return false;
+  Record record = wanted;
+  record.sel = found->sel;
+  if (record == *found)
+    return false;
+  const auto position = found - present.begin();
+  layout.pushHistory();
+  (layout.edit().*records)[static_cast<std::size_t>(position)] = std::move(record);
+  return true;
+}
+
+/// Calls `change` with each selected record that has a level, until it returns true.
+template <class Content, class Change>
+bool anySelected(Content& content, const Change& change) {
+  const auto any = [&change](auto& records) {
+    return std::ranges::any_of(records,
+                               [&change](auto& record) { return record.sel && change(record); });
+  };
+  return any(content.pieces) || any(content.scenery) || any(content.shapes);
+}
+
+} // namespace
+
+bool setPiecePose(Layout& layout, std::int32_t piece, const Pose& pose) {
+  const PlacedPiece* present = layout.findPiece(piece);
+  const Pose wanted{pose.x, pose.y, normaliseHeading(pose.heading)};
+  if (present == nullptr || poseOf(*present) == wanted)
+    return false;
+  layout.pushHistory();
+  const std::array<std::int32_t, 1> moved{piece};
+  detach(layout, moved);
+  PlacedPiece& edited = *layout.editPiece(piece);
+  edited.x = wanted.x;
+  edited.y = wanted.y;
+  edited.heading = wanted.heading;
+  closeMeetingEnds(layout, moved, MeetingPlay::none());
+  return true;
+}
+
+bool setTrackHeight(Layout& layout, std::int32_t piece, double z) {
+  const PlacedPiece* present = layout.findPiece(piece);
+  if (present == nullptr || present->z == z)
+    return false;
+  const double rise = z - present->z;
+  const std::vector<std::int32_t> chain = chainOf(layout, piece);
+  layout.pushHistory();
+  for (PlacedPiece& joined : layout.edit().pieces) {
+    if (joined.id == piece)
+      joined.z = z;
+    else if (containsId(chain, joined.id))
+      joined.z += rise;
+  }
+  return true;
+}
+
+bool setSelectedLevel(Layout& layout, std::int32_t level) {
+  if (layout.findLevel(level) == nullptr ||
+      !anySelected(layout.content(), [level](const auto& record) { return record.level != level; }))
+    return false;
+  layout.pushHistory();
+  anySelected(layout.edit(), [level](auto& record) {
+    record.level = level;
+    return false;
+  });
+  return true;
+}
+
+bool setSelectedColor(Layout& layout, std::optional<Color> color) {
+  const auto differs = [&color](const PlacedPiece& piece) {
+    return piece.sel && (piece.hasColor != color.has_value() || (color && piece.color != *color));
+  };
+  if (std::ranges::none_of(layout.pieces(), differs))
+    return false;
+  layout.pushHistory();
+  for (PlacedPiece& piece : layout.edit().pieces) {
+    if (piece.sel) {
+      piece.hasColor = color.has_value();
+      piece.color = color.value_or(Color{});
+    }
+  }
+  return true;
+}
+
+bool replaceRecord(Layout& layout, const SceneryItem& item) {
+  return replaceIn(layout, &PlanContent::scenery, item);
+}
+
+bool replaceRecord(Layout& layout, const Label& label) {
+  return replaceIn(layout, &PlanContent::labels, label);
+}
+
+bool replaceRecord(Layout& layout, const Shape& shape) {
+  return replaceIn(layout, &PlanContent::shapes, shape);
+}
+
+} // namespace trassix

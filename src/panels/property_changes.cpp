@@ -1,0 +1,154 @@
+#include "panels/property_changes.h"
+
+#include "editing/joining.h"
+#include "editing/property_edits.h"
+#include "editing/scenery_footprint.h"
+#include "editing/selection.h"
+#include "panels/measure_input.h"
+
+#include <array>
+#include <cmath>
+
+namespace trassix {
+
+namespace {
+
+constexpr double kFarthest = 1e6; // mm: no plan is wider than a kilometre
+constexpr double kHighest = 10000;
+constexpr double kSmallest = 1;
+constexpr double kLargest = 100000;
+
+bool movesIt(PropertyId id) {
+  return id == PropertyId::X || id == PropertyId::Y || id == PropertyId::Heading;
+}
+
+NumberInput readNumber(PropertyId id, const std::string& text, std::int32_t units) {
+  switch (id) {
+  case PropertyId::X:
+  case PropertyId::Y:
+    return readLength(text, units, -kFarthest, kFarthest);
+  case PropertyId::Height:
+    return readLength(text, units, -kHighest, kHighest);
+  case PropertyId::Width:
+  case PropertyId::Depth:
+    return readLength(text, units, kSmallest, kLargest);
+  case PropertyId::Heading:
+    return readHeading(text);
+  case PropertyId::Opacity:
+    return readPercent(text);
+  default:
+    return {};
+  }
+}
+
+template <class Record>
+void move(Record& record, PropertyId id, double value) {
+  (id == PropertyId::X ? record.x : record.y) = value;
+}
+
+/// Sets one value of one record; each overload knows its own fields.
+struct RecordEdit {
+  Layout& layout;
+  PropertyId id;
+  double number;
+  const PropertyValue& value;
+  const std::function<bool(const Question&)>& confirm;
+
+  const std::string& text() const { return std::get<std::string>(value); }
+
+  bool operator()(std::monostate) const { return false; }
+  bool operator()(const Measurement*) const { return false; }
+
+  bool operator()(const PlacedPiece* piece) const {
+    if (id == PropertyId::Height)
+      return setTrackHeight(layout, piece->id, number);
+    Pose pose = poseOf(*piece);
+    if (id == PropertyId::Heading)
+      pose.heading = number;
+    else
+      move(pose, id, number);
+    const std::array<std::int32_t, 1> moved{piece->id};
+    if (detachmentOf(layout, moved).opensGradedJoints &&
+        !confirm({"Move", "This takes the selection apart from graded track. Go on?", false, true}))
+      return false;
+    return setPiecePose(layout, piece->id, pose);
+  }
+
+  bool operator()(const SceneryItem* item) const {
+    SceneryItem wanted = *item;
+    const Footprint size = sceneryFootprint(layout, *item);
+    if (id == PropertyId::Heading)
+      wanted.heading = number;
+    else if (id == PropertyId::Width)
+      wanted.scalex = item->scalex * number / size.width;
+    else if (id == PropertyId::Depth)
+      wanted.scaley = item->scaley * number / size.depth;
+    else
+      move(wanted, id, number);
+    return replaceRecord(layout, wanted);
+  }
+
+  bool operator()(const Label* label) const {
+    Label wanted = *label;
+    if (id == PropertyId::Text)
+      wanted.text = text();
+    else
+      move(wanted, id, number);
+    return replaceRecord(layout, wanted);
+  }
+
+  bool operator()(const Shape* shape) const {
+    Shape wanted = *shape;
+    if (id == PropertyId::Text)
+      wanted.label = text();
+    else if (id == PropertyId::Height)
+      wanted.height = number;
+    else if (id == PropertyId::Opacity)
+      wanted.a = static_cast<std::uint8_t>(std::lround(number * 255 / 100));
+    else if (id == PropertyId::OutlineOnly)
+      wanted.outline = std::get<bool>(value);
+    else
+      wanted.color = std::get<OwnColor>(value).value_or(shape->color);
+    return replaceRecord(layout, wanted);
+  }
+};
+
+bool setLevel(Layout& layout, std::size_t choice) {
+  const auto& levels = layout.settings().levels;
+  return choice < levels.size() && setSelectedLevel(layout, levels[choice].id);
+}
+
+} // namespace
+
+PropertyAnswer setProperty(Layout& layout, PropertyId id, const PropertyValue& value,
+                           const std::function<bool(const Question&)>& confirm) {
+  const PropertySheet sheet = propertySheetOf(layout);
+  const Property* shown = sheet.find(id);
+  if (shown == nullptr || id == PropertyId::Fixed)
+    return {};
+  const SelectedRecord record = selectedRecord(layout);
+  const bool onShape = std::holds_alternative<const Shape*>(record);
+  if (id == PropertyId::Level)
+    return {setLevel(layout, std::get<std::size_t>(value)), {}, {}};
+  if (id == PropertyId::Color && !onShape)
+    return {setSelectedColor(layout, std::get<OwnColor>(value)), {}, {}};
+
+  double number = 0;
+  if (const auto* text = std::get_if<std::string>(&value)) {
+    // What is shown is rounded: taking it back must not move anything.
+    if (*text == shown->value)
+      return {};
+    if (id == PropertyId::Text && text->empty() && !onShape)
+      return {false, "A label needs a text.", {}};
+    const NumberInput input = readNumber(id, *text, layout.settings().units);
+    if (!input.good())
+      return {false, input.problem, {}};
+    number = input.value;
+  }
+  if (movesIt(id))
+    if (std::optional<Notice> refusal = lockGuard(layout, "move"))
+      return {false, {}, std::move(refusal)};
+  return {std::visit(RecordEdit{layout, id, number, value, confirm}, record), {}, {}};
+}
+
+} // namespace trassix

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "panels/tally.h"
+
+#include <wx/panel.h>
+
+class wxStaticText;
+
+namespace trassix {
+
+class LayoutHost;
+class TallyList;
+
+/// What the plan is made of, article by article.
+class TallyPanel : public wxPanel {
+ public:
+  TallyPanel(wxWindow* parent, LayoutHost& host);
+
+  void recompute();
+
+ private:
+  void sortBy(TallyColumn column);
+  void fill();
+  void copy();
+  void saveAsCsv();
+  void openPurchaseList();
+
+  LayoutHost& host_;
+  Tally tally_;
+  TallyColumn column_ = TallyColumn::System;
+  bool ascending_ = true;
+  TallyList* list_;
+  wxStaticText* summary_;
+};
+
+} // namespace trassix
