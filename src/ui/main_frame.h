@@ -75,6 +75,7 @@ class MainFrame : public wxFrame, private LayoutHost {
 
  private:
   static constexpr const char* kBaseTitle = "Trassix v1.7.1 by Quorrail";
+  enum StatusField { kHintField, kPiecesField, kPointerField };
 
   // LayoutHost
   const EditorSwitches& switches() const override { return switches_; }

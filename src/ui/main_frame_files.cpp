@@ -61,7 +61,7 @@ void MainFrame::newLayout() {
   canvas_->update();
   selectionChanged();
   refreshProperties();
-  SetStatusText(_("Ready"), 0);
+  SetStatusText(_("Ready"), kHintField);
   showPieceCount();
 }
 
@@ -89,7 +89,7 @@ bool MainFrame::loadLayout(const std::filesystem::path& path) {
   selectionChanged();
   refreshProperties();
   palette_->followLayout(layout_);
-  SetStatusText(openedStatus(), 0);
+  SetStatusText(openedStatus(), kHintField);
   showPieceCount();
   return true;
 }

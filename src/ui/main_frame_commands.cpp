@@ -1,0 +1,182 @@
+// The frame's commands on the document, the view and the program.
+#include "app/services/app_prefs.h"
+#include "app/services/standard_folders.h"
+#include "editing/measure_format.h"
+#include "editing/placing.h"
+#include "editing/selection.h"
+#include "ui/canvas_panel.h"
+#include "ui/command_ids.h"
+#include "ui/experience_dialog.h"
+#include "ui/help_dialog.h"
+#include "ui/main_frame.h"
+#include "ui/palette_panel.h"
+
+#include <wx/menu.h>
+#include <wx/printdlg.h>
+#include <wx/toolbar.h>
+
+namespace trassix {
+
+namespace {
+
+constexpr double kZoomInStep = 1.25;
+constexpr double kZoomOutStep = 0.8;
+
+} // namespace
+
+void MainFrame::placeFromPalette(std::string_view article) {
+  if (selectedPieces(layout_).empty()) {
+    canvas_->pickUpPiece(article);
+    return;
+  }
+  const EditResult result = extendSelected(layout_, article);
+  if (result.refusal)
+    show(*result.refusal);
+  if (!result.changed())
+    return;
+  selectionChanged();
+  changed();
+}
+
+void MainFrame::undo() {
+  if (layout_.undo())
+    changed();
+}
+
+void MainFrame::redo() {
+  if (layout_.redo())
+    changed();
+}
+
+void MainFrame::deleteSelection() {
+  if (const std::optional<Notice> refusal = lockGuard(layout_, "delete")) {
+    show(*refusal);
+    return;
+  }
+  if (selectionHasGrades(layout_) &&
+      !confirm({"Delete", "Selection includes graded pieces. Delete?", true, false}))
+    return;
+  if (!trassix::deleteSelection(layout_))
+    return;
+  selectionChanged();
+  changed();
+}
+
+void MainFrame::selectEverything() {
+  selectAll(layout_);
+  selectionChanged();
+}
+
+void MainFrame::zoomIn() {
+  canvas_->canvas().zoomAboutCentre(kZoomInStep);
+}
+void MainFrame::zoomOut() {
+  canvas_->canvas().zoomAboutCentre(kZoomOutStep);
+}
+void MainFrame::zoomToFit() {
+  canvas_->canvas().fit();
+}
+
+bool MainFrame::menuChecked(int id) const {
+  return GetMenuBar()->IsChecked(id);
+}
+
+void MainFrame::toggleGrid() {
+  switches_.grid = menuChecked(kShowGrid);
+  canvas_->update();
+}
+
+void MainFrame::toggleSnap() {
+  switches_.snap = menuChecked(kSnap);
+}
+
+void MainFrame::toggleRails() {
+  switches_.rails = menuChecked(kShowRails);
+  canvas_->update();
+}
+
+void MainFrame::toggleLabels() {
+  wxToolBar* bar = GetToolBar();
+  switches_.labels = !bar->GetToolState(kHideLabels);
+  bar->FindById(kHideLabels)->SetLabel(switches_.labels ? _("Hide Labels") : _("Show Labels"));
+  bar->Realize();
+  canvas_->update();
+}
+
+void MainFrame::toggleMeasure() {
+  toggleMode(kMeasure, ToolMode::Measure);
+}
+void MainFrame::togglePolygon() {
+  toggleMode(kPolygon, ToolMode::Polygon);
+}
+
+void MainFrame::toggleMode(int tool, ToolMode mode) {
+  if (!GetToolBar()->GetToolState(tool)) {
+    setToolMode(ToolMode::Select);
+    return;
+  }
+  layout_.clearSelection();
+  selectionChanged();
+  setToolMode(mode);
+}
+
+void MainFrame::unitsMm() {
+  setUnits(kMillimetres);
+}
+void MainFrame::unitsCm() {
+  setUnits(kCentimetres);
+}
+void MainFrame::unitsInch() {
+  setUnits(kInches);
+}
+
+void MainFrame::setUnits(std::int32_t units) {
+  layout_.editSettings().units = units;
+  appPrefs().units = units;
+  writePrefs(appPrefs(), StandardFolders::prefsFile());
+  palette_->unitsChanged();
+  tellAll();
+}
+
+void MainFrame::showUnits() {
+  const std::int32_t units = layout_.settings().units;
+  GetMenuBar()->Check(kUnitsMm + (units >= kMillimetres && units <= kInches ? units : 0), true);
+}
+
+void MainFrame::options() {
+  askExperience(this);
+  refreshProperties();
+}
+
+void MainFrame::showHelp(HelpTopic topic) {
+  if (!help_)
+    help_ = new HelpDialog(this);
+  help_->showPage(topic);
+}
+
+void MainFrame::help() {
+  showHelp(HelpTopic::Plan);
+}
+
+void MainFrame::layoutWizardHelp() {
+  showHelp(HelpTopic::Wizards);
+}
+
+void MainFrame::validate() {
+  show({"Validate", "Validation not yet implemented."});
+}
+
+void MainFrame::layoutProperties() {
+  show({"Properties", "Layout properties not yet implemented."});
+}
+
+void MainFrame::pageSetup() {
+  pageSetup_.SetPrintData(printData_);
+  wxPageSetupDialog dialog(this, &pageSetup_);
+  if (dialog.ShowModal() != wxID_OK)
+    return;
+  pageSetup_ = dialog.GetPageSetupData();
+  printData_ = pageSetup_.GetPrintData();
+}
+
+} // namespace trassix
