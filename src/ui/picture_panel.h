@@ -16,7 +16,9 @@ class PicturePanel : public wxPanel {
 
   PicturePanel(wxWindow* parent, const wxSize& size, Painter painter);
 
+  // There is nothing in a picture for the keyboard.
   bool AcceptsFocus() const override { return false; }
+  bool AcceptsFocusFromKeyboard() const override { return false; }
 
  private:
   Painter painter_;

@@ -1,3 +1,4 @@
+#include "driver.h"
 #include "frame_test.h"
 
 #include <wx/button.h>
@@ -248,6 +249,18 @@ TEST_F(FrameTest, ExportCopiesByteForByteAndAsks) {
   dialogs.answer("Export", wxID_OK);
   put(1901);
   EXPECT_EQ(readText(out / "plan.txl"), readText(layoutsFolder() / "Yard.txl"));
+}
+
+TEST_F(FrameTest, EscLeavesEveryFileDialog) {
+  start();
+  placePiece();
+  saveAs("Yard");
+  for (const auto& [command, title] :
+       {std::pair{5000, "Open Layout"}, {1900, "Import Layout"}, {1901, "Export Layout"}}) {
+    dialogs.drive(title, [](wxDialog&) { pressKey(WXK_ESCAPE); });
+    put(command);
+  }
+  EXPECT_TRUE(dialogs.finished());
 }
 
 TEST_F(FrameTest, ABlockGoesToTheLibraryOfTheShownSystem) {

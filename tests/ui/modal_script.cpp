@@ -3,13 +3,63 @@
 #include "driver.h"
 
 #include <gtest/gtest.h>
+#include <wx/anybutton.h>
 #include <wx/app.h>
 #include <wx/dialog.h>
 #include <wx/msgdlg.h>
+#include <wx/stattext.h>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace trassix::test {
+
+namespace {
+
+void collectControls(wxWindow& parent, std::vector<wxWindow*>& controls) {
+  for (auto* node = parent.GetChildren().GetFirst(); node != nullptr; node = node->GetNext()) {
+    wxWindow* child = node->GetData();
+    if (!child->IsShown()) {
+      continue;
+    }
+    controls.push_back(child);
+    collectControls(*child, controls);
+  }
+}
+
+/// True when the controls have got their places, which some dialogs do only once they are shown.
+bool laidOut(wxDialog& dialog) {
+  std::vector<wxWindow*> controls;
+  collectControls(dialog, controls);
+  return std::all_of(controls.begin(), controls.end(), [](const wxWindow* control) {
+    return control->GetSize().x > 1 && control->GetSize().y > 1;
+  });
+}
+
+/// Tab goes in reading order, and no text is cut off.
+void expectTidy(wxDialog& dialog) {
+  std::vector<wxWindow*> controls;
+  collectControls(dialog, controls);
+  wxRect last;
+  for (wxWindow* control : controls) {
+    const wxString what = control->GetLabel().empty() ? control->GetName() : control->GetLabel();
+    if (dynamic_cast<wxStaticText*>(control) || dynamic_cast<wxAnyButton*>(control)) {
+      EXPECT_GE(control->GetSize().x, control->GetBestSize().x) << what;
+      EXPECT_TRUE(dialog.GetScreenRect().Contains(control->GetScreenRect())) << what;
+    }
+    if (!control->AcceptsFocusFromKeyboard() || !control->GetChildren().empty()) {
+      continue;
+    }
+    const wxRect rect = control->GetScreenRect();
+    const bool sameRow = rect.y < last.GetBottom() && last.y < rect.GetBottom();
+    EXPECT_TRUE(sameRow ? rect.x > last.x : rect.y >= last.y)
+        << what << " in " << dialog.GetTitle();
+    last = rect;
+  }
+}
+
+} // namespace
 
 ModalScript::~ModalScript() {
   for (const Step& step : steps_) {
@@ -45,7 +95,9 @@ int ModalScript::Enter(wxDialog* dialog) {
     return step.respond(*dialog);
   }
   wxTheApp->CallAfter([dialog, step] {
-    if (waitUntil(step.title + " is on the screen", [dialog] { return dialog->IsActive(); })) {
+    if (waitUntil(step.title + " is on the screen",
+                  [dialog] { return dialog->IsActive() && laidOut(*dialog); })) {
+      expectTidy(*dialog);
       step.act(*dialog);
     }
     if (dialog->IsModal()) {
