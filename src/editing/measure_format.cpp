@@ -38,9 +38,25 @@ const char* unitName(std::int32_t units) {
   }
 }
 
-std::string formatLength(double mm, std::int32_t units) {
+namespace {
+
+std::string lengthNumber(double mm, std::int32_t units) {
   const int decimals = units == kInches ? 3 : units == kCentimetres ? 2 : 1;
-  return fixed(mm / millimetresPer(units), decimals) + " " + unitName(units);
+  std::string text = fixed(mm / millimetresPer(units), decimals);
+  // What rounds to nothing has no sign.
+  if (text.starts_with('-') && text.find_first_not_of("-0.") == std::string::npos)
+    text.erase(0, 1);
+  return text;
+}
+
+} // namespace
+
+std::string formatLength(double mm, std::int32_t units) {
+  return lengthNumber(mm, units) + " " + unitName(units);
+}
+
+std::string formatSize(double width, double depth, std::int32_t units) {
+  return lengthNumber(width, units) + " \u00d7 " + formatLength(depth, units);
 }
 
 } // namespace trassix

@@ -19,4 +19,7 @@ const char* unitName(std::int32_t units);
 /// A length as the user reads it, for example "188.3 mm", "18.83 cm" or "7.413 in".
 std::string formatLength(double mm, std::int32_t units);
 
+/// Two lengths in mm with one unit, for example "2410.0 × 1100.0 mm".
+std::string formatSize(double width, double depth, std::int32_t units);
+
 } // namespace trassix

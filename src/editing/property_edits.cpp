@@ -67,18 +67,34 @@ bool setTrackHeight(Layout& layout, std::int32_t piece, double z) {
     else if (containsId(chain, joined.id))
       joined.z += rise;
   }
+  closeMeetingEnds(layout, chain, MeetingPlay::none());
   return true;
+}
+
+bool levelLiftsSelection(const Layout& layout) {
+  return !detachmentOf(layout, selectedPieces(layout)).opensJoints &&
+         std::ranges::none_of(layout.pieces(), [](const PlacedPiece& piece) {
+           return piece.sel && piece.helix != -1;
+         });
 }
 
 bool setSelectedLevel(Layout& layout, std::int32_t level) {
   if (layout.findLevel(level) == nullptr ||
       !anySelected(layout.content(), [level](const auto& record) { return record.level != level; }))
     return false;
+  const bool lifts = levelLiftsSelection(layout);
+  const double height = layout.levelHeight(level);
   layout.pushHistory();
+  if (lifts)
+    for (PlacedPiece& piece : layout.edit().pieces)
+      if (piece.sel)
+        piece.z += height - layout.levelHeight(piece.level);
   anySelected(layout.edit(), [level](auto& record) {
     record.level = level;
     return false;
   });
+  if (lifts)
+    closeMeetingEnds(layout, selectedPieces(layout), MeetingPlay::none());
   return true;
 }
 

@@ -39,11 +39,15 @@ std::optional<std::pair<double, std::string_view>> leadingNumber(std::string_vie
   return {{value, trimmed(text.substr(static_cast<std::size_t>(end - pointed.data())))}};
 }
 
-std::optional<std::int32_t> unitNamed(std::string_view name) {
-  constexpr std::array<std::pair<std::string_view, std::int32_t>, 4> kNames{
-      {{"mm", kMillimetres}, {"cm", kCentimetres}, {"in", kInches}, {"\"", kInches}}};
-  const auto found =
-      std::ranges::find(kNames, name, &std::pair<std::string_view, std::int32_t>::first);
+/// Millimetres in the unit of this name.
+std::optional<double> unitNamed(std::string_view name) {
+  constexpr std::array<std::pair<std::string_view, double>, 6> kNames{
+      {{"mm", 1}, {"cm", 10}, {"m", 1000}, {"in", 25.4}, {"inch", 25.4}, {"\"", 25.4}}};
+  std::string lower(name);
+  for (char& letter : lower)
+    if (letter >= 'A' && letter <= 'Z')
+      letter = static_cast<char>(letter - 'A' + 'a');
+  const auto found = std::ranges::find(kNames, lower, &std::pair<std::string_view, double>::first);
   return found == kNames.end() ? std::nullopt : std::optional(found->second);
 }
 
@@ -55,13 +59,14 @@ NumberInput refused(std::string problem) {
 
 NumberInput readLength(std::string_view text, std::int32_t units, double least, double most) {
   const auto number = leadingNumber(text);
-  if (!number)
+  // A second comma or point means digits in groups, which nothing tells from decimals.
+  if (!number || number->second.starts_with('.') || number->second.starts_with(','))
     return refused("A length is expected here, for example " + formatLength(188.3, units) + ".");
   const auto& [value, name] = *number;
-  const std::optional<std::int32_t> unit = name.empty() ? units : unitNamed(name);
+  const std::optional<double> unit = name.empty() ? millimetresPer(units) : unitNamed(name);
   if (!unit)
-    return refused("The unit can be mm, cm or in.");
-  const double mm = value * millimetresPer(*unit);
+    return refused("The unit can be mm, cm, m or in.");
+  const double mm = value * *unit;
   if (mm < least)
     return refused("At least " + formatLength(least, units) + " is needed here.");
   if (mm > most)

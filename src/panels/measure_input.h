@@ -16,7 +16,8 @@ struct NumberInput {
 };
 
 /// A length in mm between `least` and `most` (mm, inclusive). The number is in the given unit
-/// unless the text names one ("12 cm", "7.5in", "3\""); point and comma both begin the decimals.
+/// unless the text names one ("12 cm", "1,5 m", "7.5in", "3\""); point and comma both begin the
+/// decimals.
 NumberInput readLength(std::string_view text, std::int32_t units, double least, double most);
 
 /// An angle in degrees, with or without the degree sign; comes back in [0, 360).

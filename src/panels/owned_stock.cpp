@@ -71,7 +71,8 @@ std::string OwnedStock::load(const std::filesystem::path& file) {
     return {};
   }
   std::string text;
-  if (const std::string message = readTextFile(file, text); !message.empty()) {
+  if (std::string message = readTextFile(file, text); !message.empty()) {
+    unreadable_ = message;
     return message;
   }
   OwnedStock read;
@@ -88,11 +89,10 @@ std::string OwnedStock::load(const std::filesystem::path& file) {
     const auto entry = remark ? std::nullopt : readLine(line);
     if (entry) {
       read.set(entry->first, std::min(kMost, read.count(entry->first) + entry->second));
+      read.lines_.push_back({{}, entry->first});
       continue;
     }
-    if (line != kHeading) {
-      read.remarks_.emplace_back(line);
-    }
+    read.lines_.push_back({std::string(line), {}});
     if (!remark && message.empty()) {
       message = pathText(file) + ", line " + std::to_string(number) +
                 ": an article and a count are expected, found \"" + std::string(line) + "\"";
@@ -103,13 +103,28 @@ std::string OwnedStock::load(const std::filesystem::path& file) {
 }
 
 std::string OwnedStock::save(const std::filesystem::path& file) const {
-  std::string text(kHeading);
-  text += '\n';
-  for (const std::string& remark : remarks_) {
-    text += remark + '\n';
+  if (!unreadable_.empty()) {
+    return unreadable_;
   }
-  for (const auto& [article, count] : counts_) {
-    text += article + ' ' + std::to_string(count) + '\n';
+  std::string text;
+  if (lines_.empty()) {
+    text = std::string(kHeading) + '\n';
+  }
+  auto unwritten = counts_;
+  const auto write = [&](const std::string& article) {
+    if (const auto entry = unwritten.extract(article)) {
+      text += article + ' ' + std::to_string(entry.mapped()) + '\n';
+    }
+  };
+  for (const Line& line : lines_) {
+    if (line.article.empty()) {
+      text += line.text + '\n';
+    } else {
+      write(line.article);
+    }
+  }
+  while (!unwritten.empty()) {
+    write(std::string(unwritten.begin()->first));
   }
   return writeTextFile(file, text);
 }

@@ -1,6 +1,7 @@
 #include "panels/property_changes.h"
 
 #include "editing/joining.h"
+#include "editing/measure_format.h"
 #include "editing/property_edits.h"
 #include "editing/scenery_footprint.h"
 #include "editing/selection.h"
@@ -41,6 +42,15 @@ NumberInput readNumber(PropertyId id, const std::string& text, std::int32_t unit
   }
 }
 
+/// The number as the sheet shows it.
+std::string textOf(PropertyId id, double number, std::int32_t units) {
+  if (id == PropertyId::Heading)
+    return formatAngle(number) + "\u00b0";
+  if (id == PropertyId::Opacity)
+    return formatAngle(number) + " %";
+  return formatLength(number, units);
+}
+
 template <class Record>
 void move(Record& record, PropertyId id, double value) {
   (id == PropertyId::X ? record.x : record.y) = value;
@@ -76,13 +86,16 @@ struct RecordEdit {
 
   bool operator()(const SceneryItem* item) const {
     SceneryItem wanted = *item;
-    const Footprint size = sceneryFootprint(layout, *item);
+    wanted.scalex = wanted.scaley = 1;
+    const Footprint size = sceneryFootprint(layout, wanted);
+    wanted.scalex = item->scalex;
+    wanted.scaley = item->scaley;
     if (id == PropertyId::Heading)
       wanted.heading = number;
     else if (id == PropertyId::Width)
-      wanted.scalex = item->scalex * number / size.width;
+      wanted.scalex = std::copysign(number / size.width, item->scalex);
     else if (id == PropertyId::Depth)
-      wanted.scaley = item->scaley * number / size.depth;
+      wanted.scaley = std::copysign(number / size.depth, item->scaley);
     else
       move(wanted, id, number);
     return replaceRecord(layout, wanted);
@@ -113,6 +126,19 @@ struct RecordEdit {
   }
 };
 
+bool isBlank(const std::string& text) {
+  return text.find_first_not_of(" \t\r\n") == std::string::npos;
+}
+
+std::optional<Notice> lockOf(const Layout& layout, PropertyId id, const SelectedRecord& record) {
+  if (movesIt(id))
+    return lockGuard(layout, "move");
+  const auto* piece = std::get_if<const PlacedPiece*>(&record);
+  if (id != PropertyId::Height || piece == nullptr)
+    return std::nullopt;
+  return lockGuard(layout, chainOf(layout, (*piece)->id), "lift");
+}
+
 bool setLevel(Layout& layout, std::size_t choice) {
   const auto& levels = layout.settings().levels;
   return choice < levels.size() && setSelectedLevel(layout, levels[choice].id);
@@ -135,19 +161,22 @@ PropertyAnswer setProperty(Layout& layout, PropertyId id, const PropertyValue& v
 
   double number = 0;
   if (const auto* text = std::get_if<std::string>(&value)) {
-    // What is shown is rounded: taking it back must not move anything.
-    if (*text == shown->value)
-      return {};
-    if (id == PropertyId::Text && text->empty() && !onShape)
-      return {false, "A label needs a text.", {}};
-    const NumberInput input = readNumber(id, *text, layout.settings().units);
-    if (!input.good())
-      return {false, input.problem, {}};
-    number = input.value;
+    if (id == PropertyId::Text) {
+      if (isBlank(*text) && !onShape)
+        return {false, "A label needs a text.", {}};
+    } else {
+      const std::int32_t units = layout.settings().units;
+      const NumberInput input = readNumber(id, *text, units);
+      if (!input.good())
+        return {false, input.problem, {}};
+      number = input.value;
+      // What is shown is rounded: to enter it again must not move anything by the rest.
+      if (*text == shown->value || textOf(id, number, units) == shown->value)
+        return {};
+    }
   }
-  if (movesIt(id))
-    if (std::optional<Notice> refusal = lockGuard(layout, "move"))
-      return {false, {}, std::move(refusal)};
+  if (std::optional<Notice> refusal = lockOf(layout, id, record))
+    return {false, {}, std::move(refusal)};
   return {std::visit(RecordEdit{layout, id, number, value, confirm}, record), {}, {}};
 }
 

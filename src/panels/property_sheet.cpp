@@ -5,6 +5,7 @@
 #include "editing/content_box.h"
 #include "editing/joining.h"
 #include "editing/measure_format.h"
+#include "editing/property_edits.h"
 #include "editing/routes.h"
 #include "editing/scenery_footprint.h"
 #include "panels/measure_input.h"
@@ -24,6 +25,11 @@ std::string_view kindName(PieceKind kind) {
       "Double slip", "Track end",     "Uncoupler",    "Crossing",      "",
       "Turntable",   "Curved turnout"};
   return kNames.at(static_cast<std::size_t>(kind));
+}
+
+template <class Records>
+bool anySelected(const Records& records) {
+  return std::ranges::any_of(records, [](const auto& record) { return record.sel; });
 }
 
 class SheetBuilder {
@@ -55,18 +61,25 @@ class SheetBuilder {
   }
   /// No level: the records are on several.
   void level(std::optional<std::int32_t> id) {
+    const std::vector<Level>& levels = layout_.settings().levels;
     Property& row = add(PropertyId::Level, "Level", Property::kVarious);
-    for (const Level& level : layout_.settings().levels)
+    for (const Level& level : levels)
       row.choices.push_back(level.name);
-    if (!id)
-      return;
-    const Level* present = layout_.findLevel(*id);
-    row.value = present != nullptr ? present->name : "Level " + std::to_string(*id);
+    if (id) {
+      const auto present = std::ranges::find(levels, *id, &Level::id);
+      if (present != levels.end())
+        row.chosen = static_cast<std::size_t>(present - levels.begin());
+      row.value = row.chosen ? present->name : "Level " + std::to_string(*id);
+    }
+    const bool differ = std::ranges::any_of(
+        levels, [&levels](const Level& level) { return level.height != levels.front().height; });
+    if (differ && anySelected(layout_.pieces()))
+      row.note = levelLiftsSelection(layout_) ? "The track is lifted with it."
+                                              : "Joined to other track: it keeps its height.";
   }
   void color(OwnColor own) { add(PropertyId::Color, "Colour", own ? "own" : "none").color = own; }
   void extent(const std::string& name, const Box& box) {
-    fixed(name, formatLength(box.maxX - box.minX, units_) + " \u00d7 " +
-                    formatLength(box.maxY - box.minY, units_));
+    fixed(name, formatSize(box.maxX - box.minX, box.maxY - box.minY, units_));
   }
 
  private:
@@ -79,12 +92,27 @@ std::string gradeText(double degrees) {
   return formatAngle(degrees) + "\u00b0 (" + formatAngle(percent) + " %)";
 }
 
+/// The ends by number, or of the many ends of a turntable how many.
 std::string openEndsText(const PlacedPiece& piece, const PieceDef& definition) {
-  std::string open;
-  for (std::size_t i = 0; i < definition.connectors.size(); ++i)
-    if (piece.joint(i).open())
-      open += (open.empty() ? "" : ", ") + std::to_string(i + 1);
-  return (open.empty() ? "none" : open) + " of " + std::to_string(definition.connectors.size());
+  constexpr std::size_t kMostListed = 4;
+  const std::size_t ends = definition.connectors.size();
+  std::string numbers;
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < ends; ++i) {
+    if (!piece.joint(i).open())
+      continue;
+    ++count;
+    if (!numbers.empty())
+      numbers += ", ";
+    numbers += std::to_string(i + 1);
+  }
+  if (count == 0)
+    return "none";
+  return (ends > kMostListed ? std::to_string(count) : numbers) + " of " + std::to_string(ends);
+}
+
+bool isJoined(const PlacedPiece& piece) {
+  return std::ranges::any_of(piece.joints, [](const Joint& joint) { return !joint.open(); });
 }
 
 void describe(SheetBuilder& build, const PlacedPiece* piece) {
@@ -104,6 +132,8 @@ void describe(SheetBuilder& build, const PlacedPiece* piece) {
   build.position(piece->x, piece->y);
   build.heading(piece->heading);
   build.length(PropertyId::Height, "Height", piece->z);
+  if (isJoined(*piece))
+    build.sheet.rows.back().note = "All track joined to it goes along.";
   build.fixed("Grade", isGraded(*piece) ? gradeText(piece->grade) : "none");
   build.level(piece->level);
   build.color(piece->hasColor ? OwnColor(piece->color) : std::nullopt);
@@ -119,8 +149,8 @@ void describe(SheetBuilder& build, const SceneryItem* item, const Layout& layout
   const Footprint size = sceneryFootprint(layout, *item);
   build.position(item->x, item->y);
   build.heading(item->heading);
-  build.length(PropertyId::Width, "Width", size.width);
-  build.length(PropertyId::Depth, "Depth", size.depth);
+  build.length(PropertyId::Width, "Width", std::abs(size.width));
+  build.length(PropertyId::Depth, "Depth", std::abs(size.depth));
   build.level(item->level);
 }
 

@@ -37,8 +37,10 @@ struct Property {
 
   PropertyId id = PropertyId::Fixed;
   std::string name;
-  std::string value;                ///< as text; also of choices and colours
-  std::vector<std::string> choices; ///< not empty for a choice; `value` is one of them or various
+  std::string value;                 ///< as text; also of choices and colours
+  std::vector<std::string> choices;  ///< not empty for a choice; names may be alike
+  std::optional<std::size_t> chosen; ///< none when the values differ or none of the choices is it
+  std::string note;                  ///< what else a new value brings about, one sentence
   OwnColor color;
   bool mayBeNone = true; ///< of a colour
   bool checked = false;

@@ -11,6 +11,7 @@
 #include "ui/experience_dialog.h"
 #include "ui/palette_panel.h"
 #include "ui/properties_panel.h"
+#include "ui/sash_rule.h"
 #include "ui/utf8.h"
 
 #include <wx/display.h>
@@ -94,6 +95,7 @@ void MainFrame::buildPanels() {
   inner->SetMinimumPaneSize(kInnerMinWidth);
   inner->SetSashGravity(1.0);
   inner->SplitVertically(canvas_, properties_, -kPropertiesWidth);
+  keepSash(*inner, [](int width) { return width - kPropertiesWidth; });
   outer->SetMinimumPaneSize(kPaletteMinWidth);
   outer->SetSashGravity(0.0);
   outer->SplitVertically(palette_, inner, kPaletteWidth);

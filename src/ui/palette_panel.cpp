@@ -3,6 +3,7 @@
 #include "app/services/path_text.h"
 #include "app/services/user_paths.h"
 #include "editing/measure_format.h"
+#include "panels/piece_names.h"
 #include "ui/catalog_list.h"
 #include "ui/palette_drawings.h"
 #include "ui/utf8.h"
@@ -21,17 +22,6 @@
 namespace trassix {
 
 namespace {
-
-/// The article stands above: the name need not begin with it again.
-wxString nameWithoutArticle(const PieceDef& piece) {
-  wxString name = fromUtf8(piece.name);
-  wxString rest;
-  if (name.StartsWith(fromUtf8(piece.article) + " ", &rest))
-    name = rest;
-  if (name.StartsWith("- ", &rest))
-    name = rest;
-  return name;
-}
 
 wxString headingOf(const PaletteGroup& group, std::int32_t units) {
   const wxString name = wxGetTranslation(fromUtf8(groupName(group.group)));
@@ -203,7 +193,8 @@ void PalettePanel::fillTrack() {
     rows.push_back(heading(headingOf(group, units)));
     pieces_.push_back(nullptr);
     for (const PieceDef* piece : group.pieces) {
-      rows.push_back({false, true, fromUtf8(piece->article), nameWithoutArticle(*piece),
+      rows.push_back({false, true, fromUtf8(piece->article),
+                      fromUtf8(nameAfterArticle(piece->name, piece->article)),
                       fromUtf8(piece->name),
                       [piece, widest](Surface& surface, const PictureRoom& room) {
                         drawPiece(surface, room, *piece, widest);

@@ -1,17 +1,21 @@
 #include "ui/properties_panel.h"
 
 #include "ui/property_fields.h"
+#include "ui/sash_rule.h"
 #include "ui/tally_panel.h"
 
 #include <wx/sizer.h>
 #include <wx/splitter.h>
 
+#include <algorithm>
+
 namespace trassix {
 
 namespace {
 
-constexpr int kFieldsHeight = 400;
+constexpr int kFieldsHeight = 440; ///< what the properties of a piece take
 constexpr int kLeastHeight = 120;
+constexpr double kFieldsShare = 0.55; ///< at most, where there is less room
 
 } // namespace
 
@@ -25,7 +29,10 @@ PropertiesPanel::PropertiesPanel(wxWindow* parent, LayoutHost& host)
   tally_ = new TallyPanel(splitter, host);
   splitter->SetMinimumPaneSize(FromDIP(kLeastHeight));
   splitter->SetSashGravity(0.5);
-  splitter->SplitHorizontally(fields_, tally_, FromDIP(kFieldsHeight));
+  splitter->SplitHorizontally(fields_, tally_);
+  keepSash(*splitter, [most = FromDIP(kFieldsHeight)](int height) {
+    return std::min(most, static_cast<int>(height * kFieldsShare));
+  });
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   sizer->Add(splitter, wxSizerFlags(1).Expand());
   SetSizer(sizer);

@@ -13,10 +13,14 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace trassix {
 
 namespace {
+
+constexpr int kGap = 6;
+constexpr int kLeastWrap = 120;
 
 enum class Editor { Fixed, Text, Choice, Color, Check };
 
@@ -25,7 +29,8 @@ Editor editorOf(const Property& property) {
   case PropertyId::Fixed:
     return Editor::Fixed;
   case PropertyId::Level:
-    return Editor::Choice;
+    // To choose from one is no choice, unless what there is now is none of the levels.
+    return property.choices.size() == 1 && property.chosen ? Editor::Fixed : Editor::Choice;
   case PropertyId::Color:
     return Editor::Color;
   case PropertyId::OutlineOnly:
@@ -48,7 +53,7 @@ const char* controlName(PropertyId id) {
 bool sameShape(const PropertySheet& a, const PropertySheet& b) {
   return std::ranges::equal(a.rows, b.rows, [](const Property& one, const Property& other) {
     return one.id == other.id && one.name == other.name && one.choices == other.choices &&
-           one.mayBeNone == other.mayBeNone;
+           one.mayBeNone == other.mayBeNone && editorOf(one) == editorOf(other);
   });
 }
 
@@ -63,6 +68,11 @@ PropertyFields::PropertyFields(wxWindow* parent, Enter enter)
                        wxVSCROLL | wxTAB_TRAVERSAL, "properties"),
       enter_(std::move(enter)) {
   SetScrollRate(0, FromDIP(12));
+  Bind(wxEVT_SIZE, [this, width = 0](wxSizeEvent& event) mutable {
+    event.Skip();
+    if (std::exchange(width, event.GetSize().x) != event.GetSize().x && title_ != nullptr)
+      arrange();
+  });
 }
 
 void PropertyFields::show(const PropertySheet& sheet) {
@@ -76,6 +86,7 @@ void PropertyFields::show(const PropertySheet& sheet) {
 void PropertyFields::rebuild() {
   // Hiding a field takes the focus from it, which must enter nothing into the new sheet.
   rows_.clear();
+  const bool hadFocus = IsDescendant(FindFocus());
   wxWindowList old = GetChildren();
   SetSizer(nullptr);
   for (wxWindow* child : old) {
@@ -84,23 +95,29 @@ void PropertyFields::rebuild() {
     child->CallAfter([child] { child->Destroy(); });
   }
   rows_.assign(sheet_.rows.size(), {});
-  title_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, {1, -1},
-                            wxST_ELLIPSIZE_END | wxST_NO_AUTORESIZE, "properties.title");
+  title_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
+                            "properties.title");
   title_->SetFont(GetFont().Bold());
-  const int gap = FromDIP(6);
+  const int gap = FromDIP(kGap);
   auto* grid = new wxFlexGridSizer(2, FromDIP(3), gap);
   grid->AddGrowableCol(1);
   for (std::size_t i = 0; i < sheet_.rows.size(); ++i) {
     const Property& property = sheet_.rows[i];
     auto* name = new wxStaticText(this, wxID_ANY, wxGetTranslation(fromUtf8(property.name)));
     rows_[i].editor = makeEditor(property, i);
-    grid->Add(name, wxSizerFlags().CenterVertical());
-    grid->Add(makeValue(property, rows_[i]), wxSizerFlags().Expand());
+    wxSizer* value = makeValue(property, rows_[i]);
+    // In the middle of the field, not of what may stand below it.
+    const int lower = (value->GetItem(std::size_t{0})->CalcMin().y - name->GetBestSize().y) / 2;
+    grid->Add(name, wxSizerFlags().Border(wxTOP, std::max(lower, 0)));
+    grid->Add(value, wxSizerFlags().Expand());
   }
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(title_, wxSizerFlags().Expand().Border(wxALL, gap));
   column->Add(grid, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
   SetSizer(column);
+  // Without a focus anywhere no key would do anything.
+  if (hadFocus)
+    SetFocus();
 }
 
 wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index) {
@@ -114,6 +131,12 @@ wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index
                                 wxDefaultValidator, name);
     for (const std::string& text : property.choices)
       choice->Append(fromUtf8(text));
+    // The wheel scrolls the panel and must not change the plan on the way.
+    choice->Bind(wxEVT_MOUSEWHEEL, [this](wxMouseEvent& event) {
+      wxMouseEvent scroll(event);
+      scroll.SetEventObject(this);
+      ProcessWindowEvent(scroll);
+    });
     choice->SetMinSize({1, -1});
     choice->Bind(wxEVT_CHOICE, [this, index](wxCommandEvent& event) {
       enter(index, static_cast<std::size_t>(event.GetSelection()));
@@ -148,11 +171,13 @@ wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index
       enterText(index);
   });
   text->Bind(wxEVT_CHAR_HOOK, [this, index, text](wxKeyEvent& event) {
-    if (event.GetKeyCode() != WXK_ESCAPE) {
+    const wxString value = fromUtf8(sheet_.rows[index].value);
+    if (event.GetKeyCode() != WXK_ESCAPE || text->GetValue() == value) {
       event.Skip();
       return;
     }
-    text->ChangeValue(fromUtf8(sheet_.rows[index].value));
+    text->ChangeValue(value);
+    text->SelectAll();
     showProblem(index, {});
   });
   return text;
@@ -166,22 +191,24 @@ wxSizer* PropertyFields::makeValue(const Property& property, Row& row) {
                               wxBU_EXACTFIT, wxDefaultValidator, "property.color.none");
     const auto index = static_cast<std::size_t>(&row - rows_.data());
     none->Bind(wxEVT_BUTTON, [this, index](wxCommandEvent&) { enter(index, OwnColor()); });
+    none->SetMinSize(none->GetBestSize() + wxSize(FromDIP(14), 0));
     line->Add(none, wxSizerFlags().CenterVertical().Border(wxLEFT, FromDIP(4)));
     row.none = none;
   }
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(line, wxSizerFlags().Expand());
+  row.note = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
+                              wxString(controlName(property.id)) + ".note");
+  row.note->SetFont(GetFont().Smaller());
+  column->Add(row.note, wxSizerFlags().Expand());
   row.problem = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
                                  wxString(controlName(property.id)) + ".problem");
   row.problem->SetForegroundColour(darkTheme() ? wxColour(255, 150, 140) : wxColour(176, 24, 16));
-  row.problem->Hide();
   column->Add(row.problem, wxSizerFlags().Expand());
   return column;
 }
 
 void PropertyFields::refresh() {
-  title_->SetLabel(fromUtf8(sheet_.title));
-  title_->SetToolTip(fromUtf8(sheet_.title));
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     const Property& property = sheet_.rows[i];
     wxWindow* editor = rows_[i].editor;
@@ -192,9 +219,8 @@ void PropertyFields::refresh() {
       editor->SetToolTip(value);
       break;
     case Editor::Choice:
-      static_cast<wxChoice*>(editor)->SetStringSelection(value);
-      if (static_cast<wxChoice*>(editor)->GetStringSelection() != value)
-        static_cast<wxChoice*>(editor)->SetSelection(wxNOT_FOUND);
+      static_cast<wxChoice*>(editor)->SetSelection(
+          property.chosen ? static_cast<int>(*property.chosen) : wxNOT_FOUND);
       break;
     case Editor::Color:
       static_cast<wxColourPickerCtrl*>(editor)->SetColour(property.color ? toColour(*property.color)
@@ -209,11 +235,31 @@ void PropertyFields::refresh() {
       static_cast<wxTextCtrl*>(editor)->ChangeValue(value);
       break;
     }
-    if (rows_[i].problem->IsShown())
-      showProblem(i, {});
+    rows_[i].problemText.clear();
   }
+  arrange();
+}
+
+void PropertyFields::arrange() {
+  Layout(); // gives the fields their width
+  wrapTexts();
   FitInside();
   Layout();
+}
+
+void PropertyFields::wrapTexts() {
+  const auto wrap = [](wxStaticText& text, const std::string& label, int width) {
+    text.SetLabel(wxGetTranslation(fromUtf8(label)));
+    text.Wrap(width);
+    text.Show(!label.empty());
+  };
+  wrap(*title_, sheet_.title, GetClientSize().x - 2 * FromDIP(kGap));
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    const int width =
+        std::max(rows_[i].problem->GetContainingSizer()->GetSize().x, FromDIP(kLeastWrap));
+    wrap(*rows_[i].note, sheet_.rows[i].note, width);
+    wrap(*rows_[i].problem, rows_[i].problemText, width);
+  }
 }
 
 void PropertyFields::enterText(std::size_t index) {
@@ -240,14 +286,8 @@ void PropertyFields::enter(std::size_t index, const PropertyValue& value) {
 }
 
 void PropertyFields::showProblem(std::size_t index, const std::string& problem) {
-  wxStaticText* text = rows_[index].problem;
-  if (problem.empty() && !text->IsShown())
-    return;
-  text->SetLabel(wxGetTranslation(fromUtf8(problem)));
-  text->Wrap(std::max(rows_[index].editor->GetSize().x, FromDIP(120)));
-  text->Show(!problem.empty());
-  FitInside();
-  Layout();
+  if (std::exchange(rows_[index].problemText, problem) != problem)
+    arrange();
 }
 
 } // namespace trassix

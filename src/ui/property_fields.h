@@ -27,7 +27,9 @@ class PropertyFields : public wxScrolledWindow {
   struct Row {
     wxWindow* editor = nullptr;
     wxWindow* none = nullptr; ///< takes the colour away
+    wxStaticText* note = nullptr;
     wxStaticText* problem = nullptr;
+    std::string problemText;
   };
 
   void rebuild();
@@ -36,6 +38,9 @@ class PropertyFields : public wxScrolledWindow {
   wxWindow* makeEditor(const Property& property, std::size_t index);
   void enterText(std::size_t index);
   void enter(std::size_t index, const PropertyValue& value);
+  /// Breaks the texts into lines as wide as there is room.
+  void wrapTexts();
+  void arrange();
   void showProblem(std::size_t index, const std::string& problem);
 
   Enter enter_;

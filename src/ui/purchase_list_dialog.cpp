@@ -2,6 +2,7 @@
 
 #include "app/services/app_prefs.h"
 #include "app/services/user_paths.h"
+#include "panels/piece_names.h"
 #include "ui/picture_panel.h"
 #include "ui/shopping_scene.h"
 #include "ui/utf8.h"
@@ -127,7 +128,8 @@ void PurchaseListDialog::showRow(std::size_t row) {
       list_->SetItem(static_cast<long>(row), column, text);
   };
   set(kArticle, fromUtf8(shown.article));
-  set(kName, shown.name.empty() ? _("not in the catalogue") : fromUtf8(shown.name));
+  set(kName, shown.name.empty() ? _("not in the catalogue")
+                                : fromUtf8(nameAfterArticle(shown.name, shown.article)));
   set(kNeeded, wxString::Format("%d", shown.needed));
   set(kOwned, wxString::Format("%d", shown.owned));
   set(kToBuy, wxString::Format("%d", shown.toBuy));

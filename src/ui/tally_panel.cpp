@@ -4,6 +4,7 @@
 #include "document/text_file.h"
 #include "editing/canvas/layout_host.h"
 #include "editing/measure_format.h"
+#include "panels/piece_names.h"
 #include "ui/purchase_list_dialog.h"
 #include "ui/utf8.h"
 
@@ -49,7 +50,8 @@ wxString cellText(const TallyRow& row, TallyColumn column) {
   case TallyColumn::Article:
     return fromUtf8(row.article);
   case TallyColumn::Name:
-    return row.name.empty() ? _("not in the catalogue") : fromUtf8(row.name);
+    return row.name.empty() ? _("not in the catalogue")
+                            : fromUtf8(nameAfterArticle(row.name, row.article));
   case TallyColumn::Placed:
     return wxString::Format("%d", row.placed);
   case TallyColumn::Sold:
@@ -94,6 +96,7 @@ TallyPanel::TallyPanel(wxWindow* parent, LayoutHost& host)
     auto* made = new wxButton(this, wxID_ANY, label, wxDefaultPosition, wxDefaultSize,
                               wxBU_EXACTFIT, wxDefaultValidator, name);
     made->SetToolTip(tip);
+    made->SetMinSize(made->GetBestSize() + wxSize(FromDIP(14), 0));
     made->Bind(wxEVT_BUTTON, [this, action](wxCommandEvent&) { (this->*action)(); });
     return made;
   };
@@ -137,11 +140,18 @@ void TallyPanel::fill() {
     sortTally(tally_.rows, column_, ascending_);
   list_->SetItemCount(static_cast<long>(tally_.rows.size()));
   list_->Refresh();
+  showSummary();
+}
+
+void TallyPanel::showSummary() {
+  const std::int32_t units = host_.layout().settings().units;
+  const Box box = tally_.extent.value_or(Box());
   summary_->SetLabel(
-      wxString::Format(_("%d pieces, %s of track, %d open ends"), tally_.pieces,
-                       fromUtf8(formatLength(tally_.trackLength, host_.layout().settings().units)),
-                       tally_.openEnds));
-  summary_->SetToolTip(summary_->GetLabel());
+      wxString::Format(_("Pieces: %d, open ends: %d"), tally_.pieces, tally_.openEnds) + "\n" +
+      wxString::Format(_("Track length: %s"), fromUtf8(formatLength(tally_.trackLength, units))) +
+      "\n" +
+      wxString::Format(_("Track extent: %s"),
+                       fromUtf8(formatSize(box.maxX - box.minX, box.maxY - box.minY, units))));
 }
 
 void TallyPanel::copy() {
@@ -153,8 +163,10 @@ void TallyPanel::saveAsCsv() {
                       _("Comma-separated values (*.csv)|*.csv"), wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
   if (dialog.ShowModal() != wxID_OK)
     return;
-  const std::string message =
-      writeTextFile(toPath(dialog.GetPath()), tallyAsCsv(tally_.rows, translatedHeadings()));
+  std::filesystem::path file = toPath(dialog.GetPath());
+  if (!file.has_extension())
+    file += ".csv";
+  const std::string message = writeTextFile(file, tallyAsCsv(tally_.rows, translatedHeadings()));
   if (!message.empty())
     wxMessageBox(fromUtf8(message), _("Save Failed"), wxOK | wxICON_ERROR, this);
 }

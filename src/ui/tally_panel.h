@@ -21,6 +21,7 @@ class TallyPanel : public wxPanel {
  private:
   void sortBy(TallyColumn column);
   void fill();
+  void showSummary();
   void copy();
   void saveAsCsv();
   void openPurchaseList();
