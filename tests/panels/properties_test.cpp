@@ -1,0 +1,275 @@
+#include "editing/annotations.h"
+#include "editing/joining.h"
+#include "editing/selection.h"
+#include "panels/property_changes.h"
+#include "support/plan.h"
+#include "support/print_records.h"
+
+#include <gmock/gmock.h>
+
+namespace trassix {
+namespace {
+
+using testing::HasSubstr;
+
+/// A joined straight, turnout and curve (1 to 3), a free straight (4), and one of each other
+/// record.
+struct Sample {
+  Layout layout;
+  std::int32_t label, shape, tape, scenery;
+
+  Sample() {
+    Plan plan;
+    plan.place("24188").extend("24611").extend("24130").place("24172", {500, 300, 90});
+    layout = std::move(plan.layout);
+    label = addLabel(layout, {10, 20}, "Depot");
+    shape = addShape(layout, {{0, 0}, {90, 0}, {90, 60}});
+    tape = addMeasurement(layout, {0, 0}, {300, 400});
+    scenery = layout.takeId();
+    SceneryItem item;
+    item.id = scenery;
+    item.item = "72886";
+    item.heading = 30;
+    layout.edit().scenery.push_back(item);
+    Level upper;
+    upper.id = 2;
+    upper.name = "Upper";
+    upper.height = 80;
+    layout.editSettings().levels.push_back(upper);
+    layout.clearSelection();
+  }
+
+  /// Pieces by their ids, everything else by its own.
+  void select(const std::vector<std::int32_t>& ids) {
+    layout.clearSelection();
+    PlanContent& content = layout.edit();
+    const auto mark = [&ids](auto& records) {
+      for (auto& record : records)
+        record.sel = std::ranges::find(ids, record.id) != ids.end();
+    };
+    mark(content.pieces);
+    mark(content.labels);
+    mark(content.shapes);
+    mark(content.scenery);
+    mark(content.measurements);
+  }
+
+  const PlacedPiece& piece(std::int32_t id) const { return *layout.findPiece(id); }
+};
+
+std::string textOf(const PropertySheet& sheet) {
+  std::string text = sheet.title + "\n";
+  for (const Property& row : sheet.rows) {
+    text += row.name + (row.id == PropertyId::Fixed ? ": " : " = ") + row.value;
+    if (!row.note.empty())
+      text += " (" + row.note + ")";
+    text += "\n";
+  }
+  return text;
+}
+
+TEST(PropertySheet, showsWhatIsSelected) {
+  Sample sample;
+  const auto shown = [&sample](const std::vector<std::int32_t>& ids) {
+    sample.select(ids);
+    return textOf(propertySheetOf(sample.layout));
+  };
+  EXPECT_EQ(shown({}), "Plan\nPieces: 4\nTrack length: 736.8 mm\nOpen ends: 5\n"
+                       "Extent: 811.8 \u00d7 713.5 mm\nScenery: 1\nLevels: 2\n"
+                       "Active level: Level 1\n");
+  EXPECT_EQ(shown({2}), "24611 Left Turnout R2=437.5mm 24.3\u00b0\nArticle: 24611\n"
+                        "System: Marklin C-Track\nKind: Left turnout\nLength: 188.3 mm\n"
+                        "Radius: 437.5 mm\nAngle: 24.3\u00b0\nPosition x = 188.3 mm\n"
+                        "Position y = 0.0 mm\nHeading = 0\u00b0\n"
+                        "Height = 0.0 mm (All track joined to it goes along.)\nGrade: none\n"
+                        "Level = Level 1 (Joined to other track: it keeps its height.)\n"
+                        "Colour = none\nOpen ends: 3 of 3\n");
+  sample.layout.editPiece(4)->grade = -1.2;
+  sample.layout.editPiece(4)->level = 9;
+  EXPECT_THAT(shown({4}), testing::AllOf(HasSubstr("Height = 0.0 mm\nGrade: -1.2\u00b0 (-2.1 %)\n"
+                                                   "Level = Level 9 (The track is lifted with "
+                                                   "it.)\n"),
+                                         HasSubstr("Open ends: 1, 2 of 2\n")));
+  sample.layout.editPiece(4)->level = 2;
+  EXPECT_EQ(shown({1, 4, sample.label}),
+            "Selection\nPieces: 2\nLabels: 1\nTrack length: 360.0 mm\nArticle: various\n"
+            "System: Marklin C-Track\nHeight: 0.0 mm\n"
+            "Level = various (Joined to other track: it keeps its height.)\nColour = none\n");
+  EXPECT_EQ(shown({sample.label}),
+            "Label\nText = Depot\nPosition x = 10.0 mm\nPosition y = 20.0 mm\n");
+  EXPECT_EQ(shown({sample.shape}), "Shape\nLabel = \nCorners: 3\nColour = own\nOpacity = 55 %\n"
+                                   "Outline only = no\nHeight = 0.0 mm\nLevel = Level 1\n");
+  EXPECT_THAT(shown({sample.scenery}),
+              testing::AllOf(HasSubstr("Heading = 30\u00b0\nWidth = "), HasSubstr("Depth = ")));
+  sample.layout.editSettings().units = 2;
+  EXPECT_EQ(shown({sample.tape}), "Measurement\nLength: 19.685 in\n");
+
+  Layout round;
+  PlacedPiece& turntable = round.edit().pieces.emplace_back();
+  turntable.id = 1;
+  turntable.cat = "74861";
+  turntable.sel = true;
+  EXPECT_THAT(textOf(propertySheetOf(round)), HasSubstr("Open ends: 30 of 30\n"));
+}
+
+TEST(PropertySheet, levelsOfOneNameAreToldApart) {
+  Sample sample;
+  sample.layout.editSettings().levels[1].name = "Level 1";
+  sample.layout.editPiece(4)->level = 2;
+  sample.select({4});
+  EXPECT_EQ(propertySheetOf(sample.layout).find(PropertyId::Level)->chosen, std::size_t{1});
+}
+
+/// Answers every question and counts them.
+struct Answers {
+  bool yes = true;
+  int asked = 0;
+  std::function<bool(const Question&)> confirm = [this](const Question&) {
+    ++asked;
+    return yes;
+  };
+};
+
+TEST(PropertyChange, eachIsOneUndoStepAndShownAfterwards) {
+  Sample sample;
+  Answers answers;
+  const struct {
+    std::vector<std::int32_t> selected;
+    PropertyId id;
+    PropertyValue value;
+    const char* shown;
+  } cases[] = {
+      {{4}, PropertyId::X, "12,5 cm", "125.0 mm"},
+      {{4}, PropertyId::Y, "-30", "-30.0 mm"},
+      {{4}, PropertyId::Heading, "-45", "315\u00b0"},
+      {{2}, PropertyId::Height, "1 in", "25.4 mm"},
+      {{1, 4, sample.scenery, sample.shape}, PropertyId::Level, std::size_t{1}, "Upper"},
+      {{1, 4}, PropertyId::Color, OwnColor(Color{1, 2, 3}), "own"},
+      {{sample.label}, PropertyId::Text, "Shed", "Shed"},
+      {{sample.label}, PropertyId::X, "5", "5.0 mm"},
+      {{sample.shape}, PropertyId::Text, "", ""},
+      {{sample.shape}, PropertyId::Text, "Pond", "Pond"},
+      {{sample.shape}, PropertyId::Color, OwnColor(Color{9, 8, 7}), "own"},
+      {{sample.shape}, PropertyId::Opacity, "20", "20 %"},
+      {{sample.shape}, PropertyId::OutlineOnly, true, "yes"},
+      {{sample.shape}, PropertyId::Height, "40", "40.0 mm"},
+      {{sample.scenery}, PropertyId::Y, "77", "77.0 mm"},
+      {{sample.scenery}, PropertyId::Heading, "405", "45\u00b0"},
+      {{sample.scenery}, PropertyId::Width, "333", "333.0 mm"},
+      {{sample.scenery}, PropertyId::Depth, "50", "50.0 mm"},
+  };
+  for (const auto& change : cases) {
+    sample.select(change.selected);
+    const PropertySheet sheet = propertySheetOf(sample.layout);
+    SCOPED_TRACE(sheet.title + ": " + sheet.find(change.id)->name);
+    const PlanContent before = sample.layout.content();
+    const bool same = sheet.find(change.id)->value == change.shown &&
+                      !std::holds_alternative<OwnColor>(change.value);
+    const PropertyAnswer answer =
+        setProperty(sample.layout, change.id, change.value, answers.confirm);
+    EXPECT_EQ(answer.problem, "");
+    EXPECT_EQ(answer.changed, !same);
+    EXPECT_EQ(propertySheetOf(sample.layout).find(change.id)->value, change.shown);
+    EXPECT_EQ(brokenRule(sample.layout), "");
+
+    const std::uint64_t revision = sample.layout.revision();
+    setProperty(sample.layout, change.id, change.value, answers.confirm);
+    EXPECT_EQ(sample.layout.revision(), revision) << "to enter it again is no step";
+    if (same)
+      continue;
+    sample.layout.undo();
+    EXPECT_EQ(sample.layout.content(), before);
+    sample.layout.redo();
+  }
+  EXPECT_EQ(answers.asked, 0);
+}
+
+TEST(PropertyChange, refusedInputChangesNothing) {
+  Sample sample;
+  Answers answers{false};
+  const struct {
+    std::int32_t selected;
+    PropertyId id;
+    PropertyValue value;
+    const char* problem;
+  } cases[] = {
+      {4, PropertyId::X, "far", "A length is expected"},
+      {4, PropertyId::X, "2000 m", "At most 1000000.0 mm"},
+      {4, PropertyId::Heading, "", "An angle"},
+      {4, PropertyId::Height, "-11 m", "At least -10000.0 mm"},
+      {4, PropertyId::Level, std::size_t{7}, ""},
+      {4, PropertyId::Text, "no such row", ""},
+      {4, PropertyId::Fixed, "5", ""},
+      {4, PropertyId::X, "500.00", ""}, // shown the same: the rest of 0.04 mm stays
+      {sample.label, PropertyId::Text, " \t", "A label needs a text."},
+      {sample.shape, PropertyId::Opacity, "101 %", "A share"},
+      {sample.scenery, PropertyId::Width, "0", "At least 1.0 mm"},
+      {sample.tape, PropertyId::X, "5", ""},
+  };
+  sample.layout.editPiece(4)->x = 500.04;
+  for (const auto& change : cases) {
+    sample.select({change.selected});
+    const std::uint64_t revision = sample.layout.revision();
+    const PropertyAnswer answer =
+        setProperty(sample.layout, change.id, change.value, answers.confirm);
+    EXPECT_FALSE(answer.changed || answer.refusal);
+    EXPECT_THAT(answer.problem, HasSubstr(change.problem));
+    EXPECT_EQ(answer.problem.empty(), *change.problem == '\0');
+    EXPECT_EQ(sample.layout.revision(), revision);
+  }
+
+  // Taken apart from graded track only when the user agrees; locked track not at all.
+  sample.layout.editPiece(2)->grade = 2;
+  sample.select({1});
+  const std::uint64_t revision = sample.layout.revision();
+  EXPECT_FALSE(setProperty(sample.layout, PropertyId::X, "40", answers.confirm).changed);
+  EXPECT_EQ(answers.asked, 1);
+  EXPECT_EQ(sample.layout.revision(), revision);
+  answers.yes = true;
+  EXPECT_TRUE(setProperty(sample.layout, PropertyId::X, "40", answers.confirm).changed);
+  EXPECT_FALSE(!sample.piece(1).joint(1).open());
+  sample.layout.undo();
+
+  sample.layout.editPiece(3)->helix = 1;
+  EXPECT_EQ(setProperty(sample.layout, PropertyId::Height, "9", answers.confirm).refusal->title,
+            "Helix track is locked");
+  sample.select({3});
+  EXPECT_TRUE(setProperty(sample.layout, PropertyId::Heading, "9", answers.confirm).refusal);
+}
+
+TEST(PropertyChange, heightsNeverLeaveAStepInTheTrack) {
+  Sample sample;
+  Answers answers;
+  sample.layout.editPiece(3)->z = 10;
+  const auto heights = [&sample] {
+    std::vector<double> z;
+    for (const PlacedPiece& piece : sample.layout.pieces())
+      z.push_back(piece.z);
+    return z;
+  };
+  sample.select({2});
+  setProperty(sample.layout, PropertyId::Height, "30", answers.confirm);
+  EXPECT_THAT(heights(), testing::ElementsAre(30, 30, 40, 0)) << "the joined track went along";
+
+  sample.select({1, 2});
+  setProperty(sample.layout, PropertyId::Level, std::size_t{1}, answers.confirm);
+  EXPECT_THAT(heights(), testing::ElementsAre(30, 30, 40, 0)) << "piece 3 stays where it is";
+  sample.select({3, 4});
+  setProperty(sample.layout, PropertyId::Level, std::size_t{1}, answers.confirm);
+  EXPECT_THAT(heights(), testing::ElementsAre(30, 30, 40, 0)) << "joined to what is not selected";
+  sample.select({4});
+  setProperty(sample.layout, PropertyId::Level, std::size_t{0}, answers.confirm);
+  setProperty(sample.layout, PropertyId::Level, std::size_t{1}, answers.confirm);
+  EXPECT_EQ(sample.piece(4).z, 0);
+  EXPECT_EQ(sample.piece(4).level, 2);
+
+  // Ends that meet at the new height are joined.
+  sample.layout.editPiece(4)->heading = 180;
+  sample.layout.editPiece(4)->x = 0;
+  sample.layout.editPiece(4)->y = 0;
+  setProperty(sample.layout, PropertyId::Height, "30", answers.confirm);
+  EXPECT_EQ(sample.piece(4).joint(0), (Joint{1, 0}));
+}
+
+} // namespace
+} // namespace trassix
