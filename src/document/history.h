@@ -25,6 +25,14 @@ class History {
   bool canRedo() const { return !redo_.empty(); }
   void clear();
 
+  /// Shows everything that undo or redo could bring back.
+  template <class Visit>
+  void visit(const Visit& visitor) const {
+    for (const auto* stack : {&undo_, &redo_})
+      for (const PlanContent& content : *stack)
+        visitor(content);
+  }
+
  private:
   std::deque<PlanContent> undo_;
   std::deque<PlanContent> redo_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <set>
 #include <string>
 
 namespace trassix {
@@ -113,6 +114,30 @@ void Layout::ensureLevel(std::int32_t id) {
   level.id = id;
   level.name = "Level " + std::to_string(id);
   editSettings().levels.push_back(level);
+}
+
+std::int32_t Layout::freeLevelId() const {
+  std::set<std::int32_t> used;
+  for (const Level& level : settings_.levels)
+    used.insert(level.id);
+  const auto collect = [&used](const PlanContent& content) {
+    const auto from = [&used](const auto& records) {
+      for (const auto& record : records)
+        used.insert(record.level);
+    };
+    from(content.pieces);
+    from(content.scenery);
+    from(content.shapes);
+  };
+  collect(content_);
+  history_.visit(collect);
+  const std::int32_t largest = used.empty() ? 0 : std::max(0, *used.rbegin());
+  if (largest < kLargestId)
+    return largest + 1;
+  std::int32_t id = 1;
+  while (used.contains(id))
+    ++id;
+  return id;
 }
 
 std::int32_t Layout::takeId() {

@@ -59,6 +59,10 @@ class Layout {
   /// Creates the level with this id, named after its number, when it is missing.
   void ensureLevel(std::int32_t id);
 
+  /// An id for a new level that no level has and no record names, neither now nor after undo or
+  /// redo: what is brought back must not come to stand on the new level.
+  std::int32_t freeLevelId() const;
+
   /// No record has a larger id.
   static constexpr std::int32_t kLargestId = 2'000'000'000;
 

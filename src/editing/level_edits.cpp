@@ -1,30 +1,113 @@
 #include "editing/level_edits.h"
 
+#include "editing/joining.h"
+#include "editing/selection.h"
+
 #include <algorithm>
+#include <cmath>
+#include <unordered_map>
 
 namespace trassix {
 
 namespace {
 
-/// Whether any record stands on a level that moves; with `change` they are moved.
-template <class Content>
-bool moveRecords(Content& content, const LevelMoves& moves, bool change) {
-  bool any = false;
-  const auto look = [&](auto& records) {
-    for (auto& record : records) {
-      const auto move = moves.find(record.level);
-      if (move == moves.end())
-        continue;
-      any = true;
-      if constexpr (!std::is_const_v<Content>)
-        if (change)
-          record.level = move->second;
-    }
+constexpr std::size_t kFewestCorners = 3;
+constexpr double kStep = 0.01; // mm
+
+/// What becomes of a level and what stands there.
+struct Fate {
+  std::optional<std::int32_t> level; ///< none: it is deleted
+  double rise = 0;                   ///< mm
+};
+
+using Fates = std::map<std::int32_t, Fate>;
+
+Fates fatesOf(const Layout& layout, const LevelChange& wanted) {
+  std::map<std::int32_t, double> heights;
+  for (const Level& level : wanted.levels)
+    heights[level.id] = level.height;
+  Fates fates;
+  for (const auto& [level, height] : heights)
+    fates[level] = {level, height - deckHeight(layout, level)};
+  for (const auto& [level, heir] : wanted.heirs) {
+    Fate& fate = fates[level];
+    fate = {heir, 0};
+    if (heir && heights.contains(*heir))
+      fate.rise = heights[*heir] - deckHeight(layout, level);
+  }
+  return fates;
+}
+
+void removeDoomed(PlanContent& content, const Fates& fates) {
+  const auto doomed = [&fates](const auto& record) {
+    const auto fate = fates.find(record.level);
+    return fate != fates.end() && !fate->second.level;
   };
-  look(content.pieces);
-  look(content.scenery);
-  look(content.shapes);
-  return any;
+  std::vector<std::int32_t> pieces;
+  for (const PlacedPiece& piece : content.pieces)
+    if (doomed(piece))
+      pieces.push_back(piece.id);
+  std::ranges::sort(pieces);
+  if (!pieces.empty())
+    removePieces(content, pieces);
+  std::erase_if(content.scenery, doomed);
+  std::erase_if(content.shapes, doomed);
+}
+
+/// Pieces that rise, by id.
+using Rises = std::unordered_map<std::int32_t, double>;
+
+Rises moveToFates(PlanContent& content, const Fates& fates) {
+  Rises rises;
+  const auto move = [&fates](auto& record) {
+    const auto fate = fates.find(record.level);
+    if (fate == fates.end())
+      return 0.0;
+    record.level = *fate->second.level;
+    return fate->second.rise;
+  };
+  for (PlacedPiece& piece : content.pieces) {
+    const double rise = move(piece);
+    if (rise == 0)
+      continue;
+    piece.z += rise;
+    rises[piece.id] = rise;
+  }
+  std::ranges::for_each(content.scenery, move);
+  std::ranges::for_each(content.shapes, move);
+  return rises;
+}
+
+void openSteps(Layout& layout, const Rises& rises) {
+  const auto riseOf = [&rises](std::int32_t piece) {
+    const auto found = rises.find(piece);
+    return found == rises.end() ? 0.0 : found->second;
+  };
+  std::vector<std::int32_t> risen;
+  for (const auto& [id, rise] : rises) {
+    risen.push_back(id);
+    const JointTable joints = layout.findPiece(id)->joints;
+    for (std::size_t i = 0; i < joints.size(); ++i)
+      if (!joints[i].open() && std::abs(rise - riseOf(joints[i].target)) > kStep)
+        openJoint(layout, id, static_cast<std::int32_t>(i));
+  }
+  std::ranges::sort(risen);
+  closeMeetingEnds(layout, risen, MeetingPlay::none());
+}
+
+void deselectHidden(Layout& layout) {
+  PlanContent& content = layout.edit();
+  const auto deselect = [&layout](auto& records) {
+    for (auto& record : records)
+      record.sel = record.sel && layout.levelVisible(record.level);
+  };
+  deselect(content.pieces);
+  deselect(content.scenery);
+  deselect(content.shapes);
+}
+
+void removeShape(Layout& layout, std::int32_t id) {
+  std::erase_if(layout.edit().shapes, [id](const Shape& shape) { return shape.id == id; });
 }
 
 } // namespace
@@ -38,40 +121,95 @@ std::size_t countOnLevel(const Layout& layout, std::int32_t level) {
   return count(content.pieces) + count(content.scenery) + count(content.shapes);
 }
 
-bool setLevels(Layout& layout, const std::vector<Level>& levels, std::int32_t activeLevel,
-               const LevelMoves& moves) {
-  const PlanSettings& present = layout.settings();
-  const bool sameLevels = present.levels == levels && present.activeLevel == activeLevel;
-  const bool moving = moveRecords(layout.content(), moves, false);
-  if (levels.empty() || (sameLevels && !moving))
-    return false;
-  if (moving) {
-    layout.pushHistory();
-    moveRecords(layout.edit(), moves, true);
+double deckHeight(const Layout& layout, std::int32_t level) {
+  if (layout.findLevel(level) != nullptr)
+    return layout.levelHeight(level);
+  std::optional<double> lowest;
+  for (const PlacedPiece& piece : layout.pieces())
+    if (piece.level == level)
+      lowest = std::min(piece.z, lowest.value_or(piece.z));
+  return lowest.value_or(0);
+}
+
+std::string levelLock(const Layout& layout, std::int32_t level) {
+  std::vector<std::int32_t> ids;
+  for (const PlacedPiece& piece : layout.pieces()) {
+    if (piece.level != level)
+      continue;
+    ids.push_back(piece.id);
+    if (piece.helix != -1)
+      return "Track of a helix stands on this level.";
   }
+  for (const SceneryItem& item : layout.content().scenery)
+    if (item.level == level)
+      ids.push_back(item.id);
+  std::ranges::sort(ids);
+  for (const Tunnel& tunnel : layout.content().tunnels)
+    if (containsId(ids, tunnel.portalA) || containsId(ids, tunnel.portalB) ||
+        std::ranges::any_of(tunnel.covers, [&ids](std::int32_t id) { return containsId(ids, id); }))
+      return "A tunnel runs over this level.";
+  return {};
+}
+
+bool setLevels(Layout& layout, const LevelChange& wanted) {
+  const PlanSettings& present = layout.settings();
+  if (wanted.levels.empty() ||
+      (present.levels == wanted.levels && present.activeLevel == wanted.activeLevel &&
+       wanted.heirs.empty() && !wanted.usedShape))
+    return false;
+  layout.pushHistory();
+  const Fates fates = fatesOf(layout, wanted);
+  removeDoomed(layout.edit(), fates);
+  openSteps(layout, moveToFates(layout.edit(), fates));
+  if (wanted.usedShape)
+    removeShape(layout, *wanted.usedShape);
   PlanSettings& settings = layout.editSettings();
-  settings.levels = levels;
-  settings.activeLevel = activeLevel;
+  settings.levels = wanted.levels;
+  settings.activeLevel = wanted.activeLevel;
+  deselectHidden(layout);
+  return true;
+}
+
+bool setLevelOutline(Layout& layout, std::int32_t level, const std::vector<Point>& outline) {
+  const Level* present = layout.findLevel(level);
+  if (present == nullptr || outline.size() < kFewestCorners || present->outline == outline)
+    return false;
+  layout.pushHistory();
+  std::ranges::find(layout.editSettings().levels, level, &Level::id)->outline = outline;
   return true;
 }
 
 bool setBaseboard(Layout& layout, const std::vector<Point>& outline, const LastShape& shape) {
-  const std::vector<Point> wanted = outline.size() < 3 ? std::vector<Point>{} : outline;
+  const std::vector<Point> wanted =
+      outline.size() < kFewestCorners ? std::vector<Point>{} : outline;
   const PlanSettings& present = layout.settings();
   if (present.baseboard == wanted && present.lastShape == shape)
     return false;
+  layout.pushHistory();
   PlanSettings& settings = layout.editSettings();
   settings.baseboard = wanted;
   settings.lastShape = shape;
   return true;
 }
 
-std::optional<std::vector<Point>> selectedOutline(const Layout& layout) {
+bool useAsBaseboard(Layout& layout, std::int32_t shape) {
+  const auto& shapes = layout.content().shapes;
+  const auto found = std::ranges::find(shapes, shape, &Shape::id);
+  if (found == shapes.end() || found->points.size() < kFewestCorners)
+    return false;
+  layout.pushHistory();
+  layout.editSettings().baseboard = found->points;
+  removeShape(layout, shape);
+  return true;
+}
+
+const Shape* selectedShape(const Layout& layout) {
   const auto& shapes = layout.content().shapes;
   const auto found = std::ranges::find(shapes, true, &Shape::sel);
-  if (found == shapes.end() || std::ranges::count(shapes, true, &Shape::sel) > 1)
-    return {};
-  return found->points;
+  if (found == shapes.end() || found->points.size() < kFewestCorners ||
+      std::ranges::count(shapes, true, &Shape::sel) > 1)
+    return nullptr;
+  return &*found;
 }
 
 } // namespace trassix

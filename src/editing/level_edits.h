@@ -1,31 +1,58 @@
-// Levels and the baseboard: the settings of a plan that are not under undo.
+// Levels and the baseboard. Undo does not bring them back, since they are settings of the plan;
+// what stands on the levels it does bring back. Each edit is one undo step; false and nothing
+// changed when all is as it was.
 #pragma once
 
 #include "document/layout.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace trassix {
 
-/// Where what stands on a deleted level goes: from its id to the id of a level that stays.
-using LevelMoves = std::map<std::int32_t, std::int32_t>;
-
 /// Number of pieces, scenery items and shapes on a level.
 std::size_t countOnLevel(const Layout& layout, std::int32_t level);
 
-/// Takes over the list of levels, which must not be empty, and the active one of them; a move is
-/// needed for each level that is gone and not empty. The records that move are one undo step, the
-/// levels themselves are none. False and nothing changed when all is as it was.
-bool setLevels(Layout& layout, const std::vector<Level>& levels, std::int32_t activeLevel,
-               const LevelMoves& moves);
+/// Height of a level in mm. One that records name but the plan lacks, as undo can bring about, is
+/// as high as its lowest piece.
+double deckHeight(const Layout& layout, std::int32_t level);
 
-/// An outline with fewer than three corners takes the baseboard away. False when it is the same.
+/// Why what stands on the level cannot be deleted, in one sentence; empty when it can.
+std::string levelLock(const Layout& layout, std::int32_t level);
+
+/// The levels as they shall be.
+struct LevelChange {
+  std::vector<Level> levels; ///< at least one
+  std::int32_t activeLevel = 1;
+
+  /// For levels that are gone: the level that takes over what stands there, or none to delete it.
+  std::map<std::int32_t, std::optional<std::int32_t>> heirs;
+
+  /// A shape that became the outline of a level and is no shape any more.
+  std::optional<std::int32_t> usedShape;
+
+  bool operator==(const LevelChange&) const = default;
+};
+
+/// Track rides with its level: it stays as high above it when the level is lifted, and comes to lie
+/// as high above the level that takes it over. Where track runs on to a level that does not ride
+/// along, the joint opens; ends that come to lie on others are joined. What is on a hidden level
+/// does not stay selected.
+bool setLevels(Layout& layout, const LevelChange& wanted);
+
+bool setLevelOutline(Layout& layout, std::int32_t level, const std::vector<Point>& outline);
+
+/// An outline with fewer than three corners takes the baseboard away.
 bool setBaseboard(Layout& layout, const std::vector<Point>& outline, const LastShape& shape);
 
-/// The outline of the selected shape; none unless exactly one shape is selected.
-std::optional<std::vector<Point>> selectedOutline(const Layout& layout);
+/// The shape becomes the baseboard and is no shape any more.
+bool useAsBaseboard(Layout& layout, std::int32_t shape);
+
+/// The only selected shape with a closed outline; null when there is none or more than one.
+const Shape* selectedShape(const Layout& layout);
 
 } // namespace trassix

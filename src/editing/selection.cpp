@@ -90,26 +90,6 @@ std::vector<std::int32_t> doomedPieces(const Layout& layout) {
   return ids;
 }
 
-/// Removes the pieces; no record keeps the id of a piece that is gone.
-void removePieces(PlanContent& content, std::span<const std::int32_t> ids) {
-  std::erase_if(content.pieces,
-                [ids](const PlacedPiece& piece) { return containsId(ids, piece.id); });
-  for (PlacedPiece& piece : content.pieces)
-    for (Joint& joint : piece.joints)
-      if (containsId(ids, joint.target))
-        joint = {};
-  for (Tunnel& tunnel : content.tunnels)
-    std::erase_if(tunnel.covers, [ids](std::int32_t id) { return containsId(ids, id); });
-  if (std::erase_if(content.gradeRuns,
-                    [ids](const GradeRun& run) { return containsId(ids, run.anchor); }) == 0)
-    return;
-  content.currentGrade = {};
-  if (!content.gradeRuns.empty()) {
-    const GradeRun& last = content.gradeRuns.back();
-    content.currentGrade = {true, last.deg, last.anchor, last.conn};
-  }
-}
-
 std::optional<Notice> guard(const Layout& layout, std::span<const std::int32_t> pieces,
                             std::span<const std::int32_t> scenery, const std::string& verb) {
   std::unordered_set<std::int32_t> locked;
@@ -231,6 +211,20 @@ std::optional<Notice> lockGuard(const Layout& layout, std::span<const std::int32
 bool selectionHasGrades(const Layout& layout) {
   return std::any_of(layout.pieces().begin(), layout.pieces().end(),
                      [](const PlacedPiece& piece) { return piece.sel && isGraded(piece); });
+}
+
+void removePieces(PlanContent& content, std::span<const std::int32_t> ids) {
+  std::erase_if(content.pieces,
+                [ids](const PlacedPiece& piece) { return containsId(ids, piece.id); });
+  for (PlacedPiece& piece : content.pieces)
+    for (Joint& joint : piece.joints)
+      if (containsId(ids, joint.target))
+        joint = {};
+  for (Tunnel& tunnel : content.tunnels)
+    std::erase_if(tunnel.covers, [ids](std::int32_t id) { return containsId(ids, id); });
+  if (std::erase_if(content.gradeRuns,
+                    [ids](const GradeRun& run) { return containsId(ids, run.anchor); }) != 0)
+    content.mirrorLastGradeRun();
 }
 
 bool deleteSelection(Layout& layout) {

@@ -52,4 +52,8 @@ bool selectionHasGrades(const Layout& layout);
 /// that start on a removed piece end, tunnels forget it. False when nothing was selected.
 bool deleteSelection(Layout& layout);
 
+/// The part of that which concerns pieces (sorted ids), as a step of other edits: records no
+/// history.
+void removePieces(PlanContent& content, std::span<const std::int32_t> pieces);
+
 } // namespace trassix

@@ -1,78 +1,223 @@
 #include "panels/level_list.h"
 
 #include <algorithm>
+#include <set>
 
 namespace trassix {
 
 namespace {
 
 constexpr double kStorey = 100; // mm: clearance of an H0 train with some room for hands
+constexpr double kHighest = 10000;
+
+std::string trimmed(std::string_view text) {
+  constexpr std::string_view kBlank = " \t\r\n";
+  const std::size_t first = text.find_first_not_of(kBlank);
+  return first == std::string_view::npos
+             ? std::string()
+             : std::string(text.substr(first, text.find_last_not_of(kBlank) - first + 1));
+}
+
+std::string numbered(std::int32_t number) {
+  return std::string("Level ").append(std::to_string(number));
+}
+
+/// Levels that records stand on but the plan lacks.
+std::set<std::int32_t> lostLevels(const Layout& layout) {
+  std::set<std::int32_t> lost;
+  const auto collect = [&](const auto& records) {
+    for (const auto& record : records)
+      if (layout.findLevel(record.level) == nullptr)
+        lost.insert(record.level);
+  };
+  collect(layout.content().pieces);
+  collect(layout.content().scenery);
+  collect(layout.content().shapes);
+  return lost;
+}
 
 } // namespace
 
-LevelList::LevelList(const Layout& layout)
-    : layout_(layout), levels_(layout.settings().levels),
-      activeLevel_(layout.settings().activeLevel) {
-  if (levels_.empty())
-    levels_.emplace_back().name = "Level 1";
-  for (const Level& level : levels_)
-    nextId_ = std::max(nextId_, level.id + 1);
-  // A piece may name a level that the plan lacks; a new level must not catch it.
-  for (const PlacedPiece& piece : layout.pieces())
-    nextId_ = std::max(nextId_, piece.level + 1);
-  if (std::ranges::find(levels_, activeLevel_, &Level::id) == levels_.end())
-    activeLevel_ = levels_.front().id;
+LevelList::LevelList(const Layout& layout) : layout_(layout), nextId_(layout.freeLevelId()) {
+  for (const Level& level : layout.settings().levels)
+    append(level);
+  for (const std::int32_t id : lostLevels(layout)) {
+    Level level;
+    level.id = id;
+    level.name = numbered(id);
+    level.height = deckHeight(layout, id);
+    append(level);
+  }
+  if (rows_.empty())
+    add();
+  for (std::size_t i = 0; i < rows_.size(); ++i)
+    if (rows_[i].level.id == layout.settings().activeLevel)
+      active_ = i;
+  before_ = change();
 }
 
-std::size_t LevelList::active() const {
-  const auto found = std::ranges::find(levels_, activeLevel_, &Level::id);
-  return static_cast<std::size_t>(found - levels_.begin());
+void LevelList::append(const Level& level) {
+  rows_.push_back({level, level.name,
+                   LengthEntry(level.height, layout_.settings().units, -kHighest, kHighest)});
+}
+
+void LevelList::setActive(std::size_t place) {
+  active_ = place;
+  rows_.at(place).level.visible = true;
+}
+
+std::string LevelList::setVisible(std::size_t place, bool visible) {
+  Row& row = rows_.at(place);
+  if (!visible && place == active_) {
+    const auto next = std::ranges::find_if(
+        rows_, [&row](const Row& other) { return &other != &row && other.level.visible; });
+    if (next == rows_.end())
+      return "One level always stays visible, for new track to go to.";
+    active_ = static_cast<std::size_t>(next - rows_.begin());
+  }
+  row.level.visible = visible;
+  return {};
+}
+
+void LevelList::enterName(std::size_t place, std::string_view name) {
+  rows_.at(place).name = name;
+}
+
+void LevelList::enterHeight(std::size_t place, std::string_view height) {
+  Row& row = rows_.at(place);
+  row.height.enter(height);
+  row.level.height = row.height.mm();
+}
+
+void LevelList::setTrackColor(std::size_t place, bool own, Color color) {
+  Level& level = rows_.at(place).level;
+  level.trackcolor = own;
+  level.color = color;
+}
+
+void LevelList::setOutline(std::size_t place, const std::vector<Point>& outline) {
+  Level& level = rows_.at(place).level;
+  level.outline = outline;
+  if (shapeUser_ == level.id)
+    shapeUser_ = -1;
+}
+
+void LevelList::outlineFromBaseboard(std::size_t place) {
+  setOutline(place, layout_.settings().baseboard);
+}
+
+void LevelList::outlineFromShape(std::size_t place) {
+  if (const Shape* shape = selectedShape(layout_)) {
+    setOutline(place, shape->points);
+    shapeUser_ = rows_.at(place).level.id;
+  }
 }
 
 std::size_t LevelList::add() {
   Level level;
   level.id = nextId_++;
-  level.name = "Level " + std::to_string(level.id);
-  level.height = std::ranges::max(levels_, {}, &Level::height).height + kStorey;
-  levels_.push_back(level);
-  return levels_.size() - 1;
+  std::int32_t number = level.id;
+  do
+    level.name = numbered(number++);
+  while (nameTaken(level.name, rows_.size()));
+  for (const Row& row : rows_)
+    level.height = std::max(level.height, row.level.height + kStorey);
+  append(level);
+  return rows_.size() - 1;
 }
 
 std::size_t LevelList::contentCount(std::size_t place) const {
-  const std::int32_t id = levels_.at(place).id;
+  const std::int32_t id = rows_.at(place).level.id;
   std::size_t count = countOnLevel(layout_, id);
-  for (const auto& [from, to] : moves_)
+  for (const auto& [from, to] : heirs_)
     count += to == id ? countOnLevel(layout_, from) : 0;
   return count;
 }
 
-bool LevelList::remove(std::size_t place, std::size_t heir) {
-  if (!canRemove() || place == heir)
+std::string LevelList::contentLock(std::size_t place) const {
+  const std::int32_t id = rows_.at(place).level.id;
+  std::string lock = levelLock(layout_, id);
+  for (const auto& [from, to] : heirs_)
+    if (to == id && lock.empty())
+      lock = levelLock(layout_, from);
+  return lock;
+}
+
+bool LevelList::remove(std::size_t place, std::optional<std::size_t> heir) {
+  if (!canRemove() || place == heir || (!heir && !contentLock(place).empty()))
     return false;
-  const std::int32_t id = levels_.at(place).id;
-  const std::int32_t heirId = levels_.at(heir).id;
-  for (auto& [from, to] : moves_)
+  const std::int32_t id = rows_.at(place).level.id;
+  const std::int32_t activeId = rows_.at(active_).level.id;
+  const std::optional<std::int32_t> heirId =
+      heir ? std::optional(rows_.at(*heir).level.id) : std::nullopt;
+  for (auto& [from, to] : heirs_)
     to = to == id ? heirId : to;
-  moves_[id] = heirId;
-  levels_.erase(levels_.begin() + static_cast<std::ptrdiff_t>(place));
-  if (activeLevel_ == id)
-    activeLevel_ = heirId;
+  // A level that was added a moment ago is known to nothing on the plan.
+  if (countOnLevel(layout_, id) != 0)
+    heirs_[id] = heirId;
+  if (shapeUser_ == id)
+    shapeUser_ = -1;
+  rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(place));
+  const auto placeOf = [this](std::int32_t level) {
+    const auto found =
+        std::ranges::find_if(rows_, [level](const Row& row) { return row.level.id == level; });
+    return static_cast<std::size_t>(found - rows_.begin());
+  };
+  if (activeId != id)
+    active_ = placeOf(activeId);
+  else
+    setActive(heirId ? placeOf(*heirId) : std::min(place, rows_.size() - 1));
+  if (std::ranges::none_of(rows_, [](const Row& row) { return row.level.visible; }))
+    setActive(active_);
   return true;
 }
 
-std::string LevelList::rename(std::size_t place, std::string_view name) {
-  if (name.find_first_not_of(" \t") == std::string_view::npos)
+bool LevelList::nameTaken(const std::string& name, std::size_t except) const {
+  for (std::size_t i = 0; i < rows_.size(); ++i)
+    if (i != except && trimmed(rows_[i].name) == name)
+      return true;
+  return false;
+}
+
+std::string LevelList::problem(std::size_t place) const {
+  const Row& row = rows_.at(place);
+  const std::string name = trimmed(row.name);
+  // A plan from elsewhere may hold such names: only what was typed here is refused.
+  const bool typed = row.name != row.level.name;
+  if (typed && name.empty())
     return "A level needs a name.";
-  const std::int32_t id = levels_.at(place).id;
-  if (std::ranges::any_of(
-          levels_, [id, name](const Level& level) { return level.id != id && level.name == name; }))
+  if (typed && nameTaken(name, place))
     return "Another level has this name.";
-  levels_.at(place).name = name;
+  return row.height.problem();
+}
+
+std::optional<std::size_t> LevelList::firstProblem() const {
+  for (std::size_t i = 0; i < rows_.size(); ++i)
+    if (!problem(i).empty())
+      return i;
   return {};
 }
 
+LevelChange LevelList::change() const {
+  LevelChange wanted;
+  for (const Row& row : rows_) {
+    wanted.levels.push_back(row.level);
+    if (row.name != row.level.name)
+      wanted.levels.back().name = trimmed(row.name);
+  }
+  wanted.activeLevel = rows_.at(active_).level.id;
+  wanted.heirs = heirs_;
+  if (const Shape* shape = selectedShape(layout_); shape != nullptr && shapeUser_ != -1)
+    wanted.usedShape = shape->id;
+  return wanted;
+}
+
 bool LevelList::apply(Layout& layout) const {
-  return setLevels(layout, levels_, activeLevel_, moves_);
+  if (firstProblem())
+    return false;
+  const LevelChange wanted = change();
+  // Listing a level that the plan lacks is no edit yet.
+  return wanted != before_ && setLevels(layout, wanted);
 }
 
 } // namespace trassix

@@ -61,7 +61,7 @@ const Command kCommands[] = {
     {kHelp, wxTRANSLATE("&Help\tF1"), wxTRANSLATE("How to use the program"), nullptr, nullptr, Kind::Normal, Hand::Keeps, nullptr, &MainFrame::help},
     {kLayoutWizardHelp, wxTRANSLATE("Layout &Wizard Help"), wxTRANSLATE("About the wizards"), nullptr, nullptr, Kind::Normal, Hand::Keeps, nullptr, &MainFrame::layoutWizardHelp},
     {kOptions, wxTRANSLATE("&Options..."), wxTRANSLATE("Playful or businesslike"), nullptr, nullptr, Kind::Normal, Hand::Empties, nullptr, &MainFrame::options},
-    {kLevels, nullptr, nullptr, wxTRANSLATE("Levels"), wxTRANSLATE("Manage layout levels (decks): height, color, and shape"), Kind::Normal, Hand::Empties, nullptr, nullptr},
+    {kLevels, nullptr, nullptr, wxTRANSLATE("Levels"), wxTRANSLATE("Manage layout levels (decks): height, color, and shape"), Kind::Normal, Hand::Empties, nullptr, &MainFrame::manageLevels},
     {kView3D, nullptr, nullptr, wxTRANSLATE("3D View"), nullptr, Kind::Normal, Hand::Empties, nullptr, nullptr},
     {kHideLabels, nullptr, nullptr, wxTRANSLATE("Hide Labels"), wxTRANSLATE("Toggle track labels and join dots"), Kind::Check, Hand::Keeps, nullptr, &MainFrame::toggleLabels},
     {kTunnel, nullptr, nullptr, wxTRANSLATE("Tunnel"), wxTRANSLATE("Place tunnel portals on the selected chain (or remove if already in a tunnel)"), Kind::Normal, Hand::Empties, nullptr, nullptr},

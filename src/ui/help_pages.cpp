@@ -83,9 +83,16 @@ constexpr const char* kAutofill[] = {
 constexpr const char* kLevelsAndBaseboard[] = {
     wxTRANSLATE("# Levels"),
     wxTRANSLATE("A layout can have several decks, each with a name, a height, and a colour for its "
-                "track. A hidden level is neither drawn nor can it be changed by mistake. A new "
-                "piece takes the level of the track it snaps to. This version shows the levels of "
-                "a plan but cannot change them yet: its tool is greyed out."),
+                "track. \"Levels\" in the tool bar lists them. A hidden level is neither drawn nor "
+                "can it be changed by mistake. A new piece takes the level of the track it snaps "
+                "to, and the highest visible level where it snaps to nothing."),
+    wxTRANSLATE("Track rides with its level: change the height of a level, and its track is lifted "
+                "or lowered with it. Where it is joined to track of another level it comes apart, "
+                "as the ends no longer meet. A level that is deleted hands what stands on it to "
+                "another one, or takes it along, as you like."),
+    wxTRANSLATE("A level can have an outline of its own: that of the baseboard, that of a shape "
+                "you selected before, or one that you draw. Undo brings back track that was "
+                "deleted with its level, but not the level itself."),
     wxTRANSLATE("# Baseboard"),
     wxTRANSLATE("A plan that brings an outline of its table shows it behind the track, never in "
                 "the way of a click. The dialogs for the table and for exact rectangles are not "

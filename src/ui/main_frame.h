@@ -67,6 +67,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   void unitsMm();
   void unitsCm();
   void unitsInch();
+  void manageLevels();
   void options();
   void help();
   void layoutWizardHelp();
@@ -113,6 +114,8 @@ class MainFrame : public wxFrame, private LayoutHost {
   void placeFromPalette(std::string_view article);
   void showHelp(HelpTopic topic);
   void toggleMode(int tool, ToolMode mode);
+  void enterMode(ToolMode mode, const PolygonUse& use);
+  void drawPolygon(const PolygonUse& use);
   bool menuChecked(int id) const;
   bool write(const std::filesystem::path& path);
   bool confirmReplace(const std::filesystem::path& target, const wxString& name);

@@ -59,7 +59,12 @@ void MainFrame::setPointer(Point world) {
 }
 
 void MainFrame::setToolMode(ToolMode mode) {
+  enterMode(mode, {});
+}
+
+void MainFrame::enterMode(ToolMode mode, const PolygonUse& use) {
   switches_.mode = mode;
+  switches_.polygonUse = use;
   GetToolBar()->ToggleTool(kMeasure, mode == ToolMode::Measure);
   GetToolBar()->ToggleTool(kPolygon, mode == ToolMode::Polygon);
   canvas_->canvas().modeChanged();

@@ -2,8 +2,40 @@
 
 #include "editing/annotations.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/level_edits.h"
 
 namespace trassix {
+
+namespace {
+
+bool usePolygon(Layout& layout, const std::vector<Point>& points, const PolygonUse& use) {
+  switch (use.kind) {
+  case PolygonUse::Kind::Baseboard:
+    return points.size() >= 3 && setBaseboard(layout, points, layout.settings().lastShape);
+  case PolygonUse::Kind::LevelOutline:
+    return setLevelOutline(layout, use.level, points);
+  case PolygonUse::Kind::Shape:
+    break;
+  }
+  return addShape(layout, points) != -1;
+}
+
+/// What is drawn, in front of what the mouse does now.
+std::string subject(const Layout& layout, const PolygonUse& use) {
+  switch (use.kind) {
+  case PolygonUse::Kind::Baseboard:
+    return "Baseboard: ";
+  case PolygonUse::Kind::LevelOutline: {
+    const Level* level = layout.findLevel(use.level);
+    return level == nullptr ? std::string() : "Outline of " + level->name + ": ";
+  }
+  case PolygonUse::Kind::Shape:
+    break;
+  }
+  return {};
+}
+
+} // namespace
 
 void PolygonTool::hover(const PointerInput& input) {
   pointer_ = input.world;
@@ -23,9 +55,13 @@ void PolygonTool::doubleClick(const PointerInput&) {
 }
 
 void PolygonTool::close() {
-  if (addShape(site_.layout(), points_) == -1)
+  const PolygonUse use = site_.host.switches().polygonUse;
+  if (!usePolygon(site_.layout(), points_, use))
     return;
   points_.clear();
+  // There is one outline to draw, but there may be more shapes.
+  if (use.kind != PolygonUse::Kind::Shape)
+    site_.host.setToolMode(ToolMode::Select);
   site_.host.selectionChanged();
   site_.host.changed();
 }
@@ -71,12 +107,16 @@ void PolygonTool::paint(Surface& surface) const {
 }
 
 std::string PolygonTool::hint() const {
+  const std::string what = subject(site_.layout(), site_.host.switches().polygonUse);
   if (points_.empty())
-    return "Polygon: click its corners    Esc: back to selecting";
+    return what.empty() ? "Polygon: click its corners    Esc: back to selecting"
+                        : what + "click its corners    Esc: leave it as it is";
+  const std::string next =
+      what.empty() ? "Click the next corner    " : what + "click the next corner    ";
   if (points_.size() < 3)
-    return "Click the next corner    Backspace: take the last one back    Esc: start again";
-  return "Click the next corner    Double-click or Enter: close    Backspace: take the last one "
-         "back    Esc: start again";
+    return next + "Backspace: take the last one back    Esc: start again";
+  return next +
+         "Double-click or Enter: close    Backspace: take the last one back    Esc: start again";
 }
 
 } // namespace trassix
