@@ -11,7 +11,13 @@ constexpr std::uint8_t kShapeOpacity = 140;
 
 } // namespace
 
+bool isBlank(std::string_view text) {
+  return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
 std::int32_t addLabel(Layout& layout, Point at, std::string_view text) {
+  if (isBlank(text))
+    return -1;
   layout.pushHistory();
   layout.clearSelection();
   Label label;
@@ -57,7 +63,7 @@ bool editLabelText(Layout& layout, std::int32_t label, std::string_view text) {
   const auto position = found - labels.begin();
   layout.pushHistory();
   auto& edited = layout.edit().labels;
-  if (text.empty())
+  if (isBlank(text))
     edited.erase(edited.begin() + position);
   else
     edited[static_cast<std::size_t>(position)].text = text;

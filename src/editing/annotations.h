@@ -9,14 +9,20 @@
 
 namespace trassix {
 
-/// Returns the new record's id; the record becomes the only selection.
+/// Whether there is nothing in a text to be seen.
+bool isBlank(std::string_view text);
+
+/// Returns the new record's id; the record becomes the only selection. -1 and nothing added for a
+/// blank text.
 std::int32_t addLabel(Layout& layout, Point at, std::string_view text);
+
+/// Returns the new record's id; the record becomes the only selection.
 std::int32_t addMeasurement(Layout& layout, Point from, Point to);
 
 /// A polygon on the active level with at least three points; -1 and nothing added for fewer.
 std::int32_t addShape(Layout& layout, const std::vector<Point>& points);
 
-/// False when there is no such label or the text is the same. An empty text removes the label.
+/// False when there is no such label or the text is the same. A blank text removes the label.
 bool editLabelText(Layout& layout, std::int32_t label, std::string_view text);
 
 } // namespace trassix

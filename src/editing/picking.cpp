@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 namespace trassix {
 
@@ -46,18 +47,23 @@ void withRecord(Content& content, const Pick& pick, Visit visit) {
   }
 }
 
+/// Of a text in UTF-8, whose letters may take several bytes.
+double letterCount(std::string_view text) {
+  return static_cast<double>(std::ranges::count_if(
+      text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }));
+}
+
 } // namespace
 
 std::vector<Pick> picksAt(const Layout& layout, const PlanIndex& index, Point at, double mmPerPx) {
   std::vector<Pick> picks;
   const PlanContent& content = layout.content();
   const double tolerance = kTolerancePx * mmPerPx;
-  for (const Label& label : content.labels) {
-    const double halfWidth =
-        (static_cast<double>(label.text.size()) * kLabelCharPx / 2 + 5) * mmPerPx;
-    if (std::abs(at.x - label.x) <= halfWidth &&
-        std::abs(at.y - label.y) <= kLabelHalfHeightPx * mmPerPx)
-      picks.push_back({RecordKind::Label, label.id});
+  for (auto label = content.labels.rbegin(); label != content.labels.rend(); ++label) {
+    const double halfWidth = (letterCount(label->text) * kLabelCharPx / 2 + 5) * mmPerPx;
+    if (std::abs(at.x - label->x) <= halfWidth &&
+        std::abs(at.y - label->y) <= kLabelHalfHeightPx * mmPerPx)
+      picks.push_back({RecordKind::Label, label->id});
   }
   for (const Measurement& tape : content.measurements)
     if (distanceToEdge(at, tape.from, tape.to) <= tolerance)

@@ -1,5 +1,6 @@
 #include "panels/property_changes.h"
 
+#include "editing/annotations.h"
 #include "editing/joining.h"
 #include "editing/measure_format.h"
 #include "editing/property_edits.h"
@@ -125,10 +126,6 @@ struct RecordEdit {
     return replaceRecord(layout, wanted);
   }
 };
-
-bool isBlank(const std::string& text) {
-  return text.find_first_not_of(" \t\r\n") == std::string::npos;
-}
 
 std::optional<Notice> lockOf(const Layout& layout, PropertyId id, const SelectedRecord& record) {
   if (movesIt(id))

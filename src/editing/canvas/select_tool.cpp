@@ -274,6 +274,8 @@ std::string SelectTool::hint() const {
     if (definition)
       return definition->name + "    Click: select    Double-click: extend    Drag: move";
   }
+  if (hovered_ && hovered_->kind == RecordKind::Label)
+    return "Click: select    Double-click: edit the text    Drag: move";
   if (hasSelection(site_.layout()))
     return "Drag: move    Alt+drag: turn    Ctrl+wheel: turn 15\u00b0    Arrows: nudge    Del: "
            "delete";

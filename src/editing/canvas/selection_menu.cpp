@@ -87,9 +87,8 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
                   }});
   rows.push_back({"Add Label Here...", "", true, [&site, at] {
                     const auto text = site.host.askText("Add Label", "Text:", "");
-                    if (!text || text->empty())
+                    if (!text || addLabel(site.layout(), at, *text) == -1)
                       return;
-                    addLabel(site.layout(), at, *text);
                     site.host.selectionChanged();
                     site.host.changed();
                   }});

@@ -171,16 +171,38 @@ TEST(SelectTool, DoubleClicksExtendOrSelectTheChain) {
   EXPECT_THAT(selectedPieces(script.host.plan), UnorderedElementsAre(1, 2, 3, 4));
 }
 
-TEST(SelectTool, LabelsAreEditedUnlessTrackLiesThere) {
+TEST(SelectTool, LabelsArePlacedEditedMovedAndDeleted) {
   CanvasScript script(row());
-  addLabel(script.host.plan, {90, 300}, "Yard");
-  addLabel(script.host.plan, kOnFirst, "On track");
-  script.host.typed = "Goods yard";
+  const std::vector<Label>& labels = script.host.plan.content().labels;
+  const auto addAt = [&script](Point at, const char* text) {
+    script.host.typed = text;
+    script.canvas.press(Canvas::Button::Right, script.at(at));
+    const auto& menu = script.host.menu;
+    std::ranges::find(menu, "Add Label Here...", &MenuRow::text)->action();
+  };
+  addAt({90, 300}, "  ");
+  EXPECT_FALSE(script.host.plan.canUndo()) << "nothing to be seen is no label";
+  addAt({90, 300}, "Yard");
+  addAt(kOnFirst, "On track");
+  ASSERT_EQ(labels.size(), 2u);
+  EXPECT_EQ(labels[0], (Label{labels[0].id, "Yard", 90, 300, false}));
+
+  script.host.typed = "G\u00fcterbahnhof";
   script.doubleClick({90, 300});
-  EXPECT_EQ(script.host.plan.content().labels[0].text, "Goods yard");
+  EXPECT_EQ(labels[0].text, "G\u00fcterbahnhof");
   script.doubleClick(kOnFirst);
-  EXPECT_EQ(script.host.plan.content().labels[1].text, "On track");
+  EXPECT_EQ(labels[1].text, "On track");
   EXPECT_EQ(script.pieces().size(), 4u) << "the piece under the label was extended";
+
+  script.drag({90, 300}, {150, 320});
+  EXPECT_NEAR(labels[0].x, 150, 1e-6);
+  EXPECT_NEAR(labels[0].y, 320, 1e-6);
+  script.host.deleteSelection();
+  ASSERT_EQ(labels.size(), 1u);
+  EXPECT_EQ(labels[0].text, "On track");
+  while (script.host.plan.undo())
+    ;
+  EXPECT_TRUE(labels.empty());
 }
 
 TEST(SelectTool, CopiesKeepHeightAndComeBackByPasteAndDuplicate) {
