@@ -30,6 +30,9 @@ class OwnedStock {
   /// cannot be read at all, the stock stays as it was and will not be saved in its place.
   std::string load(const std::filesystem::path& file);
 
+  /// Whether there may be more at home than is known, because the file cannot be read.
+  bool unreadable() const { return !unreadable_.empty(); }
+
   /// Empty on success.
   std::string save(const std::filesystem::path& file) const;
 

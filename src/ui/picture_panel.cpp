@@ -26,4 +26,8 @@ bool darkTheme() {
   return wxSystemSettings::GetAppearance().IsUsingDarkBackground();
 }
 
+wxColour problemColour() {
+  return darkTheme() ? wxColour(255, 150, 140) : wxColour(176, 24, 16);
+}
+
 } // namespace trassix

@@ -27,4 +27,7 @@ class PicturePanel : public wxPanel {
 /// Whether the desktop shows light text on dark ground.
 bool darkTheme();
 
+/// For the text that says what is wrong.
+wxColour problemColour();
+
 } // namespace trassix

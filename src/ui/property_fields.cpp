@@ -203,7 +203,7 @@ wxSizer* PropertyFields::makeValue(const Property& property, Row& row) {
   column->Add(row.note, wxSizerFlags().Expand());
   row.problem = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
                                  wxString(controlName(property.id)) + ".problem");
-  row.problem->SetForegroundColour(darkTheme() ? wxColour(255, 150, 140) : wxColour(176, 24, 16));
+  row.problem->SetForegroundColour(problemColour());
   column->Add(row.problem, wxSizerFlags().Expand());
   return column;
 }

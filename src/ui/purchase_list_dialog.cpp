@@ -16,11 +16,14 @@
 #include <wx/textctrl.h>
 #include <wx/utils.h>
 
+#include <algorithm>
 #include <numeric>
 
 namespace trassix {
 
 namespace {
+
+constexpr int kWidth = 620;
 
 enum Column { kArticle, kName, kNeeded, kOwned, kToBuy };
 
@@ -33,69 +36,77 @@ std::filesystem::path stockFile() {
 PurchaseListDialog::PurchaseListDialog(wxWindow* parent, std::vector<TallyRow> tally)
     : wxDialog(wxGetTopLevelParent(parent), wxID_ANY, _("Purchase List"), wxDefaultPosition,
                wxDefaultSize, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER, "purchaseList"),
-      tally_(std::move(tally)),
-      list_(new wxListCtrl(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(620, 260)),
-                           wxLC_REPORT | wxLC_SINGLE_SEL, wxDefaultValidator, "purchases")),
-      summary_(new wxStaticText(this, wxID_ANY, wxEmptyString)),
-      problem_(new wxStaticText(this, wxID_ANY, fromUtf8(stock_.load(stockFile())))),
-      address_(new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                              FromDIP(wxSize(-1, 64)), wxTE_MULTILINE | wxTE_READONLY,
-                              wxDefaultValidator, "address")) {
-  buildList();
-  auto* ownedRow = makeOwnedRow();
-  auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-  auto* open = new wxButton(this, wxID_ANY, _("Open in &Browser"), wxDefaultPosition, wxDefaultSize,
-                            0, wxDefaultValidator, "openShop");
-  open->SetToolTip(_("Opens the address above with your browser"));
-  buttons->Add(summary_, wxSizerFlags(1).CenterVertical());
-  buttons->Add(open, wxSizerFlags().Border(wxRIGHT, FromDIP(8)));
-  buttons->Add(new wxButton(this, wxID_CANCEL, _("Close")));
-
+      tally_(std::move(tally)) {
   const int gap = FromDIP(10);
   auto* column = new wxBoxSizer(wxVERTICAL);
   if (appPrefs().playful) {
-    auto* picture = new PicturePanel(this, FromDIP(wxSize(620, 110)), paintShoppingScene);
+    auto* picture = new PicturePanel(this, FromDIP(wxSize(kWidth, 110)), paintShoppingScene);
     picture->SetName("purchasePicture");
     column->Add(picture, wxSizerFlags().Expand());
   }
-  column->Add(list_, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxTOP, gap));
-  column->Add(ownedRow, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, gap));
-  column->Add(problem_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, gap));
-  column->Add(
-      new wxStaticText(this, wxID_ANY, _("Address of the shop's cart with what is to buy:")),
-      wxSizerFlags().Border(wxLEFT | wxRIGHT | wxTOP, gap));
-  column->Add(address_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, gap));
-  column->Add(buttons, wxSizerFlags().Expand().Border(wxALL, gap));
-  problem_->Show(!problem_->GetLabel().empty());
-  SetSizerAndFit(column);
+  // In the order in which Tab goes through them.
+  const auto add = [column, gap](auto* item, int share = 0) {
+    column->Add(item, wxSizerFlags(share).Expand().Border(wxLEFT | wxRIGHT | wxTOP, gap));
+  };
+  add(makeList(), 1);
+  add(makeOwnedRow());
+  problem_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
+                              "purchaseProblem");
+  problem_->SetForegroundColour(problemColour());
+  add(problem_);
+  add(new wxStaticText(this, wxID_ANY, _("Address of the shop's cart with what is to buy:")));
+  address_ =
+      new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, FromDIP(wxSize(-1, 64)),
+                     wxTE_MULTILINE | wxTE_READONLY, wxDefaultValidator, "address");
+  add(address_);
+  add(makeButtons());
+  column->AddSpacer(gap);
+  SetSizer(column);
   SetEscapeId(wxID_CANCEL);
-  CentreOnParent();
-
-  list_->Bind(wxEVT_LIST_ITEM_SELECTED, [this](wxListEvent&) { showSelected(); });
-  owned_->Bind(wxEVT_SPINCTRL, [this](wxSpinEvent& event) { setOwned(event.GetPosition()); });
-  owned_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { setOwned(owned_->GetValue()); });
-  open->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { openShop(); });
+  showProblem(stock_.load(stockFile()));
   fill();
+  column->SetSizeHints(this);
+  CentreOnParent();
 }
 
-void PurchaseListDialog::buildList() {
+wxWindow* PurchaseListDialog::makeList() {
+  list_ = new wxListCtrl(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kWidth, 260)),
+                         wxLC_REPORT | wxLC_SINGLE_SEL, wxDefaultValidator, "purchases");
   list_->AppendColumn(_("Article"), wxLIST_FORMAT_LEFT, FromDIP(80));
   list_->AppendColumn(_("Name"), wxLIST_FORMAT_LEFT, FromDIP(290));
   list_->AppendColumn(_("Needed"), wxLIST_FORMAT_RIGHT, FromDIP(76));
   list_->AppendColumn(_("Owned"), wxLIST_FORMAT_RIGHT, FromDIP(76));
   list_->AppendColumn(_("To buy"), wxLIST_FORMAT_RIGHT, FromDIP(76));
+  list_->Bind(wxEVT_LIST_ITEM_SELECTED, [this](wxListEvent&) { showSelected(); });
+  return list_;
 }
 
 wxSizer* PurchaseListDialog::makeOwnedRow() {
-  article_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                              wxST_ELLIPSIZE_END);
+  auto* prompt = new wxStaticText(this, wxID_ANY, _("You own:"));
   owned_ = new wxSpinCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                           wxSP_ARROW_KEYS, 0, OwnedStock::kMost, 0, "owned");
   owned_->Disable();
+  owned_->Bind(wxEVT_SPINCTRL, [this](wxSpinEvent& event) { setOwned(event.GetPosition()); });
+  owned_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { setOwned(owned_->GetValue()); });
+  article_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                              wxST_ELLIPSIZE_END);
   auto* row = new wxBoxSizer(wxHORIZONTAL);
-  row->Add(new wxStaticText(this, wxID_ANY, _("You own:")), wxSizerFlags().CenterVertical());
+  row->Add(prompt, wxSizerFlags().CenterVertical());
   row->Add(owned_, wxSizerFlags().Border(wxLEFT | wxRIGHT, FromDIP(8)));
   row->Add(article_, wxSizerFlags(1).CenterVertical());
+  return row;
+}
+
+wxSizer* PurchaseListDialog::makeButtons() {
+  summary_ = new wxStaticText(this, wxID_ANY, wxEmptyString);
+  open_ = new wxButton(this, wxID_ANY, _("Open in &Browser"), wxDefaultPosition, wxDefaultSize, 0,
+                       wxDefaultValidator, "openShop");
+  open_->SetToolTip(_("Opens the address above with your browser"));
+  open_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { openShop(); });
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(summary_, wxSizerFlags(1).CenterVertical());
+  row->Add(open_, wxSizerFlags().Border(wxRIGHT, FromDIP(8)));
+  row->Add(new wxButton(this, wxID_CANCEL, _("Close")));
   return row;
 }
 
@@ -115,7 +126,7 @@ void PurchaseListDialog::fill() {
                                       sum(&PurchaseRow::toBuy)));
   const wxString shop = address();
   address_->ChangeValue(shop.empty() ? _("Nothing is to buy.") : shop);
-  FindWindow("openShop")->Enable(!shop.empty());
+  open_->Enable(!shop.empty());
   if (list_->GetSelectedItemCount() == 0 && !rows_.empty())
     list_->SetItemState(0, wxLIST_STATE_SELECTED | wxLIST_STATE_FOCUSED,
                         wxLIST_STATE_SELECTED | wxLIST_STATE_FOCUSED);
@@ -140,7 +151,7 @@ void PurchaseListDialog::showSelected() {
   if (row < 0)
     return;
   const PurchaseRow& shown = rows_[static_cast<std::size_t>(row)];
-  owned_->Enable();
+  owned_->Enable(!stock_.unreadable());
   owned_->SetValue(shown.owned);
   article_->SetLabel(
       wxString::Format(_("of %s"), fromUtf8(shown.name.empty() ? shown.article : shown.name)));
@@ -157,12 +168,14 @@ void PurchaseListDialog::setOwned(int count) {
 }
 
 void PurchaseListDialog::saveStock() {
-  const std::string message = stock_.save(stockFile());
-  problem_->SetLabel(fromUtf8(message));
-  if (problem_->IsShown() == message.empty()) {
-    problem_->Show(!message.empty());
-    Layout();
-  }
+  showProblem(stock_.save(stockFile()));
+}
+
+void PurchaseListDialog::showProblem(const std::string& problem) {
+  problem_->SetLabel(fromUtf8(problem));
+  problem_->Wrap(std::max(list_->GetSize().x, FromDIP(kWidth)));
+  problem_->Show(!problem.empty());
+  Layout();
 }
 
 wxString PurchaseListDialog::address() const {

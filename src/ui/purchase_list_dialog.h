@@ -7,6 +7,7 @@
 
 #include <vector>
 
+class wxButton;
 class wxListCtrl;
 class wxSpinCtrl;
 class wxStaticText;
@@ -24,13 +25,15 @@ class PurchaseListDialog : public wxDialog {
   wxString address() const;
 
  private:
-  void buildList();
+  wxWindow* makeList();
   wxSizer* makeOwnedRow();
+  wxSizer* makeButtons();
   void fill();
   void showRow(std::size_t row);
   void showSelected();
   void setOwned(int count);
   void saveStock();
+  void showProblem(const std::string& problem);
   void openShop();
 
   std::vector<TallyRow> tally_;
@@ -42,6 +45,7 @@ class PurchaseListDialog : public wxDialog {
   wxStaticText* summary_;
   wxStaticText* problem_;
   wxTextCtrl* address_;
+  wxButton* open_;
 };
 
 } // namespace trassix

@@ -164,8 +164,19 @@ void TallyPanel::saveAsCsv() {
   if (dialog.ShowModal() != wxID_OK)
     return;
   std::filesystem::path file = toPath(dialog.GetPath());
-  if (!file.has_extension())
+  if (!file.has_extension()) {
+    // The dialog has asked about the name as it was typed only.
     file += ".csv";
+    std::error_code error;
+    if (std::filesystem::exists(file, error) &&
+        wxMessageBox(wxString::Format(_("\"%s\" exists. Replace it?"), fromUtf8(pathText(file))),
+                     _("Save Tally"), wxYES_NO | wxICON_QUESTION, this) != wxYES)
+      return;
+  }
+  saveCsv(file);
+}
+
+void TallyPanel::saveCsv(const std::filesystem::path& file) {
   const std::string message = writeTextFile(file, tallyAsCsv(tally_.rows, translatedHeadings()));
   if (!message.empty())
     wxMessageBox(fromUtf8(message), _("Save Failed"), wxOK | wxICON_ERROR, this);

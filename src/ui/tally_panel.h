@@ -4,6 +4,8 @@
 
 #include <wx/panel.h>
 
+#include <filesystem>
+
 class wxStaticText;
 
 namespace trassix {
@@ -17,6 +19,9 @@ class TallyPanel : public wxPanel {
   TallyPanel(wxWindow* parent, LayoutHost& host);
 
   void recompute();
+
+  /// Tells the user when the file cannot be written.
+  void saveCsv(const std::filesystem::path& file);
 
  private:
   void sortBy(TallyColumn column);
