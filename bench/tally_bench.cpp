@@ -1,6 +1,9 @@
 // The tally of a large plan, recomputed after each change.
 #include "catalog/track_catalog.h"
+#include "editing/selection.h"
+#include "panels/property_sheet.h"
 #include "panels/tally.h"
+#include "ratio.h"
 
 #include <benchmark/benchmark.h>
 
@@ -27,11 +30,18 @@ Layout largePlan(std::int64_t pieces) {
 
 void tallyOfPlan(benchmark::State& state) {
   const Layout layout = largePlan(state.range(0));
-  for (auto _ : state) {
-    benchmark::DoNotOptimize(tallyOf(layout));
-  }
+  bench::within(state, 5, [&layout] { benchmark::DoNotOptimize(tallyOf(layout)); });
 }
-BENCHMARK(tallyOfPlan)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(tallyOfPlan)->Arg(10000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// What the properties panel looks through with nothing or all of a large plan selected.
+void sheetOfSelection(benchmark::State& state) {
+  Layout layout = largePlan(10000);
+  if (state.range(0) != 0)
+    selectAll(layout);
+  bench::within(state, 5, [&layout] { benchmark::DoNotOptimize(propertySheetOf(layout)); });
+}
+BENCHMARK(sheetOfSelection)->Arg(0)->Arg(1)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace trassix

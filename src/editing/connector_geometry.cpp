@@ -36,11 +36,12 @@ double headingDifference(double a, double b) {
 }
 
 Point toWorld(const Pose& pose, Point local) {
-  const double radians = toRadians(pose.heading);
-  const double c = std::cos(radians);
-  const double s = std::sin(radians);
-  return {pose.x + local.x * c - local.y * s, pose.y + local.x * s + local.y * c};
+  return PoseFrame(pose)(local);
 }
+
+PoseFrame::PoseFrame(const Pose& pose)
+    : x_(pose.x), y_(pose.y), cos_(std::cos(toRadians(pose.heading))),
+      sin_(std::sin(toRadians(pose.heading))) {}
 
 WorldConnector ConnectorToWorld(const PlacedPiece& piece, const PieceDef& definition,
                                 std::int32_t index) {

@@ -60,6 +60,18 @@ double headingDifference(double a, double b);
 /// A point of the piece's frame in layout coordinates.
 Point toWorld(const Pose& pose, Point local);
 
+/// The same for the many points of one piece.
+class PoseFrame {
+ public:
+  explicit PoseFrame(const Pose& pose);
+  Point operator()(Point local) const {
+    return {x_ + local.x * cos_ - local.y * sin_, y_ + local.x * sin_ + local.y * cos_};
+  }
+
+ private:
+  double x_, y_, cos_, sin_;
+};
+
 /// The end in layout coordinates. It is free when its joint slot is open or missing; an index out
 /// of range gives a zero record with index -1.
 WorldConnector ConnectorToWorld(const PlacedPiece& piece, const PieceDef& definition,

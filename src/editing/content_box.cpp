@@ -39,9 +39,10 @@ std::optional<Box> contentBox(const Layout& layout) {
     const PieceDef* definition = TrackCatalog::instance().find(piece.cat);
     if (!definition)
       continue;
+    const PoseFrame frame(poseOf(piece));
     for (const auto& outline : trackGeometryOf(*definition).beds)
       for (const Point& p : outline)
-        box.add(toWorld(poseOf(piece), p));
+        box.add(frame(p));
   }
   const PlanContent& content = layout.content();
   for (const SceneryItem& item : content.scenery)

@@ -47,14 +47,15 @@ class ExtentFinder {
  public:
   /// Most pieces lie wholly inside what the others cover, which their circle tells.
   void add(const Pose& pose, const TrackGeometry& geometry) {
-    const Point centre = toWorld(pose, geometry.centre);
+    const PoseFrame frame(pose);
+    const Point centre = frame(geometry.centre);
     if (centre.x - geometry.radius >= box_.minX && centre.x + geometry.radius <= box_.maxX &&
         centre.y - geometry.radius >= box_.minY && centre.y + geometry.radius <= box_.maxY) {
       return;
     }
     for (const std::vector<Point>& bed : geometry.beds) {
       for (const Point& corner : bed) {
-        const Point at = toWorld(pose, corner);
+        const Point at = frame(corner);
         box_.minX = std::min(box_.minX, at.x);
         box_.minY = std::min(box_.minY, at.y);
         box_.maxX = std::max(box_.maxX, at.x);
