@@ -1,6 +1,7 @@
 #include "editing/annotations.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace trassix {
 
@@ -38,20 +39,29 @@ std::int32_t addMeasurement(Layout& layout, Point from, Point to) {
   return id;
 }
 
-std::int32_t addShape(Layout& layout, const std::vector<Point>& points) {
-  if (points.size() < 3)
-    return -1;
-  layout.pushHistory();
-  layout.clearSelection();
+Shape usualShape(const Layout& layout) {
   Shape shape;
-  shape.id = layout.takeId();
-  shape.points = points;
   shape.color = kShapeColor;
   shape.a = kShapeOpacity;
   shape.level = layout.settings().activeLevel;
+  return shape;
+}
+
+std::int32_t addShape(Layout& layout, Shape shape) {
+  if (shape.points.size() < 3)
+    return -1;
+  layout.pushHistory();
+  layout.clearSelection();
+  shape.id = layout.takeId();
   shape.sel = true;
-  layout.edit().shapes.push_back(shape);
-  return shape.id;
+  layout.edit().shapes.push_back(std::move(shape));
+  return layout.content().shapes.back().id;
+}
+
+std::int32_t addShape(Layout& layout, const std::vector<Point>& points) {
+  Shape shape = usualShape(layout);
+  shape.points = points;
+  return addShape(layout, std::move(shape));
 }
 
 bool editLabelText(Layout& layout, std::int32_t label, std::string_view text) {

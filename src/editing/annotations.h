@@ -19,7 +19,12 @@ std::int32_t addLabel(Layout& layout, Point at, std::string_view text);
 /// Returns the new record's id; the record becomes the only selection.
 std::int32_t addMeasurement(Layout& layout, Point from, Point to);
 
-/// A polygon on the active level with at least three points; -1 and nothing added for fewer.
+/// What a new shape looks like before anybody changes it; on the active level, without points.
+Shape usualShape(const Layout& layout);
+
+/// A polygon with at least three points; -1 and nothing added for fewer. It gets a new id.
+std::int32_t addShape(Layout& layout, Shape shape);
+/// The same for a usual shape.
 std::int32_t addShape(Layout& layout, const std::vector<Point>& points);
 
 /// False when there is no such label or the text is the same. A blank text removes the label.

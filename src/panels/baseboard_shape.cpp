@@ -87,4 +87,35 @@ std::vector<Point> boardOutline(const LastShape& shape) {
   return {{0, 0}, {w, 0}, {w, h}, {0, h}};
 }
 
+std::vector<BoardDimension> boardDimensions(const LastShape& shape, std::int32_t units) {
+  const auto& [kindCode, w, h, w2, h2] = shape;
+  const BoardKind kind = kindOf(shape);
+  const auto names = boardMeasureNames(kind);
+  const auto text = [&](std::size_t measure, double length) {
+    return std::string(names.at(measure)).append(" ").append(formatLength(length, units));
+  };
+  constexpr Point kUp{0, -1};
+  constexpr Point kDown{0, 1};
+  constexpr Point kRight{1, 0};
+  std::vector<BoardDimension> all{{{0, h}, {0, 0}, {-1, 0}, text(1, h)}};
+  const double stem = (w - w2) / 2;
+  switch (kind) {
+  case BoardKind::L:
+  case BoardKind::U:
+    all.push_back({{0, h}, {w, h}, kDown, text(0, w)});
+    all.push_back({{0, 0}, {w2, 0}, kUp, text(2, w2)});
+    all.push_back({{w, h - h2}, {w, h}, kRight, text(3, h2)});
+    break;
+  case BoardKind::T:
+    all.push_back({{0, 0}, {w, 0}, kUp, text(0, w)});
+    all.push_back({{stem, h}, {stem + w2, h}, kDown, text(2, w2)});
+    all.push_back({{w, 0}, {w, h2}, kRight, text(3, h2)});
+    break;
+  case BoardKind::Rectangle:
+    all.push_back({{0, h}, {w, h}, kDown, text(0, w)});
+    break;
+  }
+  return all;
+}
+
 } // namespace trassix

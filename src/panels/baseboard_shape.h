@@ -36,4 +36,15 @@ std::string boardProblem(const LastShape& shape, std::int32_t units);
 /// Only for a shape without a problem.
 std::vector<Point> boardOutline(const LastShape& shape);
 
+/// A measure as a drawing of the board shows it: a line between two points of the outline, drawn
+/// beside the board on the side that `outward` points to.
+struct BoardDimension {
+  Point from;
+  Point to;
+  Point outward;
+  std::string text; ///< name and length in the given unit
+};
+
+std::vector<BoardDimension> boardDimensions(const LastShape& shape, std::int32_t units);
+
 } // namespace trassix

@@ -94,12 +94,18 @@ constexpr const char* kLevelsAndBaseboard[] = {
                 "you selected before, or one that you draw. Undo brings back track that was "
                 "deleted with its level, but not the level itself."),
     wxTRANSLATE("# Baseboard"),
-    wxTRANSLATE("A plan that brings an outline of its table shows it behind the track, never in "
-                "the way of a click. The dialogs for the table and for exact rectangles are not "
-                "available in this version."),
+    wxTRANSLATE("Layout > Layout Shape gives the plan its table: a rectangle, an L, a U or a T of "
+                "exact measures, or a free outline that you draw corner by corner or take from a "
+                "shape selected before. It lies behind the track, never in the way of a click. A "
+                "table that is changed keeps its top left corner; the first one is put under what "
+                "is on the plan."),
     wxTRANSLATE("# Shapes"),
-    wxTRANSLATE("\"Polygon\" in the tool bar draws any outline corner by corner: an access hatch, "
-                "a lake, a road."),
+    wxTRANSLATE(
+        "\"Polygon\" in the tool bar draws any outline corner by corner: an access hatch, "
+        "a lake, a road. \"Rectangle\" places one of an exact size in the middle of the "
+        "view, selected, so that it can be moved to its place. Double-click a shape to give "
+        "it a label, colour, opacity, height and level, or to make it the baseboard."),
+    wxTRANSLATE("Lengths can be typed in any unit: 120, 12 cm or 4.75 in."),
     wxTRANSLATE("# Measures"),
     wxTRANSLATE("Layout > Units of Measure changes how lengths are shown. The plan itself stays "
                 "exact to a fraction of a millimetre, whichever unit you choose."),

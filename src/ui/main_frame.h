@@ -67,6 +67,8 @@ class MainFrame : public wxFrame, private LayoutHost {
   void unitsMm();
   void unitsCm();
   void unitsInch();
+  void chooseBaseboard();
+  void placeRectangle();
   void manageLevels();
   void options();
   void help();

@@ -130,8 +130,6 @@ void MainFrame::popupMenu(const std::vector<MenuRow>& rows) {
     chosen();
 }
 
-void MainFrame::editShape(std::int32_t) {}
-
 void MainFrame::putClipboard(const std::string& text) {
   if (!wxTheClipboard->Open())
     return;

@@ -1,6 +1,14 @@
 // The frame's commands on levels, the baseboard and shapes.
+#include "editing/level_edits.h"
+#include "editing/property_edits.h"
+#include "ui/baseboard_shape_dialog.h"
+#include "ui/canvas_panel.h"
 #include "ui/level_manager_dialog.h"
 #include "ui/main_frame.h"
+#include "ui/rectangle_dialog.h"
+#include "ui/shape_dialog.h"
+
+#include <algorithm>
 
 namespace trassix {
 
@@ -24,6 +32,48 @@ void MainFrame::manageLevels() {
     layout_.ensureLevel(*level);
     drawPolygon({PolygonUse::Kind::LevelOutline, *level});
   }
+}
+
+void MainFrame::chooseBaseboard() {
+  BaseboardShapeDialog dialog(this, layout_);
+  const int answer = dialog.ShowModal();
+  if (answer == BaseboardShapeDialog::kDraw)
+    drawPolygon({PolygonUse::Kind::Baseboard, -1});
+  const bool first = layout_.settings().baseboard.empty();
+  if (answer != wxID_OK || !dialog.apply())
+    return;
+  selectionChanged();
+  changed();
+  // A first board may lie anywhere; a changed one is where the user looks already.
+  if (first)
+    zoomToFit();
+}
+
+void MainFrame::placeRectangle() {
+  const Canvas& canvas = canvas_->canvas();
+  const wxSize size = canvas_->GetClientSize();
+  RectangleDialog dialog(this, layout_, canvas.view().toWorld({size.x / 2.0, size.y / 2.0}));
+  if (dialog.ShowModal() != wxID_OK || !dialog.place())
+    return;
+  setToolMode(ToolMode::Select); // so that it can be moved
+  selectionChanged();
+  changed();
+}
+
+void MainFrame::editShape(std::int32_t id) {
+  const auto& shapes = layout_.content().shapes;
+  const auto shape = std::ranges::find(shapes, id, &Shape::id);
+  if (shape == shapes.end())
+    return;
+  ShapeDialog dialog(this, layout_, *shape);
+  const int answer = dialog.ShowModal();
+  const bool done = answer == wxID_OK
+                        ? replaceRecord(layout_, dialog.wanted())
+                        : answer == ShapeDialog::kUseAsBaseboard && useAsBaseboard(layout_, id);
+  if (!done)
+    return;
+  selectionChanged();
+  changed();
 }
 
 } // namespace trassix

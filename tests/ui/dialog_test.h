@@ -19,6 +19,13 @@ class DialogTest : public FrameTest {
  protected:
   Layout& plan() { return frame().layout(); }
 
+  /// Until the plan has its size: dialogs are placed by it and take its middle.
+  void startLaidOut() {
+    start();
+    waitUntil("the plan has its size",
+              [this] { return frame().canvasPanel().GetClientSize().x > 500; });
+  }
+
   static wxWindow& in(wxDialog& dialog, const std::string& name) {
     wxWindow* window = wxWindow::FindWindowByName(name, &dialog);
     if (window == nullptr)

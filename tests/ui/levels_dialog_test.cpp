@@ -18,7 +18,7 @@ class LevelsTest : public DialogTest {
 };
 
 TEST_F(LevelsTest, LevelsAreAddedEditedAndDeletedInOneStep) {
-  start();
+  startLaidOut();
   placePiece();
   dialogs.drive("Levels", [&](wxDialog& dialog) {
     EXPECT_FALSE(enabled(dialog, wxID_DELETE));
@@ -52,7 +52,7 @@ TEST_F(LevelsTest, LevelsAreAddedEditedAndDeletedInOneStep) {
 }
 
 TEST_F(LevelsTest, CancelChangesNothingAndDeletingAsksWhatBecomesOfTheTrack) {
-  start();
+  startLaidOut();
   placePiece();
   plan().ensureLevel(2);
   plan().editSettings().levels[1].height = 80;
@@ -85,7 +85,7 @@ TEST_F(LevelsTest, CancelChangesNothingAndDeletingAsksWhatBecomesOfTheTrack) {
 }
 
 TEST_F(LevelsTest, AnOutlineIsDrawnOnThePlan) {
-  start();
+  startLaidOut();
   dialogs.drive("Levels", [&](wxDialog& dialog) { click(in(dialog, "outlineDraw")); });
   put(kLevels);
   ASSERT_EQ(frame().host().switches().mode, ToolMode::Polygon);

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "document/layout.h"
+#include "panels/baseboard_shape.h"
+#include "panels/length_entry.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace trassix {
+
+/// The baseboard while its dialog is open; the plan itself changes only by `apply`.
+class BoardForm {
+ public:
+  /// The first four are those of `BoardKind`.
+  enum class Choice : std::uint8_t { Rectangle, L, U, T, Free, None };
+  static constexpr std::size_t kMeasures = 4;
+
+  /// Begins with the present baseboard, or with the shape chosen last where there is none. The
+  /// layout must outlive the form.
+  explicit BoardForm(const Layout& layout);
+
+  Choice choice() const { return choice_; }
+  void choose(Choice choice) { choice_ = choice; }
+
+  /// Measures in the order of `boardMeasureNames`; those without a name do not count.
+  std::string_view measureName(std::size_t measure) const;
+  const LengthEntry& measure(std::size_t measure) const { return measures_.at(measure); }
+  void enter(std::size_t measure, std::string_view text) { measures_.at(measure).enter(text); }
+
+  /// The selected shape can become a free outline. It is no shape any more then.
+  bool shapeThere() const { return shape_ != nullptr; }
+  void takeShape();
+
+  /// Why this is no baseboard, in one sentence; empty when it is one.
+  std::string problem() const;
+
+  /// The shape of the chosen kind; none for a free outline or no baseboard.
+  std::optional<LastShape> shape() const;
+
+  /// Corners on the plan. A shape goes where the present baseboard has its top left corner, or
+  /// under what is on the plan. Empty for no baseboard and while there is a problem.
+  std::vector<Point> outline() const;
+
+  /// One undo step. False and nothing changed when all is as it was or there is a problem.
+  bool apply(Layout& layout) const;
+
+ private:
+  Point placeOf(const LastShape& shape) const;
+
+  const Layout& layout_;
+  const Shape* shape_; ///< the selected one
+  Choice choice_ = Choice::Rectangle;
+  std::vector<LengthEntry> measures_;
+  std::vector<Point> free_;
+  bool shapeTaken_ = false;
+};
+
+} // namespace trassix
