@@ -144,6 +144,10 @@ void describe(SheetBuilder& build, const PlacedPiece* piece) {
 void describe(SheetBuilder& build, const SceneryItem* item, const Layout& layout) {
   const SceneryDef* definition = findScenery(item->item);
   build.sheet.title = definition != nullptr ? std::string(definition->name) : item->item;
+  // The catalogue writes common nouns in small letters.
+  if (char& first = build.sheet.title.front();
+      definition != nullptr && first >= 'a' && first <= 'z')
+    first = static_cast<char>(first - 'a' + 'A');
   if (definition != nullptr)
     build.fixed("Category", std::string(categoryName(definition->category)));
   const Footprint size = sceneryFootprint(layout, *item);

@@ -21,8 +21,18 @@ constexpr const char* kPlan[] = {
     wxTRANSLATE("# Closing a loop"),
     wxTRANSLATE("When the last piece of a loop lies where its end meets another open end, both are "
                 "joined by themselves. Small dots show joined ends; open ends stay marked."),
+    wxTRANSLATE("# Exact values"),
+    wxTRANSLATE("The panel on the right shows what is selected. Type a position, a heading or a "
+                "height and press Enter; Esc brings the old value back. A length may name its "
+                "unit, such as \"12.5 cm\". A piece that is given another place leaves its "
+                "neighbours unless their ends still meet; a height lifts all track joined to the "
+                "piece. Right-click an empty spot to put a label there, double-click the label to "
+                "change its text."),
     wxTRANSLATE("# What to buy"),
-    wxTRANSLATE("The panel on the right counts the pieces on the plan, article by article."),
+    wxTRANSLATE("Below it the pieces on the plan are counted, article by article. Copy or save the "
+                "list for a spreadsheet. \"Purchase List...\" takes off what you have at home "
+                "already, which you enter once and which is remembered for all layouts, and opens "
+                "the shop with the rest."),
     wxTRANSLATE("# Nothing gets lost"),
     wxTRANSLATE("Every step can be taken back with Ctrl+Z and done again with Ctrl+Y. An asterisk "
                 "in the window's title tells that there are changes that are not saved."),

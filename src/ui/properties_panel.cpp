@@ -15,7 +15,8 @@ namespace {
 
 constexpr int kFieldsHeight = 440; ///< what the properties of a piece take
 constexpr int kLeastHeight = 120;
-constexpr double kFieldsShare = 0.55; ///< at most, where there is less room
+constexpr int kTallyHeight = 330;     ///< with a few rows
+constexpr double kFieldsShare = 0.45; ///< where there is too little room for both
 
 } // namespace
 
@@ -30,8 +31,8 @@ PropertiesPanel::PropertiesPanel(wxWindow* parent, LayoutHost& host)
   splitter->SetMinimumPaneSize(FromDIP(kLeastHeight));
   splitter->SetSashGravity(0.5);
   splitter->SplitHorizontally(fields_, tally_);
-  keepSash(*splitter, [most = FromDIP(kFieldsHeight)](int height) {
-    return std::min(most, static_cast<int>(height * kFieldsShare));
+  keepSash(*splitter, [most = FromDIP(kFieldsHeight), tally = FromDIP(kTallyHeight)](int height) {
+    return std::min(most, std::max(height - tally, static_cast<int>(height * kFieldsShare)));
   });
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   sizer->Add(splitter, wxSizerFlags(1).Expand());
