@@ -4,11 +4,16 @@
 #include <cerrno>
 
 #ifdef _WIN32
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
 #include <fcntl.h>
 #include <io.h>
 #include <share.h>
 #include <sys/stat.h>
+#include <windows.h>
 #else
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -35,8 +40,9 @@ bool mayWrite(const std::filesystem::path& file) {
 int openNew(const std::filesystem::path& file, const std::filesystem::path& /*replaced*/) {
   int descriptor = -1;
   // Text mode: line ends become those of the platform.
-  errno = _wsopen_s(&descriptor, file.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_TEXT, _SH_DENYRW,
-                    _S_IREAD | _S_IWRITE);
+  errno =
+      _wsopen_s(&descriptor, file.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_TEXT | _O_NOINHERIT,
+                _SH_DENYRW, _S_IREAD | _S_IWRITE);
   return descriptor;
 }
 
@@ -52,7 +58,23 @@ int closeFile(int descriptor) {
   return _close(descriptor);
 }
 
-void flushFolderOf(const std::filesystem::path& /*file*/) {}
+/// Not by ReplaceFile: that keeps more of the old file's attributes, but takes the old file away
+/// before it puts the new one there. Virus scanners and indexers hold fresh files for a moment, so
+/// that one refusal is not the last word.
+std::error_code renameOver(const std::filesystem::path& file, const std::filesystem::path& target) {
+  constexpr int kAttempts = 10;
+  constexpr DWORD kPause = 100; // milliseconds
+  for (int attempt = 1;; ++attempt) {
+    if (MoveFileExW(file.c_str(), target.c_str(),
+                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0)
+      return {};
+    const DWORD error = GetLastError();
+    const bool passing = error == ERROR_ACCESS_DENIED || error == ERROR_SHARING_VIOLATION;
+    if (!passing || attempt == kAttempts)
+      return {static_cast<int>(error), std::system_category()};
+    Sleep(kPause);
+  }
+}
 
 #else
 
@@ -96,6 +118,13 @@ void flushFolderOf(const std::filesystem::path& file) {
     return;
   ::fsync(descriptor);
   ::close(descriptor);
+}
+
+std::error_code renameOver(const std::filesystem::path& file, const std::filesystem::path& target) {
+  if (::rename(file.c_str(), target.c_str()) != 0)
+    return lastError();
+  flushFolderOf(target);
+  return {};
 }
 
 #endif
@@ -146,11 +175,7 @@ std::error_code SystemFileOperations::close() {
 
 std::error_code SystemFileOperations::rename(const std::filesystem::path& file,
                                              const std::filesystem::path& target) {
-  std::error_code error;
-  std::filesystem::rename(file, target, error);
-  if (!error)
-    flushFolderOf(target);
-  return error;
+  return renameOver(file, target);
 }
 
 void SystemFileOperations::remove(const std::filesystem::path& file) {

@@ -18,8 +18,9 @@ namespace trassix {
 
 ExportDialog::ExportDialog(wxWindow* parent, SavedLayouts saved,
                            const std::filesystem::path& destination)
-    : wxDialog(parent, wxID_ANY, _("Export Layout"), wxDefaultPosition, {440, 480},
-               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER, "export"),
+    : wxDialog(parent, wxID_ANY, _("Export Layout"), wxDefaultPosition,
+               parent->FromDIP(wxSize(440, 480)), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER,
+               "export"),
       saved_(std::move(saved)) {
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   const auto row = wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, 8);

@@ -15,8 +15,9 @@
 namespace trassix {
 
 ImportDialog::ImportDialog(wxWindow* parent, const std::filesystem::path& folder)
-    : wxDialog(parent, wxID_ANY, _("Import Layout"), wxDefaultPosition, {440, 480},
-               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER, "import") {
+    : wxDialog(parent, wxID_ANY, _("Import Layout"), wxDefaultPosition,
+               parent->FromDIP(wxSize(440, 480)), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER,
+               "import") {
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   const auto row = wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, 8);
   const auto label = [&](const wxString& text) {

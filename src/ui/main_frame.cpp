@@ -10,6 +10,7 @@
 #include "ui/command_table.h"
 #include "ui/experience_dialog.h"
 #include "ui/palette_panel.h"
+#include "ui/program_icon.h"
 #include "ui/properties_panel.h"
 #include "ui/sash_rule.h"
 #include "ui/utf8.h"
@@ -27,6 +28,7 @@ namespace trassix {
 
 namespace {
 
+const wxSize kSize(1400, 900);
 constexpr int kPaletteWidth = 235;
 constexpr int kPaletteMinWidth = 150;
 constexpr int kPropertiesWidth = 280;
@@ -40,8 +42,10 @@ wxSplitterWindow* makeSplitter(wxWindow* parent, const wxString& name) {
 
 } // namespace
 
-MainFrame::MainFrame() : wxFrame(nullptr, wxID_ANY, kBaseTitle, wxDefaultPosition, {1400, 900}) {
+MainFrame::MainFrame() : wxFrame(nullptr, wxID_ANY, kBaseTitle, wxDefaultPosition, kSize) {
+  SetSize(FromDIP(kSize)); // pixels grow with the display's resolution
   FrameTrace::write("A: wxFrame base constructed");
+  SetIcons(programIcon());
   buildMenuBar();
   FrameTrace::write("B: MenuBar done");
   buildToolBar();
@@ -84,7 +88,7 @@ void MainFrame::buildPanels() {
                                [this](std::string_view key) { canvas_->pickUpScenery(key); },
                                [this](const Block& block) { canvas_->pickUpBlock(block); },
                                [this] { return layout_.settings().units; }});
-  palette_->SetMinSize({kPaletteMinWidth, -1});
+  palette_->SetMinSize(FromDIP(wxSize(kPaletteMinWidth, -1)));
   FrameTrace::write("BuildPanels: palette created");
   auto* inner = makeSplitter(outer, "innerSplitter");
   FrameTrace::write("BuildPanels: splitter created");
@@ -92,13 +96,14 @@ void MainFrame::buildPanels() {
   FrameTrace::write("BuildPanels: canvas created");
   properties_ = new PropertiesPanel(inner, *this);
   FrameTrace::write("BuildPanels: properties created");
-  inner->SetMinimumPaneSize(kInnerMinWidth);
+  const int propertiesWidth = FromDIP(kPropertiesWidth);
+  inner->SetMinimumPaneSize(FromDIP(kInnerMinWidth));
   inner->SetSashGravity(1.0);
-  inner->SplitVertically(canvas_, properties_, -kPropertiesWidth);
-  keepSash(*inner, [](int width) { return width - kPropertiesWidth; });
-  outer->SetMinimumPaneSize(kPaletteMinWidth);
+  inner->SplitVertically(canvas_, properties_, -propertiesWidth);
+  keepSash(*inner, [propertiesWidth](int width) { return width - propertiesWidth; });
+  outer->SetMinimumPaneSize(FromDIP(kPaletteMinWidth));
   outer->SetSashGravity(0.0);
-  outer->SplitVertically(palette_, inner, kPaletteWidth);
+  outer->SplitVertically(palette_, inner, FromDIP(kPaletteWidth));
   FrameTrace::write("BuildPanels: split done");
   FrameTrace::write("BuildPanels: adding to sizer");
   auto* sizer = new wxBoxSizer(wxHORIZONTAL);

@@ -13,8 +13,8 @@ namespace trassix {
 
 OpenLayoutDialog::OpenLayoutDialog(wxWindow* parent, SavedLayouts saved,
                                    std::function<void(const std::filesystem::path&)> deleted)
-    : wxDialog(parent, wxID_ANY, _("Open Layout"), wxDefaultPosition, {320, 420},
-               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+    : wxDialog(parent, wxID_ANY, _("Open Layout"), wxDefaultPosition,
+               parent->FromDIP(wxSize(320, 420)), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       saved_(std::move(saved)), deleted_(std::move(deleted)) {
   wxArrayString texts;
   for (const std::string& name : saved_.names())
