@@ -329,8 +329,10 @@ void LevelManagerDialog::remove() {
     if (lock.empty())
       choice.rows.push_back(toUtf8(_("Delete")));
     else
-      choice.line += "\n" + toUtf8(wxGetTranslation(fromUtf8(lock))) + " " +
-                     toUtf8(_("It can be moved only."));
+      choice.line.append("\n")
+          .append(toUtf8(wxGetTranslation(fromUtf8(lock))))
+          .append(" ")
+          .append(toUtf8(_("It can be moved only.")));
     choice.accept = toUtf8(_("Delete Level"));
     ChoiceDialog question(this, choice);
     if (question.ShowModal() != wxID_OK)
