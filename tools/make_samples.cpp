@@ -369,6 +369,116 @@ Sample trixTwoLevels() {
   return s;
 }
 
+/// A double-track main line around an engine yard with its turntable; its western bend lies in a
+/// tunnel under a hill, on which a branch line ends in the upper town.
+Sample cTrackTwoTowns() {
+  Sample s;
+  s.table(-700, -720, 2620, 1800);
+  s.layout.ensureLevel();
+  s.layout.editSettings().levels.front().name = "Valley";
+  s.area({{120, 250}, {480, 210}, {560, 330}, {440, 440}, {150, 430}, {70, 330}}, kMeadow);
+  s.area({{1240, -390}, {1890, -420}, {1890, -180}, {1650, -150}, {1300, -180}}, kMeadow);
+  s.area({{700, 560}, {1250, 380}, {1400, 470}, {1400, 690}, {1000, 790}, {250, 760}, {230, 470}},
+         kGround);
+
+  std::vector<std::int32_t> covered;
+  const auto bend = [&](std::string_view curve) {
+    for (int i = 0; i < 6; ++i)
+      covered.push_back(s.extend(curve).last());
+  };
+  // Inner track with the passing loop and the way to the engine yard.
+  s.place("24612");
+  const std::int32_t west = s.last();
+  s.extend("24172").extend("24188", 3).extend("24172").extendBy("24611", 1, 0);
+  s.extend("24230", 6).extend("24172").extend("24188", 5).extend("24172");
+  bend("24230");
+  s.at(west, 2).extendLeft("24224").extend("24188").extend("24612");
+  const std::int32_t yard = s.last();
+  s.extend("24188").extendLeft("24224");
+  s.at(yard, 2).extend("24206").extend("24130", 2);
+  s.extendBy("74861", 22, 0);
+  const std::int32_t turntable = s.last();
+  for (const std::int32_t end : {29, 1})
+    s.at(s.layout.findPiece(turntable)->joint(static_cast<std::size_t>(end)).target, 1)
+        .extend("24188")
+        .extendBy("24977", 0, 0);
+  for (const std::int32_t end : {14, 15, 16})
+    s.at(s.layout.findPiece(turntable)->joint(static_cast<std::size_t>(end)).target, 1)
+        .extend("24188")
+        .extend("24188")
+        .extendBy("24977", 0, 0);
+  // Outer track.
+  s.place("24188", {0, -77.5, 0});
+  s.extend("24172").extend("24188", 3).extend("24172").extend("24188").extend("24330", 6);
+  s.extend("24172").extend("24188", 5).extend("24172");
+  bend("24330");
+
+  s.scenery("stn.medium", 650, -215);
+  s.row("plat.side", 470, -122, 180, 0, 3);
+  s.scenery("goods.shed", 1010, 210);
+  s.scenery("water.tower", 700, 330);
+  s.scenery("coal.stage", 1150, 300);
+  s.scenery("box.ground", 1180, -160);
+  s.scenery("sig.light.home", 60, -120);
+  s.scenery("sig.light.home", 1330, 40);
+  s.row("road.minor", 100, -330, 250, 0, 7);
+  s.scenery("church.village", 250, 330, 20);
+  s.scenery("inn", 380, 290);
+  s.scenery("house.detached", 160, 290, 10);
+  s.scenery("house.timber", 400, 380, 350);
+  s.scenery("house.two", 1380, -260);
+  s.scenery("farm.barn", 1560, -240, 15);
+  s.scenery("farm.house", 1720, -270, 350);
+  s.trees({{480, 320}, {110, 390}, {300, 420}, {1320, -350}, {1480, -340}, {1650, -350},
+           {1800, -220}, {1840, -350}, {1260, 760}, {1340, 740}, {1100, 770}, {1840, 60},
+           {1860, 420}, {1850, 760}, {1820, 1000}, {1650, 1030}, {300, 1030}, {620, 1030},
+           {940, 1035}, {1240, 1030}, {1840, -560}, {1700, -620}, {1590, -540}});
+  s.label(650, -290, "Lindenau");
+  s.label(1250, 620, "Engine yard");
+
+  Level hill;
+  hill.id = 2;
+  hill.name = "Hochfels";
+  hill.height = 150;
+  hill.trackcolor = true;
+  hill.color = {186, 142, 96};
+  hill.outline = {{-680, -700}, {1500, -700}, {1500, -440}, {260, -420}, {20, -250},
+                  {-20, 200}, {-20, 1060}, {-680, 1060}};
+  s.layout.editSettings().levels.push_back(hill);
+  s.layout.editSettings().activeLevel = 2;
+  s.place("24630", {-200, 250, 90});
+  const std::int32_t fan = s.last();
+  s.at(fan, 1).extend("24172").extend("24188", 2).extendBy("24977", 0, 0);
+  s.at(fan, 2).extendLeft("24224").extend("24188", 2).extendBy("24977", 0, 0);
+  s.at(fan, 3).extend("24224").extend("24188", 2).extendBy("24977", 0, 0);
+  s.at(fan, 0).extend("24188").extend("24172").extend("24130", 3).extend("24188");
+  s.extend("74620", 2).extend("24188", 3).extendBy("24977", 0, 0);
+  s.scenery("stn.small", -340, 880, 90);
+  s.scenery("shed.loco1", -420, 330, 90);
+  s.scenery("church.chapel", -480, 560);
+  s.scenery("house.timber", -570, 680, 10);
+  s.scenery("house.two", -560, 420, 350);
+  s.scenery("castle.ruin", 60, -620);
+  s.scenery("inn", 1050, -640);
+  s.trees({{-620, -600}, {-540, -520}, {-600, -420}, {-500, -300}, {-600, -160}, {-420, -640},
+           {-620, 60}, {-560, 220}, {-620, 860}, {-540, 1000}, {-440, 1010}, {-80, 980},
+           {420, -660}, {800, -660}, {1250, -650}, {1420, -500}, {1440, -640}});
+  s.label(-200, 1010, "Hochfels");
+
+  s.layout.editSettings().activeLevel = 1;
+  Tunnel tunnel;
+  s.scenery("tun.double", 10, -39, 90);
+  tunnel.portalA = s.layout.content().scenery.back().id;
+  s.scenery("tun.double", 10, 914, 90);
+  tunnel.portalB = s.layout.content().scenery.back().id;
+  tunnel.id = s.layout.takeId();
+  tunnel.anchorA = covered.front();
+  tunnel.anchorB = covered.back();
+  tunnel.covers = covered;
+  s.layout.edit().tunnels.push_back(tunnel);
+  return s;
+}
+
 struct File {
   const char* name;
   Sample (*make)();
@@ -378,6 +488,7 @@ constexpr File kFiles[] = {
     {"C-Track Oval with Siding", cTrackOval}, {"K-Track Freight Yard", kTrackYard},
     {"Z-Track Tabletop", zTrackTabletop},     {"M-Track Oval with Crossing", mTrackCrossing},
     {"Gauge 1 Garden Loop", gauge1Loop},      {"TRIX on Two Levels", trixTwoLevels},
+    {"C-Track Two Towns", cTrackTwoTowns},
 };
 
 int writeAll(const std::filesystem::path& folder) {

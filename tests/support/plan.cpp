@@ -81,9 +81,12 @@ Play largestPlay(const Layout& layout) {
 
 int openEnds(const Layout& layout) {
   int open = 0;
-  for (const PlacedPiece& piece : layout.pieces())
+  for (const PlacedPiece& piece : layout.pieces()) {
+    if (definitionOf(piece)->kind == PieceKind::Turntable)
+      continue;
     for (const WorldConnector& end : WorldConnectorsOf(piece, *definitionOf(piece)))
       open += end.free ? 1 : 0;
+  }
   return open;
 }
 

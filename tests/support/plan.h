@@ -48,6 +48,7 @@ struct Play {
 Play playOf(const Layout& layout, const PlacedPiece& piece, std::int32_t connector);
 Play largestPlay(const Layout& layout);
 
+/// Ends that nothing is joined to, but for those of turntables, which are never all in use.
 int openEnds(const Layout& layout);
 
 /// The first rule that the plan breaks, in words; empty when it is sound: unique ids below the
