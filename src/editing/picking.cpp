@@ -1,6 +1,7 @@
 #include "editing/picking.h"
 
 #include "editing/polygons.h"
+#include "editing/records_by_id.h"
 #include "editing/scenery_footprint.h"
 
 #include <algorithm>
@@ -19,13 +20,6 @@ bool inBox(const Box& box, const Polygon& polygon, bool whole) {
   return !polygon.empty() && (whole ? liesIn(polygon, box) : touches(polygon, box));
 }
 
-template <typename Records>
-auto* findRecord(Records& records, std::int32_t id) {
-  const auto found = std::find_if(records.begin(), records.end(),
-                                  [id](const auto& record) { return record.id == id; });
-  return found == records.end() ? nullptr : &*found;
-}
-
 /// Calls `visit` with the record, if there is one.
 template <typename Content, typename Visit>
 void withRecord(Content& content, const Pick& pick, Visit visit) {
@@ -35,15 +29,15 @@ void withRecord(Content& content, const Pick& pick, Visit visit) {
   };
   switch (pick.kind) {
   case RecordKind::Label:
-    return call(findRecord(content.labels, pick.id));
+    return call(recordWithId(content.labels, pick.id));
   case RecordKind::Measurement:
-    return call(findRecord(content.measurements, pick.id));
+    return call(recordWithId(content.measurements, pick.id));
   case RecordKind::Piece:
-    return call(findRecord(content.pieces, pick.id));
+    return call(recordWithId(content.pieces, pick.id));
   case RecordKind::Scenery:
-    return call(findRecord(content.scenery, pick.id));
+    return call(recordWithId(content.scenery, pick.id));
   case RecordKind::Shape:
-    return call(findRecord(content.shapes, pick.id));
+    return call(recordWithId(content.shapes, pick.id));
   }
 }
 
@@ -55,14 +49,18 @@ double letterCount(std::string_view text) {
 
 } // namespace
 
+Box labelBox(const Label& label, double mmPerPx) {
+  const double halfWidth = (letterCount(label.text) * kLabelCharPx / 2 + 5) * mmPerPx;
+  const double halfHeight = kLabelHalfHeightPx * mmPerPx;
+  return {label.x - halfWidth, label.y - halfHeight, label.x + halfWidth, label.y + halfHeight};
+}
+
 std::vector<Pick> picksAt(const Layout& layout, const PlanIndex& index, Point at, double mmPerPx) {
   std::vector<Pick> picks;
   const PlanContent& content = layout.content();
   const double tolerance = kTolerancePx * mmPerPx;
   for (auto label = content.labels.rbegin(); label != content.labels.rend(); ++label) {
-    const double halfWidth = (letterCount(label->text) * kLabelCharPx / 2 + 5) * mmPerPx;
-    if (std::abs(at.x - label->x) <= halfWidth &&
-        std::abs(at.y - label->y) <= kLabelHalfHeightPx * mmPerPx)
+    if (holds(labelBox(*label, mmPerPx), at))
       picks.push_back({RecordKind::Label, label->id});
   }
   for (const Measurement& tape : content.measurements)

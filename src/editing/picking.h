@@ -22,6 +22,9 @@ struct Pick {
 /// extent of labels, which are drawn at one size whatever the zoom.
 std::vector<Pick> picksAt(const Layout& layout, const PlanIndex& index, Point at, double mmPerPx);
 
+/// About what a label covers, in mm.
+Box labelBox(const Label& label, double mmPerPx);
+
 bool isSelected(const Layout& layout, const Pick& pick);
 void setSelected(Layout& layout, const Pick& pick, bool selected);
 

@@ -199,7 +199,8 @@ void CanvasPanel::onMouse(wxMouseEvent& event) {
 
 void CanvasPanel::onWheel(wxMouseEvent& event) {
   if (event.GetWheelAxis() == wxMOUSE_WHEEL_VERTICAL)
-    canvas_.wheel(inputOf(event), event.GetWheelRotation());
+    canvas_.wheel(inputOf(event), static_cast<double>(event.GetWheelRotation()) /
+                                      std::max(event.GetWheelDelta(), 1));
 }
 
 void CanvasPanel::onKeyDown(wxKeyEvent& event) {

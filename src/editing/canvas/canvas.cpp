@@ -19,6 +19,7 @@ namespace {
 constexpr double kDragThresholdPx = 3;
 constexpr double kWheelIn = 1.15;
 constexpr double kWheelOut = 0.8695652173913044; // 1 / 1.15
+constexpr double kWheelRounding = 1e-9;          ///< by which fractions of a notch may miss it
 
 bool beyondThreshold(Point a, Point b) {
   return std::abs(a.x - b.x) > kDragThresholdPx || std::abs(a.y - b.y) > kDragThresholdPx;
@@ -136,14 +137,26 @@ void Canvas::doubleClick(const PointerInput& input) {
   afterInput();
 }
 
-void Canvas::wheel(const PointerInput& input, double rotation) {
+void Canvas::wheel(const PointerInput& input, double notches) {
   const Input working(*this);
   last_ = input;
-  if (rotation == 0)
+  if (notches == 0)
     return;
-  if (!tool().wheel(input, rotation > 0 ? 1 : -1)) {
-    site_.view.zoomAbout(rotation > 0 ? kWheelIn : kWheelOut, input.px);
+  const bool whole = std::abs(notches) >= 1;
+  if (!tool().takesWheel(input)) {
+    wheelRest_ = 0;
+    const double step = notches > 0 ? kWheelIn : kWheelOut;
+    site_.view.zoomAbout(whole ? step : std::pow(kWheelIn, notches), input.px);
     site_.host.repaint();
+  } else {
+    // Turning back counts from the start.
+    if (whole || wheelRest_ * notches < 0)
+      wheelRest_ = 0;
+    wheelRest_ += whole ? std::copysign(1.0, notches) : notches;
+    if (const double step = std::round(wheelRest_); std::abs(wheelRest_) >= 1 - kWheelRounding) {
+      wheelRest_ -= step;
+      tool().wheel(input, step > 0 ? 1 : -1);
+    }
   }
   afterInput();
 }

@@ -29,8 +29,9 @@ class Canvas {
   void move(const PointerInput& input);
   void release(Button button, const PointerInput& input);
   void doubleClick(const PointerInput& input);
-  /// `rotation` is signed; only its sign counts. For precise devices see `zoomSmoothly`.
-  void wheel(const PointerInput& input, double rotation);
+  /// `notches` is signed. Of a whole notch or more only the sign counts; touchpads send fractions,
+  /// which zoom in proportion and add up to the steps of everything else.
+  void wheel(const PointerInput& input, double notches);
   bool key(const KeyInput& input);
   void setSpace(bool down) { space_ = down; }
   /// Esc or a lost capture: ends whatever is under way and leaves no ghost.
@@ -102,6 +103,7 @@ class Canvas {
   PointerInput pressed_;
   Point originAtPress_;
   bool space_ = false;
+  double wheelRest_ = 0; ///< notches on the way to the next step
   PointerInput last_;
 };
 

@@ -102,8 +102,10 @@ class CanvasTool {
   virtual void release(const PointerInput&, bool /*dragged*/) {}
   virtual void doubleClick(const PointerInput&) {}
   virtual void contextMenu(const PointerInput&) {}
-  /// `direction` is +1 or -1. False lets the wheel zoom.
-  virtual bool wheel(const PointerInput&, int /*direction*/) { return false; }
+  /// False lets the wheel zoom.
+  virtual bool takesWheel(const PointerInput&) const { return false; }
+  /// One notch of the wheel, if it is taken; `direction` is +1 or -1.
+  virtual void wheel(const PointerInput&, int /*direction*/) {}
   virtual bool key(const KeyInput&) { return false; }
   /// Esc, a lost capture or another tool: leaves everything as it was before the gesture.
   virtual void cancel() {}

@@ -43,10 +43,9 @@ void CarryTool::turn(double degrees) {
   site_.host.repaint();
 }
 
-bool CarryTool::wheel(const PointerInput& input, int direction) {
+void CarryTool::wheel(const PointerInput& input, int direction) {
   moveTo(input.world);
   turn(direction * (input.shift ? kFineTurn : kTurn));
-  return true;
 }
 
 bool CarryTool::key(const KeyInput& input) {

@@ -17,7 +17,8 @@ class CarryTool : public CanvasTool {
   void hover(const PointerInput& input) final;
   void drag(const PointerInput& input) final { hover(input); }
   void release(const PointerInput& input, bool dragged) final;
-  bool wheel(const PointerInput& input, int direction) final;
+  bool takesWheel(const PointerInput&) const final { return true; }
+  void wheel(const PointerInput& input, int direction) final;
   bool key(const KeyInput& input) final;
   void cancel() final { done_ = true; }
   bool finished() const final { return done_; }

@@ -22,6 +22,15 @@ namespace {
 constexpr double kGridFromPx = 9; ///< lines of the grid are at least this far apart
 constexpr double kArticleFromZoom = 0.22;
 
+constexpr double kStrokeReachPx = 4; ///< of the widest edge and its joins
+constexpr double kTapeReachPx = 60;  ///< of a tape's length, written beside it
+constexpr TextStyle kShapeText{colors::kLabel, 12, false};
+
+/// More than half of what the text takes, without measuring it.
+double longest(std::string_view text, double size) {
+  return static_cast<double>(text.size()) * size + 20;
+}
+
 /// Where the article is tried beside the middle of a piece: side of the track, and px farther out.
 constexpr std::array<std::pair<double, double>, 6> kArticlePlaces{
     {{-1, 0}, {1, 0}, {-1, 5}, {1, 5}, {-1, 11}, {1, 11}}};
@@ -86,6 +95,13 @@ std::vector<Point> LayoutPainter::outline(std::span<const Point> points) const {
   return px;
 }
 
+bool LayoutPainter::isBeside(std::span<const Point> px, double reach) const {
+  const auto all = [px](auto outside) { return std::all_of(px.begin(), px.end(), outside); };
+  return all([&](Point p) { return p.x < -reach; }) || all([&](Point p) { return p.y < -reach; }) ||
+         all([&](Point p) { return p.x > size_.width + reach; }) ||
+         all([&](Point p) { return p.y > size_.height + reach; });
+}
+
 void LayoutPainter::paintBoard(const Layout& layout) {
   const PlanSettings& settings = layout.settings();
   if (settings.baseboard.size() >= 3)
@@ -140,6 +156,8 @@ void LayoutPainter::paintShapes(const Layout& layout) {
     if (shape.points.size() < 2 || !layout.levelVisible(shape.level))
       continue;
     const std::vector<Point> px = outline(shape.points);
+    if (isBeside(px, longest(shape.label, kShapeText.size)))
+      continue;
     const Rgba fill = opaque(shape.color, shape.a);
     const Stroke edge =
         shape.sel ? Stroke{colors::kSelected, 2.5} : Stroke{opaque(shape.color), 1.5};
@@ -150,7 +168,7 @@ void LayoutPainter::paintShapes(const Layout& layout) {
     for (const Point& p : px)
       middle = {middle.x + p.x / static_cast<double>(px.size()),
                 middle.y + p.y / static_cast<double>(px.size())};
-    surface_.text(shape.label, middle, 0, {colors::kLabel, 12, false});
+    surface_.text(shape.label, middle, 0, kShapeText);
   }
 }
 
@@ -158,9 +176,12 @@ void LayoutPainter::paintScenery(const Layout& layout) {
   for (const SceneryItem& item : layout.content().scenery) {
     if (!layout.levelVisible(item.level))
       continue;
+    const std::vector<Point> px = outline(sceneryOutline(layout, item));
+    if (isBeside(px, kStrokeReachPx))
+      continue;
     Rgba fill = colors::kScenery;
     fill.a = 70;
-    surface_.polygon(outline(sceneryOutline(layout, item)), fill,
+    surface_.polygon(px, fill,
                      item.sel ? Stroke{colors::kSelected, 2.5} : Stroke{colors::kScenery, 1.2});
   }
 }
@@ -168,10 +189,13 @@ void LayoutPainter::paintScenery(const Layout& layout) {
 void LayoutPainter::paintHelices(const Layout& layout) {
   for (const Helix& helix : layout.content().helices) {
     const Point centre = view_.toScreen({helix.cx, helix.cy});
-    surface_.circle(centre, helixHalfSize(helix.variant) * view_.zoom(), Rgba{112, 104, 96, 30},
+    const double radius = helixHalfSize(helix.variant) * view_.zoom();
+    if (isBeside({&centre, 1}, radius + kStrokeReachPx))
+      continue;
+    surface_.circle(centre, radius, Rgba{112, 104, 96, 30},
                     Stroke{colors::kTunnel, 1.5, Stroke::Style::Dashed});
     if (const HelixKit* kit = findHelixKit(helix.variant))
-      surface_.text(kit->name, centre, 0, {colors::kLabel, 12, false});
+      surface_.text(kit->name, centre, 0, kShapeText);
   }
 }
 
@@ -291,14 +315,19 @@ void LayoutPainter::paintArticles(std::span<const Visible> pieces) {
 }
 
 void LayoutPainter::paintMeasurements(const Layout& layout) {
-  for (const Measurement& tape : layout.content().measurements)
-    paintTape(surface_, view_, tape.from, tape.to, layout.settings().units, tape.sel);
+  for (const Measurement& tape : layout.content().measurements) {
+    const std::array<Point, 2> ends{view_.toScreen(tape.from), view_.toScreen(tape.to)};
+    if (!isBeside(ends, kTapeReachPx))
+      paintTape(surface_, view_, tape.from, tape.to, layout.settings().units, tape.sel);
+  }
 }
 
 void LayoutPainter::paintLabels(const Layout& layout) {
   for (const Label& label : layout.content().labels) {
     const Point at = view_.toScreen({label.x, label.y});
     const TextStyle style{colors::kLabel, 13, true};
+    if (isBeside({&at, 1}, longest(label.text, style.size)))
+      continue;
     const SizePx box = surface_.textSize(label.text, style);
     const double w = box.width / 2 + 5;
     const double h = box.height / 2 + 2;

@@ -47,6 +47,8 @@ class LayoutPainter {
   void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);
   void paintArticles(std::span<const Visible> pieces);
   std::vector<Point> outline(std::span<const Point> points) const;
+  /// True when nothing within `reach` px of the points' box is on the surface.
+  bool isBeside(std::span<const Point> px, double reach) const;
 
   Surface& surface_;
   SizePx size_;

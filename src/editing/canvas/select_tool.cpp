@@ -1,11 +1,11 @@
 #include "editing/canvas/select_tool.h"
 
-#include "catalog/track_catalog.h"
 #include "editing/annotations.h"
-#include "editing/canvas/piece_painter.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/hover.h"
+#include "editing/canvas/selection_commands.h"
 #include "editing/canvas/selection_menu.h"
 #include "editing/placing.h"
+#include "editing/records_by_id.h"
 #include "editing/selection.h"
 
 #include <algorithm>
@@ -18,13 +18,6 @@ constexpr double kNudge = 10.0; ///< mm
 constexpr double kFineNudge = 1.0;
 constexpr double kWheelTurn = 15.0; ///< degrees
 constexpr double kFineWheelTurn = 5.0;
-
-const Label* findLabel(const Layout& layout, std::int32_t id) {
-  for (const Label& label : layout.content().labels)
-    if (label.id == id)
-      return &label;
-  return nullptr;
-}
 
 } // namespace
 
@@ -117,16 +110,12 @@ void SelectTool::doubleClick(const PointerInput& input) {
   };
   const Pick* piece = first(RecordKind::Piece);
   if (input.alt) {
-    if (!piece)
-      return;
-    layout.clearSelection();
-    for (const std::int32_t id : chainOf(layout, piece->id))
-      setSelected(layout, {RecordKind::Piece, id}, true);
-    site_.host.selectionChanged();
+    if (piece)
+      selectChain(site_, piece->id);
     return;
   }
   if (const Pick* label = first(RecordKind::Label); label && !piece) {
-    const Label* record = findLabel(layout, label->id);
+    const Label* record = recordWithId(layout.content().labels, label->id);
     const auto text = site_.host.askText("Edit Label", "Text:", record->text);
     if (text && editLabelText(layout, label->id, *text))
       site_.host.changed();
@@ -140,16 +129,12 @@ void SelectTool::doubleClick(const PointerInput& input) {
     site_.report(cloneAndExtend(layout, piece->id));
 }
 
-bool SelectTool::wheel(const PointerInput& input, int direction) {
-  if (!input.ctrl || !selectionBox(site_.layout()))
-    return false;
-  if (const std::optional<Notice> refusal = lockGuard(site_.layout(), "rotate")) {
-    site_.host.show(*refusal);
-    return true;
-  }
-  if (rotateSelection(site_.layout(), direction * (input.shift ? kFineWheelTurn : kWheelTurn)))
-    site_.host.changed();
-  return true;
+bool SelectTool::takesWheel(const PointerInput& input) const {
+  return input.ctrl && selectionBox(site_.layout());
+}
+
+void SelectTool::wheel(const PointerInput& input, int direction) {
+  turnSelection(site_, direction * (input.shift ? kFineWheelTurn : kWheelTurn));
 }
 
 bool SelectTool::mayLeave(Point step) {
@@ -208,18 +193,14 @@ bool SelectTool::key(const KeyInput& input) {
   case Key::Copy:
     return site_.clipboard.copy(site_.host);
   case Key::Cut:
-    if (site_.clipboard.copy(site_.host))
-      site_.host.deleteSelection();
+    cutSelection(site_);
     return true;
   case Key::Paste:
     site_.carryBlock(site_.clipboard.paste(site_.host));
     return true;
-  case Key::Duplicate: {
-    Block copy = blockFromSelection(site_.layout());
-    centreBlock(copy);
-    site_.carryBlock(std::move(copy));
+  case Key::Duplicate:
+    duplicateSelection(site_);
     return true;
-  }
   default:
     return nudge(input);
   }
@@ -244,42 +225,35 @@ void SelectTool::contextMenu(const PointerInput& input) {
   site_.host.popupMenu(selectionMenu(site_, picks, input.world));
 }
 
-void SelectTool::paintHover(Surface& surface) const {
-  if (!hovered_ || hovered_->kind != RecordKind::Piece || isSelected(site_.layout(), *hovered_))
-    return;
-  const PlacedPiece* piece = site_.layout().findPiece(hovered_->id);
-  const PieceDef* definition = piece ? TrackCatalog::instance().find(piece->cat) : nullptr;
-  if (!definition)
-    return;
-  PiecePainter painter(surface, site_.view);
-  const TrackGeometry& geometry = trackGeometryOf(*definition);
-  for (const auto& outline : geometry.beds)
-    surface.polygon(painter.toScreen(outline, poseOf(*piece)), Rgba{32, 108, 214, 28},
-                    Stroke{plan_colors::kHover, 1.5});
-}
-
 void SelectTool::paint(Surface& surface) const {
   if (gesture_)
     gesture_->paint(surface);
-  else
-    paintHover(surface);
+  else if (hovered_ && !isSelected(site_.layout(), *hovered_))
+    paintHover(surface, site_, *hovered_);
 }
 
 std::string SelectTool::hint() const {
   if (gesture_)
     return gesture_->hint();
-  if (hovered_ && hovered_->kind == RecordKind::Piece) {
-    const PlacedPiece* piece = site_.layout().findPiece(hovered_->id);
-    const PieceDef* definition = piece ? TrackCatalog::instance().find(piece->cat) : nullptr;
-    if (definition)
-      return definition->name + "    Click: select    Double-click: extend    Drag: move";
+  const Layout& layout = site_.layout();
+  const std::string name = hovered_ ? nameOf(layout, *hovered_) : std::string();
+  if (!name.empty()) {
+    std::string text = name;
+    text += isSelected(layout, *hovered_) ? "    Click: what lies below" : "    Click: select";
+    text += "    Drag: move";
+    if (hovered_->kind == RecordKind::Piece)
+      text += "    Double-click: extend    Alt+double-click: all joined track";
+    else if (hovered_->kind == RecordKind::Label)
+      text += "    Double-click: edit the text";
+    else if (hovered_->kind == RecordKind::Shape)
+      text += "    Double-click: edit";
+    return text + "    Right-click: more";
   }
-  if (hovered_ && hovered_->kind == RecordKind::Label)
-    return "Click: select    Double-click: edit the text    Drag: move";
-  if (hasSelection(site_.layout()))
-    return "Drag: move    Alt+drag: turn    Ctrl+wheel: turn 15\u00b0    Arrows: nudge    Del: "
-           "delete";
-  return "Ready";
+  if (hasSelection(layout))
+    return "Drag: move    Alt+drag: turn    Ctrl+wheel: turn 15\u00b0 (Shift: 5\u00b0)    Arrows: "
+           "nudge (Shift: finer)    Del: delete    Esc: deselect";
+  return "Drag: select in a box    Wheel: zoom    Ctrl+drag or Space+drag: pan    Right-click: "
+         "menu";
 }
 
 CursorShape SelectTool::cursor() const {

@@ -21,7 +21,8 @@ class SelectTool : public CanvasTool {
   void release(const PointerInput& input, bool dragged) override;
   void doubleClick(const PointerInput& input) override;
   void contextMenu(const PointerInput& input) override;
-  bool wheel(const PointerInput& input, int direction) override;
+  bool takesWheel(const PointerInput& input) const override;
+  void wheel(const PointerInput& input, int direction) override;
   bool key(const KeyInput& input) override;
   void cancel() override;
   std::span<const std::int32_t> lifted() const override;
@@ -37,7 +38,6 @@ class SelectTool : public CanvasTool {
   bool nudge(const KeyInput& input);
   /// Asks before the selection, going by `step`, leaves graded track.
   bool mayLeave(Point step);
-  void paintHover(Surface& surface) const;
 
   PointerInput pressed_;
   std::optional<Pick> hovered_;

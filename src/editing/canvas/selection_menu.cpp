@@ -3,6 +3,7 @@
 #include "editing/annotations.h"
 #include "editing/autofill.h"
 #include "editing/canvas/autofill_command.h"
+#include "editing/canvas/selection_commands.h"
 #include "editing/placing.h"
 #include "editing/selection.h"
 #include "editing/swapping.h"
@@ -41,40 +42,25 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
     const std::int32_t piece = under.front().id;
     rows.push_back({"Extend", "Double-click", true,
                     [&site, piece] { site.report(cloneAndExtend(site.layout(), piece)); }});
-    rows.push_back({"Select Joined Track", "Alt+Double-click", true, [&site, piece] {
-                      site.layout().clearSelection();
-                      for (const std::int32_t id : chainOf(site.layout(), piece))
-                        setSelected(site.layout(), {RecordKind::Piece, id}, true);
-                      site.host.selectionChanged();
-                    }});
+    rows.push_back({"Select Joined Track", "Alt+Double-click", true,
+                    [&site, piece] { selectChain(site, piece); }});
   }
   if (onPiece)
     addSwaps(rows, site, under.front().id);
   if (hasSelection(layout)) {
     separator();
-    const auto turn = [&site](double degrees) {
-      if (const std::optional<Notice> refusal = lockGuard(site.layout(), "rotate"))
-        site.host.show(*refusal);
-      else if (rotateSelection(site.layout(), degrees))
-        site.host.changed();
-    };
     if (selectionBox(layout)) {
-      rows.push_back({"Turn Right 15\u00b0", "Ctrl+Wheel", true, [turn] { turn(15); }});
-      rows.push_back({"Turn Left 15\u00b0", "Ctrl+Wheel", true, [turn] { turn(-15); }});
+      rows.push_back(
+          {"Turn Right 15\u00b0", "Ctrl+Wheel", true, [&site] { turnSelection(site, 15); }});
+      rows.push_back(
+          {"Turn Left 15\u00b0", "Ctrl+Wheel", true, [&site] { turnSelection(site, -15); }});
     }
     if (canAutofill(layout))
       rows.push_back({"Autofill Gap...", "", true, [&site] { runAutofill(site); }});
     const bool copyable = !blockFromSelection(layout).empty();
-    rows.push_back({"Cut", "Ctrl+X", copyable, [&site] {
-                      if (site.clipboard.copy(site.host))
-                        site.host.deleteSelection();
-                    }});
+    rows.push_back({"Cut", "Ctrl+X", copyable, [&site] { cutSelection(site); }});
     rows.push_back({"Copy", "Ctrl+C", copyable, [&site] { site.clipboard.copy(site.host); }});
-    rows.push_back({"Duplicate", "Ctrl+D", copyable, [&site] {
-                      Block copy = blockFromSelection(site.layout());
-                      centreBlock(copy);
-                      site.carryBlock(std::move(copy));
-                    }});
+    rows.push_back({"Duplicate", "Ctrl+D", copyable, [&site] { duplicateSelection(site); }});
     rows.push_back({"Delete", "Del", true, [&site] { site.host.deleteSelection(); }});
   }
   separator();

@@ -52,8 +52,8 @@ class CanvasScript {
     release(to, mods);
   }
   bool key(Key key, bool shift = false) { return canvas.key({key, shift}); }
-  void wheel(Point world, int direction, unsigned mods = kNone) {
-    canvas.wheel(at(world, mods), 120.0 * direction);
+  void wheel(Point world, double notches, unsigned mods = kNone) {
+    canvas.wheel(at(world, mods), notches);
   }
   /// Carries a catalogue piece from the palette to this point.
   void carry(std::string_view article, Point world) {

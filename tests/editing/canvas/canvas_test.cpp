@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 namespace trassix::test {
 namespace {
 
@@ -25,6 +27,25 @@ TEST(CanvasView, WheelZoomsAboutThePointerWithinLimits) {
     EXPECT_NEAR(script.canvas.view().toScreen(world).x, 500, 1e-6);
     EXPECT_NEAR(script.canvas.view().toScreen(world).y, 300, 1e-6);
   }
+}
+
+TEST(CanvasView, ATouchpadZoomsInProportionAndTurnsByWholeNotches) {
+  CanvasScript script;
+  for (int i = 0; i < 8; ++i)
+    script.wheel({300, 300}, 0.25);
+  EXPECT_NEAR(script.canvas.view().zoom(), 0.4 * 1.15 * 1.15, 1e-9);
+  script.wheel({300, 300}, -0.5);
+  EXPECT_NEAR(script.canvas.view().zoom(), 0.4 * std::pow(1.15, 1.5), 1e-9);
+  script.wheel({300, 300}, 3);
+  EXPECT_NEAR(script.canvas.view().zoom(), 0.4 * std::pow(1.15, 2.5), 1e-9) << "a fast wheel";
+
+  script.carry("24188", {600, 300});
+  for (const double notches : {0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, 0.1, // one step
+                               0.7, -0.6, -0.4, // back by one: what was begun is forgotten
+                               -0.9, 1.0})      // a whole notch counts as one
+    script.wheel({600, 300}, notches);
+  script.release({600, 300});
+  EXPECT_EQ(script.pieces().at(0).heading, 30);
 }
 
 TEST(CanvasView, FitCentresTheContentWithItsMargin) {

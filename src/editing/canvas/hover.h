@@ -1,0 +1,17 @@
+// What the pointer is over, in words and on the plan.
+#pragma once
+
+#include "editing/canvas/canvas_tool.h"
+#include "editing/picking.h"
+
+#include <string>
+
+namespace trassix {
+
+/// Article and name of a piece, the name of other things; empty for one that is gone.
+std::string nameOf(const Layout& layout, const Pick& pick);
+
+/// Marks what a click would select.
+void paintHover(Surface& surface, const ToolSite& site, const Pick& pick);
+
+} // namespace trassix

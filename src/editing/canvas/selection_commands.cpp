@@ -1,0 +1,35 @@
+#include "editing/canvas/selection_commands.h"
+
+#include "editing/block_placing.h"
+#include "editing/picking.h"
+#include "editing/selection.h"
+
+namespace trassix {
+
+void turnSelection(ToolSite& site, double degrees) {
+  if (const std::optional<Notice> refusal = lockGuard(site.layout(), "rotate"))
+    site.host.show(*refusal);
+  else if (rotateSelection(site.layout(), degrees))
+    site.host.changed();
+}
+
+void cutSelection(ToolSite& site) {
+  if (site.clipboard.copy(site.host))
+    site.host.deleteSelection();
+}
+
+void duplicateSelection(ToolSite& site) {
+  Block copy = blockFromSelection(site.layout());
+  centreBlock(copy);
+  site.carryBlock(std::move(copy));
+}
+
+void selectChain(ToolSite& site, std::int32_t piece) {
+  Layout& layout = site.layout();
+  layout.clearSelection();
+  for (const std::int32_t id : chainOf(layout, piece))
+    setSelected(layout, {RecordKind::Piece, id}, true);
+  site.host.selectionChanged();
+}
+
+} // namespace trassix

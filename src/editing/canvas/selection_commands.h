@@ -1,0 +1,21 @@
+// What keys, wheel and context menu do alike with the selection.
+#pragma once
+
+#include "editing/canvas/canvas_tool.h"
+
+#include <cstdint>
+
+namespace trassix {
+
+/// By degrees, clockwise; refused in words when the selection is locked.
+void turnSelection(ToolSite& site, double degrees);
+
+void cutSelection(ToolSite& site);
+
+/// Hangs a copy of the selection on the pointer.
+void duplicateSelection(ToolSite& site);
+
+/// Selects all track that is joined to the piece, and nothing else.
+void selectChain(ToolSite& site, std::int32_t piece);
+
+} // namespace trassix
