@@ -179,6 +179,9 @@ void MainFrame::run(const Command& command) {
     if (command.id == kUndo)
       return;
   }
+  // What is typed but not entered yet is meant to be saved, exported or undone too.
+  if (properties_)
+    properties_->enterPending();
   (this->*command.action)();
 }
 
@@ -193,6 +196,8 @@ void MainFrame::onCharHook(wxKeyEvent& event) {
 }
 
 void MainFrame::onClose(wxCloseEvent& event) {
+  if (event.CanVeto() && properties_)
+    properties_->enterPending();
   if (event.CanVeto() && !promptUnsaved()) {
     event.Veto();
     return;

@@ -48,6 +48,10 @@ void PropertiesPanel::selectionChanged() {
   fields_->show(propertySheetOf(host_.layout()));
 }
 
+void PropertiesPanel::enterPending() {
+  fields_->enterPending();
+}
+
 std::string PropertiesPanel::enter(PropertyId id, const PropertyValue& value) {
   const PropertyAnswer answer =
       setProperty(host_.layout(), id, value,

@@ -20,6 +20,8 @@ class PropertiesPanel : public wxPanel {
   /// The document changed.
   void recompute();
   void selectionChanged();
+  /// What is being typed into a field counts from now on.
+  void enterPending();
 
  private:
   std::string enter(PropertyId id, const PropertyValue& value);

@@ -262,6 +262,16 @@ void PropertyFields::wrapTexts() {
   }
 }
 
+void PropertyFields::enterPending() {
+  const wxWindow* focus = FindFocus();
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    if (rows_[i].editor == focus && editorOf(sheet_.rows[i]) == Editor::Text) {
+      enterText(i);
+      return;
+    }
+  }
+}
+
 void PropertyFields::enterText(std::size_t index) {
   const auto* text = static_cast<wxTextCtrl*>(rows_[index].editor);
   if (text->GetValue() == fromUtf8(sheet_.rows[index].value))

@@ -23,6 +23,9 @@ class PropertyFields : public wxScrolledWindow {
 
   void show(const PropertySheet& sheet);
 
+  /// Hands over what has been typed so far, as leaving the field would.
+  void enterPending();
+
  private:
   struct Row {
     wxWindow* editor = nullptr;

@@ -5,6 +5,7 @@
 #include "frame_test.h"
 #include "panels/owned_stock.h"
 #include "support/print_records.h"
+#include "ui/command_ids.h"
 #include "ui/tally_panel.h"
 
 #include <gmock/gmock.h>
@@ -165,6 +166,10 @@ TEST_F(PanelsTest, RefusedInputSaysWhyInPlaceAndEscTakesItBack) {
   pressKey(WXK_TAB);
   waitUntil("the next field has the focus", [] { return findNamed("property.y")->HasFocus(); });
   EXPECT_EQ(content().pieces[0].x, 7);
+  typeInto("property.y", "3");
+  put(kShowGrid);
+  EXPECT_EQ(content().pieces[0].y, 3) << "a command counts what is typed so far";
+  frame().undo();
 
   // The piece goes while one of its fields has the focus: the keys go on working.
   frame().undo();
