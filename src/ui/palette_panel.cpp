@@ -11,7 +11,6 @@
 #include <wx/choice.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
-#include <wx/simplebook.h>
 #include <wx/sizer.h>
 #include <wx/srchctrl.h>
 #include <wx/tglbtn.h>
@@ -52,46 +51,19 @@ PalettePanel::PalettePanel(wxWindow* parent, Actions actions)
                            wxDefaultValidator, "systems")),
       search_(new wxSearchCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                                wxTE_PROCESS_ENTER, wxDefaultValidator, "search")),
-      pages_(new wxSimplebook(this)) {
-  const auto typed = [this](const wxString& text) {
-    search_->SetFocus();
-    search_->SetValue(search_->GetValue() + text);
-    search_->SetInsertionPointEnd();
-  };
-  trackList_ = new CatalogList(pages_, "pieces",
-                               {[this](std::size_t row) {
-                                  const std::string article = pieces_[row]->article;
-                                  actions_.dragPiece(article);
-                                  model_.noteUse(article);
-                                  CallAfter([this] { fillTrack(); });
-                                },
-                                [this](std::size_t row) { usePiece(row); },
-                                {},
-                                typed});
-  sceneryList_ =
-      new CatalogList(pages_, "scenery",
-                      {[this](std::size_t row) { actions_.dragScenery(scenery_[row]->key); },
-                       [this](std::size_t row) { actions_.useScenery(scenery_[row]->key); },
-                       {},
-                       typed});
-  libraryList_ = new CatalogList(pages_, "library",
-                                 {{},
-                                  [this](std::size_t row) { loadEntry(*blocks_[row]); },
-                                  [this](std::size_t row) { showEntryMenu(*blocks_[row]); },
-                                  typed});
-  pages_->AddPage(trackList_, _("Track"));
-  pages_->AddPage(sceneryList_, _("Scenery"));
-  pages_->AddPage(libraryList_, _("Library"));
+      pages_(new wxPanel(this)) {
+  pages_->SetSizer(new wxBoxSizer(wxVERTICAL));
   auto* tabRow = new wxBoxSizer(wxHORIZONTAL);
+  const wxString titles[] = {_("Track"), _("Scenery"), _("Library")};
   for (const Tab tab : {kTrackTab, kSceneryTab, kLibraryTab}) {
-    auto* button = new wxToggleButton(this, wxID_ANY, pages_->GetPageText(tab), wxDefaultPosition,
-                                      wxDefaultSize, wxBU_EXACTFIT);
+    auto* button = new wxToggleButton(this, wxID_ANY, titles[tab], wxDefaultPosition, wxDefaultSize,
+                                      wxBU_EXACTFIT);
     button->SetMinSize({1, -1});
+    button->SetValue(tab == shownTab_);
     button->Bind(wxEVT_TOGGLEBUTTON, [this, tab](wxCommandEvent&) { showTab(tab); });
     tabRow->Add(button, wxSizerFlags(1).Expand());
     tabs_.at(tab) = button;
   }
-  showTab(kTrackTab);
 
   search_->SetDescriptiveText(_("Article, name or number"));
   search_->ShowCancelButton(true);
@@ -109,6 +81,70 @@ PalettePanel::PalettePanel(wxWindow* parent, Actions actions)
   search_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { searchFor(search_->GetValue()); });
   search_->Bind(wxEVT_SEARCHCTRL_CANCEL_BTN, [this](wxCommandEvent&) { search_->Clear(); });
   search_->Bind(wxEVT_CHAR_HOOK, &PalettePanel::onSearchKey, this);
+  pages_->Bind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
+}
+
+void PalettePanel::onFirstPaint(wxPaintEvent& event) {
+  event.Skip();
+  pages_->Unbind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
+  CallAfter([this] { showTab(shownTab_); });
+}
+
+CatalogList* PalettePanel::makeList(Tab tab) {
+  const auto typed = [this](const wxString& text) {
+    search_->SetFocus();
+    search_->SetValue(search_->GetValue() + text);
+    search_->SetInsertionPointEnd();
+  };
+  switch (tab) {
+  case kTrackTab:
+    return new CatalogList(pages_, "pieces",
+                           {[this](std::size_t row) {
+                              const std::string article = pieces_[row]->article;
+                              actions_.dragPiece(article);
+                              model_.noteUse(article);
+                              CallAfter([this] { fillTrack(); });
+                            },
+                            [this](std::size_t row) { usePiece(row); },
+                            {},
+                            typed});
+  case kSceneryTab:
+    return new CatalogList(pages_, "scenery",
+                           {[this](std::size_t row) { actions_.dragScenery(scenery_[row]->key); },
+                            [this](std::size_t row) { actions_.useScenery(scenery_[row]->key); },
+                            {},
+                            typed});
+  case kLibraryTab:
+    break;
+  }
+  return new CatalogList(pages_, "library",
+                         {{},
+                          [this](std::size_t row) { loadEntry(*blocks_[row]); },
+                          [this](std::size_t row) { showEntryMenu(*blocks_[row]); },
+                          typed});
+}
+
+CatalogList& PalettePanel::listOf(Tab tab) {
+  CatalogList*& list = lists_.at(tab);
+  if (!list) {
+    list = makeList(tab);
+    pages_->GetSizer()->Add(list, wxSizerFlags(1).Expand());
+    fill(tab);
+  }
+  return *list;
+}
+
+void PalettePanel::fill(Tab tab) {
+  if (!lists_.at(tab))
+    return;
+  switch (tab) {
+  case kTrackTab:
+    return fillTrack();
+  case kSceneryTab:
+    return fillScenery();
+  case kLibraryTab:
+    return fillLibrary();
+  }
 }
 
 void PalettePanel::populate() {
@@ -130,20 +166,25 @@ void PalettePanel::showSystem(TrackSystem system) {
     return;
   choice_->SetSelection(static_cast<int>(found - systems_.begin()));
   model_.setSystem(system);
-  fillTrack();
-  fillScenery();
+  fill(kTrackTab);
+  fill(kSceneryTab);
   reloadLibrary();
 }
 
 void PalettePanel::showTab(Tab tab) {
-  pages_->SetSelection(static_cast<std::size_t>(tab));
-  for (const Tab other : {kTrackTab, kSceneryTab, kLibraryTab})
+  shownTab_ = tab;
+  listOf(tab);
+  for (const Tab other : {kTrackTab, kSceneryTab, kLibraryTab}) {
     tabs_.at(other)->SetValue(other == tab);
+    if (CatalogList* list = lists_.at(other))
+      list->Show(other == tab);
+  }
+  pages_->Layout();
 }
 
 void PalettePanel::unitsChanged() {
-  fillTrack();
-  fillScenery();
+  fill(kTrackTab);
+  fill(kSceneryTab);
 }
 
 std::filesystem::path PalettePanel::libraryFolder() const {
@@ -153,32 +194,27 @@ std::filesystem::path PalettePanel::libraryFolder() const {
 void PalettePanel::reloadLibrary() {
   blocks_.clear();
   library_ = libraryBlocks(libraryFolder());
-  fillLibrary();
+  fill(kLibraryTab);
 }
 
 void PalettePanel::searchFor(const wxString& text) {
   model_.setSearch(toUtf8(text));
-  fillTrack();
-  fillScenery();
-  fillLibrary();
-}
-
-CatalogList& PalettePanel::shownList() const {
-  return *static_cast<CatalogList*>(pages_->GetCurrentPage());
+  for (const Tab tab : {kTrackTab, kSceneryTab, kLibraryTab})
+    fill(tab);
 }
 
 void PalettePanel::onSearchKey(wxKeyEvent& event) {
   switch (event.GetKeyCode()) {
   case WXK_UP:
-    return shownList().moveSelection(-1);
+    return listOf(shownTab_).moveSelection(-1);
   case WXK_DOWN:
-    return shownList().moveSelection(1);
+    return listOf(shownTab_).moveSelection(1);
   case WXK_RETURN:
   case WXK_NUMPAD_ENTER:
-    return shownList().activateSelected();
+    return listOf(shownTab_).activateSelected();
   case WXK_ESCAPE:
     search_->Clear();
-    return shownList().SetFocus();
+    return listOf(shownTab_).SetFocus();
   default:
     event.Skip();
   }
@@ -202,7 +238,7 @@ void PalettePanel::fillTrack() {
       pieces_.push_back(piece);
     }
   }
-  trackList_->setRows(std::move(rows), _("No track of this system\nfits the search."));
+  lists_[kTrackTab]->setRows(std::move(rows), _("No track of this system\nfits the search."));
 }
 
 void PalettePanel::fillScenery() {
@@ -229,7 +265,7 @@ void PalettePanel::fillScenery() {
       scenery_.push_back(item);
     }
   }
-  sceneryList_->setRows(std::move(rows), _("No scenery of this gauge\nfits the search."));
+  lists_[kSceneryTab]->setRows(std::move(rows), _("No scenery of this gauge\nfits the search."));
 }
 
 void PalettePanel::fillLibrary() {
@@ -253,7 +289,7 @@ void PalettePanel::fillLibrary() {
                     }});
     blocks_.push_back(&entry);
   }
-  libraryList_->setRows(
+  lists_[kLibraryTab]->setRows(
       std::move(rows),
       library_.empty() ? _("No blocks of this system yet.\n\nSelect track on the plan and choose\n"
                            "File > Save as Library Block.")
@@ -268,12 +304,12 @@ void PalettePanel::usePiece(std::size_t row) {
 void PalettePanel::noteUse(const PieceDef& piece) {
   // Later: the list is still at work on the click or key that used the piece.
   CallAfter([this, &piece] {
-    const int above = trackList_->rowsAboveSelection();
+    const int above = lists_[kTrackTab]->rowsAboveSelection();
     model_.noteUse(piece.article);
     fillTrack();
     const auto last = std::find(pieces_.rbegin(), pieces_.rend(), &piece);
     if (last != pieces_.rend())
-      trackList_->select(static_cast<std::size_t>(pieces_.rend() - last - 1), above);
+      lists_[kTrackTab]->select(static_cast<std::size_t>(pieces_.rend() - last - 1), above);
   });
 }
 
@@ -292,7 +328,7 @@ void PalettePanel::loadEntry(const LibraryEntry& entry) {
 void PalettePanel::showEntryMenu(const LibraryEntry& entry) {
   wxMenu menu;
   menu.Append(wxID_DELETE, _("Delete..."));
-  if (libraryList_->GetPopupMenuSelectionFromUser(menu) == wxID_DELETE)
+  if (lists_[kLibraryTab]->GetPopupMenuSelectionFromUser(menu) == wxID_DELETE)
     deleteEntry(entry);
 }
 

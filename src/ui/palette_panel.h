@@ -14,7 +14,6 @@
 
 class wxChoice;
 class wxSearchCtrl;
-class wxSimplebook;
 class wxToggleButton;
 
 namespace trassix {
@@ -51,6 +50,12 @@ class PalettePanel : public wxPanel {
  private:
   enum Tab { kTrackTab, kSceneryTab, kLibraryTab };
 
+  void onFirstPaint(wxPaintEvent& event);
+  CatalogList* makeList(Tab tab);
+  /// Makes the list when it is first wanted.
+  CatalogList& listOf(Tab tab);
+  /// Renews the rows of a list that was made.
+  void fill(Tab tab);
   void showSystem(TrackSystem system);
   void showTab(Tab tab);
   void searchFor(const wxString& text);
@@ -63,7 +68,6 @@ class PalettePanel : public wxPanel {
   void loadEntry(const LibraryEntry& entry);
   void showEntryMenu(const LibraryEntry& entry);
   void deleteEntry(const LibraryEntry& entry);
-  CatalogList& shownList() const;
 
   Actions actions_;
   PaletteModel model_;
@@ -75,10 +79,9 @@ class PalettePanel : public wxPanel {
   wxChoice* choice_;
   wxSearchCtrl* search_;
   std::array<wxToggleButton*, 3> tabs_; ///< by Tab; narrower than the toolkit's own
-  wxSimplebook* pages_;
-  CatalogList* trackList_;
-  CatalogList* sceneryList_;
-  CatalogList* libraryList_;
+  Tab shownTab_ = kTrackTab;
+  wxPanel* pages_;
+  std::array<CatalogList*, 3> lists_{}; ///< by Tab; none before it was looked at
 };
 
 } // namespace trassix

@@ -22,12 +22,22 @@ constexpr double kFieldsShare = 0.45; ///< where there is too little room for bo
 
 PropertiesPanel::PropertiesPanel(wxWindow* parent, LayoutHost& host)
     : wxPanel(parent), host_(host) {
+  Bind(wxEVT_PAINT, &PropertiesPanel::onFirstPaint, this);
+}
+
+void PropertiesPanel::onFirstPaint(wxPaintEvent& event) {
+  event.Skip();
+  Unbind(wxEVT_PAINT, &PropertiesPanel::onFirstPaint, this);
+  CallAfter(&PropertiesPanel::build);
+}
+
+void PropertiesPanel::build() {
   auto* splitter =
       new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                            wxSP_NOBORDER | wxSP_3DSASH | wxSP_LIVE_UPDATE, "propertiesSplitter");
   fields_ = new PropertyFields(
       splitter, [this](PropertyId id, const PropertyValue& value) { return enter(id, value); });
-  tally_ = new TallyPanel(splitter, host);
+  tally_ = new TallyPanel(splitter, host_);
   splitter->SetMinimumPaneSize(FromDIP(kLeastHeight));
   splitter->SetSashGravity(0.5);
   splitter->SplitHorizontally(fields_, tally_);
@@ -37,19 +47,24 @@ PropertiesPanel::PropertiesPanel(wxWindow* parent, LayoutHost& host)
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   sizer->Add(splitter, wxSizerFlags(1).Expand());
   SetSizer(sizer);
+  Layout();
+  recompute();
 }
 
 void PropertiesPanel::recompute() {
-  tally_->recompute();
+  if (tally_)
+    tally_->recompute();
   selectionChanged();
 }
 
 void PropertiesPanel::selectionChanged() {
-  fields_->show(propertySheetOf(host_.layout()));
+  if (fields_)
+    fields_->show(propertySheetOf(host_.layout()));
 }
 
 void PropertiesPanel::enterPending() {
-  fields_->enterPending();
+  if (fields_)
+    fields_->enterPending();
 }
 
 std::string PropertiesPanel::enter(PropertyId id, const PropertyValue& value) {

@@ -12,7 +12,8 @@ class LayoutHost;
 class PropertyFields;
 class TallyPanel;
 
-/// What is selected, with its values to edit, and below it what the plan consists of.
+/// What is selected, with its values to edit, and below it what the plan consists of. Its many
+/// controls are made when it has been on the screen once, so that the start does not wait for them.
 class PropertiesPanel : public wxPanel {
  public:
   PropertiesPanel(wxWindow* parent, LayoutHost& host);
@@ -24,11 +25,13 @@ class PropertiesPanel : public wxPanel {
   void enterPending();
 
  private:
+  void onFirstPaint(wxPaintEvent& event);
+  void build();
   std::string enter(PropertyId id, const PropertyValue& value);
 
   LayoutHost& host_;
-  PropertyFields* fields_;
-  TallyPanel* tally_;
+  PropertyFields* fields_ = nullptr; ///< none before it was painted
+  TallyPanel* tally_ = nullptr;      ///< none before it was painted
 };
 
 } // namespace trassix

@@ -32,6 +32,7 @@ class PlanningTest : public UiTest {
 
   /// The middle of an entry of the palette, scrolled into view.
   Spot inPalette(const wxString& article) {
+    waitUntil("the pieces are listed", [] { return findNamed("pieces") != nullptr; });
     auto* list = dynamic_cast<CatalogList*>(findNamed("pieces"));
     const auto& rows = list->rows();
     const auto row = static_cast<std::size_t>(
