@@ -95,17 +95,6 @@ void openSteps(Layout& layout, const Rises& rises) {
   closeMeetingEnds(layout, risen, MeetingPlay::none());
 }
 
-void deselectHidden(Layout& layout) {
-  PlanContent& content = layout.edit();
-  const auto deselect = [&layout](auto& records) {
-    for (auto& record : records)
-      record.sel = record.sel && layout.levelVisible(record.level);
-  };
-  deselect(content.pieces);
-  deselect(content.scenery);
-  deselect(content.shapes);
-}
-
 void removeShape(Layout& layout, std::int32_t id) {
   std::erase_if(layout.edit().shapes, [id](const Shape& shape) { return shape.id == id; });
 }

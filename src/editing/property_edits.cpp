@@ -95,6 +95,7 @@ bool setSelectedLevel(Layout& layout, std::int32_t level) {
   });
   if (lifts)
     closeMeetingEnds(layout, selectedPieces(layout), MeetingPlay::none());
+  deselectHidden(layout);
   return true;
 }
 
@@ -123,7 +124,10 @@ bool replaceRecord(Layout& layout, const Label& label) {
 }
 
 bool replaceRecord(Layout& layout, const Shape& shape) {
-  return replaceIn(layout, &PlanContent::shapes, shape);
+  if (!replaceIn(layout, &PlanContent::shapes, shape))
+    return false;
+  deselectHidden(layout);
+  return true;
 }
 
 } // namespace trassix

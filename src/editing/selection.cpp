@@ -152,6 +152,24 @@ void selectAll(Layout& layout) {
     measurement.sel = true;
 }
 
+void deselectHidden(Layout& layout) {
+  const auto unseen = [&layout](const auto& record) {
+    return record.sel && !layout.levelVisible(record.level);
+  };
+  const PlanContent& present = layout.content();
+  if (std::ranges::none_of(present.pieces, unseen) &&
+      std::ranges::none_of(present.scenery, unseen) && std::ranges::none_of(present.shapes, unseen))
+    return;
+  const auto deselect = [&unseen](auto& records) {
+    for (auto& record : records)
+      record.sel = record.sel && !unseen(record);
+  };
+  PlanContent& content = layout.edit();
+  deselect(content.pieces);
+  deselect(content.scenery);
+  deselect(content.shapes);
+}
+
 std::vector<std::int32_t> chainOf(const Layout& layout, std::int32_t piece) {
   std::vector<std::int32_t> chain;
   if (layout.findPiece(piece) == nullptr)

@@ -25,6 +25,9 @@ std::vector<std::int32_t> selectedPieces(const Layout& layout); ///< ids, sorted
 void selectOnly(Layout& layout, std::int32_t piece);
 void selectAll(Layout& layout); ///< every record on a visible level
 
+/// Nothing stays selected on a hidden level, where it could be changed unseen.
+void deselectHidden(Layout& layout);
+
 /// All pieces joined to `piece` directly or through others, `piece` included; sorted ids.
 std::vector<std::int32_t> chainOf(const Layout& layout, std::int32_t piece);
 

@@ -118,6 +118,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   void toggleMode(int tool, ToolMode mode);
   void enterMode(ToolMode mode, const PolygonUse& use);
   void drawPolygon(const PolygonUse& use);
+  void planReplaced();
   bool menuChecked(int id) const;
   bool write(const std::filesystem::path& path);
   bool confirmReplace(const std::filesystem::path& target, const wxString& name);

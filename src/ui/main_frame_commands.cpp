@@ -39,13 +39,17 @@ void MainFrame::placeFromPalette(std::string_view article) {
 }
 
 void MainFrame::undo() {
-  if (layout_.undo())
-    changed();
+  if (!layout_.undo())
+    return;
+  deselectHidden(layout_);
+  changed();
 }
 
 void MainFrame::redo() {
-  if (layout_.redo())
-    changed();
+  if (!layout_.redo())
+    return;
+  deselectHidden(layout_);
+  changed();
 }
 
 void MainFrame::deleteSelection() {

@@ -56,7 +56,7 @@ void MainFrame::newLayout() {
   currentPath_.clear();
   dirty_ = false;
   SetTitle(kBaseTitle);
-  canvas_->canvas().documentReplaced();
+  planReplaced();
   canvas_->canvas().resetView();
   canvas_->update();
   selectionChanged();
@@ -80,7 +80,7 @@ bool MainFrame::loadLayout(const std::filesystem::path& path) {
   dirty_ = false;
   refreshTitle();
   showUnits();
-  canvas_->canvas().documentReplaced();
+  planReplaced();
   if (holdsSmallTrack(layout_))
     canvas_->canvas().resetViewForSmall();
   else

@@ -20,6 +20,13 @@ void MainFrame::drawPolygon(const PolygonUse& use) {
   enterMode(ToolMode::Polygon, use);
 }
 
+void MainFrame::planReplaced() {
+  // An outline that was going to be drawn belonged to the plan before.
+  if (switches_.polygonUse.kind != PolygonUse::Kind::Shape)
+    setToolMode(ToolMode::Select);
+  canvas_->canvas().documentReplaced();
+}
+
 void MainFrame::manageLevels() {
   LevelManagerDialog dialog(this, layout_);
   if (dialog.ShowModal() != wxID_OK)

@@ -7,6 +7,7 @@
 #include "editing/placing.h"
 #include "editing/selection.h"
 #include "editing/swapping.h"
+#include "panels/level_list.h"
 #include "support/plan.h"
 
 #include <gmock/gmock.h>
@@ -36,7 +37,20 @@ Joints jointsOf(const Layout& layout) {
 
 class RandomEdits : public testing::TestWithParam<std::uint32_t> {
  protected:
-  enum Kind { Clone, Extend, Rotate, Nudge, Delete, Duplicate, Scenery, Swap, Fill, Move, Drop };
+  enum Kind {
+    Clone,
+    Extend,
+    Rotate,
+    Nudge,
+    Delete,
+    Duplicate,
+    Scenery,
+    Swap,
+    Fill,
+    Decks,
+    Move,
+    Drop
+  };
 
   /// The first six runs keep to one system each, the others mix them all.
   RandomEdits() : random_(GetParam()) {
@@ -124,6 +138,18 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
       const auto fill = solveAutofill(layout_, pieces[pieces.size() - 2].id, pieces.back().id);
       return fill && fill->success() &&
              placeFill(layout_, *fill->gap, anyOf(fill->candidates)).changed();
+    }
+    case Decks: {
+      LevelList levels(layout_);
+      const auto last = static_cast<int>(levels.size()) - 1;
+      const auto place = static_cast<std::size_t>(any(0, last));
+      if (last < 3)
+        levels.add();
+      else if (any(0, 3) == 0)
+        levels.remove(place, any(0, 1) == 0 ? std::nullopt : std::optional((place + 1) % 4));
+      levels.enterHeight(0, std::to_string(any(0, 4) * 40));
+      levels.setVisible(1, any(0, 2) != 0);
+      return levels.apply(layout_);
     }
     case Move: {
       SelectionMove move(layout_, {layout_.findPiece(id)->x, layout_.findPiece(id)->y});
