@@ -27,7 +27,7 @@ ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
   buttons->Realize();
 
   auto* sizer = new wxBoxSizer(wxVERTICAL);
-  sizer->Add(new wxStaticText(this, wxID_ANY, fromUtf8(choice.line)),
+  sizer->Add(new wxStaticText(this, wxID_ANY, wxControl::EscapeMnemonics(fromUtf8(choice.line))),
              wxSizerFlags().Border(wxALL, FromDIP(10)));
   sizer->Add(rows_, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT, FromDIP(10)));
   sizer->Add(buttons, wxSizerFlags().Right().Border(wxALL, FromDIP(10)));

@@ -68,7 +68,11 @@ void LevelManagerDialog::makeList() {
   list_->AppendColumn(_("Height"), wxLIST_FORMAT_RIGHT, FromDIP(100));
   list_->AppendColumn(_("State"), wxLIST_FORMAT_LEFT, FromDIP(70));
   list_->AppendColumn(_("Items"), wxLIST_FORMAT_RIGHT, FromDIP(60));
-  list_->Bind(wxEVT_LIST_ITEM_SELECTED, [this](wxListEvent&) { showLevel(); });
+  list_->Bind(wxEVT_LIST_ITEM_SELECTED, [this](wxListEvent& event) {
+    showLevel(static_cast<std::size_t>(event.GetIndex()));
+  });
+  list_->Bind(wxEVT_LIST_ITEM_DESELECTED,
+              [this](wxListEvent&) { CallAfter(&LevelManagerDialog::keepSelection); });
   list_->Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent&) { makeActive(); });
   Bind(wxEVT_CHAR_HOOK, &LevelManagerDialog::onCharHook, this);
 }
@@ -168,7 +172,7 @@ wxSizer* LevelManagerDialog::makeButtons() {
 void LevelManagerDialog::bindFields() {
   const auto edit = [this](auto change) {
     return [this, change](const wxEvent&) {
-      change(shown());
+      change(shown_);
       refresh();
     };
   };
@@ -198,10 +202,6 @@ void LevelManagerDialog::bindFields() {
   draw_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { draw(); });
 }
 
-std::size_t LevelManagerDialog::shown() const {
-  return static_cast<std::size_t>(std::max(0L, list_->GetFirstSelected()));
-}
-
 void LevelManagerDialog::fillList() {
   list_->DeleteAllItems();
   for (std::size_t place = 0; place < levels_.size(); ++place)
@@ -227,11 +227,18 @@ void LevelManagerDialog::showRow(std::size_t place) {
 void LevelManagerDialog::select(std::size_t place) {
   list_->Select(static_cast<long>(place));
   list_->Focus(static_cast<long>(place));
-  showLevel();
+  showLevel(place);
 }
 
-void LevelManagerDialog::showLevel() {
-  const LevelList::Row& row = levels_.row(shown());
+void LevelManagerDialog::keepSelection() {
+  // A click below the rows takes the selection away, but the fields still show a level.
+  if (list_->GetFirstSelected() == -1)
+    select(shown_);
+}
+
+void LevelManagerDialog::showLevel(std::size_t place) {
+  shown_ = place;
+  const LevelList::Row& row = levels_.row(place);
   const auto setText = [](wxTextCtrl& field, const std::string& text) {
     if (field.GetValue() != fromUtf8(text))
       field.ChangeValue(fromUtf8(text));
@@ -261,7 +268,7 @@ void LevelManagerDialog::refresh() {
   showSwatches();
   for (std::size_t place = 0; place < levels_.size(); ++place)
     showRow(place);
-  const std::size_t place = shown();
+  const std::size_t place = shown_;
   const Level& level = levels_.row(place).level;
   color_->SetColour(toColour(level.color));
   trackColor_->SetValue(level.trackcolor);
@@ -306,7 +313,7 @@ void LevelManagerDialog::add() {
 }
 
 void LevelManagerDialog::remove() {
-  const std::size_t place = shown();
+  const std::size_t place = shown_;
   if (!levels_.canRemove())
     return;
   std::optional<std::size_t> heir;
@@ -347,12 +354,12 @@ void LevelManagerDialog::remove() {
 }
 
 void LevelManagerDialog::makeActive() {
-  levels_.setActive(shown());
+  levels_.setActive(shown_);
   refresh();
 }
 
 void LevelManagerDialog::draw() {
-  levelToDraw_ = levels_.row(shown()).level.id;
+  levelToDraw_ = levels_.row(shown_).level.id;
   EndModal(wxID_OK);
 }
 

@@ -36,11 +36,11 @@ class LevelManagerDialog : public wxDialog {
   wxSizer* makeButtons();
   void bindFields();
 
-  std::size_t shown() const;
   void fillList();
   void showRow(std::size_t place);
   void select(std::size_t place);
-  void showLevel();
+  void showLevel(std::size_t place);
+  void keepSelection();
   void showSwatches();
   void refresh(); ///< what depends on the entries: the rows, what is enabled, the problem
 
@@ -52,6 +52,7 @@ class LevelManagerDialog : public wxDialog {
 
   trassix::Layout& layout_;
   LevelList levels_;
+  std::size_t shown_ = 0; ///< place of the level in the fields
   std::optional<std::int32_t> levelToDraw_;
   std::vector<Color> swatches_; ///< shown in the list
   wxListView* list_ = nullptr;

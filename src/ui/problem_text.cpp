@@ -16,7 +16,7 @@ ProblemText::ProblemText(wxWindow* parent, int width, int lines)
 }
 
 void ProblemText::show(const std::string& problem) {
-  SetLabel(wxGetTranslation(fromUtf8(problem)));
+  SetLabel(EscapeMnemonics(wxGetTranslation(fromUtf8(problem))));
   Wrap(width_);
 }
 

@@ -37,6 +37,9 @@ TEST_F(LevelsTest, LevelsAreAddedEditedAndDeletedInOneStep) {
     EXPECT_EQ(problem(dialog), "Upper deck: A length is expected here, for example 188.3 mm.");
     takeScreenshot("levels-refused");
     clickRow(dialog, 1);
+    auto& list = dynamic_cast<wxListView&>(in(dialog, "levelList"));
+    click({list, wxPoint(60, list.GetClientSize().y - 20)}); // below the rows
+    waitUntil("a level is selected", [&] { return list.GetFirstSelected() == 1; });
     enter(dialog, "levelHeight", "120");
     EXPECT_EQ(problem(dialog), "");
     click(in(dialog, "levelActive"));
