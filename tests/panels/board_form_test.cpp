@@ -67,7 +67,9 @@ TEST(Baseboard, kindsHaveTheirMeasures) {
       texts.push_back(dimension.text);
       const double length =
           std::hypot(dimension.to.x - dimension.from.x, dimension.to.y - dimension.from.y);
-      EXPECT_THAT(dimension.text, HasSubstr(" " + std::to_string(static_cast<int>(length)) + "."));
+      std::string number = std::to_string(static_cast<int>(length));
+      number += '.';
+      EXPECT_THAT(dimension.text, HasSubstr(number));
     }
     EXPECT_THAT(texts, testing::UnorderedElementsAreArray(c.dimensions));
 
