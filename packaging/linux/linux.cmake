@@ -45,10 +45,9 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-set(CPACK_DEBIAN_DESCRIPTION
-"planner for model-railway layouts of sectional track
- Pick a track system, drag pieces named by their article number onto the plan,
- and watch their ends snap together. What fits is joined, what closes is
- closed, and what does not fit says which adapter to use.
- .
- Knows the pieces of Märklin C, K, M, Z and Gauge 1 track and of TRIX C track.")
+set(CPACK_PACKAGE_DESCRIPTION
+"Pick a track system, drag pieces named by their article number onto the plan,
+and watch their ends snap together. What fits is joined, what closes is
+closed, and what does not fit says which adapter to use.
+
+Knows the pieces of Märklin C, K, M, Z and Gauge 1 track and of TRIX C track.")

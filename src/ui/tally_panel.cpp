@@ -152,6 +152,7 @@ void TallyPanel::showSummary() {
       "\n" +
       wxString::Format(_("Track extent: %s"),
                        fromUtf8(formatSize(box.maxX - box.minX, box.maxY - box.minY, units))));
+  Layout(); // not every platform does that when a text gets more lines
 }
 
 void TallyPanel::copy() {
