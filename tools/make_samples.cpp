@@ -376,7 +376,7 @@ Sample cTrackTwoTowns() {
   s.table(-700, -720, 2620, 1800);
   s.layout.ensureLevel();
   s.layout.editSettings().levels.front().name = "Valley";
-  s.area({{120, 250}, {480, 210}, {560, 330}, {440, 440}, {150, 430}, {70, 330}}, kMeadow);
+  s.area({{60, 190}, {480, 150}, {560, 230}, {500, 310}, {230, 330}, {60, 310}}, kMeadow);
   s.area({{1240, -390}, {1890, -420}, {1890, -180}, {1650, -150}, {1300, -180}}, kMeadow);
   s.area({{700, 560}, {1250, 380}, {1400, 470}, {1400, 690}, {1000, 790}, {250, 760}, {230, 470}},
          kGround);
@@ -407,6 +407,11 @@ Sample cTrackTwoTowns() {
         .extend("24188")
         .extend("24188")
         .extendBy("24977", 0, 0);
+  // The engine shed looks at the turntable.
+  const PlacedPiece& table = *s.layout.findPiece(turntable);
+  const WorldConnector opposite = ConnectorToWorld(table, *definitionOf(table), 15);
+  const Point shed = toWorld({table.x, table.y, opposite.heading}, {349.6 + 173, 0});
+  s.scenery("72886", shed.x, shed.y, opposite.heading - 90);
   // Outer track.
   s.place("24188", {0, -77.5, 0});
   s.extend("24172").extend("24188", 3).extend("24172").extend("24188").extend("24330", 6);
@@ -417,24 +422,23 @@ Sample cTrackTwoTowns() {
   s.row("plat.side", 470, -122, 180, 0, 3);
   s.scenery("goods.shed", 1010, 210);
   s.scenery("water.tower", 700, 330);
-  s.scenery("coal.stage", 1150, 300);
+  s.scenery("coal.stage", 1180, 330);
   s.scenery("box.ground", 1180, -160);
   s.scenery("sig.light.home", 60, -120);
   s.scenery("sig.light.home", 1330, 40);
-  s.row("road.minor", 100, -330, 250, 0, 7);
-  s.scenery("church.village", 250, 330, 20);
-  s.scenery("inn", 380, 290);
-  s.scenery("house.detached", 160, 290, 10);
-  s.scenery("house.timber", 400, 380, 350);
+  s.row("road.minor", 130, -345, 250, 0, 5);
+  s.scenery("house.detached", 140, 250, 10);
+  s.scenery("church.village", 300, 240, 15);
+  s.scenery("house.timber", 460, 225, 350);
   s.scenery("house.two", 1380, -260);
   s.scenery("farm.barn", 1560, -240, 15);
   s.scenery("farm.house", 1720, -270, 350);
-  s.trees({{480, 320}, {110, 390}, {300, 420}, {1320, -350}, {1480, -340}, {1650, -350},
+  s.trees({{90, 390}, {120, 500}, {1320, -350}, {1480, -340}, {1650, -350},
            {1800, -220}, {1840, -350}, {1260, 760}, {1340, 740}, {1100, 770}, {1840, 60},
            {1860, 420}, {1850, 760}, {1820, 1000}, {1650, 1030}, {300, 1030}, {620, 1030},
            {940, 1035}, {1240, 1030}, {1840, -560}, {1700, -620}, {1590, -540}});
   s.label(650, -290, "Lindenau");
-  s.label(1250, 620, "Engine yard");
+  s.label(1010, 745, "Engine yard");
 
   Level hill;
   hill.id = 2;
@@ -458,7 +462,7 @@ Sample cTrackTwoTowns() {
   s.scenery("church.chapel", -480, 560);
   s.scenery("house.timber", -570, 680, 10);
   s.scenery("house.two", -560, 420, 350);
-  s.scenery("castle.ruin", 60, -620);
+  s.scenery("castle.ruin", 60, -590);
   s.scenery("inn", 1050, -640);
   s.trees({{-620, -600}, {-540, -520}, {-600, -420}, {-500, -300}, {-600, -160}, {-420, -640},
            {-620, 60}, {-560, 220}, {-620, 860}, {-540, 1000}, {-440, 1010}, {-80, 980},

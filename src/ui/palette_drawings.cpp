@@ -67,7 +67,7 @@ void drawScenery(Surface& surface, const PictureRoom& room, const SceneryDef& it
                                 room.size.height / std::max(size.depth, 1.0)});
   const Footprint drawn{std::max(size.width * zoom, kLeastPx),
                         std::max(size.depth * zoom, kLeastPx), 0};
-  const Rgba ink = plan_colors::kScenery;
+  const Rgba ink = plan_colors::sceneryColor(&item);
   surface.polygon(sceneryOutline(item.form, drawn, room.middle, 0), Rgba{ink.r, ink.g, ink.b, 90},
                   Stroke{ink, 1});
 }
@@ -81,8 +81,8 @@ void drawBlock(Surface& surface, const PictureRoom& room, const Block& block) {
     return;
   }
   const ViewTransform view = centred(*box, room, std::numeric_limits<double>::max());
-  const Rgba ink = plan_colors::kScenery;
   for (const SceneryItem& item : block.scenery) {
+    const Rgba ink = plan_colors::sceneryColor(findScenery(item.item));
     std::vector<Point> outline = sceneryOutline(layout, item);
     std::ranges::transform(outline, outline.begin(), [&view](Point p) { return view.toScreen(p); });
     surface.polygon(outline, Rgba{ink.r, ink.g, ink.b, 90}, Stroke{ink, 1});

@@ -94,14 +94,14 @@ void moveMouse(const Spot& to) {
   settle();
 }
 
-void pressMouse(const Spot& at) {
+void pressMouse(const Spot& at, int button) {
   moveMouse(at);
-  wxUIActionSimulator().MouseDown();
+  wxUIActionSimulator().MouseDown(button);
   settle();
 }
 
-void releaseMouse() {
-  wxUIActionSimulator().MouseUp();
+void releaseMouse(int button) {
+  wxUIActionSimulator().MouseUp(button);
   settle();
 }
 
@@ -122,12 +122,12 @@ void doubleClick(const Spot& at) {
   settle();
 }
 
-void drag(const Spot& from, const std::vector<Spot>& stops) {
-  pressMouse(from);
+void drag(const Spot& from, const std::vector<Spot>& stops, int button) {
+  pressMouse(from, button);
   for (const Spot& stop : stops) {
     moveMouse(stop);
   }
-  releaseMouse();
+  releaseMouse(button);
 }
 
 void turnWheel(int notches) {
@@ -141,6 +141,16 @@ void turnWheel(int notches) {
 
 void pressKey(int keyCode, int modifiers) {
   wxUIActionSimulator().Char(keyCode, modifiers);
+  settle();
+}
+
+void holdKey(int keyCode) {
+  wxUIActionSimulator().KeyDown(keyCode);
+  settle();
+}
+
+void releaseKey(int keyCode) {
+  wxUIActionSimulator().KeyUp(keyCode);
   settle();
 }
 

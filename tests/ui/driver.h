@@ -2,6 +2,7 @@
 
 #include <wx/gdicmn.h>
 #include <wx/kbdstate.h>
+#include <wx/mousestate.h>
 
 #include <functional>
 #include <string>
@@ -33,15 +34,17 @@ void moveMouse(const Spot& to);
 void click(const Spot& at);
 void rightClick(const Spot& at);
 void doubleClick(const Spot& at);
-void pressMouse(const Spot& at);
-void releaseMouse();
+void pressMouse(const Spot& at, int button = wxMOUSE_BTN_LEFT);
+void releaseMouse(int button = wxMOUSE_BTN_LEFT);
 /// Presses, moves over `stops` and releases at the last of them.
-void drag(const Spot& from, const std::vector<Spot>& stops);
+void drag(const Spot& from, const std::vector<Spot>& stops, int button = wxMOUSE_BTN_LEFT);
 /// Turns the wheel where the pointer is; positive notches turn away from the user.
 void turnWheel(int notches);
 
 /// The real keyboard, to whatever has the focus. Texts are plain ASCII.
 void pressKey(int keyCode, int modifiers = wxMOD_NONE);
+void holdKey(int keyCode);
+void releaseKey(int keyCode);
 void typeText(const std::string& text);
 
 /// Looks through every open window. Null when there is none or it is not on the screen.

@@ -1,4 +1,5 @@
 #include "catalog/track_catalog.h"
+#include "document/block_file.h"
 #include "driver.h"
 #include "support/plan.h"
 #include "support/print_records.h"
@@ -31,17 +32,17 @@ class PlanningTest : public UiTest {
   }
 
   /// The middle of an entry of the palette, scrolled into view.
-  Spot inPalette(const wxString& article) {
-    waitUntil("the pieces are listed", [] { return findNamed("pieces") != nullptr; });
-    auto* list = dynamic_cast<CatalogList*>(findNamed("pieces"));
+  Spot inPalette(const wxString& title, const char* listName = "pieces") {
+    waitUntil("the palette lists something", [&] { return findNamed(listName) != nullptr; });
+    auto* list = dynamic_cast<CatalogList*>(findNamed(listName));
     const auto& rows = list->rows();
     const auto row = static_cast<std::size_t>(
         std::find_if(rows.begin(), rows.end(),
-                     [&](const CatalogRow& r) { return r.title == article; }) -
+                     [&](const CatalogRow& r) { return r.title == title; }) -
         rows.begin());
     list->select(row, 1);
     wxRect rect;
-    waitUntil("the palette shows " + article.ToStdString(), [&] {
+    waitUntil("the palette shows " + title.ToStdString(), [&] {
       rect = list->GetItemRect(row);
       return !rect.IsEmpty();
     });
@@ -150,6 +151,68 @@ TEST_F(PlanningTest, MouseAndKeysShapeThePlan) {
   click(onPlan({before.x + 90, before.y}));
   pressKey(WXK_DELETE);
   waitForPieces(0);
+  finish();
+}
+
+TEST_F(PlanningTest, SceneryAndBlocksAreCarriedToo) {
+  const std::filesystem::path library = layoutsFolder() / "library" / "Marklin_C-Track";
+  std::filesystem::create_directories(library);
+  Plan throat;
+  throat.place("24188").extend("24188");
+  for (PlacedPiece& piece : throat.layout.edit().pieces)
+    piece.sel = true;
+  ASSERT_EQ(saveBlock(throat.layout, library / "Throat.txl", "Throat"), "");
+  start();
+  inPalette("24188"); // the palette has its places then
+
+  click(*findLabelled("Scenery"));
+  drag(inPalette("Branch station", "scenery"), {onPlan({300, 200}), onPlan({500, 260})});
+  const std::vector<SceneryItem>& scenery = plan().content().scenery;
+  ASSERT_TRUE(waitUntil("the station stands", [&] { return scenery.size() == 1; }));
+  EXPECT_NEAR(scenery[0].x, 500, 3);
+  EXPECT_NEAR(scenery[0].y, 260, 3);
+
+  click(*findLabelled("Library"));
+  for (const bool dropped : {false, true}) {
+    click(inPalette("Throat", "library"));
+    pressKey(WXK_RETURN);
+    ASSERT_TRUE(waitUntil("carrying", [&] { return canvas().carrying(); }));
+    moveMouse(onPlan({700, 800}));
+    turnWheel(1);
+    if (dropped)
+      click(onPlan({700, 800}));
+    else
+      pressKey(WXK_ESCAPE);
+    ASSERT_TRUE(waitUntil("no longer carrying", [&] { return !canvas().carrying(); }));
+  }
+  waitForPieces(2);
+  EXPECT_EQ(plan().pieces()[0].heading, 30);
+  EXPECT_EQ(plan().pieces()[0].joint(1), (Joint{plan().pieces()[1].id, 0}));
+  finish();
+}
+
+TEST_F(PlanningTest, ThePlanIsPannedByThreeHands) {
+  start();
+  struct Hand {
+    const char* name;
+    int key, button;
+  };
+  for (const Hand& hand :
+       {Hand{"middle button", 0, wxMOUSE_BTN_MIDDLE}, Hand{"Ctrl", WXK_CONTROL, wxMOUSE_BTN_LEFT},
+        Hand{"Space", WXK_SPACE, wxMOUSE_BTN_LEFT}}) {
+    SCOPED_TRACE(hand.name);
+    click(onPlan({100, 100})); // the keys go to the plan
+    const Point origin = canvas().view().origin();
+    const Spot from = onPlan({300, 300});
+    if (hand.key)
+      holdKey(hand.key);
+    drag(from, {Spot(*from.window, from.client + wxPoint(60, 40))}, hand.button);
+    if (hand.key)
+      releaseKey(hand.key);
+    ASSERT_TRUE(waitUntil("panned", [&] { return canvas().view().origin().x == origin.x + 60; }));
+    EXPECT_EQ(canvas().view().origin().y, origin.y + 40);
+    EXPECT_FALSE(canvas().wantsCapture());
+  }
   finish();
 }
 

@@ -16,7 +16,9 @@ void CarrySceneryTool::paint(Surface& surface) const {
        sceneryOutline(definition_.form, definition_.footprint(planSystem(site_.layout())),
                       {pose().x, pose().y}, pose().heading))
     px.push_back(site_.view.toScreen(p));
-  surface.polygon(px, Rgba{150, 116, 84, 110}, Stroke{plan_colors::kSelected, 2});
+  Rgba fill = plan_colors::sceneryColor(&definition_);
+  fill.a = 110;
+  surface.polygon(px, fill, Stroke{plan_colors::kSelected, 2});
 }
 
 std::string CarrySceneryTool::hint() const {

@@ -1,6 +1,7 @@
 #include "editing/canvas/layout_painter.h"
 
 #include "catalog/helix_kits.h"
+#include "catalog/scenery_catalog.h"
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <unordered_set>
 
 namespace trassix {
@@ -54,6 +56,10 @@ Rgba bedColor(const Layout& layout, const PlacedPiece& piece, const PieceDef& de
   return opaque(definition.bridge ? colors::kBridgeBed : colors::kBed);
 }
 
+bool isOtherLevel(const Layout& layout, std::int32_t level) {
+  return level != layout.settings().activeLevel && layout.findLevel(level) != nullptr;
+}
+
 } // namespace
 
 struct LayoutPainter::Visible {
@@ -79,8 +85,7 @@ void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
     paintGrid(layout.settings().units);
   paintShapes(layout);
   paintHelices(layout);
-  paintScenery(layout);
-  paintTrack(layout, index);
+  paintLevels(layout, index);
   paintMeasurements(layout);
   paintLabels(layout);
   if (options_.scaleBar)
@@ -172,18 +177,27 @@ void LayoutPainter::paintShapes(const Layout& layout) {
   }
 }
 
-void LayoutPainter::paintScenery(const Layout& layout) {
-  for (const SceneryItem& item : layout.content().scenery) {
-    if (!layout.levelVisible(item.level))
-      continue;
-    const std::vector<Point> px = outline(sceneryOutline(layout, item));
-    if (isBeside(px, kStrokeReachPx))
-      continue;
-    Rgba fill = colors::kScenery;
-    fill.a = 70;
-    surface_.polygon(px, fill,
-                     item.sel ? Stroke{colors::kSelected, 2.5} : Stroke{colors::kScenery, 1.2});
-  }
+std::vector<const SceneryItem*> LayoutPainter::visibleScenery(const Layout& layout) const {
+  std::vector<const SceneryItem*> shown;
+  for (const SceneryItem& item : layout.content().scenery)
+    if (layout.levelVisible(item.level))
+      shown.push_back(&item);
+  std::stable_sort(shown.begin(), shown.end(), [&](const SceneryItem* a, const SceneryItem* b) {
+    return layout.levelHeight(a->level) < layout.levelHeight(b->level);
+  });
+  return shown;
+}
+
+void LayoutPainter::paintSceneryItem(const Layout& layout, const SceneryItem& item) {
+  const std::vector<Point> px = outline(sceneryOutline(layout, item));
+  if (isBeside(px, kStrokeReachPx))
+    return;
+  Rgba color = colors::sceneryColor(findScenery(item.item));
+  if (isOtherLevel(layout, item.level))
+    color = colors::faded(color);
+  Rgba fill = color;
+  fill.a = 84;
+  surface_.polygon(px, fill, item.sel ? Stroke{colors::kSelected, 2.5} : Stroke{color, 1.2});
 }
 
 void LayoutPainter::paintHelices(const Layout& layout) {
@@ -199,7 +213,8 @@ void LayoutPainter::paintHelices(const Layout& layout) {
   }
 }
 
-void LayoutPainter::paintTrack(const Layout& layout, const PlanIndex& index) {
+std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& layout,
+                                                                const PlanIndex& index) {
   const Point low = view_.toWorld({0, 0});
   const Point high = view_.toWorld({size_.width, size_.height});
   std::unordered_set<std::int32_t> covered;
@@ -221,30 +236,41 @@ void LayoutPainter::paintTrack(const Layout& layout, const PlanIndex& index) {
     look.rails = options_.rails;
     look.sleepers = options_.rails;
     look.covered = !covered.empty() && covered.contains(piece.id);
-    look.faded =
-        piece.level != layout.settings().activeLevel && layout.findLevel(piece.level) != nullptr;
+    look.faded = isOtherLevel(layout, piece.level);
     if (piece.sel)
       look.accent = colors::kSelected;
     shown.push_back({&piece, definition, &trackGeometryOf(*definition), look});
   }
+  return shown;
+}
 
+void LayoutPainter::paintLevels(const Layout& layout, const PlanIndex& index) {
+  const std::vector<Visible> track = visibleTrack(layout, index);
+  const std::vector<const SceneryItem*> scenery = visibleScenery(layout);
+  std::size_t items = 0;
+  const auto sceneryUpTo = [&](double height) {
+    while (items < scenery.size() && layout.levelHeight(scenery[items]->level) <= height)
+      paintSceneryItem(layout, *scenery[items++]);
+  };
   PiecePainter painter(surface_, view_);
   // One level after the other, beds before rails: joined beds read as one, and an upper deck hides
   // what runs below it.
-  for (std::size_t from = 0; from < shown.size();) {
+  for (std::size_t from = 0; from < track.size();) {
     std::size_t to = from;
-    while (to < shown.size() && shown[to].piece->level == shown[from].piece->level)
+    while (to < track.size() && track[to].piece->level == track[from].piece->level)
       ++to;
+    sceneryUpTo(layout.levelHeight(track[from].piece->level));
     for (std::size_t i = from; i < to; ++i)
-      painter.paintBed(*shown[i].geometry, poseOf(*shown[i].piece), shown[i].look);
+      painter.paintBed(*track[i].geometry, poseOf(*track[i].piece), track[i].look);
     for (std::size_t i = from; i < to; ++i)
-      painter.paintRails(*shown[i].geometry, poseOf(*shown[i].piece), shown[i].look);
+      painter.paintRails(*track[i].geometry, poseOf(*track[i].piece), track[i].look);
+    if (options_.labels)
+      paintJoinDots(layout, std::span(track).subspan(from, to - from));
     from = to;
   }
-  if (options_.labels) {
-    paintJoinDots(layout, shown);
-    paintArticles(shown);
-  }
+  sceneryUpTo(std::numeric_limits<double>::infinity());
+  if (options_.labels)
+    paintArticles(track);
 }
 
 void LayoutPainter::paintUnknown(const PlacedPiece& piece) {
@@ -269,6 +295,9 @@ void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible>
       const WorldConnector end = ConnectorToWorld(*shown.piece, *shown.definition, i);
       const Point at = view_.toScreen({end.x, end.y});
       if (end.free) {
+        // The unused tracks of a turntable wait for nothing.
+        if (shown.definition->kind == PieceKind::Turntable)
+          continue;
         surface_.circle(at, radius, colors::kPaper, Stroke{colors::kOpenEnd, 2});
         continue;
       }
@@ -290,8 +319,8 @@ void LayoutPainter::paintArticles(std::span<const Visible> pieces) {
     for (const auto& line : shown.geometry->centreLines)
       taken.mark(painter.toScreen(line, poseOf(*shown.piece)),
                  shown.geometry->halfWidth * view_.zoom() - 1);
-  const TextStyle style{colors::kArticle, 10.5, false};
   for (const Visible& shown : pieces) {
+    const TextStyle style{shown.look.faded ? colors::kFarArticle : colors::kArticle, 10.5, false};
     const SizePx box = surface_.textSize(shown.definition->article, style);
     if (shown.geometry->mainLength * view_.zoom() < box.width * 0.9)
       continue;

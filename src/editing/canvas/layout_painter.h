@@ -38,9 +38,11 @@ class LayoutPainter {
   void paintScaleBar(std::int32_t units);
   void paintBoard(const Layout& layout);
   void paintShapes(const Layout& layout);
-  void paintTrack(const Layout& layout, const PlanIndex& index);
+  std::vector<Visible> visibleTrack(const Layout& layout, const PlanIndex& index);
+  void paintLevels(const Layout& layout, const PlanIndex& index);
   void paintUnknown(const PlacedPiece& piece);
-  void paintScenery(const Layout& layout);
+  std::vector<const SceneryItem*> visibleScenery(const Layout& layout) const;
+  void paintSceneryItem(const Layout& layout, const SceneryItem& item);
   void paintHelices(const Layout& layout);
   void paintMeasurements(const Layout& layout);
   void paintLabels(const Layout& layout);

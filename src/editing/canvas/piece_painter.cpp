@@ -13,15 +13,6 @@ constexpr double kBedFromPx = 5.0;   ///< a narrower track bed is drawn as a lin
 constexpr double kRailsFromPx = 3.2; ///< distance between the rails from which both are drawn
 constexpr double kSleepersFromPx = 9.0;
 
-Rgba fade(Rgba color) {
-  // Towards the sheet rather than transparent, so that what lies below does not shine through.
-  const auto mix = [](std::uint8_t a, std::uint8_t b) {
-    return static_cast<std::uint8_t>((a * 2 + b * 3) / 5);
-  };
-  return {mix(color.r, plan_colors::kBoard.r), mix(color.g, plan_colors::kBoard.g),
-          mix(color.b, plan_colors::kBoard.b), color.a};
-}
-
 } // namespace
 
 PieceLook carriedLook(bool snapped) {
@@ -51,10 +42,10 @@ void PiecePainter::paintBed(const TrackGeometry& geometry, const Pose& pose,
                             const PieceLook& look) {
   if (fromAfar(geometry))
     return;
-  const Rgba fill = look.faded ? fade(look.bed) : look.bed;
+  const Rgba fill = look.faded ? plan_colors::faded(look.bed) : look.bed;
   Stroke edge{plan_colors::kBedEdge, 1.0};
   if (look.faded)
-    edge.color = fade(edge.color);
+    edge.color = plan_colors::faded(edge.color);
   if (look.accent)
     edge = {*look.accent, 2.0};
   if (look.covered)
@@ -73,7 +64,7 @@ void PiecePainter::paintRails(const TrackGeometry& geometry, const Pose& pose,
   if (fromAfar(geometry)) {
     Rgba color = look.accent.value_or(plan_colors::kFarTrack);
     if (look.faded && !look.accent)
-      color = fade(color);
+      color = plan_colors::faded(color);
     const double width = std::max(geometry.halfWidth * zoom, look.accent ? 2.5 : 1.5);
     for (const auto& line : geometry.centreLines)
       surface_.polyline(
@@ -82,11 +73,12 @@ void PiecePainter::paintRails(const TrackGeometry& geometry, const Pose& pose,
     return;
   }
   const double gaugePx = geometry.gauge * zoom;
-  const Rgba rail = look.faded ? fade(plan_colors::kRail) : plan_colors::kRail;
+  const Rgba rail = look.faded ? plan_colors::faded(plan_colors::kRail) : plan_colors::kRail;
   const Stroke::Style style = look.covered ? Stroke::Style::Dashed : Stroke::Style::Solid;
   if (look.rails && gaugePx >= kRailsFromPx) {
     if (look.sleepers && !look.covered && gaugePx >= kSleepersFromPx) {
-      const Rgba sleeper = look.faded ? fade(plan_colors::kSleeper) : plan_colors::kSleeper;
+      const Rgba sleeper =
+          look.faded ? plan_colors::faded(plan_colors::kSleeper) : plan_colors::kSleeper;
       surface_.segments(toScreen(geometry.sleepers, pose),
                         {sleeper, std::max(1.0, gaugePx * 0.17)});
     }

@@ -1,7 +1,11 @@
 // The colours of the plan, in one place: a light sheet on which track stands out.
 #pragma once
 
+#include "catalog/scenery_catalog.h"
 #include "editing/canvas/surface.h"
+
+#include <array>
+#include <cstdint>
 
 namespace trassix::plan_colors {
 
@@ -32,7 +36,33 @@ inline constexpr Rgba kPaper{255, 255, 255};
 inline constexpr Rgba kArticle{40, 46, 56};
 inline constexpr Rgba kLabel{24, 30, 40};
 inline constexpr Rgba kMeasure{170, 40, 110};
-inline constexpr Rgba kScenery{150, 116, 84};
+inline constexpr Rgba kFarArticle{132, 136, 144}; ///< of other levels than the active one
 inline constexpr Rgba kTunnel{112, 104, 96};
+
+/// By category, in its order.
+inline constexpr std::array<Rgba, kSceneryCategoryCount> kSceneryByCategory{{{178, 108, 80},
+                                                                             {140, 140, 148},
+                                                                             {96, 100, 112},
+                                                                             {136, 134, 130},
+                                                                             {120, 136, 156},
+                                                                             {112, 104, 96},
+                                                                             {112, 122, 132},
+                                                                             {84, 146, 72},
+                                                                             {138, 168, 92},
+                                                                             {150, 140, 124},
+                                                                             {178, 108, 80}}};
+
+/// Null for an item that the catalogue does not know.
+inline Rgba sceneryColor(const SceneryDef* definition) {
+  return kSceneryByCategory[static_cast<std::size_t>(definition ? definition->category
+                                                                : SceneryCategory::Building)];
+}
+
+/// What lies on another level than the active one. Towards the sheet rather than transparent, so
+/// that what lies below does not shine through.
+constexpr Rgba faded(Rgba color) {
+  const auto mix = [](int a, int b) { return static_cast<std::uint8_t>((a * 2 + b * 3) / 5); };
+  return {mix(color.r, kBoard.r), mix(color.g, kBoard.g), mix(color.b, kBoard.b), color.a};
+}
 
 } // namespace trassix::plan_colors
