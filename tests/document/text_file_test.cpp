@@ -92,6 +92,8 @@ TEST(TextFile, keepsTheOldFileWhenAnyStepFails) {
   }
 }
 
+#ifndef _WIN32 // where such a test starts anew in another temporary folder
+
 TEST(TextFileDeathTest, keepsACompleteFileWhenKilledAtAnyStep) {
   for (const Step step :
        {Step::Create, Step::Write, Step::Flush, Step::Close, Step::Rename, Step::Done}) {
@@ -104,6 +106,8 @@ TEST(TextFileDeathTest, keepsACompleteFileWhenKilledAtAnyStep) {
   }
 }
 
+#endif
+
 TEST(TextFile, writesAndReadsUnderAnyName) {
   const TempFolder folder;
   for (const char8_t* name : {u8"plan.txl", u8"Ein Plan für Süd-Gleis.txl", u8"計画.txl"}) {
@@ -112,6 +116,7 @@ TEST(TextFile, writesAndReadsUnderAnyName) {
       EXPECT_EQ(writeTextFile(target, text), "");
       std::string read;
       EXPECT_EQ(readTextFile(target, read), "");
+      std::erase(read, '\r'); // which Windows puts at the ends of lines
       EXPECT_EQ(read, text);
     }
   }

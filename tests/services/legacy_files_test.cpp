@@ -15,7 +15,8 @@ std::map<std::string, std::string> filesUnder(const fs::path& folder) {
   std::map<std::string, std::string> files;
   for (const auto& entry : fs::recursive_directory_iterator(folder)) {
     if (entry.is_regular_file()) {
-      files[fs::relative(entry.path(), folder).generic_string()] = readText(entry.path());
+      const std::u8string name = fs::relative(entry.path(), folder).generic_u8string();
+      files[std::string(name.begin(), name.end())] = readText(entry.path());
     }
   }
   return files;
@@ -25,7 +26,7 @@ class LegacyFiles : public testing::Test {
  protected:
   void install(const std::map<std::string, std::string>& files) {
     for (const auto& [name, text] : files) {
-      writeText(installed / name, text);
+      writeText(installed / std::u8string(name.begin(), name.end()), text);
     }
   }
 

@@ -27,9 +27,13 @@ inline void writeText(const std::filesystem::path& file, const std::string& text
   std::ofstream(file, std::ios::binary) << text;
 }
 
-/// The bytes of a file; empty when there is none.
+/// The bytes of a file, but the platform's line ends as line feeds; empty when there is none.
 inline std::string readText(const std::filesystem::path& file) {
+#ifdef _WIN32
+  std::ifstream in(file);
+#else
   std::ifstream in(file, std::ios::binary);
+#endif
   return {std::istreambuf_iterator<char>(in), {}};
 }
 
