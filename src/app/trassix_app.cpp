@@ -10,6 +10,9 @@
 #include <wx/evtloop.h>
 #include <wx/image.h>
 #include <wx/stopwatch.h>
+#ifdef __WXGTK__
+#include <fontconfig/fontconfig.h>
+#endif
 
 #include <exception>
 #include <string>
@@ -33,6 +36,10 @@ TrassixApp::TrassixApp() {
   // The per-user folders are named after the program, whatever the executable is called.
   SetAppName("trassix");
   SetAppDisplayName("Trassix");
+#ifdef __WXGTK__
+  // Reading the font set-up takes a good part of the start; nothing needs it until the first text.
+  fonts_ = std::async(std::launch::async, [] { FcInit(); });
+#endif
 }
 
 bool TrassixApp::OnInit() {

@@ -2,6 +2,8 @@
 
 #include <wx/app.h>
 
+#include <future>
+
 namespace trassix {
 
 class MainFrame;
@@ -22,6 +24,7 @@ class TrassixApp : public wxApp {
   void openWindow();
 
   bool frameOnScreen_ = false;
+  std::future<void> fonts_; ///< on their way while the toolkit starts
 };
 
 } // namespace trassix

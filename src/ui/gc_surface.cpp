@@ -6,6 +6,10 @@ namespace trassix {
 
 namespace {
 
+/// A font by its size in points grows with the display's resolution, and finding one by its height
+/// in pixels costs the toolkit several trial fonts.
+constexpr double kPointsPerPixel = 0.66;
+
 wxColour colour(Rgba c) {
   return {c.r, c.g, c.b, c.a};
 }
@@ -49,8 +53,10 @@ void GcSurface::useFont(const TextStyle& style) {
   const auto [entry, isNew] = fonts_.try_emplace({style.size, style.bold, packed});
   if (isNew)
     entry->second = context_.CreateFont(
-        style.size, wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetFaceName(),
-        style.bold ? wxFONTFLAG_BOLD : wxFONTFLAG_DEFAULT, colour(style.color));
+        wxFont(wxFontInfo(style.size * kPointsPerPixel)
+                   .FaceName(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetFaceName())
+                   .Bold(style.bold)),
+        colour(style.color));
   context_.SetFont(entry->second);
 }
 

@@ -61,6 +61,8 @@ MainFrame::MainFrame() : wxFrame(nullptr, wxID_ANY, kBaseTitle, wxDefaultPositio
   pageSetup_.SetMarginTopLeft({kMarginMm, kMarginMm});
   pageSetup_.SetMarginBottomRight({kMarginMm, kMarginMm});
   bindCommands();
+  // Tools that cannot be used yet look so from the start and are laid out once only.
+  GetToolBar()->UpdateWindowUI();
   // Without a focus the keys of the menus would wait for the first click.
   canvas_->SetFocus();
   readPreferences();

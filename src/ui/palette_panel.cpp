@@ -46,28 +46,39 @@ CatalogRow heading(const wxString& title) {
 
 PalettePanel::PalettePanel(wxWindow* parent, Actions actions)
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, "palette"),
-      actions_(std::move(actions)),
-      choice_(new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
-                           wxDefaultValidator, "systems")),
-      search_(new wxSearchCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                               wxTE_PROCESS_ENTER, wxDefaultValidator, "search")),
-      pages_(new wxPanel(this)) {
-  pages_->SetSizer(new wxBoxSizer(wxVERTICAL));
+      actions_(std::move(actions)) {
+  Bind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
+}
+
+void PalettePanel::onFirstPaint(wxPaintEvent& event) {
+  event.Skip();
+  Unbind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
+  CallAfter(&PalettePanel::build);
+}
+
+void PalettePanel::build() {
+  choice_ = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
+                         wxDefaultValidator, "systems");
+  choice_->SetToolTip(_("Track system"));
+  for (const TrackSystem system : systems_)
+    choice_->Append(fromUtf8(systemName(system)));
+  search_ = new wxSearchCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                             wxTE_PROCESS_ENTER, wxDefaultValidator, "search");
+  search_->SetDescriptiveText(_("Article, name or number"));
+  search_->ShowCancelButton(true);
   auto* tabRow = new wxBoxSizer(wxHORIZONTAL);
   const wxString titles[] = {_("Track"), _("Scenery"), _("Library")};
   for (const Tab tab : {kTrackTab, kSceneryTab, kLibraryTab}) {
     auto* button = new wxToggleButton(this, wxID_ANY, titles[tab], wxDefaultPosition, wxDefaultSize,
                                       wxBU_EXACTFIT);
     button->SetMinSize({1, -1});
-    button->SetValue(tab == shownTab_);
     button->Bind(wxEVT_TOGGLEBUTTON, [this, tab](wxCommandEvent&) { showTab(tab); });
     tabRow->Add(button, wxSizerFlags(1).Expand());
     tabs_.at(tab) = button;
   }
+  pages_ = new wxPanel(this);
+  pages_->SetSizer(new wxBoxSizer(wxVERTICAL));
 
-  search_->SetDescriptiveText(_("Article, name or number"));
-  search_->ShowCancelButton(true);
-  choice_->SetToolTip(_("Track system"));
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   sizer->Add(choice_, wxSizerFlags().Expand().Border(wxALL, FromDIP(4)));
   sizer->Add(search_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(4)));
@@ -81,13 +92,9 @@ PalettePanel::PalettePanel(wxWindow* parent, Actions actions)
   search_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { searchFor(search_->GetValue()); });
   search_->Bind(wxEVT_SEARCHCTRL_CANCEL_BTN, [this](wxCommandEvent&) { search_->Clear(); });
   search_->Bind(wxEVT_CHAR_HOOK, &PalettePanel::onSearchKey, this);
-  pages_->Bind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
-}
-
-void PalettePanel::onFirstPaint(wxPaintEvent& event) {
-  event.Skip();
-  pages_->Unbind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
-  CallAfter([this] { showTab(shownTab_); });
+  markSystem();
+  showTab(kTrackTab);
+  Layout();
 }
 
 CatalogList* PalettePanel::makeList(Tab tab) {
@@ -149,9 +156,6 @@ void PalettePanel::fill(Tab tab) {
 
 void PalettePanel::populate() {
   systems_ = paletteSystems();
-  choice_->Clear();
-  for (const TrackSystem system : systems_)
-    choice_->Append(fromUtf8(systemName(system)));
   showSystem(systems_.front());
 }
 
@@ -161,14 +165,19 @@ void PalettePanel::followLayout(const trassix::Layout& layout) {
 }
 
 void PalettePanel::showSystem(TrackSystem system) {
-  const auto found = std::find(systems_.begin(), systems_.end(), system);
-  if (found == systems_.end())
+  if (std::find(systems_.begin(), systems_.end(), system) == systems_.end())
     return;
-  choice_->SetSelection(static_cast<int>(found - systems_.begin()));
   model_.setSystem(system);
+  markSystem();
   fill(kTrackTab);
   fill(kSceneryTab);
   reloadLibrary();
+}
+
+void PalettePanel::markSystem() {
+  const auto shown = std::find(systems_.begin(), systems_.end(), system());
+  if (choice_)
+    choice_->SetSelection(static_cast<int>(shown - systems_.begin()));
 }
 
 void PalettePanel::showTab(Tab tab) {

@@ -36,7 +36,7 @@ class PalettePanel : public wxPanel {
 
   PalettePanel(wxWindow* parent, Actions actions);
 
-  /// Fills the list of systems and shows the first one.
+  /// Takes the systems up and shows the first one.
   void populate();
   /// Shows the system that most of the plan is built in; a plan without track changes nothing.
   void followLayout(const trassix::Layout& layout);
@@ -51,12 +51,15 @@ class PalettePanel : public wxPanel {
   enum Tab { kTrackTab, kSceneryTab, kLibraryTab };
 
   void onFirstPaint(wxPaintEvent& event);
+  /// Makes the controls. It waits for the first paint, so that the window is there at once.
+  void build();
   CatalogList* makeList(Tab tab);
   /// Makes the list when it is first wanted.
   CatalogList& listOf(Tab tab);
   /// Renews the rows of a list that was made.
   void fill(Tab tab);
   void showSystem(TrackSystem system);
+  void markSystem();
   void showTab(Tab tab);
   void searchFor(const wxString& text);
   void onSearchKey(wxKeyEvent& event);
@@ -76,11 +79,12 @@ class PalettePanel : public wxPanel {
   std::vector<const SceneryDef*> scenery_;  ///< likewise
   std::vector<LibraryEntry> library_;       ///< all blocks of the folder
   std::vector<const LibraryEntry*> blocks_; ///< by row
-  wxChoice* choice_;
-  wxSearchCtrl* search_;
-  std::array<wxToggleButton*, 3> tabs_; ///< by Tab; narrower than the toolkit's own
+  // The controls, none before the first paint.
+  wxChoice* choice_ = nullptr;
+  wxSearchCtrl* search_ = nullptr;
+  std::array<wxToggleButton*, 3> tabs_{}; ///< by Tab; narrower than the toolkit's own
   Tab shownTab_ = kTrackTab;
-  wxPanel* pages_;
+  wxPanel* pages_ = nullptr;
   std::array<CatalogList*, 3> lists_{}; ///< by Tab; none before it was looked at
 };
 

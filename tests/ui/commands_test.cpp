@@ -216,16 +216,16 @@ TEST_F(FrameTest, EveryCommandDoesSomething) {
 TEST_F(FrameTest, KeysTypedIntoATextStayThere) {
   start();
   placePiece();
-  auto* search = dynamic_cast<wxSearchCtrl*>(wxWindow::FindWindowByName("search", &frame()));
-  ASSERT_NE(search, nullptr);
+  ASSERT_TRUE(waitUntil("there is a search field", [] { return findNamed("search"); }));
+  auto* search = dynamic_cast<wxSearchCtrl*>(findNamed("search"));
   const double zoom = frame().canvasPanel().canvas().view().zoom();
   search->SetFocus();
   waitUntil("the search field has the focus", [&] { return search->HasFocus(); });
   typeText("24-1+8");
-  EXPECT_EQ(search->GetValue(), "24-1+8");
+  waitUntil("the text is typed", [&] { return search->GetValue() == "24-1+8"; });
   pressKey('A', wxMOD_CONTROL);
   pressKey(WXK_DELETE);
-  EXPECT_EQ(search->GetValue(), "");
+  waitUntil("the text is gone", [&] { return search->IsEmpty(); });
   EXPECT_EQ(pieces(), 1u);
   EXPECT_EQ(frame().canvasPanel().canvas().view().zoom(), zoom);
 

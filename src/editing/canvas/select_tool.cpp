@@ -62,6 +62,7 @@ void SelectTool::release(const PointerInput& input, bool dragged) {
   if (gesture_) {
     // Kept here while it works: it may put a question, during which other events arrive.
     const std::unique_ptr<Gesture> ending = std::move(gesture_);
+    ending->drag(input);
     ending->drop();
   } else if (!dragged) {
     click(input);
