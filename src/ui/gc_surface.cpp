@@ -1,6 +1,9 @@
 #include "ui/gc_surface.h"
 
 #include <wx/settings.h>
+#ifdef __WXMSW__
+#include <wx/msw/private.h>
+#endif
 
 namespace trassix {
 
@@ -9,6 +12,20 @@ namespace {
 /// A font by its size in points grows with the display's resolution, and finding one by its height
 /// in pixels costs the toolkit several trial fonts.
 constexpr double kPointsPerPixel = 0.66;
+
+/// The face that texts in the window are really drawn with.
+wxString guiFace() {
+  const wxFont font = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT);
+#ifdef __WXMSW__
+  // Its name may stand for another font's, and graphics contexts find only true names.
+  const ScreenHDC screen;
+  const SelectInHDC selected(screen, GetHfontOf(font));
+  wchar_t face[LF_FACESIZE] = {};
+  if (::GetTextFaceW(screen, LF_FACESIZE, face) > 0)
+    return face;
+#endif
+  return font.GetFaceName();
+}
 
 wxColour colour(Rgba c) {
   return {c.r, c.g, c.b, c.a};
@@ -53,9 +70,7 @@ void GcSurface::useFont(const TextStyle& style) {
   const auto [entry, isNew] = fonts_.try_emplace({style.size, style.bold, packed});
   if (isNew)
     entry->second = context_.CreateFont(
-        wxFont(wxFontInfo(style.size * kPointsPerPixel)
-                   .FaceName(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetFaceName())
-                   .Bold(style.bold)),
+        wxFont(wxFontInfo(style.size * kPointsPerPixel).FaceName(guiFace()).Bold(style.bold)),
         colour(style.color));
   context_.SetFont(entry->second);
 }
