@@ -13,8 +13,8 @@ namespace trassix {
 
 namespace {
 
-/// Where a piece appears that was picked up without pointing at the plan, in pixels.
-const wxPoint kPickUpPoint{300, 200};
+/// Where a piece appears that was picked up without pointing at the plan.
+constexpr Point kPickUpPoint{300, 200};
 
 wxStockCursor stockCursor(CursorShape shape) {
   switch (shape) {
@@ -106,9 +106,17 @@ CanvasPanel::CanvasPanel(wxWindow* parent, LayoutHost& host)
   });
 }
 
-PointerInput CanvasPanel::inputAt(wxPoint px) const {
+double CanvasPanel::pixelScale() const {
+  return FromDIP(1000) / 1000.0;
+}
+
+Point CanvasPanel::onCanvas(wxPoint px) const {
+  return {px.x / pixelScale(), px.y / pixelScale()};
+}
+
+PointerInput CanvasPanel::inputAt(Point px) const {
   PointerInput input;
-  input.px = {static_cast<double>(px.x), static_cast<double>(px.y)};
+  input.px = px;
   input.world = canvas_.view().toWorld(input.px);
   input.ctrl = wxGetKeyState(WXK_CONTROL);
   input.shift = wxGetKeyState(WXK_SHIFT);
@@ -117,7 +125,7 @@ PointerInput CanvasPanel::inputAt(wxPoint px) const {
 }
 
 PointerInput CanvasPanel::inputOf(const wxMouseEvent& event) const {
-  PointerInput input = inputAt(event.GetPosition());
+  PointerInput input = inputAt(onCanvas(event.GetPosition()));
   input.ctrl = event.ControlDown();
   input.shift = event.ShiftDown();
   input.alt = event.AltDown();
@@ -142,7 +150,7 @@ void CanvasPanel::syncCapture() {
 }
 
 PointerInput CanvasPanel::inputAtPointer() const {
-  return inputAt(ScreenToClient(wxGetMousePosition()));
+  return inputAt(onCanvas(ScreenToClient(wxGetMousePosition())));
 }
 
 void CanvasPanel::dragPiece(std::string_view article) {
@@ -226,7 +234,7 @@ void CanvasPanel::onCaptureLost(wxMouseCaptureLostEvent&) {
 
 void CanvasPanel::onSize(wxSizeEvent& event) {
   const wxSize size = GetClientSize();
-  canvas_.resize({static_cast<double>(size.x), static_cast<double>(size.y)});
+  canvas_.resize({size.x / pixelScale(), size.y / pixelScale()});
   Refresh(false);
   event.Skip();
 }
@@ -243,6 +251,7 @@ void CanvasPanel::renewPicture() {
   pictureStamp_ = stamp;
   wxMemoryDC memory(picture_);
   const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(memory));
+  context->Scale(pixelScale(), pixelScale());
   GcSurface surface(*context);
   canvas_.paintPlan(surface);
 }
@@ -255,6 +264,7 @@ void CanvasPanel::onPaint(wxPaintEvent&) {
   renewPicture();
   dc.DrawBitmap(picture_, 0, 0);
   const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
+  context->Scale(pixelScale(), pixelScale());
   GcSurface surface(*context);
   canvas_.paintOverlay(surface);
 }

@@ -30,7 +30,11 @@ class CanvasPanel : public wxPanel {
 
  private:
   PointerInput inputOf(const wxMouseEvent& event) const;
-  PointerInput inputAt(wxPoint px) const;
+  /// Pixels of the window for one of the canvas, where the toolkit leaves a display's resolution to
+  /// the program.
+  double pixelScale() const;
+  Point onCanvas(wxPoint px) const;
+  PointerInput inputAt(Point px) const;
   PointerInput inputAtPointer() const;
   void tookUp();
   void onPaint(wxPaintEvent& event);

@@ -9,9 +9,10 @@ namespace trassix {
 
 namespace {
 
-/// A font by its size in points grows with the display's resolution, and finding one by its height
-/// in pixels costs the toolkit several trial fonts.
+/// Finding a font by its height in pixels costs the toolkit several trial fonts. Whoever makes the
+/// context scales it to the display's resolution, so points are those of the usual one.
 constexpr double kPointsPerPixel = 0.66;
+const wxRealPoint kDpi(96, 96);
 
 /// The face that texts in the window are really drawn with.
 wxString guiFace() {

@@ -57,9 +57,7 @@ void MainFrame::chooseBaseboard() {
 }
 
 void MainFrame::placeRectangle() {
-  const Canvas& canvas = canvas_->canvas();
-  const wxSize size = canvas_->GetClientSize();
-  RectangleDialog dialog(this, layout_, canvas.view().toWorld({size.x / 2.0, size.y / 2.0}));
+  RectangleDialog dialog(this, layout_, canvas_->canvas().centre());
   if (dialog.ShowModal() != wxID_OK || !dialog.place())
     return;
   setToolMode(ToolMode::Select); // so that it can be moved

@@ -241,6 +241,10 @@ void Canvas::documentReplaced() {
   base_ = makeTool(mode_, site_);
 }
 
+Point Canvas::centre() const {
+  return site_.view.toWorld({site_.size.width / 2, site_.size.height / 2});
+}
+
 void Canvas::zoomAboutCentre(double factor) {
   const auto half = [](double length) { return std::floor(length / 2); };
   site_.view.zoomAbout(factor, {half(site_.size.width), half(site_.size.height)});

@@ -24,6 +24,8 @@ class Canvas {
   ViewTransform& view() { return site_.view; }
   const ViewTransform& view() const { return site_.view; }
   void resize(SizePx size) { site_.size = size; }
+  /// The middle of what is in view, mm.
+  Point centre() const;
 
   void press(Button button, const PointerInput& input);
   void move(const PointerInput& input);
