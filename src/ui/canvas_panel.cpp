@@ -82,8 +82,9 @@ CanvasPanel::CanvasPanel(wxWindow* parent, LayoutHost& host)
       canvas_(host) {
   SetBackgroundStyle(wxBG_STYLE_PAINT);
   Bind(wxEVT_PAINT, &CanvasPanel::onPaint, this);
-  for (const auto& type : {wxEVT_LEFT_DOWN, wxEVT_LEFT_UP, wxEVT_LEFT_DCLICK, wxEVT_MIDDLE_DOWN,
-                           wxEVT_MIDDLE_UP, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_UP, wxEVT_MOTION})
+  for (const auto& type :
+       {wxEVT_LEFT_DOWN, wxEVT_LEFT_UP, wxEVT_LEFT_DCLICK, wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_UP,
+        wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_UP, wxEVT_RIGHT_DCLICK, wxEVT_MOTION})
     Bind(type, &CanvasPanel::onMouse, this);
   Bind(wxEVT_MOUSEWHEEL, &CanvasPanel::onWheel, this);
   Bind(wxEVT_KEY_DOWN, &CanvasPanel::onKeyDown, this);
@@ -101,9 +102,10 @@ CanvasPanel::CanvasPanel(wxWindow* parent, LayoutHost& host)
       },
       kDeleteSelection);
   Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
-    canvas_.setSpace(false);
+    holdSpace(false);
     event.Skip();
   });
+  wxGetTopLevelParent(this)->Bind(wxEVT_ACTIVATE, &CanvasPanel::onActivate, this);
 }
 
 double CanvasPanel::pixelScale() const {
@@ -188,9 +190,9 @@ void CanvasPanel::onMouse(wxMouseEvent& event) {
   const auto button = event.GetButton() == wxMOUSE_BTN_RIGHT    ? Canvas::Button::Right
                       : event.GetButton() == wxMOUSE_BTN_MIDDLE ? Canvas::Button::Middle
                                                                 : Canvas::Button::Left;
-  if (event.ButtonDClick())
+  if (event.LeftDClick())
     canvas_.doubleClick(input);
-  else if (event.ButtonDown()) {
+  else if (event.ButtonDown() || event.ButtonDClick()) {
     SetFocus();
     canvas_.press(button, input);
   } else if (event.ButtonUp()) {
@@ -211,11 +213,15 @@ void CanvasPanel::onWheel(wxMouseEvent& event) {
                                       std::max(event.GetWheelDelta(), 1));
 }
 
+void CanvasPanel::holdSpace(bool down) {
+  canvas_.setSpace(down);
+  if (canvas_.cursor() != cursorShown_)
+    update();
+}
+
 void CanvasPanel::onKeyDown(wxKeyEvent& event) {
-  if (event.GetKeyCode() == WXK_SPACE) {
-    canvas_.setSpace(true);
-    return;
-  }
+  if (event.GetKeyCode() == WXK_SPACE)
+    return holdSpace(true);
   if (!canvas_.key({keyOf(event), event.ShiftDown()}))
     event.Skip();
   syncCapture();
@@ -223,13 +229,20 @@ void CanvasPanel::onKeyDown(wxKeyEvent& event) {
 
 void CanvasPanel::onKeyUp(wxKeyEvent& event) {
   if (event.GetKeyCode() == WXK_SPACE)
-    canvas_.setSpace(false);
+    holdSpace(false);
   else
     event.Skip();
 }
 
 void CanvasPanel::onCaptureLost(wxMouseCaptureLostEvent&) {
   canvas_.cancel();
+}
+
+void CanvasPanel::onActivate(wxActivateEvent& event) {
+  // Something on the pointer would keep the mouse from the window that the user went to.
+  if (!event.GetActive() && canvas_.wantsCapture())
+    canvas_.cancel();
+  event.Skip();
 }
 
 void CanvasPanel::onSize(wxSizeEvent& event) {

@@ -43,8 +43,10 @@ class CanvasPanel : public wxPanel {
   void onKeyDown(wxKeyEvent& event);
   void onKeyUp(wxKeyEvent& event);
   void onCaptureLost(wxMouseCaptureLostEvent& event);
+  void onActivate(wxActivateEvent& event);
   void onSize(wxSizeEvent& event);
   void syncCapture();
+  void holdSpace(bool down);
   void renewPicture();
 
   Canvas canvas_;

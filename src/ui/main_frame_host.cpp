@@ -34,6 +34,7 @@ void MainFrame::changed() {
 }
 
 void MainFrame::selectionChanged() {
+  canvas_->canvas().renewHint();
   canvas_->update();
   if (properties_)
     properties_->selectionChanged();

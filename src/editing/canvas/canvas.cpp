@@ -5,8 +5,10 @@
 #include "editing/canvas/carry_piece_tool.h"
 #include "editing/canvas/carry_scenery_tool.h"
 #include "editing/canvas/measure_tool.h"
+#include "editing/canvas/piece_painter.h"
 #include "editing/canvas/polygon_tool.h"
 #include "editing/canvas/select_tool.h"
+#include "editing/canvas/selection_commands.h"
 #include "editing/content_box.h"
 
 #include <bit>
@@ -20,6 +22,8 @@ constexpr double kDragThresholdPx = 3;
 constexpr double kWheelIn = 1.15;
 constexpr double kWheelOut = 0.8695652173913044; // 1 / 1.15
 constexpr double kWheelRounding = 1e-9;          ///< by which fractions of a notch may miss it
+constexpr double kTurn = 15.0;                   ///< of the selection by one notch, degrees
+constexpr double kFineTurn = 5.0;
 
 bool beyondThreshold(Point a, Point b) {
   return std::abs(a.x - b.x) > kDragThresholdPx || std::abs(a.y - b.y) > kDragThresholdPx;
@@ -57,6 +61,13 @@ void Canvas::press(Button button, const PointerInput& input) {
     afterInput();
     return;
   }
+  if (gesture_ != Gesture::None) {
+    if (button != button_)
+      return;
+    cancel(); // its release went elsewhere
+  }
+  button_ = button;
+  dropped_ = false;
   pressed_ = input;
   originAtPress_ = site_.view.origin();
   if (button == Button::Middle || (space_ && !carry_)) {
@@ -103,9 +114,10 @@ void Canvas::move(const PointerInput& input) {
 void Canvas::release(Button button, const PointerInput& input) {
   const Input working(*this);
   last_ = input;
-  if (button == Button::Right)
+  if (button == Button::Right || (gesture_ != Gesture::None && button != button_))
     return;
   const Gesture gesture = gesture_;
+  dropped_ = carrying();
   gesture_ = Gesture::None;
   switch (gesture) {
   case Gesture::PanPending: // a click with Ctrl after all
@@ -130,6 +142,10 @@ void Canvas::release(Button button, const PointerInput& input) {
 }
 
 void Canvas::doubleClick(const PointerInput& input) {
+  // A click that let go of something was not the first half of a double-click, and with Ctrl or
+  // Space held each press is one of its own.
+  if (carry_ || dropped_ || input.ctrl || space_)
+    return press(Button::Left, input);
   const Input working(*this);
   last_ = input;
   gesture_ = Gesture::None;
@@ -143,7 +159,7 @@ void Canvas::wheel(const PointerInput& input, double notches) {
   if (notches == 0)
     return;
   const bool whole = std::abs(notches) >= 1;
-  if (!tool().takesWheel(input)) {
+  if (!carry_ && !wheelTurnsSelection(input)) {
     wheelRest_ = 0;
     const double step = notches > 0 ? kWheelIn : kWheelOut;
     site_.view.zoomAbout(whole ? step : std::pow(kWheelIn, notches), input.px);
@@ -155,10 +171,27 @@ void Canvas::wheel(const PointerInput& input, double notches) {
     wheelRest_ += whole ? std::copysign(1.0, notches) : notches;
     if (const double step = std::round(wheelRest_); std::abs(wheelRest_) >= 1 - kWheelRounding) {
       wheelRest_ -= step;
-      tool().wheel(input, step > 0 ? 1 : -1);
+      const int direction = step > 0 ? 1 : -1;
+      if (carry_)
+        carry_->wheel(input, direction);
+      else
+        turnSelection(site_, direction * (input.shift ? kFineTurn : kTurn));
     }
   }
   afterInput();
+}
+
+bool Canvas::wheelTurnsSelection(const PointerInput& input) const {
+  // Not under a drag, which has taken up the selection as it was.
+  return input.ctrl && (gesture_ == Gesture::None || gesture_ == Gesture::PanPending) &&
+         selectionBox(site_.layout());
+}
+
+void Canvas::setSpace(bool down) {
+  if (space_ == down)
+    return;
+  space_ = down;
+  renewHint();
 }
 
 bool Canvas::key(const KeyInput& input) {
@@ -172,11 +205,10 @@ bool Canvas::key(const KeyInput& input) {
   return used;
 }
 
-void Canvas::retire(std::unique_ptr<CanvasTool>& tool) {
+void Canvas::retire(std::unique_ptr<CanvasTool> tool) {
   // A tool may well end its own mode, or put a question during which it is cancelled.
   if (tool && inputDepth_ > 0)
     retired_.push_back(std::move(tool));
-  tool.reset();
 }
 
 void Canvas::cancel() {
@@ -184,7 +216,7 @@ void Canvas::cancel() {
     site_.view.panTo(originAtPress_);
   gesture_ = Gesture::None;
   tool().cancel();
-  retire(carry_);
+  retire(std::move(carry_));
   site_.host.repaint();
   afterInput();
 }
@@ -193,7 +225,7 @@ bool Canvas::wantsCapture() const {
   return carry_ || gesture_ != Gesture::None;
 }
 
-void Canvas::startCarry(std::unique_ptr<CanvasTool> carry, const PointerInput& at) {
+void Canvas::startCarry(std::unique_ptr<CarryTool> carry, const PointerInput& at) {
   cancel();
   carry_ = std::move(carry);
   carry_->hover(at);
@@ -201,8 +233,14 @@ void Canvas::startCarry(std::unique_ptr<CanvasTool> carry, const PointerInput& a
 }
 
 void Canvas::carryPiece(std::string_view article, const PointerInput& at, bool held) {
-  if (const PieceDef* definition = TrackCatalog::instance().find(article))
-    startCarry(std::make_unique<CarryPieceTool>(site_, *definition, held), at);
+  const PieceDef* definition = TrackCatalog::instance().find(article);
+  if (!definition)
+    return;
+  auto carry = std::make_unique<CarryPieceTool>(site_, *definition, held);
+  // Another piece taken up in place of one that hangs on the pointer lies as that was turned.
+  if (const auto* before = dynamic_cast<const CarryPieceTool*>(carry_.get()))
+    carry->keepHeading(*before);
+  startCarry(std::move(carry), at);
 }
 
 void Canvas::carryScenery(std::string_view key, const PointerInput& at, bool held) {
@@ -217,10 +255,10 @@ void Canvas::carryBlock(Block block, const PointerInput& at, bool held) {
 
 void Canvas::afterInput() {
   if (carry_ && carry_->finished()) {
-    retire(carry_);
+    retire(std::move(carry_));
     site_.host.repaint();
   }
-  site_.host.setHint(hint());
+  renewHint();
 }
 
 void Canvas::modeChanged() {
@@ -229,7 +267,7 @@ void Canvas::modeChanged() {
     return;
   cancel();
   mode_ = mode;
-  retire(base_);
+  retire(std::move(base_));
   base_ = makeTool(mode, site_);
   afterInput();
   site_.host.repaint();
@@ -237,7 +275,7 @@ void Canvas::modeChanged() {
 
 void Canvas::documentReplaced() {
   cancel();
-  retire(base_);
+  retire(std::move(base_));
   base_ = makeTool(mode_, site_);
 }
 
@@ -252,11 +290,7 @@ void Canvas::zoomAboutCentre(double factor) {
 }
 
 void Canvas::fit() {
-  // An empty plan has nothing to fit: the start view shows a table's worth of room instead.
-  if (const std::optional<Box> box = contentBox(site_.layout()))
-    site_.view.fit(*box, site_.size.width, site_.size.height);
-  else
-    site_.view.reset();
+  site_.view.fit(contentBox(site_.layout()).value_or(Box{}), site_.size.width, site_.size.height);
   site_.host.repaint();
 }
 
@@ -286,6 +320,9 @@ void Canvas::paintPlan(Surface& surface) {
 }
 
 void Canvas::paintOverlay(Surface& surface) {
+  PiecePainter painter(surface, site_.view);
+  for (const ToolSite::Preview& shown : site_.preview)
+    painter.paint(trackGeometryOf(*shown.definition), shown.pose, carriedLook(true));
   tool().paint(surface);
 }
 
@@ -308,11 +345,13 @@ std::uint64_t Canvas::planStamp() {
 std::string Canvas::hint() const {
   if (gesture_ == Gesture::Pan)
     return "Panning: let go to stay here, Esc to go back";
+  if (space_ && !carry_ && gesture_ == Gesture::None)
+    return "Drag: pan    Wheel: zoom";
   return tool().hint();
 }
 
 CursorShape Canvas::cursor() const {
-  if (gesture_ == Gesture::Pan)
+  if (gesture_ == Gesture::Pan || (space_ && !carry_ && gesture_ == Gesture::None))
     return CursorShape::Hand;
   return tool().cursor();
 }

@@ -2,6 +2,7 @@
 
 #include "document/block_file.h"
 #include "editing/canvas/canvas_tool.h"
+#include "editing/canvas/carry_tool.h"
 #include "editing/canvas/layout_painter.h"
 
 #include <cstdint>
@@ -30,12 +31,13 @@ class Canvas {
   void press(Button button, const PointerInput& input);
   void move(const PointerInput& input);
   void release(Button button, const PointerInput& input);
+  /// The second press of a double-click with the left button.
   void doubleClick(const PointerInput& input);
   /// `notches` is signed. Of a whole notch or more only the sign counts; touchpads send fractions,
   /// which zoom in proportion and add up to the steps of everything else.
   void wheel(const PointerInput& input, double notches);
   bool key(const KeyInput& input);
-  void setSpace(bool down) { space_ = down; }
+  void setSpace(bool down);
   /// Esc or a lost capture: ends whatever is under way and leaves no ghost.
   void cancel();
   /// True while a press, a pan or something carried needs the mouse captured.
@@ -65,13 +67,16 @@ class Canvas {
   std::uint64_t planStamp();
 
   std::string hint() const;
+  /// Tells the window the hint again, after something outside changed what the mouse would do.
+  void renewHint() { site_.host.setHint(hint()); }
   CursorShape cursor() const;
   ToolSite& site() { return site_; }
 
  private:
   CanvasTool& tool() { return carry_ ? *carry_ : *base_; }
   const CanvasTool& tool() const { return carry_ ? *carry_ : *base_; }
-  void startCarry(std::unique_ptr<CanvasTool> carry, const PointerInput& at);
+  void startCarry(std::unique_ptr<CarryTool> carry, const PointerInput& at);
+  bool wheelTurnsSelection(const PointerInput& input) const;
   void afterInput();
   PaintOptions paintOptions() const;
 
@@ -90,18 +95,20 @@ class Canvas {
     Canvas& canvas_;
   };
 
-  void retire(std::unique_ptr<CanvasTool>& tool);
+  void retire(std::unique_ptr<CanvasTool> tool);
 
   enum class Gesture : std::uint8_t { None, Pending, Drag, PanPending, Pan };
 
   ToolSite site_;
   std::unique_ptr<CanvasTool> base_;
-  std::unique_ptr<CanvasTool> carry_;
+  std::unique_ptr<CarryTool> carry_;
   /// Tools that were put away while one of their functions ran, until it is back.
   std::vector<std::unique_ptr<CanvasTool>> retired_;
   int inputDepth_ = 0;
   ToolMode mode_ = ToolMode::Select;
   Gesture gesture_ = Gesture::None;
+  Button button_ = Button::Left; ///< that began the gesture
+  bool dropped_ = false;         ///< the last click let go of something carried
   PointerInput pressed_;
   Point originAtPress_;
   bool space_ = false;

@@ -102,19 +102,9 @@ class CanvasTool {
   virtual void release(const PointerInput&, bool /*dragged*/) {}
   virtual void doubleClick(const PointerInput&) {}
   virtual void contextMenu(const PointerInput&) {}
-  /// False lets the wheel zoom.
-  virtual bool takesWheel(const PointerInput&) const { return false; }
-  /// One notch of the wheel, if it is taken; `direction` is +1 or -1.
-  virtual void wheel(const PointerInput&, int /*direction*/) {}
   virtual bool key(const KeyInput&) { return false; }
   /// Esc, a lost capture or another tool: leaves everything as it was before the gesture.
   virtual void cancel() {}
-
-  /// True once a carried thing was dropped or discarded; the canvas then goes back to the tool of
-  /// the current mode.
-  virtual bool finished() const { return false; }
-  /// True for something that hangs on the pointer and needs the mouse captured.
-  virtual bool carries() const { return false; }
 
   /// Pieces (sorted ids) that the tool draws itself at another place.
   virtual std::span<const std::int32_t> lifted() const { return {}; }

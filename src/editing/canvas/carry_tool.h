@@ -17,12 +17,13 @@ class CarryTool : public CanvasTool {
   void hover(const PointerInput& input) final;
   void drag(const PointerInput& input) final { hover(input); }
   void release(const PointerInput& input, bool dragged) final;
-  bool takesWheel(const PointerInput&) const final { return true; }
-  void wheel(const PointerInput& input, int direction) final;
+  /// One notch of the wheel; `direction` is +1 or -1.
+  void wheel(const PointerInput& input, int direction);
   bool key(const KeyInput& input) final;
   void cancel() final { done_ = true; }
-  bool finished() const final { return done_; }
-  bool carries() const final { return true; }
+  /// True once it was dropped or discarded.
+  bool finished() const { return done_; }
+  void keepHeading(const CarryTool& other) { pose_.heading = other.pose_.heading; }
   CursorShape cursor() const final { return CursorShape::Move; }
 
  protected:

@@ -37,7 +37,7 @@ class RubberBandGesture : public Gesture {
   std::string hint() const override;
 
  private:
-  bool encloses() const { return to_.px.x >= from_.px.x; }
+  bool encloses() const { return to_.world.x >= from_.world.x; }
 
   PointerInput from_;
   PointerInput to_;

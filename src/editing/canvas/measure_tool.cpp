@@ -40,13 +40,24 @@ void MeasureTool::hover(const PointerInput& input) {
   site_.host.repaint();
 }
 
-void MeasureTool::release(const PointerInput& input, bool) {
+void MeasureTool::press(const PointerInput& input) {
+  pressedAt_ = caught(input.world);
+}
+
+void MeasureTool::drag(const PointerInput& input) {
+  if (!from_)
+    from_ = pressedAt_;
+  hover(input);
+}
+
+void MeasureTool::release(const PointerInput& input, bool dragged) {
   hover(input);
   if (!from_) {
     from_ = to_;
     return;
   }
-  if (*from_ == to_)
+  // A hand that shook at the first click has drawn nothing yet.
+  if (std::hypot(to_.x - from_->x, to_.y - from_->y) <= (dragged ? site_.mm(kCatchPx) : 0))
     return;
   addMeasurement(site_.layout(), *from_, to_);
   from_.reset();

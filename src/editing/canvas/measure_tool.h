@@ -6,13 +6,15 @@
 
 namespace trassix {
 
-/// The measuring tape: two clicks lay down a length. Points near a track end take the end itself.
+/// The measuring tape: two clicks, or a drag, lay down a length. Points near a track end take the
+/// end itself.
 class MeasureTool : public CanvasTool {
  public:
   using CanvasTool::CanvasTool;
 
   void hover(const PointerInput& input) override;
-  void drag(const PointerInput& input) override { hover(input); }
+  void press(const PointerInput& input) override;
+  void drag(const PointerInput& input) override;
   void release(const PointerInput& input, bool dragged) override;
   bool key(const KeyInput& input) override;
   void cancel() override;
@@ -23,6 +25,7 @@ class MeasureTool : public CanvasTool {
  private:
   Point caught(Point world);
 
+  Point pressedAt_;
   std::optional<Point> from_;
   Point to_;
 };

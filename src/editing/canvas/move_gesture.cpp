@@ -48,7 +48,7 @@ MoveGesture::MoveGesture(ToolSite& site, const PointerInput& from, bool turning)
 
 void MoveGesture::drag(const PointerInput& input) {
   if (turning_) {
-    turned_ = bearing(centre_, input.world) - bearing(centre_, from_.world);
+    turned_ = std::remainder(bearing(centre_, input.world) - bearing(centre_, from_.world), 360.0);
     if (input.shift)
       turned_ = std::round(turned_ / 15) * 15;
     move_.turn(centre_, turned_);

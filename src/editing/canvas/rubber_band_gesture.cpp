@@ -25,8 +25,9 @@ void RubberBandGesture::drop() {
 }
 
 void RubberBandGesture::paint(Surface& surface) const {
-  const Point a = from_.px;
-  const Point b = to_.px;
+  // The view may have been zoomed or moved since the press.
+  const Point a = site_.view.toScreen(from_.world);
+  const Point b = site_.view.toScreen(to_.world);
   const std::array<Point, 4> box{{{a.x, a.y}, {b.x, a.y}, {b.x, b.y}, {a.x, b.y}}};
   Rgba fill = plan_colors::kSelected;
   fill.a = encloses() ? 36 : 18;

@@ -1,11 +1,9 @@
 #include "editing/canvas/select_tool.h"
 
-#include "editing/annotations.h"
 #include "editing/canvas/hover.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/canvas/selection_menu.h"
 #include "editing/placing.h"
-#include "editing/records_by_id.h"
 #include "editing/selection.h"
 
 #include <algorithm>
@@ -16,8 +14,6 @@ namespace {
 
 constexpr double kNudge = 10.0; ///< mm
 constexpr double kFineNudge = 1.0;
-constexpr double kWheelTurn = 15.0; ///< degrees
-constexpr double kFineWheelTurn = 5.0;
 
 } // namespace
 
@@ -116,10 +112,7 @@ void SelectTool::doubleClick(const PointerInput& input) {
     return;
   }
   if (const Pick* label = first(RecordKind::Label); label && !piece) {
-    const Label* record = recordWithId(layout.content().labels, label->id);
-    const auto text = site_.host.askText("Edit Label", "Text:", record->text);
-    if (text && editLabelText(layout, label->id, *text))
-      site_.host.changed();
+    askLabelText(site_, label->id);
     return;
   }
   if (const Pick* shape = first(RecordKind::Shape)) {
@@ -128,14 +121,6 @@ void SelectTool::doubleClick(const PointerInput& input) {
   }
   if (piece)
     site_.report(cloneAndExtend(layout, piece->id));
-}
-
-bool SelectTool::takesWheel(const PointerInput& input) const {
-  return input.ctrl && selectionBox(site_.layout());
-}
-
-void SelectTool::wheel(const PointerInput& input, int direction) {
-  turnSelection(site_, direction * (input.shift ? kFineWheelTurn : kWheelTurn));
 }
 
 bool SelectTool::mayLeave(Point step) {

@@ -21,8 +21,6 @@ class SelectTool : public CanvasTool {
   void release(const PointerInput& input, bool dragged) override;
   void doubleClick(const PointerInput& input) override;
   void contextMenu(const PointerInput& input) override;
-  bool takesWheel(const PointerInput& input) const override;
-  void wheel(const PointerInput& input, int direction) override;
   bool key(const KeyInput& input) override;
   void cancel() override;
   std::span<const std::int32_t> lifted() const override;

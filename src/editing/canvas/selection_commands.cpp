@@ -1,7 +1,9 @@
 #include "editing/canvas/selection_commands.h"
 
+#include "editing/annotations.h"
 #include "editing/block_placing.h"
 #include "editing/picking.h"
+#include "editing/records_by_id.h"
 #include "editing/selection.h"
 
 namespace trassix {
@@ -22,6 +24,13 @@ void duplicateSelection(ToolSite& site) {
   Block copy = blockFromSelection(site.layout());
   centreBlock(copy);
   site.carryBlock(std::move(copy));
+}
+
+void askLabelText(ToolSite& site, std::int32_t label) {
+  const Label* record = recordWithId(site.layout().content().labels, label);
+  const auto text = site.host.askText("Edit Label", "Text:", record->text);
+  if (text && editLabelText(site.layout(), label, *text))
+    site.host.changed();
 }
 
 void selectChain(ToolSite& site, std::int32_t piece) {

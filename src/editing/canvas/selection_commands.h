@@ -15,6 +15,9 @@ void cutSelection(ToolSite& site);
 /// Hangs a copy of the selection on the pointer.
 void duplicateSelection(ToolSite& site);
 
+/// Asks for another text of the label with this id.
+void askLabelText(ToolSite& site, std::int32_t label);
+
 /// Selects all track that is joined to the piece, and nothing else.
 void selectChain(ToolSite& site, std::int32_t piece);
 

@@ -47,6 +47,18 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
   }
   if (onPiece)
     addSwaps(rows, site, under.front().id);
+  const auto addEdit = [&](RecordKind kind, const char* text, auto edit) {
+    if (under.empty() || under.front().kind != kind)
+      return;
+    // With track under a label the double-click goes on from that.
+    const bool byDoubleClick =
+        std::ranges::find(under, RecordKind::Piece, &Pick::kind) == under.end();
+    rows.push_back({text, byDoubleClick ? "Double-click" : "", true,
+                    [edit, id = under.front().id] { edit(id); }});
+  };
+  addEdit(RecordKind::Label, "Edit Label...", [&site](std::int32_t id) { askLabelText(site, id); });
+  addEdit(RecordKind::Shape, "Edit Shape...",
+          [&site](std::int32_t id) { site.host.editShape(id); });
   if (hasSelection(layout)) {
     separator();
     if (selectionBox(layout)) {

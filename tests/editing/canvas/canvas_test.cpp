@@ -59,6 +59,9 @@ TEST(CanvasView, FitCentresTheContentWithItsMargin) {
   EXPECT_EQ(view.zoom(), 20.0);
   view.fit({0, 0, 1e6, 1}, 1160, 960);
   EXPECT_EQ(view.zoom(), 0.05);
+  CanvasScript empty;
+  empty.canvas.fit();
+  EXPECT_EQ(empty.canvas.view().zoom(), 20.0);
 }
 
 TEST(CanvasView, CtrlDragPansBeyondThreePixelsOnly) {
@@ -189,10 +192,18 @@ TEST(CarryPiece, PickedUpByDoubleClickItWaitsForAClickOfItsOwn) {
   ASSERT_EQ(script.pieces().size(), 1u);
   EXPECT_EQ(script.pieces()[0].x, 100);
   EXPECT_EQ(script.canvas.view().zoom(), 1.0) << "the first small piece starts the view over";
+  script.canvas.doubleClick(script.at({100, 100}));
+  EXPECT_EQ(script.pieces().size(), 1u) << "the click that dropped it is not half a double-click";
 }
 
 TEST(CarryPiece, ASecondCarryEndsTheFirst) {
   CanvasScript script;
+  script.carry("24188", {100, 100});
+  script.key(Key::R);
+  script.carry("24172", {100, 900});
+  script.release({100, 900});
+  EXPECT_EQ(script.pieces().at(0).heading, 30) << "taken up in place of one that was turned";
+  script.host.plan.undo();
   script.carry("24188", {100, 100});
   script.canvas.carryScenery("stn.small", script.at({300, 300}), true);
   script.release({300, 300});
@@ -213,6 +224,10 @@ TEST(CanvasWheel, CtrlTurnsTheSelectionAndZoomsWithoutOne) {
   script.wheel({94, 0}, -1, kCtrl | kShift);
   const PlacedPiece& piece = script.pieces()[0];
   EXPECT_NEAR(piece.heading, 10, 1e-9);
+  script.host.state.mode = ToolMode::Measure;
+  script.canvas.modeChanged();
+  script.wheel({94, 0}, 1, kCtrl | kShift);
+  EXPECT_NEAR(script.pieces()[0].heading, 15, 1e-9) << "with any tool";
   const Point middle = toWorld(poseOf(piece), {94.15, 0});
   EXPECT_NEAR(middle.x, 94.15, 1e-9) << "about the middle of its ends";
   EXPECT_NEAR(middle.y, 0, 1e-9);
@@ -234,6 +249,10 @@ TEST(MeasureTool, LaysATapeBetweenTwoClicksAndCatchesTrackEnds) {
   EXPECT_EQ(script.host.plan.content().measurements[0].to, (Point{188.3, 0}));
   EXPECT_TRUE(script.host.plan.undo());
   EXPECT_TRUE(script.host.plan.content().measurements.empty());
+  script.drag({300, 0}, {302, 0});
+  script.key(Key::Escape);
+  script.drag({300, 0}, {300, 90});
+  EXPECT_EQ(script.host.plan.content().measurements.at(0).to, (Point{300, 90})) << "by one drag";
   script.key(Key::Escape);
   EXPECT_EQ(script.host.state.mode, ToolMode::Select);
 }
