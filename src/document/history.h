@@ -23,6 +23,7 @@ class History {
 
   bool canUndo() const { return !undo_.empty(); }
   bool canRedo() const { return !redo_.empty(); }
+  void clearRedo() { redo_.clear(); }
   void clear();
 
   /// Shows everything that undo or redo could bring back.
