@@ -13,8 +13,9 @@ namespace trassix {
 namespace {
 
 constexpr double kTolerancePx = 4;
-constexpr double kLabelCharPx = 8; ///< mean advance of the label font
-constexpr double kLabelHalfHeightPx = 11;
+/// Of the label font, as shares of its size: mean advance, and half the height with the frame.
+constexpr double kLabelAdvance = 0.62;
+constexpr double kLabelHalfHeight = 0.85;
 
 bool inBox(const Box& box, const Polygon& polygon, bool whole) {
   return !polygon.empty() && (whole ? liesIn(polygon, box) : touches(polygon, box));
@@ -49,9 +50,17 @@ double letterCount(std::string_view text) {
 
 } // namespace
 
+double labelTextSize(double mmPerPx) {
+  constexpr double kFull = 13;
+  constexpr double kFromAfar = 9;
+  constexpr double kFullFromZoom = 0.2;
+  return std::clamp(kFull / (mmPerPx * kFullFromZoom), kFromAfar, kFull);
+}
+
 Box labelBox(const Label& label, double mmPerPx) {
-  const double halfWidth = (letterCount(label.text) * kLabelCharPx / 2 + 5) * mmPerPx;
-  const double halfHeight = kLabelHalfHeightPx * mmPerPx;
+  const double size = labelTextSize(mmPerPx);
+  const double halfWidth = (letterCount(label.text) * size * kLabelAdvance / 2 + 5) * mmPerPx;
+  const double halfHeight = size * kLabelHalfHeight * mmPerPx;
   return {label.x - halfWidth, label.y - halfHeight, label.x + halfWidth, label.y + halfHeight};
 }
 

@@ -19,8 +19,12 @@ struct Pick {
 };
 
 /// Everything under a point of the plan, topmost first. `mmPerPx` scales the tolerance and the
-/// extent of labels, which are drawn at one size whatever the zoom.
+/// extent of labels.
 std::vector<Pick> picksAt(const Layout& layout, const PlanIndex& index, Point at, double mmPerPx);
+
+/// Height of the text of labels in pixels. Seen from afar they are smaller, so that they do not
+/// hide the plan.
+double labelTextSize(double mmPerPx);
 
 /// About what a label covers, in mm.
 Box labelBox(const Label& label, double mmPerPx);

@@ -10,7 +10,7 @@ namespace trassix {
 namespace {
 
 constexpr Footprint kUnknownItem{60, 60, 0};
-constexpr int kEllipsePoints = 40;
+constexpr int kEllipsePoints = 72;
 
 } // namespace
 

@@ -38,6 +38,24 @@ std::vector<Point> bed(const std::vector<RoutePoint>& line, double halfWidth) {
   return outline;
 }
 
+/// The band of a curved piece: outwards along its outer arc, back along the inner one.
+std::vector<Point> curvedBed(const ArcSegment& arc, double halfWidth) {
+  constexpr double kDegreesEach = 1.5;
+  constexpr int kFewest = 16;
+  const int count = std::max(static_cast<int>(std::abs(arc.sweep) / kDegreesEach), kFewest);
+  std::vector<Point> outline;
+  outline.reserve(2 * static_cast<std::size_t>(count + 1));
+  const auto add = [&](double radius, int k) {
+    const double t = toRadians(arc.start + arc.sweep * k / count);
+    outline.push_back({arc.centre.x + radius * std::cos(t), arc.centre.y + radius * std::sin(t)});
+  };
+  for (int k = 0; k <= count; ++k)
+    add(arc.radius + halfWidth, k);
+  for (int k = count; k >= 0; --k)
+    add(arc.radius - halfWidth, k);
+  return outline;
+}
+
 /// Sleepers at even spacing along the route, leaving half a space at both ends so that joined
 /// pieces continue one another.
 void addSleepers(std::vector<Point>& ends, const Route& route, double gauge) {
@@ -77,7 +95,7 @@ RoutePoint middleOf(const std::vector<RoutePoint>& line) {
           half};
 }
 
-constexpr int kPitPoints = 72;
+constexpr int kPitPoints = 180;
 
 /// A turntable is seen as its pit with the bridge across it, and a stub of rails at each track end.
 /// The routes to the centre would only hide one another.
@@ -176,7 +194,11 @@ TrackGeometry deriveTrackGeometry(const PieceDef& definition) {
       geometry.mainLength = line.back().along;
     }
     geometry.centreLines.push_back(parallel(line, 0));
-    geometry.beds.push_back(bed(line, geometry.halfWidth));
+    const auto* arc =
+        route.segments.size() == 1 ? std::get_if<ArcSegment>(&route.segments.front()) : nullptr;
+    geometry.beds.push_back(definition.kind == PieceKind::Curve && arc != nullptr
+                                ? curvedBed(*arc, geometry.halfWidth)
+                                : bed(line, geometry.halfWidth));
     geometry.rails.push_back(parallel(line, gauge / 2));
     geometry.rails.push_back(parallel(line, -gauge / 2));
     addSleepers(geometry.sleepers, route, gauge);

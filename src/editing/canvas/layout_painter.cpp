@@ -7,6 +7,7 @@
 #include "editing/canvas/plan_colors.h"
 #include "editing/connector_geometry.h"
 #include "editing/measure_format.h"
+#include "editing/picking.h"
 #include "editing/scenery_footprint.h"
 #include "editing/track_geometry.h"
 
@@ -26,7 +27,10 @@ constexpr double kArticleFromZoom = 0.22;
 
 constexpr double kStrokeReachPx = 4; ///< of the widest edge and its joins
 constexpr double kTapeReachPx = 60;  ///< of a tape's length, written beside it
-constexpr TextStyle kShapeText{colors::kLabel, 12, false};
+
+TextStyle nameStyle(const ViewTransform& view) {
+  return {colors::kLabel, labelTextSize(1 / view.zoom()) - 1, false};
+}
 
 /// More than half of what the text takes, without measuring it.
 double longest(std::string_view text, double size) {
@@ -151,7 +155,12 @@ void LayoutPainter::paintScaleBar(std::int32_t units) {
   const double base = size_.height - 16.5;
   const std::array<Point, 4> line{
       {{left, base - 6}, {left, base}, {left + width, base}, {left + width, base - 6}}};
-  surface_.polyline(line, {{255, 255, 255, 200}, 4});
+  // Readable whatever lies below.
+  const std::array<Point, 4> ground{{{left - 6, base - 21},
+                                     {left + width + 6, base - 21},
+                                     {left + width + 6, base + 5},
+                                     {left - 6, base + 5}}};
+  surface_.polygon(ground, Rgba{255, 255, 255, 190}, {});
   surface_.polyline(line, {colors::kRuler, 1.5});
   surface_.text(bar.text, {left + width / 2, base - 11}, 0, {colors::kRuler, 11, false});
 }
@@ -161,7 +170,7 @@ void LayoutPainter::paintShapes(const Layout& layout) {
     if (shape.points.size() < 2 || !layout.levelVisible(shape.level))
       continue;
     const std::vector<Point> px = outline(shape.points);
-    if (isBeside(px, longest(shape.label, kShapeText.size)))
+    if (isBeside(px, longest(shape.label, nameStyle(view_).size)))
       continue;
     const Rgba fill = opaque(shape.color, shape.a);
     const Stroke edge =
@@ -173,7 +182,7 @@ void LayoutPainter::paintShapes(const Layout& layout) {
     for (const Point& p : px)
       middle = {middle.x + p.x / static_cast<double>(px.size()),
                 middle.y + p.y / static_cast<double>(px.size())};
-    surface_.text(shape.label, middle, 0, kShapeText);
+    surface_.text(shape.label, middle, 0, nameStyle(view_));
   }
 }
 
@@ -209,7 +218,7 @@ void LayoutPainter::paintHelices(const Layout& layout) {
     surface_.circle(centre, radius, Rgba{112, 104, 96, 30},
                     Stroke{colors::kTunnel, 1.5, Stroke::Style::Dashed});
     if (const HelixKit* kit = findHelixKit(helix.variant))
-      surface_.text(kit->name, centre, 0, kShapeText);
+      surface_.text(kit->name, centre, 0, nameStyle(view_));
   }
 }
 
@@ -327,7 +336,8 @@ void LayoutPainter::paintArticles(std::span<const Visible> pieces) {
     const Pose pose = poseOf(*shown.piece);
     const Point spot = view_.toScreen(toWorld(pose, shown.geometry->labelSpot));
     const double heading = pose.heading + shown.geometry->labelHeading;
-    const double away = shown.geometry->halfWidth * view_.zoom() + box.height / 2 + 1;
+    const double away = shown.geometry->halfWidth * view_.zoom() + box.height / 2 +
+                        std::max(1.0, shown.geometry->gauge * view_.zoom() * 0.04);
     const double angle = uprightAngle(heading);
     // Curves bend away from the text on one side only, so places farther out are tried as well.
     for (const auto& [side, farther] : kArticlePlaces) {
@@ -354,7 +364,7 @@ void LayoutPainter::paintMeasurements(const Layout& layout) {
 void LayoutPainter::paintLabels(const Layout& layout) {
   for (const Label& label : layout.content().labels) {
     const Point at = view_.toScreen({label.x, label.y});
-    const TextStyle style{colors::kLabel, 13, true};
+    const TextStyle style{colors::kLabel, labelTextSize(1 / view_.zoom()), true};
     if (isBeside({&at, 1}, longest(label.text, style.size)))
       continue;
     const SizePx box = surface_.textSize(label.text, style);

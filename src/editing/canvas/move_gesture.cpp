@@ -2,6 +2,7 @@
 #include "editing/canvas/gesture.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/picking.h"
 #include "editing/scenery_footprint.h"
 
 #include <algorithm>
@@ -107,7 +108,7 @@ void MoveGesture::paint(Surface& surface) const {
   for (const Label& label : layout.content().labels)
     if (label.sel)
       surface.text(label.text, site_.view.toScreen(move_.moved(Point{label.x, label.y})), 0,
-                   {plan_colors::kSelected, 13, true});
+                   {plan_colors::kSelected, labelTextSize(site_.mm(1)), true});
   if (turning_)
     surface.circle(site_.view.toScreen(centre_), 4, plan_colors::kSelected,
                    Stroke{plan_colors::kPaper, 1.5});

@@ -83,7 +83,7 @@ void PiecePainter::paintRails(const TrackGeometry& geometry, const Pose& pose,
                         {sleeper, std::max(1.0, gaugePx * 0.17)});
     }
     for (const auto& line : geometry.rails)
-      surface_.polyline(toScreen(line, pose), {rail, std::clamp(gaugePx * 0.06, 1.0, 4.0), style});
+      surface_.polyline(toScreen(line, pose), {rail, std::max(gaugePx * 0.06, 1.0), style});
   } else {
     for (const auto& line : geometry.centreLines)
       surface_.polyline(toScreen(line, pose), {rail, 1.0, style});
