@@ -1,5 +1,7 @@
 #include "editing/annotations.h"
 
+#include "editing/polygons.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -48,7 +50,7 @@ Shape usualShape(const Layout& layout) {
 }
 
 std::int32_t addShape(Layout& layout, Shape shape) {
-  if (shape.points.size() < 3)
+  if (!outlineProblem(shape.points).empty())
     return -1;
   layout.pushHistory();
   layout.clearSelection();

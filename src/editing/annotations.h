@@ -22,7 +22,7 @@ std::int32_t addMeasurement(Layout& layout, Point from, Point to);
 /// What a new shape looks like before anybody changes it; on the active level, without points.
 Shape usualShape(const Layout& layout);
 
-/// A polygon with at least three points; -1 and nothing added for fewer. It gets a new id.
+/// A polygon; -1 and nothing added for what is no outline, see `outlineProblem`. It gets a new id.
 std::int32_t addShape(Layout& layout, Shape shape);
 /// The same for a usual shape.
 std::int32_t addShape(Layout& layout, const std::vector<Point>& points);

@@ -1,6 +1,7 @@
 #include "editing/level_edits.h"
 
 #include "editing/joining.h"
+#include "editing/polygons.h"
 #include "editing/selection.h"
 
 #include <algorithm>
@@ -176,7 +177,7 @@ bool setLevels(Layout& layout, const LevelChange& wanted) {
 
 bool setLevelOutline(Layout& layout, std::int32_t level, const std::vector<Point>& outline) {
   const Level* present = layout.findLevel(level);
-  if (present == nullptr || outline.size() < kFewestCorners || present->outline == outline)
+  if (present == nullptr || !outlineProblem(outline).empty() || present->outline == outline)
     return false;
   layout.clearRedo();
   std::ranges::find(layout.editSettings().levels, level, &Level::id)->outline = outline;
@@ -187,7 +188,8 @@ bool setBaseboard(Layout& layout, const std::vector<Point>& outline, const LastS
   const std::vector<Point> wanted =
       outline.size() < kFewestCorners ? std::vector<Point>{} : outline;
   const PlanSettings& present = layout.settings();
-  if (present.baseboard == wanted && present.lastShape == shape)
+  if ((present.baseboard == wanted && present.lastShape == shape) ||
+      (!wanted.empty() && !outlineProblem(wanted).empty()))
     return false;
   layout.clearRedo();
   PlanSettings& settings = layout.editSettings();
@@ -199,7 +201,7 @@ bool setBaseboard(Layout& layout, const std::vector<Point>& outline, const LastS
 bool useAsBaseboard(Layout& layout, std::int32_t shape) {
   const auto& shapes = layout.content().shapes;
   const auto found = std::ranges::find(shapes, shape, &Shape::id);
-  if (found == shapes.end() || found->points.size() < kFewestCorners)
+  if (found == shapes.end() || !outlineProblem(found->points).empty())
     return false;
   layout.pushHistory();
   layout.editSettings().baseboard = found->points;
@@ -210,7 +212,7 @@ bool useAsBaseboard(Layout& layout, std::int32_t shape) {
 const Shape* selectedShape(const Layout& layout) {
   const auto& shapes = layout.content().shapes;
   const auto found = std::ranges::find(shapes, true, &Shape::sel);
-  if (found == shapes.end() || found->points.size() < kFewestCorners ||
+  if (found == shapes.end() || !outlineProblem(found->points).empty() ||
       std::ranges::count(shapes, true, &Shape::sel) > 1)
     return nullptr;
   return &*found;

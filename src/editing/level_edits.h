@@ -46,6 +46,7 @@ struct LevelChange {
 /// does not stay selected.
 bool setLevels(Layout& layout, const LevelChange& wanted);
 
+/// Refuses what is no outline of an area, see `outlineProblem`; so do the edits below.
 bool setLevelOutline(Layout& layout, std::int32_t level, const std::vector<Point>& outline);
 
 /// An outline with fewer than three corners takes the baseboard away.
@@ -54,7 +55,8 @@ bool setBaseboard(Layout& layout, const std::vector<Point>& outline, const LastS
 /// The shape becomes the baseboard and is no shape any more.
 bool useAsBaseboard(Layout& layout, std::int32_t shape);
 
-/// The only selected shape with a closed outline; null when there is none or more than one.
+/// The only selected shape, when its outline can be that of a level or the baseboard; null when
+/// there is none or more than one.
 const Shape* selectedShape(const Layout& layout);
 
 } // namespace trassix

@@ -1,11 +1,30 @@
 #include "editing/polygons.h"
 
+#include <boost/geometry/algorithms/correct.hpp>
+#include <boost/geometry/algorithms/is_simple.hpp>
+#include <boost/geometry/algorithms/is_valid.hpp>
+#include <boost/geometry/geometries/linestring.hpp>
+#include <boost/geometry/geometries/point_xy.hpp>
+#include <boost/geometry/geometries/ring.hpp>
+
 #include <algorithm>
 #include <cmath>
 
 namespace trassix {
 
 namespace {
+
+namespace bg = boost::geometry;
+
+using RingPoint = bg::model::d2::point_xy<double>;
+
+template <class Line>
+Line lineOf(const std::vector<Point>& points) {
+  Line line;
+  for (const Point& p : points)
+    line.push_back({p.x, p.y});
+  return line;
+}
 
 template <class Test>
 bool anyEdge(const Polygon& polygon, Test test) {
@@ -67,6 +86,22 @@ bool touches(const Polygon& polygon, const Box& box) {
 
 bool liesIn(const Polygon& polygon, const Box& box) {
   return std::all_of(polygon.begin(), polygon.end(), [&](Point p) { return holds(box, p); });
+}
+
+std::string_view outlineProblem(const Polygon& corners) {
+  if (corners.size() < 3)
+    return "An outline needs at least three corners.";
+  auto ring = lineOf<bg::model::ring<RingPoint, true, false>>(corners);
+  bg::correct(ring); // either way round is as good
+  bg::validity_failure_type failure = bg::no_failure;
+  if (bg::is_valid(ring, failure)) // which minds no repeated corner
+    return {};
+  return failure == bg::failure_self_intersections ? "The outline crosses or touches itself."
+                                                   : "The outline turns back on itself.";
+}
+
+bool crossesItself(const std::vector<Point>& line) {
+  return line.size() > 2 && !bg::is_simple(lineOf<bg::model::linestring<RingPoint>>(line));
 }
 
 } // namespace trassix

@@ -4,6 +4,7 @@
 #include "document/records.h"
 #include "editing/selection.h"
 
+#include <string_view>
 #include <vector>
 
 namespace trassix {
@@ -21,5 +22,13 @@ bool nearOutline(const Polygon& polygon, Point at, double tolerance);
 /// True when the area and the box share a point.
 bool touches(const Polygon& polygon, const Box& box);
 bool liesIn(const Polygon& polygon, const Box& box);
+
+/// Why these corners are no outline of an area, in one sentence; empty when they are. An outline
+/// has three corners and neither crosses nor touches itself.
+std::string_view outlineProblem(const Polygon& corners);
+
+/// True when a line along these points crosses or touches itself or turns right back; its end may
+/// lie on its beginning.
+bool crossesItself(const std::vector<Point>& line);
 
 } // namespace trassix

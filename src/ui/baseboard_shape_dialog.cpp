@@ -105,7 +105,8 @@ wxSizer* BaseboardShapeDialog::makeFree() {
   take->SetName("boardTake");
   take->Enable(form_.shapeThere());
   take->SetToolTip(form_.shapeThere() ? _("The selected shape becomes the baseboard")
-                                      : _("Select a shape on the plan first"));
+                                      : _("Select one shape on the plan first, whose outline "
+                                          "does not cross itself"));
   auto* draw = new wxButton(this, wxID_ANY, _("&Draw on Plan"));
   draw->SetName("boardDraw");
   draw->SetToolTip(_("Closes this window: then click the corners on the plan"));

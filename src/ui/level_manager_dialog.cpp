@@ -291,7 +291,8 @@ void LevelManagerDialog::refresh() {
   fromShape_->Enable(levels_.shapeThere());
   fromShape_->SetToolTip(levels_.shapeThere()
                              ? _("The selected shape becomes the outline of the level")
-                             : _("Select a shape on the plan first"));
+                             : _("Select one shape on the plan first, whose outline does not "
+                                 "cross itself"));
   noOutline_->Enable(corners != 0);
 
   const std::optional<std::size_t> bad =

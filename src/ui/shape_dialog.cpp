@@ -1,7 +1,9 @@
 #include "ui/shape_dialog.h"
 
+#include "editing/polygons.h"
 #include "ui/problem_text.h"
 #include "ui/shape_fields.h"
+#include "ui/utf8.h"
 
 #include <wx/button.h>
 #include <wx/sizer.h>
@@ -20,8 +22,11 @@ ShapeDialog::ShapeDialog(wxWindow* parent, const trassix::Layout& layout, const 
   auto* baseboard = new wxButton(this, wxID_ANY, _("Use as &Baseboard"));
   ok_ = new wxButton(this, wxID_OK);
   baseboard->SetName("shapeBaseboard");
-  baseboard->SetToolTip(_("The outline becomes the baseboard, and the shape is no shape any more"));
-  baseboard->Enable(shape.points.size() >= 3);
+  const wxString problem = fromUtf8(outlineProblem(shape.points));
+  baseboard->Enable(problem.empty());
+  baseboard->SetToolTip(
+      problem.empty() ? _("The outline becomes the baseboard, and the shape is no shape any more")
+                      : wxGetTranslation(problem));
   auto* buttons = new wxStdDialogButtonSizer;
   buttons->AddButton(ok_);
   buttons->AddButton(new wxButton(this, wxID_CANCEL));

@@ -3,10 +3,15 @@
 #include "editing/annotations.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/level_edits.h"
+#include "editing/polygons.h"
+
+#include <cmath>
 
 namespace trassix {
 
 namespace {
+
+constexpr double kCatchPx = 8;
 
 bool usePolygon(Layout& layout, const std::vector<Point>& points, const PolygonUse& use) {
   switch (use.kind) {
@@ -44,6 +49,12 @@ void PolygonTool::hover(const PointerInput& input) {
 
 void PolygonTool::release(const PointerInput& input, bool) {
   hover(input);
+  if (blocked())
+    return;
+  if (atFirst()) {
+    close();
+    return;
+  }
   if (points_.empty() || points_.back() != input.world)
     points_.push_back(input.world);
   site_.host.repaint();
@@ -51,11 +62,34 @@ void PolygonTool::release(const PointerInput& input, bool) {
 
 void PolygonTool::doubleClick(const PointerInput&) {
   // The first click of the two has already added the last point; no release follows for this press.
-  close();
+  if (!blocked())
+    close();
+}
+
+bool PolygonTool::atFirst() const {
+  if (points_.size() < 3)
+    return false;
+  const Point first = points_.front();
+  return std::hypot(first.x - pointer_.x, first.y - pointer_.y) <= site_.mm(kCatchPx);
+}
+
+bool PolygonTool::blocked() const {
+  if (points_.empty() || points_.back() == pointer_ || atFirst())
+    return false;
+  std::vector<Point> line = points_;
+  line.push_back(pointer_);
+  return crossesItself(line);
 }
 
 void PolygonTool::close() {
   const PolygonUse use = site_.host.switches().polygonUse;
+  if (points_.size() >= 3 && !outlineProblem(points_).empty()) {
+    site_.host.show({"Polygon",
+                     "Closed here, the outline would cross itself. Add corners that lead around, "
+                     "or take the last one back with Backspace.",
+                     Notice::Icon::Information});
+    return;
+  }
   if (!usePolygon(site_.layout(), points_, use))
     return;
   points_.clear();
@@ -97,11 +131,15 @@ void PolygonTool::paint(Surface& surface) const {
   for (const Point& p : points_)
     px.push_back(site_.view.toScreen(p));
   const std::size_t fixed = px.size();
-  px.push_back(site_.view.toScreen(pointer_));
-  if (fixed >= 2)
+  px.push_back(atFirst() ? px.front() : site_.view.toScreen(pointer_));
+  const bool bad = blocked();
+  if (fixed >= 2 && !bad)
     surface.polygon(px, Rgba{120, 170, 110, 70}, {});
+  if (fixed >= 2)
+    surface.polyline(std::span(px).first(fixed), {plan_colors::kSelected, 1.5});
   if (fixed >= 1)
-    surface.polyline(px, {plan_colors::kSelected, 1.5});
+    surface.polyline(std::span(px).last(2),
+                     {bad ? plan_colors::kOpenEnd : plan_colors::kSelected, 1.5});
   for (std::size_t i = 0; i < fixed; ++i)
     surface.circle(px[i], 3.5, plan_colors::kPaper, Stroke{plan_colors::kSelected, 1.5});
 }
@@ -111,12 +149,15 @@ std::string PolygonTool::hint() const {
   if (points_.empty())
     return what.empty() ? "Polygon: click its corners    Esc: back to selecting"
                         : what + "click its corners    Esc: leave it as it is";
+  if (blocked())
+    return what + "The outline would cross itself here    Backspace: take the last one back    "
+                  "Esc: start again";
   const std::string next =
       what.empty() ? "Click the next corner    " : what + "click the next corner    ";
   if (points_.size() < 3)
     return next + "Backspace: take the last one back    Esc: start again";
-  return next +
-         "Double-click or Enter: close    Backspace: take the last one back    Esc: start again";
+  return next + "Double-click, Enter or the first corner: close    Backspace: take the last one "
+                "back    Esc: start again";
 }
 
 } // namespace trassix

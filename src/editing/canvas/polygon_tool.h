@@ -6,7 +6,8 @@
 
 namespace trassix {
 
-/// Draws a free polygon point by point.
+/// Draws a free polygon point by point. A corner by which the outline would cross itself is shown
+/// in the colour of what cannot be, and a click does not take it.
 class PolygonTool : public CanvasTool {
  public:
   using CanvasTool::CanvasTool;
@@ -23,6 +24,9 @@ class PolygonTool : public CanvasTool {
 
  private:
   void close();
+  bool atFirst() const;
+  /// The edge to the pointer would cross those before it.
+  bool blocked() const;
 
   std::vector<Point> points_;
   Point pointer_;

@@ -1,4 +1,6 @@
 #include "editing/canvas/canvas_script.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/recording_surface.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 
@@ -255,6 +257,34 @@ TEST(MeasureTool, LaysATapeBetweenTwoClicksAndCatchesTrackEnds) {
   EXPECT_EQ(script.host.plan.content().measurements.at(0).to, (Point{300, 90})) << "by one drag";
   script.key(Key::Escape);
   EXPECT_EQ(script.host.state.mode, ToolMode::Select);
+}
+
+TEST(PolygonTool, ShowsAndRefusesWhatCrossesAndClosesAtItsFirstCorner) {
+  CanvasScript script;
+  script.host.state.mode = ToolMode::Polygon;
+  script.canvas.modeChanged();
+  for (const Point corner : {Point{0, 0}, {900, 0}, {900, 500}})
+    script.click(corner);
+  const auto red = [&script] {
+    RecordingSurface surface;
+    script.canvas.paintOverlay(surface);
+    return surface.linesIn(plan_colors::kOpenEnd);
+  };
+  const std::size_t before = red();
+  script.doubleClick({500, -200}); // neither a corner nor an end
+  EXPECT_EQ(red(), before + 1);
+  EXPECT_THAT(script.host.hint, testing::HasSubstr("cross itself here"));
+  for (const Point corner : {Point{300, 500}, {300, 900}, {1900, 200}})
+    script.click(corner);
+  EXPECT_EQ(red(), before);
+  EXPECT_TRUE(script.key(Key::Enter));
+  EXPECT_EQ(script.host.notices.size(), 1u);
+  EXPECT_TRUE(script.host.plan.content().shapes.empty());
+  script.key(Key::Backspace);
+  script.click({3, -4});
+  ASSERT_EQ(script.host.plan.content().shapes.size(), 1u);
+  EXPECT_EQ(script.host.plan.content().shapes[0].points.size(), 5u);
+  EXPECT_EQ(script.host.notices.size(), 1u);
 }
 
 TEST(PolygonTool, DrawsTakesBackClosesAndCancels) {
