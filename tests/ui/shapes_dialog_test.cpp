@@ -53,6 +53,15 @@ TEST_F(ShapesTest, TheBaseboardIsChosenRememberedAndRefused) {
 
 TEST_F(ShapesTest, ARectangleIsPlacedMovedAndBecomesTheBaseboard) {
   startLaidOut();
+  const std::uint64_t empty = plan().revision();
+  dialogs.drive("Rectangle", [&](wxDialog& dialog) {
+    typeText("700");
+    enter(dialog, "shapeLabel", "Hatch");
+    pressKey(WXK_ESCAPE);
+  });
+  put(kRectangle);
+  EXPECT_EQ(plan().revision(), empty);
+  EXPECT_FALSE(plan().canUndo() || frame().dirty());
   dialogs.drive("Rectangle", [&](wxDialog& dialog) {
     typeText("500");
     pressKey(WXK_TAB);
