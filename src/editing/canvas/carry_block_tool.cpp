@@ -27,10 +27,8 @@ void CarryBlockTool::paint(Surface& surface) const {
     item.x = at.x;
     item.y = at.y;
     item.heading = at.heading;
-    std::vector<Point> px;
-    for (const Point& p : sceneryOutline(site_.layout(), item))
-      px.push_back(site_.view.toScreen(p));
-    surface.polygon(px, {}, Stroke{plan_colors::kSelected, 1.5, Stroke::Style::Dashed});
+    surface.polygon(site_.view.toScreen(sceneryOutline(site_.layout(), item)), {},
+                    Stroke{plan_colors::kSelected, 1.5, Stroke::Style::Dashed});
   }
 }
 

@@ -11,14 +11,12 @@ EditResult CarrySceneryTool::drop() {
 }
 
 void CarrySceneryTool::paint(Surface& surface) const {
-  std::vector<Point> px;
-  for (const Point& p :
-       sceneryOutline(definition_.form, definition_.footprint(planSystem(site_.layout())),
-                      {pose().x, pose().y}, pose().heading))
-    px.push_back(site_.view.toScreen(p));
+  const std::vector<Point> outline =
+      sceneryOutline(definition_.form, definition_.footprint(planSystem(site_.layout())),
+                     {pose().x, pose().y}, pose().heading);
   Rgba fill = plan_colors::sceneryColor(&definition_);
   fill.a = 110;
-  surface.polygon(px, fill, Stroke{plan_colors::kSelected, 2});
+  surface.polygon(site_.view.toScreen(outline), fill, Stroke{plan_colors::kSelected, 2});
 }
 
 std::string CarrySceneryTool::hint() const {

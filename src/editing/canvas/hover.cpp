@@ -25,11 +25,7 @@ std::string sceneryName(const SceneryItem& item) {
 }
 
 void mark(Surface& surface, const ToolSite& site, std::span<const Point> outline) {
-  std::vector<Point> px;
-  px.reserve(outline.size());
-  for (const Point& p : outline)
-    px.push_back(site.view.toScreen(p));
-  surface.polygon(px, kTint, Stroke{plan_colors::kHover, 1.5});
+  surface.polygon(site.view.toScreen(outline), kTint, Stroke{plan_colors::kHover, 1.5});
 }
 
 void markPiece(Surface& surface, const ToolSite& site, const PlacedPiece& piece) {

@@ -96,14 +96,6 @@ void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
     paintScaleBar(layout.settings().units);
 }
 
-std::vector<Point> LayoutPainter::outline(std::span<const Point> points) const {
-  std::vector<Point> px;
-  px.reserve(points.size());
-  for (const Point& p : points)
-    px.push_back(view_.toScreen(p));
-  return px;
-}
-
 bool LayoutPainter::isBeside(std::span<const Point> px, double reach) const {
   const auto all = [px](auto outside) { return std::all_of(px.begin(), px.end(), outside); };
   return all([&](Point p) { return p.x < -reach; }) || all([&](Point p) { return p.y < -reach; }) ||
@@ -114,12 +106,13 @@ bool LayoutPainter::isBeside(std::span<const Point> px, double reach) const {
 void LayoutPainter::paintBoard(const Layout& layout) {
   const PlanSettings& settings = layout.settings();
   if (settings.baseboard.size() >= 3)
-    surface_.polygon(outline(settings.baseboard), colors::kBoard, Stroke{colors::kBoardEdge, 1.5});
+    surface_.polygon(view_.toScreen(settings.baseboard), colors::kBoard,
+                     Stroke{colors::kBoardEdge, 1.5});
   for (const Level& level : settings.levels) {
     if (!level.visible || level.outline.size() < 3)
       continue;
     const bool active = level.id == settings.activeLevel;
-    surface_.polygon(outline(level.outline), opaque(level.color, active ? 60 : 28),
+    surface_.polygon(view_.toScreen(level.outline), opaque(level.color, active ? 60 : 28),
                      Stroke{opaque(level.color), active ? 2.0 : 1.0, Stroke::Style::Dashed});
   }
 }
@@ -160,7 +153,7 @@ void LayoutPainter::paintScaleBar(std::int32_t units) {
                                      {left + width + 6, base - 21},
                                      {left + width + 6, base + 5},
                                      {left - 6, base + 5}}};
-  surface_.polygon(ground, Rgba{255, 255, 255, 190}, {});
+  surface_.polygon(ground, Rgba{255, 255, 255, 150}, {});
   surface_.polyline(line, {colors::kRuler, 1.5});
   surface_.text(bar.text, {left + width / 2, base - 11}, 0, {colors::kRuler, 11, false});
 }
@@ -169,7 +162,7 @@ void LayoutPainter::paintShapes(const Layout& layout) {
   for (const Shape& shape : layout.content().shapes) {
     if (shape.points.size() < 2 || !layout.levelVisible(shape.level))
       continue;
-    const std::vector<Point> px = outline(shape.points);
+    const std::vector<Point> px = view_.toScreen(shape.points);
     if (isBeside(px, longest(shape.label, nameStyle(view_).size)))
       continue;
     const Rgba fill = opaque(shape.color, shape.a);
@@ -198,7 +191,7 @@ std::vector<const SceneryItem*> LayoutPainter::visibleScenery(const Layout& layo
 }
 
 void LayoutPainter::paintSceneryItem(const Layout& layout, const SceneryItem& item) {
-  const std::vector<Point> px = outline(sceneryOutline(layout, item));
+  const std::vector<Point> px = view_.toScreen(sceneryOutline(layout, item));
   if (isBeside(px, kStrokeReachPx))
     return;
   Rgba color = colors::sceneryColor(findScenery(item.item));

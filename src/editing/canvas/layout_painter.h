@@ -48,7 +48,6 @@ class LayoutPainter {
   void paintLabels(const Layout& layout);
   void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);
   void paintArticles(std::span<const Visible> pieces);
-  std::vector<Point> outline(std::span<const Point> points) const;
   /// True when nothing within `reach` px of the points' box is on the surface.
   bool isBeside(std::span<const Point> px, double reach) const;
 

@@ -2,6 +2,7 @@
 #include "editing/canvas/gesture.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/canvas/selection_commands.h"
 #include "editing/picking.h"
 #include "editing/scenery_footprint.h"
 
@@ -60,15 +61,8 @@ void MoveGesture::drag(const PointerInput& input) {
 }
 
 bool MoveGesture::allowed() {
-  if (const std::optional<Notice> refusal =
-          lockGuard(site_.layout(), turning_ ? "rotate" : "move")) {
-    site_.host.show(*refusal);
-    return false;
-  }
-  return !move_.opensGradedJoints() ||
-         site_.host.confirm({turning_ ? "Rotate" : "Move",
-                             "This takes the selection apart from graded track. Go on?", false,
-                             true});
+  return !refuseLocked(site_, turning_ ? "rotate" : "move") &&
+         mayLeaveGrades(site_, move_, turning_ ? "Rotate" : "Move");
 }
 
 void MoveGesture::drop() {
@@ -89,12 +83,10 @@ void MoveGesture::paint(Surface& surface) const {
       painter.paint(trackGeometryOf(*definition), move_.moved(poseOf(*piece)), look);
   }
   const Stroke edge{plan_colors::kSelected, 2, Stroke::Style::Dashed};
-  const auto outline = [&](const std::vector<Point>& points) {
-    std::vector<Point> px;
-    px.reserve(points.size());
-    for (const Point& p : points)
-      px.push_back(site_.view.toScreen(move_.moved(p)));
-    surface.polygon(px, {}, edge);
+  const auto outline = [&](std::vector<Point> points) {
+    for (Point& p : points)
+      p = move_.moved(p);
+    surface.polygon(site_.view.toScreen(points), {}, edge);
   };
   for (const SceneryItem& item : layout.content().scenery)
     if (item.sel)

@@ -2,11 +2,16 @@
 
 namespace trassix {
 
+Block copyOfSelection(const Layout& layout) {
+  Block block = blockFromSelection(layout);
+  centreBlock(block);
+  return block;
+}
+
 bool PlanClipboard::copy(LayoutHost& host) {
-  Block block = blockFromSelection(host.layout());
+  Block block = copyOfSelection(host.layout());
   if (block.empty())
     return false;
-  centreBlock(block);
   std::string text;
   if (!writeBlock(block, [&text](std::string_view part) { text += part; }).empty())
     return false;

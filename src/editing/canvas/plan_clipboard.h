@@ -7,6 +7,9 @@
 
 namespace trassix {
 
+/// What is selected, as a block that is centred on its origin.
+Block copyOfSelection(const Layout& layout);
+
 /// Copies of the selection by way of the system's clipboard, as the text of a block file, so that
 /// track can be carried from one running program to another. What this program copied itself comes
 /// back complete, with heights, grades and colours.

@@ -127,9 +127,7 @@ void PolygonTool::cancel() {
 }
 
 void PolygonTool::paint(Surface& surface) const {
-  std::vector<Point> px;
-  for (const Point& p : points_)
-    px.push_back(site_.view.toScreen(p));
+  std::vector<Point> px = site_.view.toScreen(points_);
   const std::size_t fixed = px.size();
   px.push_back(atFirst() ? px.front() : site_.view.toScreen(pointer_));
   const bool bad = blocked();

@@ -21,16 +21,20 @@ std::vector<Pick> SelectTool::picksAt(Point world) {
   return trassix::picksAt(site_.layout(), site_.planIndex(), world, site_.mm(1));
 }
 
+bool SelectTool::anySelected(const std::vector<Pick>& picks) const {
+  return std::ranges::any_of(picks,
+                             [this](const Pick& pick) { return isSelected(site_.layout(), pick); });
+}
+
 void SelectTool::press(const PointerInput& input) {
   pressed_ = input;
 }
 
 void SelectTool::hover(const PointerInput& input) {
-  const std::vector<Pick> picks = picksAt(input.world);
-  const std::optional<Pick> top = picks.empty() ? std::nullopt : std::optional(picks.front());
-  if (top == hovered_)
+  std::vector<Pick> picks = picksAt(input.world);
+  if (picks == under_)
     return;
-  hovered_ = top;
+  under_ = std::move(picks);
   site_.host.repaint();
 }
 
@@ -42,14 +46,11 @@ void SelectTool::drag(const PointerInput& input) {
 
 void SelectTool::startGesture(const PointerInput& input) {
   const std::vector<Pick> picks = picksAt(input.world);
-  const bool onSelected = std::any_of(picks.begin(), picks.end(), [this](const Pick& pick) {
-    return isSelected(site_.layout(), pick);
-  });
   if (picks.empty() && !(input.alt && hasSelection(site_.layout()))) {
     gesture_ = std::make_unique<RubberBandGesture>(site_, input);
     return;
   }
-  if (!onSelected && !picks.empty())
+  if (!picks.empty() && !anySelected(picks))
     select(picks.front());
   gesture_ = std::make_unique<MoveGesture>(site_, input, input.alt);
 }
@@ -126,9 +127,7 @@ void SelectTool::doubleClick(const PointerInput& input) {
 bool SelectTool::mayLeave(Point step) {
   SelectionMove move(site_.layout(), {});
   move.update(step, false, site_.snapIndex());
-  return !move.opensGradedJoints() ||
-         site_.host.confirm(
-             {"Move", "This takes the selection apart from graded track. Go on?", false, true});
+  return mayLeaveGrades(site_, move, "Move");
 }
 
 bool SelectTool::nudge(const KeyInput& input) {
@@ -152,10 +151,8 @@ bool SelectTool::nudge(const KeyInput& input) {
   Layout& layout = site_.layout();
   if (!hasSelection(layout))
     return false;
-  if (const std::optional<Notice> refusal = lockGuard(layout, "move")) {
-    site_.host.show(*refusal);
+  if (refuseLocked(site_, "move"))
     return true;
-  }
   const bool continued = nudgedTo_ == layout.revision();
   const double length = input.shift ? kFineNudge : kNudge;
   if (!continued && !mayLeave({step.x * length, step.y * length}))
@@ -194,7 +191,7 @@ bool SelectTool::key(const KeyInput& input) {
 
 void SelectTool::cancel() {
   gesture_.reset();
-  hovered_.reset();
+  under_.clear();
 }
 
 std::span<const std::int32_t> SelectTool::lifted() const {
@@ -202,11 +199,8 @@ std::span<const std::int32_t> SelectTool::lifted() const {
 }
 
 void SelectTool::contextMenu(const PointerInput& input) {
-  Layout& layout = site_.layout();
   const std::vector<Pick> picks = picksAt(input.world);
-  if (!picks.empty() && std::none_of(picks.begin(), picks.end(), [&layout](const Pick& pick) {
-        return isSelected(layout, pick);
-      }))
+  if (!picks.empty() && !anySelected(picks))
     select(picks.front());
   site_.host.popupMenu(selectionMenu(site_, picks, input.world));
 }
@@ -214,24 +208,25 @@ void SelectTool::contextMenu(const PointerInput& input) {
 void SelectTool::paint(Surface& surface) const {
   if (gesture_)
     gesture_->paint(surface);
-  else if (hovered_ && !isSelected(site_.layout(), *hovered_))
-    paintHover(surface, site_, *hovered_);
+  else if (const Pick* pick = hovered(); pick && !isSelected(site_.layout(), *pick))
+    paintHover(surface, site_, *pick);
 }
 
 std::string SelectTool::hint() const {
   if (gesture_)
     return gesture_->hint();
   const Layout& layout = site_.layout();
-  const std::string name = hovered_ ? nameOf(layout, *hovered_) : std::string();
+  const Pick* pick = hovered();
+  const std::string name = pick ? nameOf(layout, *pick) : std::string();
   if (!name.empty()) {
     std::string text = name;
-    text += isSelected(layout, *hovered_) ? "    Click: what lies below" : "    Click: select";
+    text += anySelected(under_) ? "    Click: what lies below" : "    Click: select";
     text += "    Drag: move";
-    if (hovered_->kind == RecordKind::Piece)
+    if (pick->kind == RecordKind::Piece)
       text += "    Double-click: extend    Alt+double-click: all joined track";
-    else if (hovered_->kind == RecordKind::Label)
+    else if (pick->kind == RecordKind::Label)
       text += "    Double-click: edit the text";
-    else if (hovered_->kind == RecordKind::Shape)
+    else if (pick->kind == RecordKind::Shape)
       text += "    Double-click: edit";
     return text + "    Right-click: more";
   }

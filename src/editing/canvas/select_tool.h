@@ -30,6 +30,7 @@ class SelectTool : public CanvasTool {
 
  private:
   std::vector<Pick> picksAt(Point world);
+  bool anySelected(const std::vector<Pick>& picks) const;
   void click(const PointerInput& input);
   void select(const Pick& pick);
   void startGesture(const PointerInput& input);
@@ -38,7 +39,9 @@ class SelectTool : public CanvasTool {
   bool mayLeave(Point step);
 
   PointerInput pressed_;
-  std::optional<Pick> hovered_;
+  const Pick* hovered() const { return under_.empty() ? nullptr : &under_.front(); }
+
+  std::vector<Pick> under_; ///< the pointer, topmost first
   std::unique_ptr<Gesture> gesture_;
   std::uint64_t nudgedTo_ = 0; ///< revision after the last nudge: a run of nudges is one undo step
 };

@@ -8,10 +8,21 @@
 
 namespace trassix {
 
-void turnSelection(ToolSite& site, double degrees) {
-  if (const std::optional<Notice> refusal = lockGuard(site.layout(), "rotate"))
+bool refuseLocked(ToolSite& site, const char* verb) {
+  const std::optional<Notice> refusal = lockGuard(site.layout(), verb);
+  if (refusal)
     site.host.show(*refusal);
-  else if (rotateSelection(site.layout(), degrees))
+  return refusal.has_value();
+}
+
+bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const char* title) {
+  return !move.opensGradedJoints() ||
+         site.host.confirm(
+             {title, "This takes the selection apart from graded track. Go on?", false, true});
+}
+
+void turnSelection(ToolSite& site, double degrees) {
+  if (!refuseLocked(site, "rotate") && rotateSelection(site.layout(), degrees))
     site.host.changed();
 }
 
@@ -21,9 +32,7 @@ void cutSelection(ToolSite& site) {
 }
 
 void duplicateSelection(ToolSite& site) {
-  Block copy = blockFromSelection(site.layout());
-  centreBlock(copy);
-  site.carryBlock(std::move(copy));
+  site.carryBlock(copyOfSelection(site.layout()));
 }
 
 void askLabelText(ToolSite& site, std::int32_t label) {

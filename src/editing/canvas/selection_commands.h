@@ -2,10 +2,17 @@
 #pragma once
 
 #include "editing/canvas/canvas_tool.h"
+#include "editing/moving.h"
 
 #include <cstdint>
 
 namespace trassix {
+
+/// True, and told in words, when what is selected is locked against this ("move", "rotate", ...).
+bool refuseLocked(ToolSite& site, const char* verb);
+
+/// Asks before a move takes the selection apart from graded track.
+bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const char* title);
 
 /// By degrees, clockwise; refused in words when the selection is locked.
 void turnSelection(ToolSite& site, double degrees);

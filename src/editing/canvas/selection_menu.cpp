@@ -19,9 +19,7 @@ void addSwaps(std::vector<MenuRow>& rows, ToolSite& site, std::int32_t piece) {
     row.text = fit.definition->name;
     row.submenu = "Swap for";
     row.action = [&site, piece, fit] {
-      if (const std::optional<Notice> refusal = lockGuard(site.layout(), "swap"))
-        site.host.show(*refusal);
-      else if (swapPiece(site.layout(), piece, fit))
+      if (!refuseLocked(site, "swap") && swapPiece(site.layout(), piece, fit))
         site.host.changed();
     };
     rows.push_back(row);

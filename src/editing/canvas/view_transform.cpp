@@ -4,6 +4,14 @@
 
 namespace trassix {
 
+std::vector<Point> ViewTransform::toScreen(std::span<const Point> mm) const {
+  std::vector<Point> px;
+  px.reserve(mm.size());
+  for (const Point& p : mm)
+    px.push_back(toScreen(p));
+  return px;
+}
+
 void ViewTransform::zoomAbout(double factor, Point px) {
   const Point kept = toWorld(px);
   zoom_ = std::clamp(zoom_ * factor, kMinZoom, kMaxZoom);

@@ -3,6 +3,9 @@
 #include "document/records.h"
 #include "editing/selection.h"
 
+#include <span>
+#include <vector>
+
 namespace trassix {
 
 /// Between screen pixels and layout millimetres: screen = origin + world * zoom. Both y axes run
@@ -19,6 +22,8 @@ class ViewTransform {
 
   Point toWorld(Point px) const { return {(px.x - origin_.x) / zoom_, (px.y - origin_.y) / zoom_}; }
   Point toScreen(Point mm) const { return {origin_.x + mm.x * zoom_, origin_.y + mm.y * zoom_}; }
+
+  std::vector<Point> toScreen(std::span<const Point> mm) const;
 
   /// Zooms by `factor` within the limits for zooming by hand; the layout point under `px` stays.
   void zoomAbout(double factor, Point px);
