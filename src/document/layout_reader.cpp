@@ -211,6 +211,11 @@ std::string readLayout(std::string_view text, Layout& layout, std::string& name)
   return message;
 }
 
+bool isWholeLayout(std::string_view text) {
+  const std::size_t start = text.find("<layout ");
+  return start != std::string_view::npos && text.find("</layout>", start) != std::string_view::npos;
+}
+
 std::string loadLayout(const std::filesystem::path& path, Layout& layout, std::string& name) {
   std::string text;
   std::string message = readTextFile(path, text);

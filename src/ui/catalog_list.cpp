@@ -42,6 +42,18 @@ CatalogList::CatalogList(wxWindow* parent, const wxString& name, Actions actions
   Bind(wxEVT_KEY_DOWN, &CatalogList::onKey, this);
   Bind(wxEVT_CHAR, &CatalogList::onChar, this);
   Bind(wxEVT_PAINT, &CatalogList::paintEmptyText, this);
+  if (!actions_.remove)
+    return;
+  // Ahead of the menu's Del, which is about the plan.
+  wxAcceleratorEntry entries[] = {{wxACCEL_NORMAL, WXK_DELETE, wxID_DELETE}};
+  SetAcceleratorTable(wxAcceleratorTable(1, entries));
+  Bind(
+      wxEVT_MENU,
+      [this](wxCommandEvent&) {
+        if (GetSelection() != wxNOT_FOUND)
+          actions_.remove(static_cast<std::size_t>(GetSelection()));
+      },
+      wxID_DELETE);
 }
 
 void CatalogList::setRows(std::vector<CatalogRow> rows, const wxString& whenEmpty) {

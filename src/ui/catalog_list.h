@@ -34,6 +34,7 @@ class CatalogList : public wxVListBox {
     std::function<void(std::size_t row)> drag; ///< the mouse leaves an entry with its button down
     std::function<void(std::size_t row)> activate; ///< double-click or Enter
     std::function<void(std::size_t row)> menu;     ///< right click
+    std::function<void(std::size_t row)> remove;   ///< Del; without it the key is the window's
     std::function<void(const wxString&)> typed;    ///< text that belongs in the search
   };
 

@@ -63,6 +63,8 @@ constexpr const char* kMouseAndKeys[] = {
     wxTRANSLATE("Right-click|More of what can be done here"),
     wxTRANSLATE("# Carrying something from the palette"),
     wxTRANSLATE("Wheel, R|Turn it by 30°, the wheel with Shift by 15°"),
+    wxTRANSLATE("Arrow keys|Move it, with Shift by 1 mm"),
+    wxTRANSLATE("Enter|Let it go where it is"),
     wxTRANSLATE("Esc, right-click|Put it back"),
     wxTRANSLATE("# Files"),
     wxTRANSLATE("Ctrl+N, Ctrl+W|New layout, close layout"),

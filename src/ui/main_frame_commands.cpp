@@ -30,12 +30,9 @@ void MainFrame::placeFromPalette(std::string_view article) {
     return;
   }
   const EditResult result = extendSelected(layout_, article);
-  if (result.refusal)
-    show(*result.refusal);
-  if (!result.changed())
-    return;
-  selectionChanged();
-  changed();
+  canvas_->canvas().site().reportExtension(result);
+  if (!result.changed() && !result.refusal)
+    SetStatusText(_("The selected piece has no free end to go on from"), kHintField);
 }
 
 void MainFrame::undo() {

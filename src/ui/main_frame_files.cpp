@@ -4,6 +4,7 @@
 #include "catalog/track_catalog.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/text_file.h"
 #include "ui/canvas_panel.h"
 #include "ui/command_ids.h"
 #include "ui/main_frame.h"
@@ -69,13 +70,19 @@ bool MainFrame::loadLayout(const std::filesystem::path& path) {
   // Read beside the open plan, which is replaced only by a plan that was read to its end.
   trassix::Layout loaded;
   std::string name;
-  if (const std::string message = trassix::loadLayout(path, loaded, name); !message.empty()) {
+  std::string text;
+  std::string message = readTextFile(path, text);
+  if (message.empty())
+    message = readLayout(text, loaded, name);
+  if (!message.empty()) {
     wxMessageBox(fromUtf8(message), _("Open Failed"), wxOK | wxICON_ERROR, this);
     return false;
   }
+  const bool whole = isWholeLayout(text);
   layout_ = std::move(loaded);
   layout_.ensureLevel();
-  currentPath_ = path;
+  // A damaged file is not written over unasked: its rest may still be saved by other means.
+  currentPath_ = whole ? path : std::filesystem::path();
   currentName_ = fromUtf8(name);
   dirty_ = false;
   refreshTitle();
@@ -91,6 +98,11 @@ bool MainFrame::loadLayout(const std::filesystem::path& path) {
   palette_->followLayout(layout_);
   SetStatusText(openedStatus(), kHintField);
   showPieceCount();
+  if (!whole)
+    wxMessageBox(
+        _("This file is damaged: it does not hold a whole layout.\n\nWhat could be read is "
+          "shown. Saving will ask for a name, so that the file can stay as it is."),
+        _("Open Layout"), wxOK | wxICON_WARNING, this);
   return true;
 }
 

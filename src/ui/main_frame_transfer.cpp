@@ -46,8 +46,13 @@ void MainFrame::importLayout() {
     return;
   trassix::Layout scratch;
   std::string storedName;
-  if (const std::string message = trassix::loadLayout(source, scratch, storedName);
-      !message.empty()) {
+  std::string text;
+  std::string message = readTextFile(source, text);
+  if (message.empty())
+    message = readLayout(text, scratch, storedName);
+  if (message.empty() && !isWholeLayout(text))
+    message = _("It does not hold a whole layout.").utf8_string();
+  if (!message.empty()) {
     wxMessageBox(_("This file does not appear to be a Trassix layout:\n\n") + fromUtf8(message),
                  _("Import Failed"), wxOK | wxICON_ERROR, this);
     return;

@@ -114,11 +114,13 @@ CatalogList* PalettePanel::makeList(Tab tab) {
                             },
                             [this](std::size_t row) { usePiece(row); },
                             {},
+                            {},
                             typed});
   case kSceneryTab:
     return new CatalogList(pages_, "scenery",
                            {[this](std::size_t row) { actions_.dragScenery(scenery_[row]->key); },
                             [this](std::size_t row) { actions_.useScenery(scenery_[row]->key); },
+                            {},
                             {},
                             typed});
   case kLibraryTab:
@@ -128,6 +130,7 @@ CatalogList* PalettePanel::makeList(Tab tab) {
                          {{},
                           [this](std::size_t row) { loadEntry(*blocks_[row]); },
                           [this](std::size_t row) { showEntryMenu(*blocks_[row]); },
+                          [this](std::size_t row) { deleteEntry(*blocks_[row]); },
                           typed});
 }
 
@@ -336,7 +339,7 @@ void PalettePanel::loadEntry(const LibraryEntry& entry) {
 
 void PalettePanel::showEntryMenu(const LibraryEntry& entry) {
   wxMenu menu;
-  menu.Append(wxID_DELETE, _("Delete..."));
+  menu.Append(wxID_DELETE, _("Delete...\tDel"));
   if (lists_[kLibraryTab]->GetPopupMenuSelectionFromUser(menu) == wxID_DELETE)
     deleteEntry(entry);
 }

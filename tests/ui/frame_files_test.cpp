@@ -143,6 +143,15 @@ TEST_F(FrameTest, OpenListsDeletesAndSurvivesBadFiles) {
   put(wxID_OPEN);
   EXPECT_EQ(pieces(), 2u); // nothing changed
   EXPECT_EQ(title(), std::string(kBase) + " - c");
+  const std::string half = good.substr(0, good.find("</pieces>"));
+  writeText(layoutsFolder() / "b.xml", half);
+  openNamed("b");
+  dialogs.answer("Open Layout", wxID_OK); // told that the file is not whole
+  put(wxID_OPEN);
+  EXPECT_EQ(pieces(), 1u);
+  dialogs.answer("Save Layout", wxID_CANCEL);
+  put(wxID_SAVE);
+  EXPECT_EQ(readText(layoutsFolder() / "b.xml"), half) << "what is damaged is not written over";
   openNamed("a");
   put(wxID_OPEN);
   EXPECT_EQ(pieces(), 1u);

@@ -23,4 +23,10 @@ void ToolSite::report(const EditResult& result) {
   host.changed();
 }
 
+void ToolSite::reportExtension(const EditResult& result) {
+  if (const std::optional<Box> box = result.changed() ? selectionBox(layout()) : std::nullopt)
+    view.reveal(*box, size.width, size.height);
+  report(result);
+}
+
 } // namespace trassix

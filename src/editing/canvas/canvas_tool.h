@@ -78,6 +78,8 @@ class ToolSite {
 
   /// Tells the window what an edit did: a refusal in words, or that the plan has changed.
   void report(const EditResult& result);
+  /// The same of an edit that went on from the selection, perhaps out of view: the view follows.
+  void reportExtension(const EditResult& result);
 
   /// Millimetres that `px` pixels cover.
   double mm(double px) const { return px / view.zoom(); }

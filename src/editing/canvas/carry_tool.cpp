@@ -6,6 +6,8 @@ namespace {
 
 constexpr double kTurn = 30.0;
 constexpr double kFineTurn = 15.0;
+constexpr double kStep = 10.0; ///< mm, by the arrow keys
+constexpr double kFineStep = 1.0;
 
 } // namespace
 
@@ -30,11 +32,14 @@ void CarryTool::release(const PointerInput& input, bool) {
   if (!armed_ || done_)
     return;
   moveTo(input.world);
+  settle();
+}
+
+void CarryTool::settle() {
   done_ = true;
   // Let go beside the plan: it goes back to where it came from.
-  if (!site_.holds(input.px))
-    return;
-  site_.report(drop());
+  if (site_.holds(site_.view.toScreen({pose_.x, pose_.y})))
+    site_.report(drop());
 }
 
 void CarryTool::turn(double degrees) {
@@ -49,10 +54,29 @@ void CarryTool::wheel(const PointerInput& input, int direction) {
 }
 
 bool CarryTool::key(const KeyInput& input) {
-  if (input.key != Key::R)
+  const double step = input.shift ? kFineStep : kStep;
+  switch (input.key) {
+  case Key::R:
+    turn(input.shift ? kFineTurn : kTurn);
+    return true;
+  case Key::Enter:
+    settle();
+    return true;
+  case Key::Left:
+    moveTo({pose_.x - step, pose_.y});
+    return true;
+  case Key::Right:
+    moveTo({pose_.x + step, pose_.y});
+    return true;
+  case Key::Up:
+    moveTo({pose_.x, pose_.y - step});
+    return true;
+  case Key::Down:
+    moveTo({pose_.x, pose_.y + step});
+    return true;
+  default:
     return false;
-  turn(input.shift ? kFineTurn : kTurn);
-  return true;
+  }
 }
 
 const char* CarryTool::turningHint() {

@@ -6,7 +6,7 @@
 namespace trassix {
 
 /// Something that hangs on the pointer until it is dropped or discarded. The mouse wheel and R turn
-/// it.
+/// it; without a mouse the arrow keys move it and Enter drops it.
 class CarryTool : public CanvasTool {
  public:
   /// `held`: the mouse button is already down and its release drops what is carried. Otherwise a
@@ -37,6 +37,8 @@ class CarryTool : public CanvasTool {
 
  private:
   void moveTo(Point world);
+  /// Drops it where it is, or discards it beside the plan.
+  void settle();
   void turn(double degrees);
 
   Pose pose_;

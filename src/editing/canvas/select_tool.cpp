@@ -121,7 +121,7 @@ void SelectTool::doubleClick(const PointerInput& input) {
     return;
   }
   if (piece)
-    site_.report(cloneAndExtend(layout, piece->id));
+    site_.reportExtension(cloneAndExtend(layout, piece->id));
 }
 
 bool SelectTool::mayLeave(Point step) {

@@ -38,8 +38,9 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
   const bool onPiece = !under.empty() && under.front().kind == RecordKind::Piece;
   if (onPiece) {
     const std::int32_t piece = under.front().id;
-    rows.push_back({"Extend", "Double-click", true,
-                    [&site, piece] { site.report(cloneAndExtend(site.layout(), piece)); }});
+    rows.push_back({"Extend", "Double-click", true, [&site, piece] {
+                      site.reportExtension(cloneAndExtend(site.layout(), piece));
+                    }});
     rows.push_back({"Select Joined Track", "Alt+Double-click", true,
                     [&site, piece] { selectChain(site, piece); }});
   }

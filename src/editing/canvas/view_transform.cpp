@@ -37,6 +37,19 @@ void ViewTransform::fit(const Box& content, double widthPx, double heightPx) {
              (roomY - zoom_ * height) * 0.5 + kFitMarginPx - zoom_ * content.minY};
 }
 
+void ViewTransform::reveal(const Box& content, double widthPx, double heightPx) {
+  const Point low = toScreen({content.minX, content.minY});
+  const Point high = toScreen({content.maxX, content.maxY});
+  const auto shift = [](double from, double to, double room) {
+    const double last = room - kRevealMarginPx;
+    if (to - from > last - kRevealMarginPx)
+      return 0.0;
+    return std::max(kRevealMarginPx - from, 0.0) - std::max(to - last, 0.0);
+  };
+  origin_.x += shift(low.x, high.x, widthPx);
+  origin_.y += shift(low.y, high.y, heightPx);
+}
+
 ViewTransform ViewTransform::ofScale(double zoom, Point origin) {
   ViewTransform view;
   view.zoom_ = zoom;

@@ -16,6 +16,7 @@ class ViewTransform {
   static constexpr double kMaxZoom = 20.0;
   static constexpr double kMinFitZoom = 0.05; ///< a very large plan may be fitted further out
   static constexpr double kFitMarginPx = 80.0;
+  static constexpr double kRevealMarginPx = 40.0;
 
   double zoom() const { return zoom_; }
   Point origin() const { return origin_; }
@@ -35,6 +36,10 @@ class ViewTransform {
 
   /// Centres `content` (mm) in a window of the given size, with a margin on every side.
   void fit(const Box& content, double widthPx, double heightPx);
+
+  /// Pans as little as brings `content` (mm) into a window of the given size; not along an axis on
+  /// which it has no room.
+  void reveal(const Box& content, double widthPx, double heightPx);
 
   /// A fixed scale outside the limits for zooming by hand, for small pictures.
   static ViewTransform ofScale(double zoom, Point origin);

@@ -64,6 +64,12 @@ TEST(CanvasView, FitCentresTheContentWithItsMargin) {
   CanvasScript empty;
   empty.canvas.fit();
   EXPECT_EQ(empty.canvas.view().zoom(), 20.0);
+
+  view = ViewTransform::ofScale(1, {0, 0});
+  view.reveal({40, 100, 960, 700}, 1000, 800);
+  EXPECT_EQ(view.origin(), (Point{0, 0})) << "it is in view";
+  view.reveal({900, -100, 1100, 1000}, 1000, 800);
+  EXPECT_EQ(view.origin(), (Point{-140, 0})) << "too high for the window";
 }
 
 TEST(CanvasView, CtrlDragPansBeyondThreePixelsOnly) {
@@ -117,6 +123,13 @@ TEST(CarryPiece, TurnsByWheelAndKeyAndJoinsWhereItSnaps) {
   EXPECT_EQ(script.pieces()[2].joint(0), (Joint{1, 1}));
   EXPECT_EQ(script.pieces()[2].x, 188.3);
   EXPECT_EQ(script.host.changes, 2);
+
+  script.carry("24188", {380, 700});
+  for (const Key key : {Key::Right, Key::Down, Key::Enter})
+    EXPECT_TRUE(script.key(key));
+  EXPECT_EQ(script.pieces().at(3).x, 390);
+  EXPECT_EQ(script.pieces()[3].y, 710);
+  EXPECT_FALSE(script.canvas.carrying());
 }
 
 TEST(CarryPiece, DroppedOnAJointItGoesIntoTheTrack) {
