@@ -24,17 +24,23 @@ namespace {
 
 struct ColumnLook {
   TallyColumn column;
-  int width; ///< device independent
+  const char* heading; ///< shorter than in a file, to leave room for the names
+  int width;           ///< device independent; 0: what the others leave
   wxListColumnFormat align;
 };
 
-/// Counts first, so that they are seen in a narrow panel.
 constexpr std::array<ColumnLook, kTallyColumnCount> kColumns{
-    {{TallyColumn::Placed, 60, wxLIST_FORMAT_RIGHT},
-     {TallyColumn::Article, 70, wxLIST_FORMAT_LEFT},
-     {TallyColumn::Name, 220, wxLIST_FORMAT_LEFT},
-     {TallyColumn::Sold, 72, wxLIST_FORMAT_RIGHT},
-     {TallyColumn::System, 130, wxLIST_FORMAT_LEFT}}};
+    {{TallyColumn::Placed, wxTRANSLATE("Qty"), 40, wxLIST_FORMAT_RIGHT},
+     {TallyColumn::Article, wxTRANSLATE("Article"), 58, wxLIST_FORMAT_LEFT},
+     {TallyColumn::Name, wxTRANSLATE("Name"), 0, wxLIST_FORMAT_LEFT},
+     {TallyColumn::Sold, wxTRANSLATE("Order"), 48, wxLIST_FORMAT_RIGHT},
+     {TallyColumn::System, wxTRANSLATE("System"), 66, wxLIST_FORMAT_LEFT}}};
+constexpr int kNarrowestName = 56;
+
+constexpr std::size_t placeOf(TallyColumn column) {
+  return static_cast<std::size_t>(std::ranges::find(kColumns, column, &ColumnLook::column) -
+                                  kColumns.begin());
+}
 
 TallyHeadings translatedHeadings() {
   TallyHeadings headings = tallyHeadings();
@@ -43,10 +49,16 @@ TallyHeadings translatedHeadings() {
   return headings;
 }
 
+bool severalSystems(const std::vector<TallyRow>& rows) {
+  return !rows.empty() && std::ranges::any_of(rows, [&rows](const TallyRow& row) {
+    return row.system != rows.front().system;
+  });
+}
+
 wxString cellText(const TallyRow& row, TallyColumn column) {
   switch (column) {
   case TallyColumn::System:
-    return row.system ? fromUtf8(systemName(*row.system)) : wxString();
+    return row.system ? fromUtf8(systemShortName(*row.system)) : wxString();
   case TallyColumn::Article:
     return fromUtf8(row.article);
   case TallyColumn::Name:
@@ -62,17 +74,30 @@ wxString cellText(const TallyRow& row, TallyColumn column) {
 
 } // namespace
 
-/// Asks for the cells in view only, so that a large plan is shown at once.
+/// Asks for the cells in view only, so that a large plan is shown at once. A row that is too long
+/// for the panel is shown in full where the pointer rests on it.
 class TallyList : public wxListCtrl {
  public:
   TallyList(wxWindow* parent, const std::vector<TallyRow>& rows)
       : wxListCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                    wxLC_REPORT | wxLC_SINGLE_SEL | wxLC_VIRTUAL, wxDefaultValidator, "tally"),
         rows_(rows) {
-    const TallyHeadings headings = translatedHeadings();
     for (const ColumnLook& look : kColumns)
-      AppendColumn(fromUtf8(headings.at(static_cast<std::size_t>(look.column))), look.align,
-                   FromDIP(look.width));
+      AppendColumn(wxGetTranslation(look.heading), look.align, FromDIP(look.width));
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+      event.Skip();
+      CallAfter(&TallyList::fitColumns); // by then it is known whether there is a scroll bar
+    });
+    Bind(wxEVT_MOTION, &TallyList::onMotion, this);
+    for (wxWindow* child : GetChildren())
+      child->Bind(wxEVT_MOTION, &TallyList::onMotion, this);
+  }
+
+  void showRows() {
+    SetItemCount(static_cast<long>(rows_.size()));
+    Refresh();
+    fitColumns();
+    tipped_ = -1;
   }
 
  private:
@@ -83,7 +108,58 @@ class TallyList : public wxListCtrl {
                : wxString();
   }
 
+  /// Some platforms draw the rows in a window within this one, below that of the headings.
+  wxWindow& rowsArea() {
+    wxWindow* tallest = this;
+    for (wxWindow* child : GetChildren())
+      if (tallest == this || child->GetSize().y > tallest->GetSize().y)
+        tallest = child;
+    return *tallest;
+  }
+
+  /// The name takes what the others leave. Which system a piece is of matters only where there are
+  /// several; the column goes last, so that it can be away.
+  void fitColumns() {
+    const int system = FromDIP(severalSystems(rows_) ? kColumns.back().width : 0);
+    int left = rowsArea().GetClientSize().x - system;
+    for (std::size_t i = 0; i + 1 < kColumns.size(); ++i)
+      left -= FromDIP(kColumns.at(i).width);
+    setWidth(placeOf(TallyColumn::System), system);
+    setWidth(placeOf(TallyColumn::Name), std::max(left, FromDIP(kNarrowestName)));
+  }
+
+  void setWidth(std::size_t column, int width) {
+    if (GetColumnWidth(static_cast<int>(column)) != width)
+      SetColumnWidth(static_cast<int>(column), width);
+  }
+
+  void onMotion(wxMouseEvent& event) {
+    event.Skip();
+    wxWindow& area = rowsArea();
+    int flags = 0;
+    if (event.GetEventObject() == &area)
+      showInFull(area, HitTest(event.GetPosition(), flags));
+  }
+
+  void showInFull(wxWindow& area, long item) {
+    if (item == tipped_)
+      return;
+    tipped_ = item;
+    const auto index = static_cast<std::size_t>(item);
+    if (item < 0 || index >= rows_.size()) {
+      area.UnsetToolTip();
+      return;
+    }
+    const TallyRow& row = rows_[index];
+    const wxString name = cellText(row, TallyColumn::Name);
+    const wxString system = row.system ? fromUtf8(systemName(*row.system)) : wxString();
+    area.SetToolTip(fromUtf8(row.article) + "  " + name + "\n" +
+                    (system.empty() ? system : system + "\n") +
+                    wxString::Format(_("%d on the plan, %d to order"), row.placed, row.sold));
+  }
+
   const std::vector<TallyRow>& rows_;
+  long tipped_ = -1; ///< the row that the tool tip tells of
 };
 
 TallyPanel::TallyPanel(wxWindow* parent, LayoutHost& host)
@@ -129,8 +205,7 @@ void TallyPanel::recompute() {
 void TallyPanel::sortBy(TallyColumn column) {
   ascending_ = column != column_ || !ascending_;
   column_ = column;
-  const auto shown = std::ranges::find(kColumns, column, &ColumnLook::column);
-  list_->ShowSortIndicator(static_cast<int>(shown - kColumns.begin()), ascending_);
+  list_->ShowSortIndicator(static_cast<int>(placeOf(column)), ascending_);
   fill();
 }
 
@@ -138,8 +213,7 @@ void TallyPanel::fill() {
   // By system is how the tally comes, within it in the catalogue's order.
   if (column_ != TallyColumn::System || !ascending_)
     sortTally(tally_.rows, column_, ascending_);
-  list_->SetItemCount(static_cast<long>(tally_.rows.size()));
-  list_->Refresh();
+  list_->showRows();
   showSummary();
 }
 
