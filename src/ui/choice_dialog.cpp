@@ -4,9 +4,12 @@
 #include "ui/utf8.h"
 
 #include <wx/button.h>
+#include <wx/display.h>
 #include <wx/listbox.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
+
+#include <algorithm>
 
 namespace trassix {
 
@@ -19,6 +22,11 @@ ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
     texts.Add(fromUtf8(row));
   rows_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(460, 220)), texts,
                         wxLB_SINGLE | wxLB_HSCROLL);
+  int widest = 0;
+  for (const wxString& text : texts)
+    widest = std::max(widest, rows_->GetTextExtent(text).x);
+  const wxSize least = FromDIP(wxSize(460, 220));
+  rows_->SetMinSize({std::clamp(widest + FromDIP(30), least.x, FromDIP(900)), least.y});
   if (!texts.empty())
     rows_->SetSelection(0);
   auto* buttons = new wxStdDialogButtonSizer;
@@ -39,6 +47,18 @@ ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
   rows_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { highlight(); });
   rows_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptLater(*this); });
   CallAfter([this] { highlight(); });
+}
+
+void ChoiceDialog::leaveFree(wxPoint spot) {
+  const int margin = FromDIP(50);
+  wxRect place = GetRect();
+  if (!wxRect(place).Inflate(margin).Contains(spot))
+    return;
+  const wxRect room = wxDisplay(GetParent()).GetClientArea();
+  place.y = spot.y + margin;
+  if (place.GetBottom() > room.GetBottom())
+    place.y = std::max(room.y, spot.y - margin - place.height);
+  Move(place.GetPosition());
 }
 
 std::size_t ChoiceDialog::chosen() const {

@@ -14,6 +14,9 @@ class ChoiceDialog : public wxDialog {
  public:
   ChoiceDialog(wxWindow* parent, const Choice& choice);
 
+  /// Goes out of the way of a place on the screen that the user wants to see meanwhile.
+  void leaveFree(wxPoint spot);
+
   std::size_t chosen() const;
 
  private:

@@ -88,6 +88,9 @@ bool MainFrame::confirm(const Question& question) {
 
 std::optional<std::size_t> MainFrame::choose(const Choice& choice) {
   ChoiceDialog dialog(this, choice);
+  const Point px = canvas_->canvas().view().toScreen(choice.about);
+  dialog.leaveFree(
+      canvas_->ClientToScreen(wxPoint(static_cast<int>(px.x), static_cast<int>(px.y))));
   if (dialog.ShowModal() != wxID_OK)
     return {};
   return dialog.chosen();

@@ -35,6 +35,8 @@ void runAutofill(ToolSite& site) {
   for (const FillCandidate& candidate : fills->candidates)
     choice.rows.push_back(autofillRow(fills->gap->kind, candidate));
   choice.accept = "Place";
+  choice.about = {(fills->gap->start.x + fills->gap->end.x) / 2,
+                  (fills->gap->start.y + fills->gap->end.y) / 2};
   choice.highlighted = [&site, &fills](std::size_t row) {
     site.preview.clear();
     for (const FillPiece& piece : fillPieces(*fills->gap, fills->candidates[row]))

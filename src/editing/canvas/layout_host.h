@@ -58,6 +58,7 @@ struct Choice {
   std::vector<std::string> rows;
   std::string accept; ///< label of the button that takes the row
   std::function<void(std::size_t)> highlighted;
+  Point about = {}; ///< where on the plan that is, in mm
 };
 
 /// The window as the canvas, its tools, panels and dialogs see it. Every change of the document

@@ -220,7 +220,10 @@ std::string SelectTool::hint() const {
   const std::string name = pick ? nameOf(layout, *pick) : std::string();
   if (!name.empty()) {
     std::string text = name;
-    text += anySelected(under_) ? "    Click: what lies below" : "    Click: select";
+    if (!anySelected(under_))
+      text += "    Click: select";
+    else if (under_.size() > 1)
+      text += "    Click: what lies below";
     text += "    Drag: move";
     if (pick->kind == RecordKind::Piece)
       text += "    Double-click: extend    Alt+double-click: all joined track";
