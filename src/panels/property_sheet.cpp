@@ -92,7 +92,7 @@ std::string gradeText(double degrees) {
   return formatAngle(degrees) + "\u00b0 (" + formatAngle(percent) + " %)";
 }
 
-/// The ends by number, or of the many ends of a turntable how many.
+/// The ends by number, or how many where that tells as much or a turntable has too many to list.
 std::string openEndsText(const PlacedPiece& piece, const PieceDef& definition) {
   constexpr std::size_t kMostListed = 4;
   const std::size_t ends = definition.connectors.size();
@@ -108,7 +108,9 @@ std::string openEndsText(const PlacedPiece& piece, const PieceDef& definition) {
   }
   if (count == 0)
     return "none";
-  return (ends > kMostListed ? std::to_string(count) : numbers) + " of " + std::to_string(ends);
+  if (count == ends || ends > kMostListed)
+    return std::to_string(count) + " of " + std::to_string(ends);
+  return "no. " + numbers;
 }
 
 bool isJoined(const PlacedPiece& piece) {

@@ -213,7 +213,7 @@ void sortTally(std::vector<TallyRow>& rows, TallyColumn column, bool ascending) 
 }
 
 const TallyHeadings& tallyHeadings() {
-  static const TallyHeadings kHeadings{"System", "Article", "Name", "Placed", "To order"};
+  static const TallyHeadings kHeadings{"System", "Article", "Name", "Placed", "Needed"};
   return kHeadings;
 }
 

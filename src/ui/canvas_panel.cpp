@@ -86,6 +86,10 @@ CanvasPanel::CanvasPanel(wxWindow* parent, LayoutHost& host)
        {wxEVT_LEFT_DOWN, wxEVT_LEFT_UP, wxEVT_LEFT_DCLICK, wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_UP,
         wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_UP, wxEVT_RIGHT_DCLICK, wxEVT_MOTION})
     Bind(type, &CanvasPanel::onMouse, this);
+  Bind(wxEVT_LEAVE_WINDOW, [this](wxMouseEvent& event) {
+    canvas_.leave();
+    event.Skip();
+  });
   Bind(wxEVT_MOUSEWHEEL, &CanvasPanel::onWheel, this);
   Bind(wxEVT_KEY_DOWN, &CanvasPanel::onKeyDown, this);
   Bind(wxEVT_KEY_UP, &CanvasPanel::onKeyUp, this);

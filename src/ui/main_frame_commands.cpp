@@ -136,6 +136,7 @@ void MainFrame::setUnits(std::int32_t units) {
   appPrefs().units = units;
   writePrefs(appPrefs(), StandardFolders::prefsFile());
   palette_->unitsChanged();
+  setPointer(canvas_->canvas().pointer());
   tellAll();
 }
 

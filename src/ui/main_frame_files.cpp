@@ -143,6 +143,7 @@ bool MainFrame::write(const std::filesystem::path& path) {
   }
   dirty_ = false;
   refreshTitle();
+  SetStatusText(_("Saved"), kHintField);
   return true;
 }
 

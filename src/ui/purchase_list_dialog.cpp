@@ -9,6 +9,7 @@
 
 #include <wx/button.h>
 #include <wx/listctrl.h>
+#include <wx/log.h>
 #include <wx/msgdlg.h>
 #include <wx/sizer.h>
 #include <wx/spinctrl.h>
@@ -183,6 +184,7 @@ wxString PurchaseListDialog::address() const {
 }
 
 void PurchaseListDialog::openShop() {
+  const wxLogNull quiet; // of the toolkit's own words
   if (!wxLaunchDefaultBrowser(address()))
     wxMessageBox(_("The browser could not be opened."), _("Purchase List"), wxOK | wxICON_ERROR,
                  this);

@@ -83,13 +83,13 @@ TEST(PropertySheet, showsWhatIsSelected) {
                         "Position y = 0.0 mm\nHeading = 0\u00b0\n"
                         "Height = 0.0 mm (All track joined to it goes along.)\nGrade: none\n"
                         "Level = Level 1 (Joined to other track: it keeps its height.)\n"
-                        "Colour = none\nOpen ends: 3 of 3\n");
+                        "Colour = none\nOpen ends: no. 3\n");
   sample.layout.editPiece(4)->grade = -1.2;
   sample.layout.editPiece(4)->level = 9;
   EXPECT_THAT(shown({4}), testing::AllOf(HasSubstr("Height = 0.0 mm\nGrade: -1.2\u00b0 (-2.1 %)\n"
                                                    "Level = Level 9 (The track is lifted with "
                                                    "it.)\n"),
-                                         HasSubstr("Open ends: 1, 2 of 2\n")));
+                                         HasSubstr("Open ends: 2 of 2\n")));
   sample.layout.editPiece(4)->level = 2;
   EXPECT_EQ(shown({1, 4, sample.label}),
             "Selection\nPieces: 2\nLabels: 1\nTrack length: 360.0 mm\nArticle: various\n"

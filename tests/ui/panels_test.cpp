@@ -192,12 +192,12 @@ TEST_F(PanelsTest, ThePanesKeepTheirSizesAndShowTheTally) {
   const std::string row = "24188\t24188 - 188.3mm\t3\t3\n";
   click(control<wxWindow>("tally.copy"));
   EXPECT_EQ(frame().host().clipboard(),
-            "System\tArticle\tName\tPlaced\tTo order\nMarklin C-Track\t" + row);
+            "System\tArticle\tName\tPlaced\tNeeded\nMarklin C-Track\t" + row);
   dialogs.answer("", wxID_CANCEL); // the desktop's own dialog keeps its title to itself
   click(control<wxWindow>("tally.save"));
   waitUntil("the dialog came", [this] { return dialogs.finished(); });
   dynamic_cast<TallyPanel&>(*tally.GetParent()).saveCsv(home() / "mytally.csv");
-  EXPECT_EQ(readText(home() / "mytally.csv"), "System,Article,Name,Placed,To order\r\n"
+  EXPECT_EQ(readText(home() / "mytally.csv"), "System,Article,Name,Placed,Needed\r\n"
                                               "Marklin C-Track,24188,24188 - 188.3mm,3,3\r\n");
 
   const wxSize size = frame().GetSize();

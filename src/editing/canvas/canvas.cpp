@@ -194,6 +194,14 @@ void Canvas::setSpace(bool down) {
   renewHint();
 }
 
+void Canvas::leave() {
+  const Input working(*this);
+  if (wantsCapture())
+    return;
+  tool().leave();
+  afterInput();
+}
+
 bool Canvas::key(const KeyInput& input) {
   const Input working(*this);
   if (input.key == Key::Escape && (carry_ || gesture_ != Gesture::None)) {

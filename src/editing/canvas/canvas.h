@@ -36,6 +36,10 @@ class Canvas {
   /// `notches` is signed. Of a whole notch or more only the sign counts; touchpads send fractions,
   /// which zoom in proportion and add up to the steps of everything else.
   void wheel(const PointerInput& input, double notches);
+  /// The pointer left the canvas.
+  void leave();
+  /// Where the pointer was last, mm.
+  Point pointer() const { return last_.world; }
   bool key(const KeyInput& input);
   void setSpace(bool down);
   /// Esc or a lost capture: ends whatever is under way and leaves no ghost.

@@ -105,6 +105,8 @@ class CanvasTool {
   virtual void doubleClick(const PointerInput&) {}
   virtual void contextMenu(const PointerInput&) {}
   virtual bool key(const KeyInput&) { return false; }
+  /// The pointer, with nothing under way, left the plan.
+  virtual void leave() {}
   /// Esc, a lost capture or another tool: leaves everything as it was before the gesture.
   virtual void cancel() {}
 

@@ -194,6 +194,13 @@ void SelectTool::cancel() {
   under_.clear();
 }
 
+void SelectTool::leave() {
+  if (under_.empty())
+    return;
+  under_.clear();
+  site_.host.repaint();
+}
+
 std::span<const std::int32_t> SelectTool::lifted() const {
   return gesture_ ? gesture_->lifted() : std::span<const std::int32_t>();
 }

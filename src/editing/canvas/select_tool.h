@@ -23,6 +23,7 @@ class SelectTool : public CanvasTool {
   void contextMenu(const PointerInput& input) override;
   bool key(const KeyInput& input) override;
   void cancel() override;
+  void leave() override;
   std::span<const std::int32_t> lifted() const override;
   void paint(Surface& surface) const override;
   std::string hint() const override;

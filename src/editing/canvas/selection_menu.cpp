@@ -12,11 +12,27 @@ namespace trassix {
 
 namespace {
 
+/// Tells the ways apart in which one article fits: by its ends, numbered as in the properties, that
+/// meet the neighbours.
+std::string waysRound(const Layout& layout, std::int32_t piece, const SwapFit& fit) {
+  std::string joined;
+  for (std::size_t i = 0; i < fit.ends.size(); ++i) {
+    if (fit.ends[i] == -1 || layout.findPiece(piece)->joint(i).open())
+      continue;
+    joined += joined.empty() ? ", joined by end " : " and ";
+    joined += std::to_string(fit.ends[i] + 1);
+  }
+  return joined;
+}
+
 /// "Swap for ...": one row for each article that fits the ends of the piece.
 void addSwaps(std::vector<MenuRow>& rows, ToolSite& site, std::int32_t piece) {
-  for (const SwapFit& fit : swapFits(site.layout(), piece)) {
+  const std::vector<SwapFit> fits = swapFits(site.layout(), piece);
+  for (const SwapFit& fit : fits) {
     MenuRow row;
     row.text = fit.definition->name;
+    if (std::ranges::count(fits, fit.definition, &SwapFit::definition) > 1)
+      row.text += waysRound(site.layout(), piece, fit);
     row.submenu = "Swap for";
     row.action = [&site, piece, fit] {
       if (!refuseLocked(site, "swap") && swapPiece(site.layout(), piece, fit))
