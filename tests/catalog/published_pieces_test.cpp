@@ -1,13 +1,17 @@
 // The built-in content against an independent copy of the published list.
+#include "catalog/piece_builders.h"
 #include "catalog/track_catalog.h"
 
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <fstream>
 #include <sstream>
 
 namespace trassix {
 namespace {
+
+constexpr double kRadian = 3.141592653589793 / 180;
 
 std::vector<std::string> split(const std::string& text, char separator) {
   std::vector<std::string> fields;
@@ -33,6 +37,35 @@ std::string flagsOf(const PieceDef& piece) {
   return flags.empty() ? flags : flags.substr(1);
 }
 
+void expectEnd(const PieceDef& piece, std::size_t index, double x, double y, double heading) {
+  ASSERT_LT(index, piece.connectors.size());
+  const Connector& end = piece.connectors[index];
+  // Computed ends are published rounded to four decimals.
+  EXPECT_NEAR(end.x, x, 5.1e-5) << "end " << index;
+  EXPECT_NEAR(end.y, y, 5.1e-5) << "end " << index;
+  EXPECT_NEAR(std::remainder(end.heading - heading, 360), 0, 5.1e-5) << "end " << index;
+}
+
+/// Ends that are not published because they follow from the kind and the measures.
+void expectEndsOfKind(const PieceDef& piece) {
+  const double turn = piece.angle * kRadian;
+  if (piece.kind == PieceKind::Turntable) {
+    ASSERT_NEAR(static_cast<double>(piece.connectors.size()) * piece.angle, 360, 1e-9);
+    for (std::size_t i = 0; i < piece.connectors.size(); ++i) {
+      const auto nth = static_cast<double>(i);
+      expectEnd(piece, i, piece.radius * std::cos(nth * turn), piece.radius * std::sin(nth * turn),
+                nth * piece.angle);
+    }
+    return;
+  }
+  EXPECT_EQ(piece.connectors.size(), piece.kind == PieceKind::TrackEnd ? 1U : 2U);
+  if (piece.kind == PieceKind::Curve)
+    expectEnd(piece, 1, piece.radius * std::sin(turn), piece.radius * (1 - std::cos(turn)),
+              piece.angle);
+  else if (piece.kind != PieceKind::TrackEnd)
+    expectEnd(piece, 1, piece.length, 0, 0);
+}
+
 TEST(BuiltinCatalog, holdsThePublishedPiecesInOrderAndToTheDigit) {
   const TrackCatalog& catalog = TrackCatalog::instance();
   std::ifstream list(TRASSIX_SOURCE_DIR "/tests/catalog/published_pieces.txt");
@@ -42,30 +75,36 @@ TEST(BuiltinCatalog, holdsThePublishedPiecesInOrderAndToTheDigit) {
       continue;
     SCOPED_TRACE(line);
     const std::vector<std::string> row = split(line, '|');
-    const PieceDef* piece = catalog.at(index++);
-    ASSERT_NE(piece, nullptr);
-    ASSERT_EQ(piece->article, row.at(0));
-    EXPECT_EQ(catalog.find(row[0]), piece);
-    EXPECT_EQ(piece->name, row.at(1));
-    EXPECT_EQ(static_cast<int>(piece->system), std::stoi(row.at(2)));
-    EXPECT_EQ(static_cast<int>(piece->kind), std::stoi(row.at(3)));
-    EXPECT_EQ(piece->radius, number(row.at(5)));
-    EXPECT_EQ(piece->angle, number(row.at(6)));
-    const double arc = piece->radius * piece->angle * 3.141592653589793 / 180;
-    EXPECT_NEAR(piece->length, row.at(4).empty() ? arc : number(row[4]), 1e-9);
-    EXPECT_EQ(flagsOf(*piece), row.at(7));
-    EXPECT_EQ(std::to_string(piece->spanA) + "/" + std::to_string(piece->spanB), row.at(8));
-    const std::vector<std::string> ends = split(row.at(9), ' ');
-    if (ends.front().empty())
+    const PieceDef* found = catalog.at(index++);
+    ASSERT_NE(found, nullptr);
+    const PieceDef& piece = *found;
+    ASSERT_EQ(piece.article, row.at(0));
+    EXPECT_EQ(catalog.find(row[0]), found);
+    EXPECT_EQ(piece.name, row.at(1));
+    EXPECT_EQ(static_cast<int>(piece.system), std::stoi(row.at(2)));
+    EXPECT_EQ(static_cast<int>(piece.kind), std::stoi(row.at(3)));
+    EXPECT_EQ(piece.radius, number(row.at(5)));
+    EXPECT_EQ(piece.angle, number(row.at(6)));
+    const double arc = piece.radius * piece.angle * kRadian;
+    EXPECT_NEAR(piece.length, row.at(4).empty() ? arc : number(row[4]), 1e-9);
+    EXPECT_EQ(flagsOf(piece), row.at(7));
+    EXPECT_EQ(std::to_string(piece.spanA) + "/" + std::to_string(piece.spanB), row.at(8));
+    for (std::size_t i = 0; i < piece.connectors.size(); ++i) {
+      const Connector& end = piece.connectors[i];
+      EXPECT_TRUE(end.valid && end.id == static_cast<std::int32_t>(i));
+      EXPECT_TRUE(end.heading >= 0 && end.heading < 360);
+    }
+    if (piece.kind != PieceKind::Turntable)
+      expectEnd(piece, 0, 0, 0, 180);
+    if (row.at(9).empty()) {
+      expectEndsOfKind(piece);
       continue;
-    ASSERT_EQ(piece->connectors.size(), ends.size() + 1);
+    }
+    const std::vector<std::string> ends = split(row[9], ' ');
+    ASSERT_EQ(piece.connectors.size(), ends.size() + 1);
     for (std::size_t i = 0; i < ends.size(); ++i) {
       const std::vector<std::string> end = split(ends[i], ',');
-      const Connector& connector = piece->connectors[i + 1];
-      // Computed ends are published rounded to four decimals.
-      EXPECT_NEAR(connector.x, number(end.at(0)), 5.1e-5);
-      EXPECT_NEAR(connector.y, number(end.at(1)), 5.1e-5);
-      EXPECT_NEAR(connector.heading, number(end.at(2)), 5.1e-5);
+      expectEnd(piece, i + 1, number(end.at(0)), number(end.at(1)), number(end.at(2)));
     }
   }
   EXPECT_EQ(index, 246);
@@ -105,6 +144,15 @@ TEST(TrackCatalog, letsANewerRecordTakeOverItsArticle) {
   catalog.alias("B2", "unknown");
   EXPECT_EQ(catalog.find("B2"), catalog.at(0));
   EXPECT_EQ(catalog.find("unknown"), catalog.at(0));
+}
+
+TEST(PieceBuilders, copeWithTheEdges) {
+  const auto branch = [](PieceKind side, double length, double angle) {
+    return makeTurnout(TrackSystem::ZTrack, "a", "n", side, length, 490, angle).connectors[2];
+  };
+  EXPECT_NEAR(branch(PieceKind::TurnoutRight, 111, 13).x, 110.23, 0.005); // not cut
+  EXPECT_EQ(branch(PieceKind::TurnoutLeft, 110, 0).heading, 0);
+  EXPECT_EQ(copyAs(nullptr, TrackSystem::CTrack, "a", "n"), PieceDef{});
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "document/block_file.h"
 #include "support/documented_example.h"
+#include "support/loose_records.h"
 #include "support/print_records.h"
 #include "support/random_plan.h"
 #include "support/temp_folder.h"
@@ -74,24 +75,15 @@ TEST(BlockFile, refusesNothingAndNonsense) {
 }
 
 TEST(BlockFile, centresOnTheBoxOfThePositions) {
-  const auto blockAt = [](const std::vector<Point>& points) {
-    Block block;
-    block.pieces.resize(2);
-    block.scenery.resize(1);
-    for (std::size_t i = 0; i < 2; ++i) {
-      block.pieces[i].x = points[i].x;
-      block.pieces[i].y = points[i].y;
-    }
-    block.scenery[0].x = points[2].x;
-    block.scenery[0].y = points[2].y;
-    return block;
+  const auto blockAt = [](Point a, Point b, Point c) {
+    return Block{"", {test::loosePiece(1, "", a), test::loosePiece(2, "", b)}, {{3, "", c.x, c.y}}};
   };
-  Block block = blockAt({{100, 10}, {300, 20}, {150, 50}});
+  Block block = blockAt({100, 10}, {300, 20}, {150, 50});
   EXPECT_EQ(centreBlock(block), (Point{200, 30}));
-  EXPECT_EQ(block, blockAt({{-100, -20}, {100, -10}, {-50, 20}}));
-  Block farOff = blockAt({{2e8, 5}, {3e8, 6}, {4e8, 7}});
+  EXPECT_EQ(block, blockAt({-100, -20}, {100, -10}, {-50, 20}));
+  Block farOff = blockAt({2e8, 5}, {3e8, 6}, {4e8, 7});
   EXPECT_EQ(centreBlock(farOff), Point{}) << "so far off, the box counts as empty";
-  EXPECT_EQ(farOff, blockAt({{2e8, 5}, {3e8, 6}, {4e8, 7}}));
+  EXPECT_EQ(farOff, blockAt({2e8, 5}, {3e8, 6}, {4e8, 7}));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "document/layout.h"
+#include "support/loose_records.h"
 
 #include <gtest/gtest.h>
 
@@ -6,11 +7,7 @@ namespace trassix {
 namespace {
 
 PlacedPiece pieceAt(std::int32_t id, double x) {
-  PlacedPiece piece;
-  piece.id = id;
-  piece.x = x;
-  piece.joints = {{id + 1, 0}, {}};
-  return piece;
+  return test::loosePiece(id, "", {x, 0}, {{id + 1, 0}, {}});
 }
 
 TEST(Layout, undoesAtMostFiftyEditsAndForgetsTheUndoneOnesAtTheNextEdit) {

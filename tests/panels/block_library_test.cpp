@@ -1,4 +1,5 @@
 #include "panels/block_library.h"
+#include "support/loose_records.h"
 #include "support/temp_folder.h"
 
 #include <gmock/gmock.h>
@@ -11,11 +12,8 @@ TEST(BlockLibrary, listsTheFilesOfAFolderByName) {
   EXPECT_TRUE(libraryBlocks(folder.path() / "missing").empty());
 
   Layout layout;
-  PlacedPiece& piece = layout.edit().pieces.emplace_back();
-  piece.id = 1;
-  piece.cat = "24188";
-  piece.x = 500;
-  piece.sel = true;
+  layout.edit().pieces.push_back(test::loosePiece(1, "24188", {500, 0}));
+  layout.edit().pieces[0].sel = true;
   ASSERT_EQ(saveBlock(layout, folder.path() / u8"Züge.txl", "another name"), "");
   ASSERT_EQ(saveBlock(layout, folder.path() / "Yard.v2.txl", "Yard"), "");
   test::writeText(folder.path() / "Broken.txl", "<block name=\"x\">\n<piece id=\"a\" />\n");

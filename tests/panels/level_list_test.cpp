@@ -1,4 +1,5 @@
 #include "panels/level_list.h"
+#include "support/loose_records.h"
 #include "support/plan.h"
 
 #include <gmock/gmock.h>
@@ -26,11 +27,7 @@ class Decks : public testing::Test {
     content.pieces[2].level = 2;
     content.pieces[2].z = 100;
     content.scenery.push_back({layout.takeId(), "72886", 0, 0, 0, 1, 1, 2, true});
-    Shape lake;
-    lake.id = layout.takeId();
-    lake.points = {{0, 0}, {9, 0}, {0, 9}};
-    lake.level = 2;
-    content.shapes.push_back(lake);
+    content.shapes.push_back(test::shapeOf(layout.takeId(), {{0, 0}, {9, 0}, {0, 9}}, 2));
     layout.clearSelection();
   }
 
@@ -176,9 +173,7 @@ TEST_F(Decks, contentGoesToTheHeirOrIsDeleted) {
 }
 
 TEST_F(Decks, lockedTrackIsNotDeletedWithItsLevel) {
-  Tunnel tunnel;
-  tunnel.covers = {layout.pieces()[0].id};
-  layout.edit().tunnels.push_back(tunnel);
+  layout.edit().tunnels.emplace_back().covers = {layout.pieces()[0].id};
   layout.edit().pieces[2].helix = 7;
   LevelList list(layout);
   EXPECT_FALSE(list.remove(0, std::nullopt));

@@ -2,6 +2,7 @@
 #include "editing/joining.h"
 #include "editing/selection.h"
 #include "panels/property_changes.h"
+#include "support/loose_records.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 
@@ -26,16 +27,8 @@ struct Sample {
     shape = addShape(layout, {{0, 0}, {90, 0}, {90, 60}});
     tape = addMeasurement(layout, {0, 0}, {300, 400});
     scenery = layout.takeId();
-    SceneryItem item;
-    item.id = scenery;
-    item.item = "72886";
-    item.heading = 30;
-    layout.edit().scenery.push_back(item);
-    Level upper;
-    upper.id = 2;
-    upper.name = "Upper";
-    upper.height = 80;
-    layout.editSettings().levels.push_back(upper);
+    layout.edit().scenery.push_back({scenery, "72886", 0, 0, 30});
+    layout.editSettings().levels.push_back({2, "Upper", true, 80, false, {}, {}});
     layout.clearSelection();
   }
 
@@ -105,10 +98,8 @@ TEST(PropertySheet, showsWhatIsSelected) {
   EXPECT_EQ(shown({sample.tape}), "Measurement\nLength: 19.685 in\n");
 
   Layout round;
-  PlacedPiece& turntable = round.edit().pieces.emplace_back();
-  turntable.id = 1;
-  turntable.cat = "74861";
-  turntable.sel = true;
+  round.edit().pieces.push_back(test::loosePiece(1, "74861"));
+  round.edit().pieces[0].sel = true;
   EXPECT_THAT(textOf(propertySheetOf(round)), HasSubstr("Open ends: 30 of 30\n"));
 }
 

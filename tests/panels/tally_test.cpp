@@ -1,4 +1,5 @@
 #include "panels/tally.h"
+#include "support/loose_records.h"
 
 #include <gmock/gmock.h>
 
@@ -7,11 +8,8 @@ namespace {
 
 Layout planOf(const std::vector<const char*>& articles) {
   Layout layout;
-  for (const char* article : articles) {
-    PlacedPiece& piece = layout.edit().pieces.emplace_back();
-    piece.id = layout.takeId();
-    piece.cat = article;
-  }
+  for (const char* article : articles)
+    layout.edit().pieces.push_back(test::loosePiece(layout.takeId(), article));
   return layout;
 }
 
