@@ -34,7 +34,7 @@ constexpr std::array<ColumnLook, kTallyColumnCount> kColumns{
      {TallyColumn::Article, wxTRANSLATE("Article"), 58, wxLIST_FORMAT_LEFT},
      {TallyColumn::Name, wxTRANSLATE("Name"), 0, wxLIST_FORMAT_LEFT},
      {TallyColumn::Sold, wxTRANSLATE("Order"), 48, wxLIST_FORMAT_RIGHT},
-     {TallyColumn::System, wxTRANSLATE("System"), 66, wxLIST_FORMAT_LEFT}}};
+     {TallyColumn::System, wxTRANSLATE("System"), 62, wxLIST_FORMAT_LEFT}}};
 constexpr int kNarrowestName = 56;
 
 constexpr std::size_t placeOf(TallyColumn column) {
@@ -57,8 +57,12 @@ bool severalSystems(const std::vector<TallyRow>& rows) {
 
 wxString cellText(const TallyRow& row, TallyColumn column) {
   switch (column) {
-  case TallyColumn::System:
-    return row.system ? fromUtf8(systemShortName(*row.system)) : wxString();
+  case TallyColumn::System: {
+    // The maker of nearly all of them would fill the column.
+    wxString name = row.system ? fromUtf8(systemName(*row.system)) : wxString();
+    name.StartsWith("Marklin ", &name);
+    return name;
+  }
   case TallyColumn::Article:
     return fromUtf8(row.article);
   case TallyColumn::Name:
