@@ -1,0 +1,136 @@
+// Pictures of a plan as the toolkit draws it, against pictures that somebody has looked at.
+#include "document/layout_reader.h"
+#include "editing/canvas/layout_painter.h"
+#include "editing/canvas/plan_colors.h"
+#include "ui/gc_surface.h"
+#include "ui_test.h"
+
+#include <wx/dcmemory.h>
+#include <wx/image.h>
+
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <memory>
+
+namespace trassix::test {
+namespace {
+
+constexpr int kWidth = 480;
+constexpr int kHeight = 320;
+constexpr int kAllowed = 20; ///< pixels that may differ
+
+/// Texts become bars, since fonts differ between machines.
+class PictureSurface : public GcSurface {
+ public:
+  using GcSurface::GcSurface;
+
+  double textShift = 0;           ///< px to the right
+  const Point* leftOut = nullptr; ///< first point of a rail that is forgotten
+  std::vector<Point> rails;       ///< first points of the long rails in view
+
+  void polyline(std::span<const Point> points, const Stroke& stroke) override {
+    const auto inView = [](Point p) { // and not below the scale bar
+      return p.x > 0 && p.y > 0 && p.x < kWidth && p.y < kHeight - 40;
+    };
+    const Point a = points.front();
+    const Point b = points.back();
+    if (stroke.color == plan_colors::kRail && stroke.style == Stroke::Style::Solid && inView(a) &&
+        inView(b) && std::hypot(b.x - a.x, b.y - a.y) > 40) {
+      if (leftOut && *leftOut == a)
+        return;
+      rails.push_back(a);
+    }
+    GcSurface::polyline(points, stroke);
+  }
+  void text(std::string_view text, Point centre, double degrees, const TextStyle& style) override {
+    const SizePx size = textSize(text, style);
+    const double c = std::cos(degrees * kPi / 180) * size.width / 2;
+    const double s = std::sin(degrees * kPi / 180) * size.width / 2;
+    const Point at{centre.x + textShift, centre.y};
+    GcSurface::polyline(std::array{Point{at.x - c, at.y - s}, Point{at.x + c, at.y + s}},
+                        {style.color, size.height / 2});
+  }
+  SizePx textSize(std::string_view text, const TextStyle& style) override {
+    return {static_cast<double>(text.size()) * style.size * 0.6, style.size * 1.2};
+  }
+};
+
+/// True when some pixel of `other` at most one pixel away looks like this one.
+bool isFoundNear(const wxImage& image, int x, int y, const wxImage& other) {
+  constexpr int kAlike = 60;
+  const auto differ = [](int a, int b) { return std::abs(a - b) > kAlike; };
+  for (int v = std::max(y - 1, 0); v <= std::min(y + 1, kHeight - 1); ++v)
+    for (int u = std::max(x - 1, 0); u <= std::min(x + 1, kWidth - 1); ++u)
+      if (!differ(image.GetRed(x, y), other.GetRed(u, v)) &&
+          !differ(image.GetGreen(x, y), other.GetGreen(u, v)) &&
+          !differ(image.GetBlue(x, y), other.GetBlue(u, v)))
+        return true;
+  return false;
+}
+
+int differences(const wxImage& a, const wxImage& b) {
+  int count = 0;
+  for (int y = 0; y < kHeight; ++y)
+    for (int x = 0; x < kWidth; ++x)
+      count += isFoundNear(a, x, y, b) && isFoundNear(b, x, y, a) ? 0 : 1;
+  return count;
+}
+
+class PlanPicture : public UiTest {
+ protected:
+  void SetUp() override {
+    wxInitAllImageHandlers();
+    const std::filesystem::path sample =
+        std::filesystem::path(TRASSIX_SOURCE_DIR) / "samples" / "C-Track Two Towns.txl";
+    std::string name;
+    ASSERT_EQ(loadLayout(sample, layout_, name), "");
+  }
+
+  template <typename Prepare>
+  wxImage draw(const ViewTransform& view, Prepare prepare) {
+    wxBitmap bitmap(kWidth, kHeight, 24);
+    wxMemoryDC dc(bitmap);
+    const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
+    PictureSurface surface(*context);
+    prepare(surface);
+    LayoutPainter(surface, {kWidth, kHeight}, view, PaintOptions())
+        .paint(layout_, PlanIndex(layout_));
+    context->Flush();
+    rails_ = surface.rails;
+    return bitmap.ConvertToImage();
+  }
+
+  Layout layout_;
+  std::vector<Point> rails_;
+};
+
+TEST_F(PlanPicture, IsAsItWasAtThreeZooms) {
+  for (const auto& [zoom, middle] :
+       {std::pair{0.25, Point{950, 300}}, {0.7, Point{950, 300}}, {2.0, Point{642, 40}}}) {
+    SCOPED_TRACE(zoom);
+    std::string file = std::to_string(std::lround(zoom * 100));
+    file += ".png";
+    const ViewTransform view =
+        ViewTransform::ofScale(zoom, {kWidth / 2 - middle.x * zoom, kHeight / 2 - middle.y * zoom});
+    const wxImage drawn = draw(view, [](PictureSurface&) {});
+    const std::filesystem::path kept = std::filesystem::path(TRASSIX_SCREENSHOT_DIR) / file;
+    std::filesystem::create_directories(kept.parent_path());
+    ASSERT_TRUE(drawn.SaveFile(kept.string(), wxBITMAP_TYPE_PNG));
+    wxImage known;
+    ASSERT_TRUE(known.LoadFile(TRASSIX_SOURCE_DIR "/tests/ui/pictures/" + file));
+    EXPECT_LE(differences(drawn, known), kAllowed)
+        << "if " << kept << " is right, it belongs into tests/ui/pictures";
+
+    ASSERT_FALSE(rails_.empty());
+    for (const Point& rail : std::vector<Point>(rails_))
+      EXPECT_GT(differences(drawn, draw(view, [&](PictureSurface& s) { s.leftOut = &rail; })),
+                kAllowed)
+          << "a missing rail at " << rail.x << ", " << rail.y << " is seen";
+    EXPECT_LE(differences(drawn, draw(view, [](PictureSurface& s) { s.textShift = 1; })), kAllowed)
+        << "texts may shift";
+  }
+}
+
+} // namespace
+} // namespace trassix::test
