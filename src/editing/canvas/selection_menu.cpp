@@ -31,7 +31,8 @@ void addSwaps(std::vector<MenuRow>& rows, ToolSite& site, std::int32_t piece) {
   for (const SwapFit& fit : fits) {
     MenuRow row;
     row.text = fit.definition->name;
-    if (std::ranges::count(fits, fit.definition, &SwapFit::definition) > 1)
+    if (std::ranges::count(fits, fit.definition, &SwapFit::definition) > 1 ||
+        fit.definition->article == site.layout().findPiece(piece)->cat)
       row.text += waysRound(site.layout(), piece, fit);
     row.submenu = "Swap for";
     row.action = [&site, piece, fit] {
