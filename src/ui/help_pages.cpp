@@ -114,7 +114,9 @@ constexpr const char* kLevelsAndBaseboard[] = {
     wxTRANSLATE("# Shapes"),
     wxTRANSLATE(
         "\"Polygon\" in the tool bar draws any outline corner by corner: an access hatch, "
-        "a lake, a road. \"Rectangle\" places one of an exact size in the middle of the "
+        "a lake, a road. Click the first corner again, or double-click the last one, to close "
+        "it; an edge that would cross the others is shown in red and not taken. \"Rectangle\" "
+        "places one of an exact size in the middle of the "
         "view, selected, so that it can be moved to its place. Double-click a shape to give "
         "it a label, colour, opacity, height and level, or to make it the baseboard."),
     wxTRANSLATE("Lengths can be typed in any unit: 120, 12 cm or 4.75 in."),

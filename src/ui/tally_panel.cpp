@@ -128,6 +128,9 @@ class TallyList : public wxListCtrl {
     int left = rowsArea().GetClientSize().x - system;
     for (std::size_t i = 0; i + 1 < kColumns.size(); ++i)
       left -= FromDIP(kColumns.at(i).width);
+    if (left == fitted_)
+      return; // a width that the user chose stays
+    fitted_ = left;
     setWidth(placeOf(TallyColumn::System), system);
     setWidth(placeOf(TallyColumn::Name), std::max(left, FromDIP(kNarrowestName)));
   }
@@ -163,6 +166,7 @@ class TallyList : public wxListCtrl {
   }
 
   const std::vector<TallyRow>& rows_;
+  int fitted_ = -1;  ///< what was left for the name
   long tipped_ = -1; ///< the row that the tool tip tells of
 };
 
