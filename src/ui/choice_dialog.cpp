@@ -42,10 +42,7 @@ ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
   SetSizerAndFit(sizer);
   SetDefaultItem(FindWindow(wxID_OK));
   rows_->SetFocus();
-  // Beside what the highlighted row shows in the parent, as far as there is room.
-  const wxRect around = parent->GetScreenRect();
-  SetPosition({around.GetRight() - GetSize().x - FromDIP(20),
-               around.y + (around.height - GetSize().y) / 2});
+  CentreOnParent();
 
   rows_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { highlight(); });
   rows_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptLater(*this); });
