@@ -19,22 +19,6 @@ class DialogTest : public FrameTest {
  protected:
   Layout& plan() { return frame().layout(); }
 
-  /// Until the plan has its size and place: dialogs are placed by it and take its middle. The side
-  /// panels come last, and the window may still move before.
-  void startLaidOut() {
-    start();
-    waitUntil("the side panels are there",
-              [] { return findNamed("pieces") && findNamed("tally"); });
-    wxRect last;
-    int same = 0;
-    waitUntil("the plan has its size and place", [&] {
-      const wxRect now = frame().canvasPanel().GetScreenRect();
-      same = now == last && now.width > 500 ? same + 1 : 0;
-      last = now;
-      return same > 3;
-    });
-  }
-
   static wxWindow& in(wxDialog& dialog, const std::string& name) {
     wxWindow* window = wxWindow::FindWindowByName(name, &dialog);
     if (window == nullptr)

@@ -69,7 +69,7 @@ class PlanningTest : public UiTest {
 };
 
 TEST_F(PlanningTest, AnOvalIsPlannedSavedAndFoundAgainAllJoined) {
-  start();
+  startLaidOut();
   drag(inPalette("24188"), {onPlan({300, 200}), onPlan({500, 160})});
   waitForPieces(1);
 
@@ -117,7 +117,7 @@ TEST_F(PlanningTest, AnOvalIsPlannedSavedAndFoundAgainAllJoined) {
 }
 
 TEST_F(PlanningTest, MouseAndKeysShapeThePlan) {
-  start();
+  startLaidOut();
   drag(inPalette("24188"), {onPlan({300, 200}), onPlan({400, 300})});
   waitForPieces(1);
 
@@ -162,7 +162,7 @@ TEST_F(PlanningTest, SceneryAndBlocksAreCarriedToo) {
   for (PlacedPiece& piece : throat.layout.edit().pieces)
     piece.sel = true;
   ASSERT_EQ(saveBlock(throat.layout, library / "Throat.txl", "Throat"), "");
-  start();
+  startLaidOut();
   inPalette("24188"); // the palette has its places then
 
   click(*findLabelled("Scenery"));
@@ -193,7 +193,7 @@ TEST_F(PlanningTest, SceneryAndBlocksAreCarriedToo) {
 }
 
 TEST_F(PlanningTest, ThePlanIsPannedByThreeHands) {
-  start();
+  startLaidOut();
   struct Hand {
     const char* name;
     int key, button;

@@ -2,6 +2,7 @@
 
 #include "app/trassix_app.h"
 #include "driver.h"
+#include "ui/canvas_panel.h"
 #include "ui/main_frame.h"
 
 #include <wx/evtloop.h>
@@ -73,6 +74,19 @@ void UiTest::beforeFrame(std::function<void()> action) {
 void UiTest::startWith(const AppPrefs& prefs) {
   writePrefs(prefs, prefsFile());
   ASSERT_TRUE(startAsIs());
+}
+
+void UiTest::startLaidOut() {
+  start();
+  waitUntil("the side panels are there", [] { return findNamed("pieces") && findNamed("tally"); });
+  wxRect last;
+  int same = 0;
+  waitUntil("the plan has its size and place", [&] {
+    const wxRect now = frame().canvasPanel().GetScreenRect();
+    same = now == last && now.width > 500 ? same + 1 : 0;
+    last = now;
+    return same > 3;
+  });
 }
 
 bool UiTest::startAsIs() {

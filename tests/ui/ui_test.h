@@ -34,6 +34,9 @@ class UiTest : public testing::Test {
   void startWith(const AppPrefs& prefs);
   /// The usual start of a test: straight to the empty plan.
   void start() { startWith({false, true, 0}); }
+  /// The same, until the plan has its size and place: dialogs are placed by it and take its middle,
+  /// and what is clicked must not move away. The side panels come last.
+  void startLaidOut();
   /// Starts with whatever the test put into the home folder; false when the start failed.
   bool startAsIs();
 
