@@ -86,6 +86,8 @@ TEST_F(Decks, namesCanBeSwappedAndAreKeptWithoutBlanks) {
   EXPECT_TRUE(list.apply(layout));
   EXPECT_EQ(layout.settings().levels[0].name, "Level 2");
   EXPECT_EQ(layout.settings().levels[1].name, "Level 1");
+  layout.editSettings().levels[0].name = "Level 1"; // as in a plan from elsewhere
+  EXPECT_FALSE(LevelList(layout).firstProblem());
 }
 
 TEST_F(Decks, aNewLevelHasAFreeNameAndAnIdThatUndoCannotBringBack) {
