@@ -23,7 +23,6 @@ class History {
 
   bool canUndo() const { return !undo_.empty(); }
   bool canRedo() const { return !redo_.empty(); }
-  void clearRedo() { redo_.clear(); }
   void clear();
 
   /// Shows everything that undo or redo could bring back.

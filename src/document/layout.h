@@ -84,9 +84,6 @@ class Layout {
 
   /// Remembers the document as it is, to be called once by an edit that is going to change it.
   void pushHistory();
-  /// For an edit that changes settings alone, of which undo would bring back nothing: no step is
-  /// spent on it, but like any edit it ends what could be redone.
-  void clearRedo() { history_.clearRedo(); }
   bool undo();
   bool redo();
   bool canUndo() const { return history_.canUndo(); }

@@ -39,18 +39,6 @@ Fates fatesOf(const Layout& layout, const LevelChange& wanted) {
   return fates;
 }
 
-/// True when something that undo brings back is going to change.
-bool touchesContent(const PlanContent& content, const Fates& fates) {
-  const auto any = [&fates](const auto& records, bool rises) {
-    return std::ranges::any_of(records, [&](const auto& record) {
-      const auto fate = fates.find(record.level);
-      return fate != fates.end() &&
-             (fate->second.level != record.level || (rises && fate->second.rise != 0));
-    });
-  };
-  return any(content.pieces, true) || any(content.scenery, false) || any(content.shapes, false);
-}
-
 void removeDoomed(PlanContent& content, const Fates& fates) {
   const auto doomed = [&fates](const auto& record) {
     const auto fate = fates.find(record.level);
@@ -159,11 +147,8 @@ bool setLevels(Layout& layout, const LevelChange& wanted) {
       (present.levels == wanted.levels && present.activeLevel == wanted.activeLevel &&
        wanted.heirs.empty() && !wanted.usedShape))
     return false;
+  layout.pushHistory();
   const Fates fates = fatesOf(layout, wanted);
-  if (wanted.usedShape || touchesContent(layout.content(), fates))
-    layout.pushHistory();
-  else
-    layout.clearRedo();
   removeDoomed(layout.edit(), fates);
   openSteps(layout, moveToFates(layout.edit(), fates));
   if (wanted.usedShape)
@@ -179,7 +164,7 @@ bool setLevelOutline(Layout& layout, std::int32_t level, const std::vector<Point
   const Level* present = layout.findLevel(level);
   if (present == nullptr || !outlineProblem(outline).empty() || present->outline == outline)
     return false;
-  layout.clearRedo();
+  layout.pushHistory();
   std::ranges::find(layout.editSettings().levels, level, &Level::id)->outline = outline;
   return true;
 }
@@ -191,7 +176,7 @@ bool setBaseboard(Layout& layout, const std::vector<Point>& outline, const LastS
   if ((present.baseboard == wanted && present.lastShape == shape) ||
       (!wanted.empty() && !outlineProblem(wanted).empty()))
     return false;
-  layout.clearRedo();
+  layout.pushHistory();
   PlanSettings& settings = layout.editSettings();
   settings.baseboard = wanted;
   settings.lastShape = shape;

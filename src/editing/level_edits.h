@@ -1,8 +1,6 @@
 // Levels and the baseboard. Undo does not bring them back, since they are settings of the plan;
-// what stands on the levels it does bring back. An edit is one undo step when track, scenery or
-// shapes change by it, and none when undoing it would show nothing: the step before it is then the
-// next to be undone. What could be redone is lost by either. True when the plan has changed and
-// needs saving; false and nothing changed when all is as it was.
+// what stands on the levels it does bring back. Each edit is one undo step; false and nothing
+// changed when all is as it was.
 #pragma once
 
 #include "document/layout.h"

@@ -47,8 +47,7 @@ class BoardForm {
   /// under what is on the plan. Empty for no baseboard and while there is a problem.
   std::vector<Point> outline() const;
 
-  /// An undo step only when a shape is used up. False and nothing changed when all is as it was or
-  /// there is a problem.
+  /// One undo step. False and nothing changed when all is as it was or there is a problem.
   bool apply(Layout& layout) const;
 
  private:

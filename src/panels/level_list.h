@@ -69,8 +69,7 @@ class LevelList {
   /// The first level with a problem.
   std::optional<std::size_t> firstProblem() const;
 
-  /// One undo step, or none when the levels alone change. False and nothing changed when nothing
-  /// was edited or something is refused.
+  /// One undo step. False and nothing changed when nothing was edited or something is refused.
   bool apply(Layout& layout) const;
 
  private:

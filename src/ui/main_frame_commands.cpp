@@ -36,10 +36,14 @@ void MainFrame::placeFromPalette(std::string_view article) {
 }
 
 void MainFrame::undo() {
+  const PlanContent before = layout_.content();
   if (!layout_.undo())
     return;
+  const bool visible = layout_.content() != before;
   deselectHidden(layout_);
   changed();
+  if (!visible)
+    SetStatusText(_("Nothing to be seen: levels and the baseboard are not undone"), kHintField);
 }
 
 void MainFrame::redo() {

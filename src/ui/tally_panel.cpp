@@ -33,7 +33,7 @@ constexpr std::array<ColumnLook, kTallyColumnCount> kColumns{
     {{TallyColumn::Placed, wxTRANSLATE("Qty"), 40, wxLIST_FORMAT_RIGHT},
      {TallyColumn::Article, wxTRANSLATE("Article"), 58, wxLIST_FORMAT_LEFT},
      {TallyColumn::Name, wxTRANSLATE("Name"), 0, wxLIST_FORMAT_LEFT},
-     {TallyColumn::Sold, wxTRANSLATE("Order"), 48, wxLIST_FORMAT_RIGHT},
+     {TallyColumn::Sold, wxTRANSLATE("Need"), 48, wxLIST_FORMAT_RIGHT},
      {TallyColumn::System, wxTRANSLATE("System"), 62, wxLIST_FORMAT_LEFT}}};
 constexpr int kNarrowestName = 56;
 

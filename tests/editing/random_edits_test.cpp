@@ -166,13 +166,6 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
     }
   }
 
-  static PlanContent unselected(const PlanContent& content) {
-    Layout layout;
-    layout.edit() = content;
-    layout.clearSelection();
-    return layout.content();
-  }
-
   Layout layout_;
   Kind kind_ = Drop;
 
@@ -204,8 +197,6 @@ TEST_P(RandomEdits, KeepThePlanSoundAndUndoExact) {
       ASSERT_LE(play.heading, (is ? old->second.heading : kind_ == Fill ? 10.0 : 1.0) + 1e-6);
     }
     const PlanContent after = layout_.content();
-    if (kind_ == Decks && unselected(after) == unselected(before))
-      continue; // nothing that undo could bring back
     ASSERT_TRUE(layout_.undo());
     ASSERT_EQ(layout_.content(), before) << step;
     ASSERT_TRUE(layout_.redo());

@@ -72,7 +72,8 @@ TEST(Baseboard, kindsHaveTheirMeasures) {
     BoardForm again(layout);
     EXPECT_EQ(again.choice(), c.kind);
     EXPECT_FALSE(again.apply(layout));
-    EXPECT_FALSE(layout.canUndo());
+    EXPECT_TRUE(layout.undo());
+    EXPECT_FALSE(layout.undo());
   }
 }
 
