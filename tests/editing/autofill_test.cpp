@@ -1,5 +1,4 @@
 #include "catalog/plain_track.h"
-#include "catalog/track_catalog.h"
 #include "editing/autofill.h"
 #include "editing/autofill_messages.h"
 #include "editing/selection.h"
@@ -124,10 +123,8 @@ TEST(Autofill, PlacesAndJoinsAsOneStep) {
 
 /// Circles with a part of them missing, both ways round.
 TEST(Autofill, ArcsCloseAnyCornerSemicircleOrRestOfACircle) {
-  const TrackCatalog& catalog = TrackCatalog::instance();
   int closed = 0;
-  for (std::int32_t i = 0; i < catalog.count(); ++i) {
-    const PieceDef& curve = *catalog.at(i);
+  for (const PieceDef& curve : wholeCatalogue()) {
     const double whole = curve.kind == PieceKind::Curve ? 360 / curve.angle : 0;
     if (whole != std::round(whole) || whole > 64 || curve.bridge || hasOwnFunction(curve))
       continue;

@@ -1,27 +1,23 @@
 #include "editing/block_placing.h"
+#include "editing/selection.h"
+#include "support/loose_records.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 
 #include <gtest/gtest.h>
 
-namespace trassix {
-namespace {
+#include <algorithm>
 
-PlacedPiece straight(std::int32_t id, double x, JointTable joints) {
-  PlacedPiece piece;
-  piece.id = id;
-  piece.cat = "24188";
-  piece.x = x;
-  piece.joints = std::move(joints);
-  return piece;
-}
+namespace trassix::test {
+namespace {
 
 TEST(BlockPlacing, turnsMovesAndRenumbersAsOneStep) {
   Layout layout = Plan().place("24188", {1000, 1000, 0}).layout;
   layout.ensureLevel();
   const PlanContent before = layout.content();
   Block block;
-  block.pieces = {straight(40, 0, {{99, 1}, {7, 0}}), straight(7, 188.3, {{40, 1}, {}})};
+  block.pieces = {loosePiece(40, "24188", {}, {{99, 1}, {7, 0}}),
+                  loosePiece(7, "24188", {188.3, 0}, {{40, 1}, {}})};
   block.pieces[0].heading = 350;
   block.pieces[1].level = 5;
   block.pieces[1].helix = 3;
@@ -55,13 +51,11 @@ TEST(BlockPlacing, turnsMovesAndRenumbersAsOneStep) {
 
 TEST(BlockPlacing, copiesOfASelectionJoinWhereTheyMeet) {
   Layout layout = Plan().place("24188").extend("24130", 3).layout;
-  for (PlacedPiece& piece : layout.edit().pieces)
-    piece.sel = true;
+  selectAll(layout);
   const Block copy = blockFromSelection(layout);
   // A straight and a quarter circle, four times, make a closed ring.
   for (int i = 1; i < 4; ++i) {
-    const WorldConnector end =
-        ConnectorToWorld(layout.pieces().back(), *definitionOf(layout.pieces().back()), 1);
+    const WorldConnector end = worldEnd(layout.pieces().back(), 1);
     placeBlock(layout, copy, {end.x, end.y, end.heading});
   }
   EXPECT_EQ(layout.pieces().size(), 16U);
@@ -71,14 +65,14 @@ TEST(BlockPlacing, copiesOfASelectionJoinWhereTheyMeet) {
 
 TEST(BlockPlacing, opensTheJointsOfADamagedBlock) {
   Block block;
-  block.pieces = {straight(1, 0, {{2, 0}, {1, 1}, {2, -1}}), straight(2, 1000, {{1, 1}, {1, 40}}),
-                  straight(2, 2000, {{2, 1}})};
+  block.pieces = {loosePiece(1, "24188", {}, {{2, 0}, {1, 1}, {2, -1}}),
+                  loosePiece(2, "24188", {1000, 0}, {{1, 1}, {1, 40}}),
+                  loosePiece(2, "24188", {2000, 0}, {{2, 1}})};
   Layout layout;
   placeBlock(layout, block, {});
   for (const PlacedPiece& piece : layout.pieces())
-    for (const Joint& joint : piece.joints)
-      EXPECT_TRUE(joint.open());
+    EXPECT_TRUE(std::ranges::all_of(piece.joints, &Joint::open));
 }
 
 } // namespace
-} // namespace trassix
+} // namespace trassix::test

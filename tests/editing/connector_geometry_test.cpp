@@ -1,5 +1,5 @@
-#include "catalog/track_catalog.h"
 #include "editing/connector_geometry.h"
+#include "support/plan.h"
 
 #include <gtest/gtest.h>
 
@@ -7,10 +7,6 @@
 
 namespace trassix {
 namespace {
-
-const PieceDef& piece(std::string_view article) {
-  return *TrackCatalog::instance().find(article);
-}
 
 TEST(ConnectorGeometry, HeadingsAreFolded) {
   const double cases[][2] = {
@@ -27,20 +23,21 @@ TEST(ConnectorGeometry, EndsFollowThePose) {
   placed.x = 100;
   placed.heading = 90;
   placed.joints = {{7, 1}};
-  const auto ends = WorldConnectorsOf(placed, piece("24188"));
+  const auto ends = WorldConnectorsOf(placed, cataloguePiece("24188"));
   EXPECT_NEAR(ends[1].y, 188.3, 1e-9); // downwards: +90 turns from +x to +y
   EXPECT_EQ(ends[0].heading, 270);
   EXPECT_TRUE(!ends[0].free && ends[1].free); // the second lies beyond the joint table
-  EXPECT_EQ(ConnectorToWorld(placed, piece("24188"), 2), WorldConnector{});
-  EXPECT_EQ(AttachPose(piece("24188"), -1, ends[1]), Pose{});
+  EXPECT_EQ(ConnectorToWorld(placed, cataloguePiece("24188"), 2), WorldConnector{});
+  EXPECT_EQ(AttachPose(cataloguePiece("24188"), -1, ends[1]), Pose{});
 }
 
 TEST(ConnectorGeometry, CentrelinesAreAnArcOrALineAndTheBranchChord) {
   PlacedPiece placed;
-  const auto curve = CentrelinePaths(placed, piece("59035")); // 22.5 degrees: at least 6 steps
+  const auto curve =
+      CentrelinePaths(placed, cataloguePiece("59035")); // 22.5 degrees: at least 6 steps
   ASSERT_EQ(curve[0].size(), 7u);
-  EXPECT_NEAR(curve[0].back().y, ConnectorToWorld(placed, piece("59035"), 1).y, 1e-9);
-  const auto left = CentrelinePaths(placed, piece("24611"));
+  EXPECT_NEAR(curve[0].back().y, ConnectorToWorld(placed, cataloguePiece("59035"), 1).y, 1e-9);
+  const auto left = CentrelinePaths(placed, cataloguePiece("24611"));
   EXPECT_LT(left.at(0).back().y, 0); // a negative angle bends to the left
   EXPECT_NEAR(left.at(1).back().y, -38.76, 1e-9);
 }

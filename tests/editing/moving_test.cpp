@@ -1,4 +1,3 @@
-#include "catalog/track_catalog.h"
 #include "editing/moving.h"
 #include "editing/placing.h"
 #include "editing/selection.h"
@@ -19,8 +18,7 @@ Layout twoChains() {
 }
 
 Point endOf(const Layout& layout, std::int32_t piece, std::int32_t connector) {
-  const PlacedPiece& placed = *layout.findPiece(piece);
-  const WorldConnector end = ConnectorToWorld(placed, *definitionOf(placed), connector);
+  const WorldConnector end = worldEnd(*layout.findPiece(piece), connector);
   return {end.x, end.y};
 }
 

@@ -1,5 +1,4 @@
 // Long runs of random edits: whatever the user does, the plan stays sound and undo is exact.
-#include "catalog/track_catalog.h"
 #include "editing/autofill.h"
 #include "editing/block_placing.h"
 #include "editing/inserting.h"
@@ -14,7 +13,6 @@
 
 #include <array>
 #include <cmath>
-#include <cstdio>
 #include <map>
 #include <random>
 
@@ -57,10 +55,9 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
     constexpr TrackSystem kSystems[] = {TrackSystem::CTrack, TrackSystem::TrixCTrack,
                                         TrackSystem::ZTrack, TrackSystem::KTrack,
                                         TrackSystem::MTrack, TrackSystem::Gauge1};
-    const TrackCatalog& catalog = TrackCatalog::instance();
-    for (std::int32_t i = 0; i < catalog.count(); ++i)
-      if (GetParam() > 6 || catalog.at(i)->system == kSystems[GetParam() - 1])
-        articles_.push_back(catalog.at(i));
+    for (const PieceDef& piece : wholeCatalogue())
+      if (GetParam() > 6 || piece.system == kSystems[GetParam() - 1])
+        articles_.push_back(&piece);
     layout_.ensureLevel();
   }
 
@@ -175,7 +172,6 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
 };
 
 TEST_P(RandomEdits, KeepThePlanSoundAndUndoExact) {
-  std::printf("seed %u\n", GetParam());
   std::map<Kind, int> done;
   for (int step = 0; step < kEdits; ++step) {
     prepare();

@@ -1,5 +1,5 @@
-#include "catalog/track_catalog.h"
 #include "editing/routes.h"
+#include "support/plan.h"
 
 #include <gtest/gtest.h>
 
@@ -27,9 +27,7 @@ void expectEnd(const RoutePoint& point, const Connector& end, double direction) 
 }
 
 TEST(Routes, RunFromEndToEndOfEveryPieceWithoutGapOrKink) {
-  const TrackCatalog& catalog = TrackCatalog::instance();
-  for (std::int32_t i = 0; i < catalog.count(); ++i) {
-    const PieceDef& piece = *catalog.at(i);
+  for (const PieceDef& piece : wholeCatalogue()) {
     ASSERT_FALSE(routesOf(piece).empty()) << piece.name;
     for (const Route& route : routesOf(piece)) {
       SCOPED_TRACE(piece.name + " " + std::to_string(route.from) + "-" + std::to_string(route.to));
@@ -78,11 +76,11 @@ TEST(Routes, TakeEveryWayThroughAPiece) {
   };
   for (const auto& [article, pairs] : expected) {
     Pairs found;
-    for (const Route& route : routesOf(*TrackCatalog::instance().find(article)))
+    for (const Route& route : routesOf(cataloguePiece(article)))
       found.emplace(route.from, route.to);
     EXPECT_EQ(found, pairs) << article;
   }
-  const auto& turntable = routesOf(*TrackCatalog::instance().find("74861"));
+  const auto& turntable = routesOf(cataloguePiece("74861"));
   ASSERT_EQ(turntable.size(), 30u);
   EXPECT_NEAR(routeLength(turntable[7]), 139, 1e-9);
 }

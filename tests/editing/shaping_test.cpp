@@ -1,5 +1,4 @@
 // Changing finished track: swapping a piece in place, inserting one at a joint.
-#include "catalog/track_catalog.h"
 #include "editing/inserting.h"
 #include "editing/joining.h"
 #include "editing/selection.h"
@@ -71,8 +70,7 @@ Plan row() {
 }
 
 std::optional<InsertSpot> spot(const Plan& plan, const char* article, const Pose& pose) {
-  return findInsertSpot(plan.layout, SnapIndex(plan.layout),
-                        *TrackCatalog::instance().find(article), pose);
+  return findInsertSpot(plan.layout, SnapIndex(plan.layout), cataloguePiece(article), pose);
 }
 
 TEST(Inserting, TheShorterSideMakesRoom) {

@@ -11,10 +11,6 @@
 namespace trassix {
 namespace {
 
-const PieceDef& piece(std::string_view article) {
-  return *TrackCatalog::instance().find(article);
-}
-
 TEST(Snapping, ReachFacingAndSystemDecide) {
   Plan plan;
   plan.place("24188"); // open ends at x 0 and x 188.3
@@ -28,16 +24,17 @@ TEST(Snapping, ReachFacingAndSystemDecide) {
       {"an adapter by its other end", "24922", {190 + 180, 0, 180}, false},
   };
   for (const auto& [what, article, pose, snaps] : cases)
-    EXPECT_EQ(FindSnap(piece(article), pose, plan.layout.pieces()).snapped, snaps) << what;
-  const SnapResult snap = FindSnap(piece("24130"), {190, 3, 17}, plan.layout.pieces());
+    EXPECT_EQ(FindSnap(cataloguePiece(article), pose, plan.layout.pieces()).snapped, snaps) << what;
+  const SnapResult snap = FindSnap(cataloguePiece("24130"), {190, 3, 17}, plan.layout.pieces());
   EXPECT_EQ(snap, (SnapResult{true, 1, 1, 0, {188.3, 0, 0}, std::hypot(190 - 188.3, 3)}));
 
   // Of equally near ends the first met wins: of the plan's in document order, then of one's own.
   plan.place("24188", {0, -20, 0});
-  EXPECT_EQ(FindSnap(piece("24188"), {200, -10, 0}, plan.layout.pieces()).target, 1);
+  EXPECT_EQ(FindSnap(cataloguePiece("24188"), {200, -10, 0}, plan.layout.pieces()).target, 1);
   Plan small;
   small.place("8500");
-  EXPECT_EQ(FindSnap(piece("8502"), {110, -13.75, 90}, small.layout.pieces()).newConnector, 0);
+  EXPECT_EQ(FindSnap(cataloguePiece("8502"), {110, -13.75, 90}, small.layout.pieces()).newConnector,
+            0);
 }
 
 /// Random plans on a coarse lattice, so that equal distances and ends exactly at the reach are

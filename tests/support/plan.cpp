@@ -15,8 +15,7 @@ Plan& Plan::place(std::string_view article, const Pose& pose) {
   const EditResult result = dropPiece(layout, article, pose, {}, false);
   if (!result.changed())
     throw std::runtime_error("not placed: " + std::string(article));
-  last_ = result.placed.front();
-  return at(last_, 1);
+  return at(result.placed.front(), 1);
 }
 
 Plan& Plan::extend(std::string_view article, int count) {
@@ -32,18 +31,15 @@ Plan& Plan::extendLeft(std::string_view article, int count) {
 }
 
 Plan& Plan::extendBy(std::string_view article, std::int32_t own, std::int32_t exit) {
-  const PieceDef* definition = TrackCatalog::instance().find(article);
-  if (definition == nullptr)
-    throw std::runtime_error("not in the catalogue: " + std::string(article));
-  Pose carried = AttachPose(*definition, own, front());
+  const PieceDef& definition = cataloguePiece(article);
+  Pose carried = AttachPose(definition, own, front());
   carried.x += 0.3;
   carried.y -= 0.2;
-  const SnapResult snap = SnapIndex(layout).findSnap(*definition, carried);
+  const SnapResult snap = SnapIndex(layout).findSnap(definition, carried);
   const EditResult result = dropPiece(layout, article, carried, snap, true);
   if (!snap.snapped || !result.changed())
     throw std::runtime_error("does not snap: " + std::string(article));
-  last_ = result.placed.front();
-  return at(last_, exit);
+  return at(result.placed.front(), exit);
 }
 
 Plan& Plan::at(std::int32_t piece, std::int32_t connector) {
@@ -53,15 +49,30 @@ Plan& Plan::at(std::int32_t piece, std::int32_t connector) {
 }
 
 WorldConnector Plan::front() const {
-  const PlacedPiece& piece = *layout.findPiece(piece_);
-  return ConnectorToWorld(piece, *definitionOf(piece), connector_);
+  return worldEnd(*layout.findPiece(piece_), connector_);
+}
+
+const PieceDef& cataloguePiece(std::string_view article) {
+  if (const PieceDef* definition = TrackCatalog::instance().find(article))
+    return *definition;
+  throw std::runtime_error("not in the catalogue: " + std::string(article));
+}
+
+std::vector<std::reference_wrapper<const PieceDef>> wholeCatalogue() {
+  std::vector<std::reference_wrapper<const PieceDef>> pieces;
+  for (std::int32_t i = 0; i < TrackCatalog::instance().count(); ++i)
+    pieces.emplace_back(*TrackCatalog::instance().at(i));
+  return pieces;
+}
+
+WorldConnector worldEnd(const PlacedPiece& piece, std::int32_t connector) {
+  return ConnectorToWorld(piece, *definitionOf(piece), connector);
 }
 
 Play playOf(const Layout& layout, const PlacedPiece& piece, std::int32_t connector) {
   const Joint joint = piece.joint(static_cast<std::size_t>(connector));
-  const PlacedPiece& other = *layout.findPiece(joint.target);
-  const WorldConnector a = ConnectorToWorld(piece, *definitionOf(piece), connector);
-  const WorldConnector b = ConnectorToWorld(other, *definitionOf(other), joint.tconn);
+  const WorldConnector a = worldEnd(piece, connector);
+  const WorldConnector b = worldEnd(*layout.findPiece(joint.target), joint.tconn);
   return {std::hypot(a.x - b.x, a.y - b.y), 180.0 - headingDifference(a.heading, b.heading)};
 }
 

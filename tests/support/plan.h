@@ -5,8 +5,10 @@
 #include "editing/connector_geometry.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace trassix {
 
@@ -31,14 +33,19 @@ class Plan {
   /// Moves the front.
   Plan& at(std::int32_t piece, std::int32_t connector);
 
-  std::int32_t last() const { return last_; } ///< id of the piece placed last
   WorldConnector front() const;
 
  private:
-  std::int32_t last_ = -1;
   std::int32_t piece_ = -1;
   std::int32_t connector_ = -1;
 };
+
+/// An article that has to exist, and all articles in the catalogue's order.
+const PieceDef& cataloguePiece(std::string_view article);
+std::vector<std::reference_wrapper<const PieceDef>> wholeCatalogue();
+
+/// A connector of a piece of a known article.
+WorldConnector worldEnd(const PlacedPiece& piece, std::int32_t connector);
 
 /// How far joined ends are from lying on and facing one another.
 struct Play {

@@ -3,6 +3,10 @@
 #include "editing/canvas/canvas.h"
 #include "editing/canvas/fake_host.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
 namespace trassix::test {
 
 enum Mod : unsigned { kNone = 0, kCtrl = 1, kShift = 2, kAlt = 4 };
@@ -61,6 +65,22 @@ class CanvasScript {
     move(world);
   }
 
+  void setMode(ToolMode mode) {
+    host.state.mode = mode;
+    canvas.modeChanged();
+  }
+  /// Opens the menu there and takes a row of it: "Row" or "Submenu/Row", or how they begin.
+  void takeFromMenu(Point world, std::string_view row) {
+    canvas.press(Canvas::Button::Right, at(world));
+    const auto found = std::ranges::find_if(host.menu, [row](const MenuRow& r) {
+      return (r.submenu.empty() ? r.text : r.submenu + "/" + r.text).starts_with(row);
+    });
+    ASSERT_NE(found, host.menu.end()) << row;
+    found->action();
+  }
+
+  const PlanContent& content() const { return host.plan.content(); }
+  std::vector<std::int32_t> selected() const { return selectedPieces(host.plan); }
   const std::vector<PlacedPiece>& pieces() const { return host.plan.pieces(); }
 };
 

@@ -15,25 +15,16 @@ class RecordingSurface : public Surface {
     std::vector<Point> points;
     Stroke stroke;
   };
-  struct Area {
-    std::vector<Point> points;
-    std::optional<Rgba> fill;
-    std::optional<Stroke> outline;
-  };
 
   std::vector<Line> lines;
   std::vector<Line> hatches; ///< from `segments`
-  std::vector<Area> areas;
   std::vector<Point> dots;
   std::vector<std::string> texts;
 
   void polyline(std::span<const Point> points, const Stroke& stroke) override {
     lines.push_back({{points.begin(), points.end()}, stroke});
   }
-  void polygon(std::span<const Point> points, std::optional<Rgba> fill,
-               std::optional<Stroke> outline) override {
-    areas.push_back({{points.begin(), points.end()}, fill, outline});
-  }
+  void polygon(std::span<const Point>, std::optional<Rgba>, std::optional<Stroke>) override {}
   void segments(std::span<const Point> ends, const Stroke& stroke) override {
     hatches.push_back({{ends.begin(), ends.end()}, stroke});
   }
