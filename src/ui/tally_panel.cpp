@@ -1,6 +1,7 @@
 #include "ui/tally_panel.h"
 
 #include "app/services/path_text.h"
+#include "app/services/standard_folders.h"
 #include "document/text_file.h"
 #include "editing/canvas/layout_host.h"
 #include "editing/measure_format.h"
@@ -242,7 +243,7 @@ void TallyPanel::copy() {
 }
 
 void TallyPanel::saveAsCsv() {
-  wxFileDialog dialog(this, _("Save Tally"), wxEmptyString, _("Tally.csv"),
+  wxFileDialog dialog(this, _("Save Tally"), toText(StandardFolders::documents()), _("Tally.csv"),
                       _("Comma-separated values (*.csv)|*.csv"), wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
   if (dialog.ShowModal() != wxID_OK)
     return;
