@@ -20,8 +20,7 @@ using testing::StartsWith;
 
 /// Two 24188 on one line with `gap` mm between them; the second is `offset` mm off the line.
 Layout straightGap(double gap, double offset = 0) {
-  Plan plan;
-  plan.place("24188").place("24188", {900, 0, 0});
+  Plan plan = Plan().place("24188").place("24188", {900, 0, 0});
   plan.layout.editPiece(2)->x = 188.3 + gap; // by hand, or near ends would join
   plan.layout.editPiece(2)->y = offset;
   return plan.layout;
@@ -83,15 +82,13 @@ TEST(Autofill, TheGapLiesBetweenTheNearestOpenEnds) {
   }
   EXPECT_THAT(notice(straightGap(360, 6)).text,
               testing::HasSubstr("within tolerance.\\n\\nAutofill can bridge a gap with one arc "));
-  Plan mixed;
-  mixed.place("24188").place("2200", {500, 0, 0});
+  Plan mixed = Plan().place("24188").place("2200", {500, 0, 0});
   EXPECT_EQ(notice(mixed.layout),
             (Notice{"Autofill - Mixed Track Systems",
                     "Autofill can only run on pieces of the same track series.\n\nSelected "
                     "pieces:\n  - 24188 (Marklin C-Track)\n  - 2200 (Marklin K-Track)"}));
   // The outer ends of a chain look away from each other: nothing can close that.
-  Plan chain;
-  chain.place("24188").extend("24172");
+  Plan chain = Plan().place("24188").extend("24172");
   EXPECT_FALSE(solve(chain.layout).success());
 }
 
@@ -132,8 +129,7 @@ TEST(Autofill, ArcsCloseAnyCornerSemicircleOrRestOfACircle) {
       const auto missing = static_cast<std::size_t>(whole - present);
       for (const bool left : {false, true}) {
         SCOPED_TRACE(curve.article + " present " + std::to_string(present));
-        Plan plan;
-        plan.place(curve.article).at(1, left ? 0 : 1);
+        Plan plan = Plan().place(curve.article).at(1, left ? 0 : 1);
         left ? plan.extendLeft(curve.article, present - 1)
              : plan.extend(curve.article, present - 1);
         const auto result = solveAutofill(plan.layout, 1, present);
@@ -150,8 +146,7 @@ TEST(Autofill, ArcsCloseAnyCornerSemicircleOrRestOfACircle) {
     }
   }
   EXPECT_GT(closed, 500);
-  Plan corner;
-  corner.place("24188").place("24188", {188.3 + 437.5, -437.5 - 188.3, 90});
+  Plan corner = Plan().place("24188").place("24188", {188.3 + 437.5, -437.5 - 188.3, 90});
   EXPECT_EQ(autofillRow(GapKind::Arc, solve(corner.layout).candidates.at(0)),
             "3 x 24230 (30°) R2 - 437.5mm (17-1/4)  (90.0 deg)");
 }

@@ -32,8 +32,7 @@ TEST(Closures, CirclesAndOvalsOfEveryCurveFamily) {
     expectSound(curve.article,
                 Plan().place(curve.article).at(1, 0).extendLeft(curve.article, whole - 1), 0);
     for (const PlainStraight& straight : plainStraights(curve.system)) {
-      Plan oval;
-      oval.place(straight.piece->article).extend(curve.article, whole / 2);
+      Plan oval = Plan().place(straight.piece->article).extend(curve.article, whole / 2);
       oval.extend(straight.piece->article).extend(curve.article, whole / 2);
       if (whole % 2 == 0)
         expectSound(curve.article, oval, 0);
@@ -73,8 +72,7 @@ TEST(Closures, TurnoutAndCompensationCurveGiveTheParallelTrack) {
       {"59083", "59078", 70.52, 0.01, 1e-9},
   };
   for (const auto& [turnout, curve, spacing, spacingPlay, headingPlay] : cases) {
-    Plan plan;
-    plan.place(turnout).at(1, 2).extendLeft(curve);
+    Plan plan = Plan().place(turnout).at(1, 2).extendLeft(curve);
     EXPECT_NEAR(plan.front().y, spacing, spacingPlay) << turnout;
     EXPECT_LE(headingDifference(plan.front().heading, 0), headingPlay) << turnout;
     expectSound(turnout, plan, 3);
@@ -87,8 +85,7 @@ TEST(Closures, CrossingsAndSlipsFormALadder) {
       continue;
     // Three on the diagonal, each with a second one along its track: those meet one another. Where
     // the published lines do not cross, the three have met along their tracks already.
-    Plan plan;
-    plan.place(piece.article);
+    Plan plan = Plan().place(piece.article);
     for (const std::int32_t step : {1, 2})
       plan.at(step, 3).extendBy(piece.article, 2, 3);
     const bool crosses = plan.at(1, 1).front().free;

@@ -10,8 +10,7 @@ namespace {
 
 /// Pieces 1, 2, 3 joined in a row, 4 alone above them; 2 and 3 are selected.
 Layout twoChains() {
-  Plan plan;
-  plan.place("24188").extend("24130").extend("24188").place("24172", {700, -300, 90});
+  Plan plan = Plan().place("24188").extend("24130").extend("24188").place("24172", {700, -300, 90});
   plan.layout.clearSelection();
   plan.layout.editPiece(2)->sel = plan.layout.editPiece(3)->sel = true;
   return plan.layout;
@@ -67,9 +66,7 @@ TEST(Moving, GradedNeighboursAreAskedForAndFreeTurnsOpenJoints) {
 
 TEST(Moving, NudgesAreOneStepAndTakeNotesAlong) {
   Layout layout = twoChains();
-  Label label;
-  label.sel = true;
-  layout.edit().labels.push_back(label);
+  layout.edit().labels.push_back({9, "", 0, 0, true});
   const PlanContent before = layout.content();
   EXPECT_TRUE(nudgeSelection(layout, 0, 0.5, false));
   EXPECT_TRUE(nudgeSelection(layout, 0, 0.5, true));

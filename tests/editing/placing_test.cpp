@@ -33,8 +33,7 @@ TEST(Dropping, WithoutSnapLandsOnTheHighestVisibleLevel) {
 }
 
 TEST(Dropping, SnappedTakesTheTargetsLevelAndHeight) {
-  Plan plan;
-  plan.place("24188");
+  Plan plan = Plan().place("24188");
   plan.layout.editPiece(1)->level = 7;
   plan.layout.editPiece(1)->z = 33;
   plan.extend("24130");
@@ -53,8 +52,7 @@ TEST(Dropping, IncompatibleSystemsAreRefusedOnlyWithSnapping) {
       {"24922", "2200", 190, false}, {"24922", "24188", -190, false}, {"8500", "59051", 115, true},
   };
   for (const auto& [present, dropped, x, refused] : cases) {
-    Plan plan;
-    plan.place(present);
+    Plan plan = Plan().place(present);
     plan.layout.editSettings().levels[0].visible = false; // hidden track counts
     const std::uint64_t revision = plan.layout.revision();
     const EditResult result = dropPiece(plan.layout, dropped, {x, 0, 0}, {}, true);
@@ -62,8 +60,7 @@ TEST(Dropping, IncompatibleSystemsAreRefusedOnlyWithSnapping) {
     EXPECT_EQ(plan.layout.revision() == revision, refused);
     EXPECT_TRUE(dropPiece(plan.layout, dropped, {x, 300, 0}, {}, false).changed());
   }
-  Plan plan;
-  plan.place("2200");
+  Plan plan = Plan().place("2200");
   EXPECT_EQ(dropPiece(plan.layout, "24188", {185, 0, 0}, {}, true).refusal,
             (Notice{"Incompatible Track Systems",
                     "Marklin C-Track cannot connect to Marklin K-Track.\n\nThese track systems are "
@@ -85,8 +82,7 @@ TEST(Dropping, SomeArticlesBringOthers) {
   Plan snapped; // the end it is snapped on by has no room for a track of its own
   EXPECT_EQ(snapped.place("24188").extendBy("74861", 14, 0).layout.pieces().size(), 6u);
 
-  Plan pair;
-  pair.place("74618", {0, 0, 45});
+  Plan pair = Plan().place("74618", {0, 0, 45});
   ASSERT_EQ(pair.layout.pieces().size(), 2u);
   EXPECT_EQ(pair.layout.pieces()[1].joints[0], (Joint{1, 1}));
   deleteSelection(pair.layout); // the other one goes too
@@ -123,16 +119,14 @@ TEST(Dropping, TheRoundhouseSeatsItselfAtATurntable) {
 }
 
 TEST(Extending, ClonesAtTheOpenEnd) {
-  Plan plan;
-  plan.place("24612");
+  Plan plan = Plan().place("24612");
   EXPECT_EQ(cloneAndExtend(plan.layout, 1).placed, Ids{2}); // at connector 1
   EXPECT_EQ(plan.layout.findPiece(2)->joints[0], (Joint{1, 1}));
   EXPECT_EQ(cloneAndExtend(plan.layout, 1).placed, Ids{3}); // then at 0, by its own 1
   EXPECT_EQ(plan.layout.findPiece(3)->joints[1], (Joint{1, 0}));
   EXPECT_FALSE(cloneAndExtend(plan.layout, 1).changed()); // the branch is not extended
 
-  Plan oneSided;
-  oneSided.place("24188").place("24188", {0, 400, 0});
+  Plan oneSided = Plan().place("24188").place("24188", {0, 400, 0});
   oneSided.layout.editPiece(2)->joints[0] = {1, 1}; // only one of the two says so
   EXPECT_EQ(cloneAndExtend(oneSided.layout, 1).placed, Ids{3});
   EXPECT_EQ(oneSided.layout.findPiece(3)->joints[1], (Joint{1, 0}));
@@ -154,8 +148,7 @@ TEST(Extending, FromThePaletteGoesOnAtTheNewestSelectedPiece) {
   selectOnly(plan.layout, 2);
   EXPECT_FALSE(extendSelected(plan.layout, "24172").changed());
 
-  Plan adapters;
-  adapters.place("2200");
+  Plan adapters = Plan().place("2200");
   EXPECT_TRUE(extendSelected(adapters.layout, "24188").refusal.has_value());
   extendSelected(adapters.layout, "24922"); // turned round, because its K end is connector 1
   EXPECT_EQ(adapters.layout.findPiece(2)->joints[1], (Joint{1, 1}));

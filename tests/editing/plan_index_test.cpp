@@ -15,8 +15,7 @@ namespace {
 using Positions = std::vector<std::size_t>;
 
 TEST(PlanIndex, FindsWhatLiesUnderAPointOrInABox) {
-  Plan plan;
-  plan.place("24188").place("24188", {94, -94, 90}).place("24130", {1000, 0, 0});
+  Plan plan = Plan().place("24188").place("24188", {94, -94, 90}).place("24130", {1000, 0, 0});
   plan.place("74861", {0, 1000, 0}).place("24188", {3000, 0, 0});
   plan.layout.ensureLevel(2);
   plan.layout.editSettings().levels[1].height = 90;

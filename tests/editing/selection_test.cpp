@@ -16,8 +16,7 @@ TEST(Selection, RotationTurnsAboutTheBoxAndOpensOuterJoints) {
   EXPECT_TRUE(rotateSelection(single.layout, 90));
   EXPECT_NEAR(single.layout.pieces()[0].y, 40 - 94.15, 1e-9);
 
-  Plan chain;
-  chain.place("24188").extend("24188").extend("24188");
+  Plan chain = Plan().place("24188").extend("24188").extend("24188");
   selectOnly(chain.layout, 2);
   Shape shape;
   shape.points = {{150, 0}, {420, 0}, {420, 100}};
@@ -34,8 +33,7 @@ TEST(Selection, RotationTurnsAboutTheBoxAndOpensOuterJoints) {
 }
 
 TEST(Selection, BoxTakesInEndsApexesAndFootprints) {
-  Plan plan;
-  plan.place("24130");
+  Plan plan = Plan().place("24130");
   const Box box = selectionBox(plan.layout).value();
   EXPECT_NEAR(box.minY, -360 * (1 - std::cos(toRadians(15))), 1e-9);
   EXPECT_NEAR(box.maxY, 360 * (1 - std::cos(toRadians(30))), 1e-9);
@@ -64,13 +62,11 @@ TEST(Selection, ChainFollowsJointsAndAllLeavesHiddenLevelsOut) {
 }
 
 TEST(Selection, DeletingOpensNeighboursAndForgetsThePiece) {
-  Plan plan;
-  plan.place("24188").extend("24130").extend("24188");
+  Plan plan = Plan().place("24188").extend("24130").extend("24188");
   selectOnly(plan.layout, 2);
   plan.layout.startGradeRun(1, 1, 2.0);
   plan.layout.startGradeRun(2, 1, 3.0);
-  plan.layout.edit().tunnels.resize(1);
-  plan.layout.edit().tunnels[0].covers = {1, 2, 3};
+  plan.layout.edit().tunnels = {{9, -1, -1, -1, -1, {1, 2, 3}}};
   EXPECT_TRUE(deleteSelection(plan.layout));
   EXPECT_EQ(brokenRule(plan.layout), "");
   EXPECT_EQ(openEnds(plan.layout), 4);
@@ -81,8 +77,7 @@ TEST(Selection, DeletingOpensNeighboursAndForgetsThePiece) {
 }
 
 TEST(Selection, HelixAndTunnelTrackIsGuarded) {
-  Plan plan;
-  plan.place("24188").extend("24130").extend("24188");
+  Plan plan = Plan().place("24188").extend("24130").extend("24188");
   plan.layout.edit().tunnels.resize(1);
   plan.layout.edit().tunnels[0].portalA = 50;
   plan.layout.edit().tunnels[0].covers = {2};

@@ -24,8 +24,7 @@ Articles swapsOf(const Layout& layout, std::int32_t piece) {
 }
 
 TEST(Swapping, OffersWhatFitsTheSameEnds) {
-  Plan plan;
-  plan.place("24188").extend("24188").extend("24188").place("24188", {0, 900, 0});
+  Plan plan = Plan().place("24188").extend("24188").extend("24188").place("24188", {0, 900, 0});
   const Articles straights{"74620", "24611", "24612", "24630", "24640", "24624"};
   EXPECT_EQ(swapsOf(plan.layout, 2), straights);
   EXPECT_EQ(swapsOf(plan.layout, 1), straights);  // its open end counts too
@@ -33,14 +32,12 @@ TEST(Swapping, OffersWhatFitsTheSameEnds) {
   Plan branch; // a crossing has the same ends, but no way to the branch
   branch.place("24612").extend("24188").at(1, 2).extend("24188").at(1, 0).extend("24188");
   EXPECT_EQ(swapsOf(branch.layout, 1), (Articles{"24630", "24624"}));
-  Plan adapters;
-  adapters.place("2200").extend("2291").at(1, 0).extend("2291");
+  Plan adapters = Plan().place("2200").extend("2291").at(1, 0).extend("2291");
   EXPECT_FALSE(swapsOf(adapters.layout, 1).contains("5106")); // as long, another system
 }
 
 TEST(Swapping, KeepsThePlaceTheJointsAndTheHeights) {
-  Plan plan;
-  plan.place("24188").extend("24188").extend("24188");
+  Plan plan = Plan().place("24188").extend("24188").extend("24188");
   plan.layout.editPiece(2)->grade = 2;
   plan.layout.editPiece(2)->z = 10;
   const PlanContent before = plan.layout.content();
@@ -64,8 +61,7 @@ TEST(Swapping, KeepsThePlaceTheJointsAndTheHeights) {
 
 /// Five straights in a row, the second one shorter.
 Plan row() {
-  Plan plan;
-  plan.place("24188").extend("24077").extend("24188", 3);
+  Plan plan = Plan().place("24188").extend("24077").extend("24188", 3);
   return plan;
 }
 
@@ -105,8 +101,7 @@ TEST(Inserting, OnlyWhereThePieceCarriesOnTheTrack) {
   EXPECT_TRUE(spot(plan, "2200", {180, 500, 0}));       // the other side of an adapter
   EXPECT_FALSE(spot(plan, "24064", {-64.3 + 3, 0, 0})); // an open end comes first
 
-  Plan circle;
-  circle.place("24130").extend("24130", 11);
+  Plan circle = Plan().place("24130").extend("24130", 11);
   EXPECT_EQ(insertPiece(circle.layout, "24188", *spot(circle, "24188", {})).refusal->title,
             "Insert Piece");
   plan.layout.editPiece(1)->helix = 3;

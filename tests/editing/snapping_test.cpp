@@ -31,8 +31,7 @@ TEST(Snapping, ReachFacingAndSystemDecide) {
   // Of equally near ends the first met wins: of the plan's in document order, then of one's own.
   plan.place("24188", {0, -20, 0});
   EXPECT_EQ(FindSnap(cataloguePiece("24188"), {200, -10, 0}, plan.layout.pieces()).target, 1);
-  Plan small;
-  small.place("8500");
+  Plan small = Plan().place("8500");
   EXPECT_EQ(FindSnap(cataloguePiece("8502"), {110, -13.75, 90}, small.layout.pieces()).newConnector,
             0);
 }

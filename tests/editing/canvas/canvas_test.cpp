@@ -105,9 +105,7 @@ TEST(CanvasView, SpaceAndTheMiddleButtonPanAndEscGoesBack) {
 }
 
 TEST(CarryPiece, TurnsByWheelAndKeyAndJoinsWhereItSnaps) {
-  Plan plan;
-  plan.place("24188");
-  CanvasScript script(plan.layout);
+  CanvasScript script(Plan().place("24188").layout);
   script.carry("24130", {600, 300});
   script.wheel({600, 300}, 1);
   script.wheel({600, 300}, -1, kShift);
@@ -133,9 +131,7 @@ TEST(CarryPiece, TurnsByWheelAndKeyAndJoinsWhereItSnaps) {
 }
 
 TEST(CarryPiece, DroppedOnAJointItGoesIntoTheTrack) {
-  Plan plan;
-  plan.place("24188").extend("24188", 3);
-  CanvasScript script(plan.layout);
+  CanvasScript script(Plan().place("24188").extend("24188", 3).layout);
   // Its near end lies on the joint between the third and the fourth piece.
   script.carry("24094", {564.9 + 4, 3});
   EXPECT_THAT(script.host.hint, testing::StartsWith("Let go to insert"));
@@ -171,9 +167,7 @@ TEST(CarryPiece, NothingIsPlacedWhenItIsGivenUp) {
                              },
                              1}}) {
     SCOPED_TRACE(c.how);
-    Plan plan;
-    plan.place("24188");
-    CanvasScript script(plan.layout);
+    CanvasScript script(Plan().place("24188").layout);
     const PlanContent before = script.content();
     script.carry("2200", {195, 12}); // K-Track at an end of C-Track
     c.end(script);
@@ -221,9 +215,7 @@ TEST(CarryPiece, ASecondCarryEndsTheFirst) {
 }
 
 TEST(CanvasWheel, CtrlTurnsTheSelectionAndZoomsWithoutOne) {
-  Plan plan;
-  plan.place("24188");
-  CanvasScript script(plan.layout);
+  CanvasScript script(Plan().place("24188").layout);
   script.host.plan.clearSelection();
   script.wheel({94, 0}, 1, kCtrl);
   EXPECT_NEAR(script.canvas.view().zoom(), 0.46, 1e-12);
@@ -241,9 +233,7 @@ TEST(CanvasWheel, CtrlTurnsTheSelectionAndZoomsWithoutOne) {
 }
 
 TEST(MeasureTool, LaysATapeBetweenTwoClicksAndCatchesTrackEnds) {
-  Plan plan;
-  plan.place("24188");
-  CanvasScript script(plan.layout);
+  CanvasScript script(Plan().place("24188").layout);
   script.setMode(ToolMode::Measure);
   script.click({5, -4});
   script.move({60, 0});

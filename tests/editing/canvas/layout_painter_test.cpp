@@ -3,6 +3,7 @@
 #include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/recording_surface.h"
+#include "support/loose_records.h"
 #include "support/plan.h"
 
 #include <gmock/gmock.h>
@@ -26,7 +27,6 @@ RecordingSurface drawn(const Layout& layout, double zoom, Point origin = {400, 3
 
 Layout turnoutWithCurve() {
   Plan plan;
-  plan.layout.ensureLevel();
   plan.place("24611").extend("24130");
   plan.layout.clearSelection();
   return plan.layout;
@@ -48,8 +48,7 @@ TEST(LayoutPainter, EveryRouteHasItsRailsFromNearAndOneLineFromAfar) {
 }
 
 TEST(LayoutPainter, RailsLieAGaugeApartWhereTheTrackIs) {
-  Plan plan;
-  plan.place("24188", {10, 20, 90});
+  Plan plan = Plan().place("24188", {10, 20, 90});
   plan.layout.clearSelection();
   const RecordingSurface picture = drawn(plan.layout, 2);
   std::vector<double> xs;
@@ -92,10 +91,7 @@ TEST(LayoutPainter, SwitchesLevelsAndTheWindowDecideWhatIsDrawn) {
 
 TEST(LayoutPainter, APieceOfAnUnknownArticleIsShownWithItsNumber) {
   Layout plan;
-  PlacedPiece piece;
-  piece.id = 1;
-  piece.cat = "99999";
-  plan.edit().pieces.push_back(piece);
+  plan.edit().pieces = {loosePiece(1, "99999")};
   EXPECT_THAT(drawn(plan, 1).texts, Contains("99999"));
 }
 

@@ -14,8 +14,7 @@ using testing::UnorderedElementsAre;
 
 /// Three joined straights along x from the origin, ids 1 to 3, ends at 188.3 and 376.6.
 Layout row() {
-  Plan plan;
-  plan.place("24188").extend("24188", 2);
+  Plan plan = Plan().place("24188").extend("24188", 2);
   plan.layout.clearSelection();
   Layout fresh; // without the history of its building
   fresh.edit() = plan.layout.content();
@@ -41,8 +40,7 @@ TEST(SelectTool, ClicksSelectToggleAndClear) {
 }
 
 TEST(SelectTool, RepeatedClicksGoThroughTheStack) {
-  Plan plan;
-  plan.place("24188").place("24188", {0, 3, 0}).place("24188", {0, 6, 0});
+  Plan plan = Plan().place("24188").place("24188", {0, 3, 0}).place("24188", {0, 6, 0});
   CanvasScript script(plan.layout);
   script.host.plan.clearSelection();
   for (const std::int32_t expected : {3, 2, 1, 3}) {
@@ -231,9 +229,7 @@ TEST(SelectTool, TheMenuSwapsAPieceForOneThatFits) {
 }
 
 TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
-  Plan plan;
-  plan.place("24188").place("24188", {548.3, 0, 0});
-  CanvasScript script(plan.layout);
+  CanvasScript script(Plan().place("24188").place("24188", {548.3, 0, 0}).layout);
   script.click({90, 0});
   script.click({640, 0}, kCtrl);
   script.takeFromMenu({90, 0}, "Autofill Gap...");
