@@ -13,6 +13,7 @@
 
 #include <array>
 #include <cmath>
+#include <cstdio>
 #include <map>
 #include <random>
 
@@ -172,6 +173,7 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
 };
 
 TEST_P(RandomEdits, KeepThePlanSoundAndUndoExact) {
+  std::printf("seed %u\n", GetParam());
   std::map<Kind, int> done;
   for (int step = 0; step < kEdits; ++step) {
     prepare();
