@@ -269,7 +269,7 @@ void CanvasPanel::renewPicture() {
   wxMemoryDC memory(picture_);
   const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(memory));
   context->Scale(pixelScale(), pixelScale());
-  GcSurface surface(*context);
+  GcSurface surface(*context, pixelScale() * GetContentScaleFactor());
   canvas_.paintPlan(surface);
 }
 
@@ -282,7 +282,7 @@ void CanvasPanel::onPaint(wxPaintEvent&) {
   dc.DrawBitmap(picture_, 0, 0);
   const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
   context->Scale(pixelScale(), pixelScale());
-  GcSurface surface(*context);
+  GcSurface surface(*context, pixelScale() * GetContentScaleFactor());
   canvas_.paintOverlay(surface);
 }
 

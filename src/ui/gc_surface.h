@@ -14,7 +14,10 @@ namespace trassix {
 class GcSurface : public Surface {
  public:
   /// Does not own the context, which must outlive the surface.
-  explicit GcSurface(wxGraphicsContext& context) : context_(context) {}
+  explicit GcSurface(wxGraphicsContext& context, double deviceScale = 1)
+      : context_(context), deviceScale_(deviceScale) {}
+
+  double deviceScale() const override { return deviceScale_; }
 
   void polyline(std::span<const Point> points, const Stroke& stroke) override;
   void polygon(std::span<const Point> points, std::optional<Rgba> fill,
@@ -31,6 +34,7 @@ class GcSurface : public Surface {
   void useFont(const TextStyle& style);
 
   wxGraphicsContext& context_;
+  double deviceScale_;
   std::optional<std::optional<Stroke>> pen_; ///< in use on the context, if known
   std::optional<std::optional<Rgba>> brush_;
   std::optional<TextStyle> font_;

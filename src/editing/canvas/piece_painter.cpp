@@ -38,6 +38,15 @@ const std::vector<Point>& PiecePainter::toScreen(const std::vector<Point>& local
   return buffer_;
 }
 
+const std::vector<Point>& PiecePainter::onPixels(const std::vector<Point>& local,
+                                                 const Pose& pose) {
+  const double scale = surface_.deviceScale();
+  toScreen(local, pose);
+  for (Point& p : buffer_)
+    p = {std::round(p.x * scale) / scale, std::round(p.y * scale) / scale};
+  return buffer_;
+}
+
 void PiecePainter::paintBed(const TrackGeometry& geometry, const Pose& pose,
                             const PieceLook& look) {
   if (fromAfar(geometry))
@@ -52,9 +61,9 @@ void PiecePainter::paintBed(const TrackGeometry& geometry, const Pose& pose,
     edge.style = Stroke::Style::Dashed;
   // Outlines first, fills over them: where routes of one piece overlap, no edge crosses the bed.
   for (const auto& outline : geometry.beds)
-    surface_.polygon(toScreen(outline, pose), {}, edge);
+    surface_.polygon(onPixels(outline, pose), {}, edge);
   for (const auto& outline : geometry.beds)
-    surface_.polygon(toScreen(outline, pose),
+    surface_.polygon(onPixels(outline, pose),
                      look.covered ? Rgba{fill.r, fill.g, fill.b, 90} : fill, {});
 }
 

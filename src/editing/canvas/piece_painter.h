@@ -41,6 +41,8 @@ class PiecePainter {
   const std::vector<Point>& toScreen(const std::vector<Point>& local, const Pose& pose);
 
  private:
+  /// The same on whole pixels of the display: beds that meet share their corners.
+  const std::vector<Point>& onPixels(const std::vector<Point>& local, const Pose& pose);
   bool fromAfar(const TrackGeometry& geometry) const;
 
   Surface& surface_;

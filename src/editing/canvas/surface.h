@@ -51,6 +51,9 @@ class Surface {
  public:
   virtual ~Surface() = default;
 
+  /// How many pixels of the display one of the surface's is wide.
+  virtual double deviceScale() const { return 1; }
+
   virtual void polyline(std::span<const Point> points, const Stroke& stroke) = 0;
   virtual void polygon(std::span<const Point> points, std::optional<Rgba> fill,
                        std::optional<Stroke> outline) = 0;
