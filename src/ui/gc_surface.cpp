@@ -126,14 +126,18 @@ void GcSurface::circle(Point centre, double radius, std::optional<Rgba> fill,
 }
 
 SizePx GcSurface::textSize(std::string_view text, const TextStyle& style) {
-  useFont(style);
-  SizePx size;
-  context_.GetTextExtent(toText(text), &size.width, &size.height);
-  return size;
+  // Plans repeat few texts often, and measuring one costs as much as drawing it.
+  const auto [entry, isNew] = sizes_.try_emplace({style.size, style.bold, std::string(text)});
+  if (isNew) {
+    useFont(style);
+    context_.GetTextExtent(toText(text), &entry->second.width, &entry->second.height);
+  }
+  return entry->second;
 }
 
 void GcSurface::text(std::string_view text, Point centre, double degrees, const TextStyle& style) {
   const SizePx size = textSize(text, style);
+  useFont(style);
   context_.PushState();
   context_.Translate(centre.x, centre.y);
   if (degrees != 0)

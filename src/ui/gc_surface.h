@@ -6,6 +6,7 @@
 
 #include <map>
 #include <memory>
+#include <string>
 #include <tuple>
 
 namespace trassix {
@@ -39,6 +40,7 @@ class GcSurface : public Surface {
   std::optional<std::optional<Rgba>> brush_;
   std::optional<TextStyle> font_;
   std::map<std::tuple<double, bool, std::uint32_t>, wxGraphicsFont> fonts_;
+  std::map<std::tuple<double, bool, std::string>, SizePx> sizes_; ///< of texts measured before
 };
 
 } // namespace trassix

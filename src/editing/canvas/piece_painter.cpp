@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace trassix {
 
@@ -41,9 +42,15 @@ const std::vector<Point>& PiecePainter::toScreen(const std::vector<Point>& local
 const std::vector<Point>& PiecePainter::onPixels(const std::vector<Point>& local,
                                                  const Pose& pose) {
   const double scale = surface_.deviceScale();
+  // By a cast, which is one instruction where std::round is a call for each of many points.
+  const auto whole = [scale](double px) {
+    const double device = px * scale;
+    return static_cast<double>(static_cast<std::int64_t>(device + (device < 0 ? -0.5 : 0.5))) /
+           scale;
+  };
   toScreen(local, pose);
   for (Point& p : buffer_)
-    p = {std::round(p.x * scale) / scale, std::round(p.y * scale) / scale};
+    p = {whole(p.x), whole(p.y)};
   return buffer_;
 }
 
@@ -59,12 +66,18 @@ void PiecePainter::paintBed(const TrackGeometry& geometry, const Pose& pose,
     edge = {*look.accent, 2.0};
   if (look.covered)
     edge.style = Stroke::Style::Dashed;
+  const Rgba bed = look.covered ? Rgba{fill.r, fill.g, fill.b, 90} : fill;
+  if (geometry.beds.size() == 1) {
+    const std::vector<Point>& outline = onPixels(geometry.beds.front(), pose);
+    surface_.polygon(outline, {}, edge);
+    surface_.polygon(outline, bed, {});
+    return;
+  }
   // Outlines first, fills over them: where routes of one piece overlap, no edge crosses the bed.
   for (const auto& outline : geometry.beds)
     surface_.polygon(onPixels(outline, pose), {}, edge);
   for (const auto& outline : geometry.beds)
-    surface_.polygon(onPixels(outline, pose),
-                     look.covered ? Rgba{fill.r, fill.g, fill.b, 90} : fill, {});
+    surface_.polygon(onPixels(outline, pose), bed, {});
 }
 
 void PiecePainter::paintRails(const TrackGeometry& geometry, const Pose& pose,
