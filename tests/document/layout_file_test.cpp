@@ -1,6 +1,7 @@
 #include "catalog/track_catalog.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/repairs.h"
 #include "support/comma_locale.h"
 #include "support/documented_example.h"
 #include "support/loose_records.h"
@@ -10,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 #include <regex>
 
@@ -204,6 +206,48 @@ TEST(LayoutFile, survivesTruncationAndMonstrousLines) {
   EXPECT_EQ(readLayout("<label id=\"1\" x=\"0\" y=\"0\" text=\"" + filler + "\"/>", layout, name),
             "");
   EXPECT_EQ(layout.content().labels[0].text, filler);
+}
+
+TEST(LayoutFile, isMadeSoundAfterTheLoad) {
+  const auto piece = [](std::int32_t id, const char* article, JointTable joints) {
+    return test::loosePiece(id, article, {}, std::move(joints));
+  };
+  // A joint of two pieces at an end beyond, one-sided ones, ids twice and -1, an unknown article.
+  const std::vector<PlacedPiece> damaged{
+      piece(5, "24188", {{}, {7, 0}, {6, 0}}), piece(6, "24188", {{5, 2}, {5, 9}}),
+      piece(5, "24188", {{6, 1}, {}, {6, 1}, {}}), piece(-1, "24188", {{9, 47}}),
+      piece(9, "no such", {{}, {}, {6, 0}})};
+  const std::vector<PlacedPiece> sound{
+      piece(5, "24188", {{}, {7, 0}}), piece(6, "24188", {{}, {5, 9}}),
+      piece(10, "24188", {{6, 1}, {}}), piece(11, "24188", {{9, 47}}),
+      piece(9, "no such", {{}, {}, {6, 0}})};
+  Layout layout;
+  layout.edit().pieces = damaged;
+  layout.edit().pieces[4].level = -1;
+  layout.edit().helices.resize(2);
+  layout.editSettings().levels.resize(4);
+  for (std::size_t i = 0; i < 4; ++i)
+    layout.editSettings().levels[i].id = std::array{3, -1, 3, 1}[i];
+  layout.editSettings().activeLevel = -1;
+  layout.setNextPieceId(10);
+  EXPECT_EQ(makeSound(layout), (Repairs{2, 6}));
+  EXPECT_EQ(layout.pieces()[4].level, 2);
+  layout.edit().pieces[4].level = 1;
+  EXPECT_EQ(layout.pieces(), sound);
+  EXPECT_NE(layout.content().helices[0].id, layout.content().helices[1].id);
+  EXPECT_EQ(layout.takeId(), 14);
+  for (std::size_t i = 0; i < 4; ++i)
+    EXPECT_EQ(layout.settings().levels[i].id, (std::array{3, 2, 4, 1}[i]));
+  EXPECT_EQ(layout.settings().activeLevel, 2);
+  EXPECT_EQ(describeRepairs(makeSound(layout)), "");
+
+  Block block{"", damaged, std::vector<SceneryItem>(2)};
+  block.scenery[1].id = block.scenery[0].id = 5;
+  EXPECT_EQ(
+      describeRepairs(makeSound(block)),
+      "This file was damaged in places, which were mended. 2 joints at ends that their pieces "
+      "do not have were opened. 3 records without numbers of their own got new ones.");
+  EXPECT_FALSE(makeSound(block).any());
 }
 
 TEST(LayoutFile, leavesThePlanAloneWhenTheFileCannotBeOpened) {

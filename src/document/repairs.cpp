@@ -1,0 +1,156 @@
+#include "document/repairs.h"
+
+#include "catalog/track_catalog.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace trassix {
+
+namespace {
+
+/// Ids from the one after `last` on that no record has.
+class FreshIds {
+ public:
+  explicit FreshIds(std::int32_t last = 0) : last_(last) {}
+
+  void use(std::int32_t id) { used_.insert(id); }
+  template <class Records>
+  void useAll(const Records& records) {
+    for (const auto& record : records)
+      use(record.id);
+  }
+
+  std::int32_t take() {
+    do
+      last_ = last_ < Layout::kLargestId ? last_ + 1 : 1;
+    while (!used_.insert(last_).second);
+    return last_;
+  }
+  std::int32_t last() const { return last_; }
+
+ private:
+  std::unordered_set<std::int32_t> used_;
+  std::int32_t last_;
+};
+
+template <class Records>
+std::size_t renumber(Records& records, FreshIds& fresh) {
+  std::unordered_set<std::int32_t> met{-1};
+  std::size_t count = 0;
+  for (auto& record : records) {
+    if (met.insert(record.id).second)
+      continue;
+    record.id = fresh.take();
+    ++count;
+  }
+  return count;
+}
+
+/// Calls `visit` with each collection whose records have ids and are kept by undo.
+template <class Content, class Visit>
+void visitCollections(Content& content, Visit visit) {
+  visit(content.pieces);
+  visit(content.scenery);
+  visit(content.labels);
+  visit(content.shapes);
+  visit(content.tunnels);
+  visit(content.helices);
+}
+
+std::size_t renumberRecords(Layout& layout) {
+  FreshIds fresh(layout.nextPieceId() - 1);
+  visitCollections(layout.content(), [&fresh](const auto& records) { fresh.useAll(records); });
+  std::size_t count = 0;
+  visitCollections(layout.edit(), [&](auto& records) { count += renumber(records, fresh); });
+  layout.setNextPieceId(std::max(layout.nextPieceId(), fresh.last() + 1));
+  return count;
+}
+
+std::size_t renumberLevels(Layout& layout) {
+  PlanSettings& settings = layout.editSettings();
+  const auto visitLevels = [&](auto visit) {
+    const auto visitAll = [&visit](auto& records) {
+      for (auto& record : records)
+        visit(record.level);
+    };
+    PlanContent& content = layout.edit();
+    visitAll(content.pieces);
+    visitAll(content.scenery);
+    visitAll(content.shapes);
+    visit(settings.activeLevel);
+  };
+  FreshIds fresh;
+  fresh.useAll(settings.levels);
+  visitLevels([&fresh](std::int32_t level) { fresh.use(level); });
+  const auto nameless = std::ranges::find(settings.levels, -1, &Level::id);
+  const std::size_t count = renumber(settings.levels, fresh);
+  if (nameless != settings.levels.end())
+    visitLevels([&nameless](std::int32_t& level) { level = level == -1 ? nameless->id : level; });
+  return count;
+}
+
+/// Ids must be unique by now.
+std::size_t openBeyondEnds(std::vector<PlacedPiece>& pieces) {
+  std::unordered_map<std::int32_t, PlacedPiece*> byId;
+  for (PlacedPiece& piece : pieces)
+    byId.emplace(piece.id, &piece);
+  std::size_t opened = 0;
+  for (PlacedPiece& piece : pieces) {
+    const PieceDef* definition = TrackCatalog::instance().find(piece.cat);
+    if (definition == nullptr || piece.joints.size() <= definition->connectors.size())
+      continue;
+    for (std::size_t i = definition->connectors.size(); i < piece.joints.size(); ++i) {
+      const Joint joint = piece.joints[i];
+      if (joint.open())
+        continue;
+      ++opened;
+      const auto other = byId.find(joint.target);
+      const auto end = static_cast<std::size_t>(joint.tconn);
+      if (other != byId.end() &&
+          other->second->joint(end) == Joint{piece.id, static_cast<std::int32_t>(i)})
+        other->second->joints[end] = {};
+    }
+    piece.joints.resize(definition->connectors.size());
+  }
+  return opened;
+}
+
+} // namespace
+
+Repairs makeSound(Layout& layout) {
+  Repairs repairs;
+  repairs.renumbered = renumberRecords(layout) + renumberLevels(layout);
+  repairs.opened = openBeyondEnds(layout.edit().pieces);
+  return repairs;
+}
+
+Repairs makeSound(Block& block) {
+  FreshIds fresh;
+  fresh.useAll(block.pieces);
+  fresh.useAll(block.scenery);
+  Repairs repairs;
+  repairs.renumbered = renumber(block.pieces, fresh) + renumber(block.scenery, fresh);
+  repairs.opened = openBeyondEnds(block.pieces);
+  return repairs;
+}
+
+std::string describeRepairs(const Repairs& repairs) {
+  if (!repairs.any())
+    return {};
+  std::string text = "This file was damaged in places, which were mended.";
+  if (repairs.opened == 1)
+    text += " A joint at an end that its piece does not have was opened.";
+  else if (repairs.opened > 1)
+    text += " " + std::to_string(repairs.opened) +
+            " joints at ends that their pieces do not have were opened.";
+  if (repairs.renumbered == 1)
+    text += " A record without a number of its own got a new one.";
+  else if (repairs.renumbered > 1)
+    text += " " + std::to_string(repairs.renumbered) +
+            " records without numbers of their own got new ones.";
+  return text;
+}
+
+} // namespace trassix
