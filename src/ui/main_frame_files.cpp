@@ -4,6 +4,7 @@
 #include "catalog/track_catalog.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/repairs.h"
 #include "document/text_file.h"
 #include "ui/canvas_panel.h"
 #include "ui/command_ids.h"
@@ -79,6 +80,7 @@ bool MainFrame::loadLayout(const std::filesystem::path& path) {
     return false;
   }
   const bool whole = isWholeLayout(text);
+  const std::string mended = describeRepairs(makeSound(loaded));
   layout_ = std::move(loaded);
   layout_.ensureLevel();
   // A damaged file is not written over unasked: its rest may still be saved by other means.
@@ -103,6 +105,8 @@ bool MainFrame::loadLayout(const std::filesystem::path& path) {
         _("This file is damaged: it does not hold a whole layout.\n\nWhat could be read is "
           "shown. Saving will ask for a name, so that the file can stay as it is."),
         _("Open Layout"), wxOK | wxICON_WARNING, this);
+  if (!mended.empty())
+    wxMessageBox(fromUtf8(mended), _("Open Layout"), wxOK | wxICON_INFORMATION, this);
   return true;
 }
 

@@ -6,6 +6,7 @@
 #include "document/block_file.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/repairs.h"
 #include "document/text_file.h"
 #include "editing/selection.h"
 #include "ui/export_dialog.h"
@@ -64,8 +65,12 @@ void MainFrame::importLayout() {
   }
   // The stored name follows the file's. Where that fails the copy is there all the same, under the
   // name it came with.
-  if (trassix::loadLayout(target, scratch, storedName).empty())
+  if (trassix::loadLayout(target, scratch, storedName).empty()) {
+    const std::string mended = describeRepairs(makeSound(scratch));
     saveLayout(scratch, target, toUtf8(name));
+    if (!mended.empty())
+      wxMessageBox(fromUtf8(mended), _("Import"), wxOK | wxICON_INFORMATION, this);
+  }
   if (wxMessageBox(wxString::Format(_("Imported successfully.\n\nOpen \"%s\" now?"), name),
                    _("Import"), wxYES_NO | wxICON_QUESTION, this) == wxYES &&
       promptUnsaved())

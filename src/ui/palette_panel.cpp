@@ -333,6 +333,8 @@ void PalettePanel::loadEntry(const LibraryEntry& entry) {
   }
   if (block.empty())
     return;
+  if (const std::string mended = describeRepairs(makeSound(block)); !mended.empty())
+    wxMessageBox(fromUtf8(mended), _("Load Block"), wxOK | wxICON_INFORMATION, this);
   centreBlock(block);
   actions_.useBlock(block);
 }
