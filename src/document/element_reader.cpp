@@ -1,6 +1,7 @@
 #include "document/element_reader.h"
 
 #include "document/layout.h"
+#include "document/limits.h"
 #include "document/number_text.h"
 
 #include <algorithm>
@@ -184,16 +185,26 @@ std::int32_t ElementReader::toInteger(std::string_view name, std::string_view va
   return number;
 }
 
+double ElementReader::length(std::string_view name) {
+  const double mm = real(name);
+  if (!isLength(mm))
+    fail("length out of range", name, text(name));
+  return mm;
+}
+
+double ElementReader::length(std::string_view name, double absent) {
+  return text(name).empty() ? absent : length(name);
+}
+
+double ElementReader::scale(std::string_view name) {
+  const double scale = real(name);
+  if (!isScale(scale))
+    fail("scale out of range", name, text(name));
+  return scale;
+}
+
 double ElementReader::real(std::string_view name) {
-  return toReal(name, text(name));
-}
-
-double ElementReader::real(std::string_view name, double absent) {
   const std::string_view value = text(name);
-  return value.empty() ? absent : toReal(name, value);
-}
-
-double ElementReader::toReal(std::string_view name, std::string_view value) const {
   double number = 0;
   const NumberError error = readReal(value, number);
   if (error != NumberError::None)

@@ -39,8 +39,11 @@ class ElementReader {
   std::int32_t integer(std::string_view name);
   /// `absent` when the text is empty.
   std::int32_t integer(std::string_view name, std::int32_t absent);
-  double real(std::string_view name);
-  double real(std::string_view name, double absent);
+  /// Lengths in mm and scales outside the limits of a plan fail as well.
+  double length(std::string_view name);
+  double length(std::string_view name, double absent);
+  double scale(std::string_view name);
+  double angle(std::string_view name) { return real(name); }
   /// True for exactly "1".
   bool flag(std::string_view name) { return text(name) == "1"; }
   /// The low eight bits of an integer.
@@ -61,7 +64,7 @@ class ElementReader {
   };
 
   std::int32_t toInteger(std::string_view name, std::string_view value) const;
-  double toReal(std::string_view name, std::string_view value) const;
+  double real(std::string_view name);
   void findAttributes();
   bool nameEndsAt(const char* open, std::string_view name) const;
   std::string_view searchLine(std::string_view name) const;

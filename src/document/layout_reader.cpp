@@ -12,11 +12,11 @@ namespace trassix {
 namespace {
 
 Point readPoint(ElementReader& reader) {
-  return {reader.real("x"), reader.real("y")};
+  return {reader.length("x"), reader.length("y")};
 }
 
 GradeRun readRun(ElementReader& reader) {
-  return {reader.real("deg"), reader.integer("anchor"), reader.integer("conn")};
+  return {reader.angle("deg"), reader.integer("anchor"), reader.integer("conn")};
 }
 
 Level readLevel(ElementReader& reader) {
@@ -24,7 +24,7 @@ Level readLevel(ElementReader& reader) {
   level.id = reader.integer("id");
   level.name = reader.text("name");
   level.visible = reader.flag("visible");
-  level.height = reader.real("height");
+  level.height = reader.length("height");
   level.trackcolor = reader.flag("trackcolor");
   // With the blank, because `trackcolor` ends like the name of the red part.
   level.color = {reader.byte(" r"), reader.byte("g"), reader.byte("b")};
@@ -32,15 +32,15 @@ Level readLevel(ElementReader& reader) {
 }
 
 LastShape readLastShape(ElementReader& reader) {
-  return {reader.integer("id"), reader.real("w_mm"), reader.real("h_mm"), reader.real("w2_mm"),
-          reader.real("h2_mm")};
+  return {reader.integer("id"), reader.length("w_mm"), reader.length("h_mm"),
+          reader.length("w2_mm"), reader.length("h2_mm")};
 }
 
 Label readLabel(ElementReader& reader) {
   Label label;
   label.id = reader.id("id");
-  label.x = reader.real("x");
-  label.y = reader.real("y");
+  label.x = reader.length("x");
+  label.y = reader.length("y");
   label.text = reader.text("text");
   return label;
 }
@@ -52,7 +52,7 @@ Shape readShape(ElementReader& reader) {
   shape.a = reader.byte("a");
   shape.outline = reader.flag("outline");
   shape.level = reader.integer("level");
-  shape.height = reader.real("height");
+  shape.height = reader.length("height");
   shape.label = reader.text("label");
   return shape;
 }
@@ -70,9 +70,9 @@ Tunnel readTunnel(ElementReader& reader) {
 Helix readHelix(ElementReader& reader) {
   Helix helix;
   helix.id = reader.id("id");
-  helix.cx = reader.real("cx");
-  helix.cy = reader.real("cy");
-  helix.heading = reader.real("heading");
+  helix.cx = reader.length("cx");
+  helix.cy = reader.length("cy");
+  helix.heading = reader.angle("heading");
   if (const std::string_view variant = reader.text("variant"); !variant.empty())
     helix.variant = variant;
   helix.bottomR1 = reader.integer("bottomR1");

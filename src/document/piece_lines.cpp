@@ -71,17 +71,17 @@ PlacedPiece readPiecePlace(ElementReader& reader) {
   PlacedPiece piece;
   piece.id = reader.id("id");
   piece.cat = reader.text("cat");
-  piece.x = reader.real("x");
-  piece.y = reader.real("y");
-  piece.heading = reader.real("heading");
+  piece.x = reader.length("x");
+  piece.y = reader.length("y");
+  piece.heading = reader.angle("heading");
   piece.level = reader.integer("level", 1);
   return piece;
 }
 
 PlacedPiece readPiece(ElementReader& reader) {
   PlacedPiece piece = readPiecePlace(reader);
-  piece.z = reader.real("z", 0);
-  piece.grade = reader.real("grade");
+  piece.z = reader.length("z", 0);
+  piece.grade = reader.angle("grade");
   piece.rev = reader.flag("rev");
   piece.free = reader.flag("free");
   piece.helix = reader.integer("helix", -1);
@@ -113,11 +113,11 @@ SceneryItem readSceneryItem(ElementReader& reader) {
   SceneryItem item;
   item.id = reader.id("id");
   item.item = reader.text("item");
-  item.x = reader.real("x");
-  item.y = reader.real("y");
-  item.heading = reader.real("heading");
-  item.scalex = reader.real("scalex");
-  item.scaley = reader.real("scaley");
+  item.x = reader.length("x");
+  item.y = reader.length("y");
+  item.heading = reader.angle("heading");
+  item.scalex = reader.scale("scalex");
+  item.scaley = reader.scale("scaley");
   item.level = reader.integer("level");
   return item;
 }

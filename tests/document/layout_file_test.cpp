@@ -120,6 +120,10 @@ TEST(LayoutFile, saysWhatIsWrongAndWhere) {
     return withPiece(good, "<joint " + attributes + "/>\n");
   };
   const auto line = [](const std::string& element) { return "<layout >\n\n" + element + "\n"; };
+  const auto scenery = [&line](const std::string& scale) {
+    return line("<scenery>\n<sceneryitem id=\"1\" x=\"0\" y=\"0\" heading=\"1e308\" scalex=\"" +
+                scale + "\"");
+  };
   const struct {
     std::string text;
     std::string message;
@@ -140,6 +144,16 @@ TEST(LayoutFile, saysWhatIsWrongAndWhere) {
       {joint("conn=\"0\" target=\"2\" tconn=\"48\""), "no such connector (line 4, tconn=\"48\")"},
       {joint("conn=\"0\" target=\"2\" tconn=\"\""), "invalid stoi argument (line 4, tconn=\"\")"},
       {joint("conn=\"47\" target=\"2\" tconn=\"47\""), ""},
+      {withPiece(good + " z=\"1000000.01\""), "length out of range (line 3, z=\"1000000.01\")"},
+      {withPiece(good + " z=\"-1e6\""), ""},
+      {line("<label id=\"1\" x=\"-1e19\""), "length out of range (line 3, x=\"-1e19\")"},
+      {line("<helix id=\"1\" cx=\"0\" cy=\"1e7\""), "length out of range (line 3, cy=\"1e7\")"},
+      {line("<lastshape id=\"0\" w_mm=\"1e7\""), "length out of range (line 3, w_mm=\"1e7\")"},
+      {line("<baseboard>\n<vertex x=\"0\" y=\"1e7\"/>"), "length out of range (line 4, y=\"1e7\")"},
+      {line("<levels active=\"1\">\n<level id=\"1\" height=\"1e7\""),
+       "length out of range (line 4, height=\"1e7\")"},
+      {scenery("1000\" scaley=\"0.0009"), "scale out of range (line 4, scaley=\"0.0009\")"},
+      {scenery("-1"), "scale out of range (line 4, scalex=\"-1\")"},
       {line("<run deg=\"x\""), "invalid stod argument (line 3, deg=\"x\")"},
       {line("<lastshape id=\"0\" w_mm=\"wide\""), "invalid stod argument (line 3, w_mm=\"wide\")"},
       {line("<levels active=\"\">"), "invalid stoi argument (line 3, active=\"\")"},

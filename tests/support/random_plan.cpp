@@ -20,6 +20,7 @@ class Dice {
     const std::int32_t tenThousandths = upTo(20000 * range) - 10000 * range;
     return tenThousandths / 10000.0;
   }
+  double scale() { return (upTo(30000) + 10) / 10000.0; }
   Point point() { return {real(5000), real(5000)}; }
   std::vector<Point> points(std::int32_t atLeast) {
     std::vector<Point> result(static_cast<std::size_t>(atLeast + upTo(4)));
@@ -93,7 +94,7 @@ Layout randomPlan(std::uint32_t seed, int pieces) {
   for (int i = 0; i < 3 + pieces / 50; ++i) {
     const auto id = [&layout] { return layout.takeId(); };
     content.scenery.push_back({id(), "house", dice.real(9000), dice.real(9000), dice.real(360),
-                               dice.real(3), dice.real(3), dice.upTo(3), dice.coin()});
+                               dice.scale(), dice.scale(), dice.upTo(3), dice.coin()});
     content.labels.push_back({id(), dice.text(), dice.real(9000), dice.real(9000), false});
     content.shapes.push_back({id(), dice.points(3), dice.color(), dice.byte(), dice.coin(),
                               dice.upTo(3), dice.real(100), dice.text(), false});
