@@ -1,5 +1,6 @@
 #include "editing/annotations.h"
 
+#include "document/limits.h"
 #include "editing/polygons.h"
 
 #include <algorithm>
@@ -19,7 +20,7 @@ bool isBlank(std::string_view text) {
 }
 
 std::int32_t addLabel(Layout& layout, Point at, std::string_view text) {
-  if (isBlank(text))
+  if (isBlank(text) || !inLimits(at))
     return -1;
   layout.pushHistory();
   layout.clearSelection();
@@ -34,6 +35,8 @@ std::int32_t addLabel(Layout& layout, Point at, std::string_view text) {
 }
 
 std::int32_t addMeasurement(Layout& layout, Point from, Point to) {
+  if (!inLimits(from) || !inLimits(to))
+    return -1;
   layout.pushHistory();
   layout.clearSelection();
   const std::int32_t id = layout.takeId();
@@ -50,7 +53,7 @@ Shape usualShape(const Layout& layout) {
 }
 
 std::int32_t addShape(Layout& layout, Shape shape) {
-  if (!outlineProblem(shape.points).empty())
+  if (!inLimits(shape) || !outlineProblem(shape.points).empty())
     return -1;
   layout.pushHistory();
   layout.clearSelection();

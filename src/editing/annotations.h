@@ -13,10 +13,11 @@ namespace trassix {
 bool isBlank(std::string_view text);
 
 /// Returns the new record's id; the record becomes the only selection. -1 and nothing added for a
-/// blank text.
+/// blank text, or beyond the limits of a plan.
 std::int32_t addLabel(Layout& layout, Point at, std::string_view text);
 
-/// Returns the new record's id; the record becomes the only selection.
+/// Returns the new record's id; the record becomes the only selection. -1 and nothing added beyond
+/// the limits of a plan.
 std::int32_t addMeasurement(Layout& layout, Point from, Point to);
 
 /// What a new shape looks like before anybody changes it; on the active level, without points.

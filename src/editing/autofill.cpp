@@ -180,6 +180,9 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
   const PlacedPiece* start = layout.findPiece(gap.startPiece);
   if (pieces.empty() || !openAt(layout, gap.startPiece, gap.start.index))
     return {};
+  if (!std::ranges::all_of(pieces,
+                           [](const FillPiece& p) { return fitsPlan(*p.definition, p.pose); }))
+    return {{}, beyondPlan()};
   layout.pushHistory();
   const std::int32_t level = start->level;
   const double height = start->z;

@@ -1,5 +1,7 @@
 #include "editing/block_placing.h"
 
+#include "document/limits.h"
+#include "document/repairs.h"
 #include "editing/joining.h"
 
 #include <algorithm>
@@ -16,6 +18,13 @@ void move(Record& record, const Pose& pose) {
   record.x = at.x;
   record.y = at.y;
   record.heading = normaliseHeading(record.heading + pose.heading);
+}
+
+bool fitsPlan(const Block& block, const Pose& pose) {
+  const auto fits = [&pose](const auto& record) {
+    return inLimits(toWorld(pose, {record.x, record.y}));
+  };
+  return std::ranges::all_of(block.pieces, fits) && std::ranges::all_of(block.scenery, fits);
 }
 
 /// Copies of the block's pieces with new ids, their joints still those of the block.
@@ -62,10 +71,14 @@ void createLevels(Layout& layout, const std::vector<PlacedPiece>& pieces) {
 
 } // namespace
 
-EditResult placeBlock(Layout& layout, const Block& block, const Pose& pose) {
+EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose) {
   EditResult result;
-  if (block.empty())
+  if (placed.empty())
     return result;
+  Block block = placed; // which may come straight from the clipboard
+  makeSound(block);
+  if (!fitsPlan(block, pose))
+    return {{}, beyondPlan()};
   layout.pushHistory();
   layout.clearSelection();
 

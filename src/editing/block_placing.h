@@ -10,7 +10,8 @@ namespace trassix {
 
 /// Places everything in the block, turned about the block's origin by the pose's heading and then
 /// moved by its position, as one undo step. All records get new ids and become the selection.
-/// Joints inside the block stay, all others are opened; then ends that meet are joined. Pieces do
+/// Joints inside the block stay, all others are opened; then ends that meet are joined. What does
+/// not fit into the limits of a plan is refused. Pieces do
 /// not take their helix along, which is more than its track. Levels that the pieces are on and the
 /// plan lacks are created.
 EditResult placeBlock(Layout& layout, const Block& block, const Pose& pose);

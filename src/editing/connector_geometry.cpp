@@ -18,6 +18,14 @@ const PieceDef* definitionOf(const PlacedPiece& piece) {
   return TrackCatalog::instance().find(piece.cat);
 }
 
+PlacedPiece pieceAt(const Pose& pose) {
+  PlacedPiece piece;
+  piece.x = pose.x;
+  piece.y = pose.y;
+  piece.heading = pose.heading;
+  return piece;
+}
+
 double normaliseHeading(double degrees) {
   if (!std::isfinite(degrees))
     return 0;

@@ -15,7 +15,8 @@ namespace trassix {
 inline constexpr double kPi = 3.141592653589793;
 
 constexpr double toRadians(double degrees) {
-  return degrees * kPi / 180.0;
+  constexpr double kHuge = 1e300; // from here on the product might be infinite
+  return degrees < kHuge && degrees > -kHuge ? degrees * kPi / 180.0 : degrees / 180.0 * kPi;
 }
 
 constexpr double toDegrees(double radians) {
@@ -37,6 +38,9 @@ struct Pose {
 inline Pose poseOf(const PlacedPiece& piece) {
   return {piece.x, piece.y, piece.heading};
 }
+
+/// A piece of no article that lies there.
+PlacedPiece pieceAt(const Pose& pose);
 
 /// One end of a placed piece; `heading` is where track leaves the piece, so joined ends point 180
 /// degrees apart.

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace trassix {
@@ -26,5 +27,22 @@ struct EditResult {
 
   bool changed() const { return !placed.empty(); }
 };
+
+/// What an edit of records that are there did; without a refusal an unchanged plan means that there
+/// was nothing to do.
+struct ChangeResult {
+  bool changed = false;
+  std::optional<Notice> refusal;
+
+  ChangeResult(bool didChange) : changed(didChange) {}
+  ChangeResult(Notice reason) : refusal(std::move(reason)) {}
+  explicit operator bool() const { return changed; }
+};
+
+/// The refusal of an edit that would take something out of the limits of a plan, see limits.h.
+inline Notice beyondPlan() {
+  return {"Edge of the Plan", "A plan ends 1,000,000 mm from its origin, to all sides as well as "
+                              "above and below. This would lie beyond."};
+}
 
 } // namespace trassix

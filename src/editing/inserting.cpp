@@ -1,6 +1,7 @@
 #include "editing/inserting.h"
 
 #include "catalog/track_catalog.h"
+#include "document/limits.h"
 #include "editing/joining.h"
 #include "editing/placing.h"
 #include "editing/rigid_motion.h"
@@ -31,15 +32,14 @@ std::vector<std::int32_t> sideOf(const Layout& layout, std::int32_t piece, std::
   const Joint cut = layout.findPiece(piece)->joint(static_cast<std::size_t>(connector));
   std::unordered_set<std::int32_t> met{piece};
   std::vector<std::int32_t> side{piece};
-  for (std::size_t next = 0; next < side.size(); ++next) {
-    const PlacedPiece& from = *layout.findPiece(side[next]);
+  for (std::size_t k = 0; k < side.size(); ++k) {
+    const PlacedPiece& from = *layout.findPiece(side[k]);
     for (std::size_t i = 0; i < from.joints.size(); ++i) {
-      const Joint joint = from.joints[i];
+      const PlacedPiece* next = joinedPiece(layout, from, i);
       const bool isCut = (from.id == piece && static_cast<std::int32_t>(i) == connector) ||
                          (from.id == cut.target && static_cast<std::int32_t>(i) == cut.tconn);
-      if (!joint.open() && !isCut && layout.findPiece(joint.target) != nullptr &&
-          met.insert(joint.target).second)
-        side.push_back(joint.target);
+      if (next != nullptr && !isCut && met.insert(next->id).second)
+        side.push_back(next->id);
     }
   }
   std::sort(side.begin(), side.end());
@@ -56,6 +56,14 @@ double trackLength(const Layout& layout, const std::vector<std::int32_t>& pieces
   return length;
 }
 
+bool staysInLimits(const Layout& layout, const std::vector<std::int32_t>& ids,
+                   const RigidMotion& motion) {
+  return std::ranges::all_of(ids, [&](std::int32_t id) {
+    const PlacedPiece& piece = *layout.findPiece(id);
+    return inLimits(motion(Point{piece.x, piece.y}));
+  });
+}
+
 void movePieces(Layout& layout, const std::vector<std::int32_t>& ids, const RigidMotion& motion) {
   for (PlacedPiece& piece : layout.edit().pieces) {
     if (!containsId(ids, piece.id))
@@ -65,6 +73,13 @@ void movePieces(Layout& layout, const std::vector<std::int32_t>& ids, const Rigi
     piece.y = pose.y;
     piece.heading = pose.heading;
   }
+}
+
+/// The piece joined there, when its article is known, so that it has a place to go on from.
+const PlacedPiece* joinedTrack(const Layout& layout, const PlacedPiece& piece,
+                               std::int32_t connector) {
+  const PlacedPiece* joined = joinedPiece(layout, piece, static_cast<std::size_t>(connector));
+  return joined == nullptr || definitionOf(*joined) == nullptr ? nullptr : joined;
 }
 
 WorldConnector endOf(const Layout& layout, std::int32_t piece, std::int32_t connector) {
@@ -92,8 +107,8 @@ std::optional<InsertSpot> findInsertSpot(const Layout& layout, const SnapIndex& 
     const std::optional<EndContact> contact = index.findJoint(own, kInsertReach, kInsertFacing);
     if (!contact || (best && contact->distance >= best->distance))
       continue;
-    const PlacedPiece* beyond = layout.findPiece(contact->target.joinedTo);
-    if (beyond == nullptr ||
+    const PlacedPiece* near = layout.findPiece(contact->target.piece);
+    if (joinedTrack(layout, *near, contact->target.connector) == nullptr ||
         carried.connectorSystem(static_cast<std::size_t>(leave)) != contact->target.system)
       continue;
     best = contact;
@@ -110,11 +125,10 @@ std::optional<InsertSpot> findInsertSpot(const Layout& layout, const SnapIndex& 
 EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpot& spot) {
   const PieceDef* definition = TrackCatalog::instance().find(article);
   const PlacedPiece* near = layout.findPiece(spot.piece);
-  if (definition == nullptr || near == nullptr)
+  if (definition == nullptr || near == nullptr ||
+      joinedTrack(layout, *near, spot.connector) == nullptr)
     return {};
   const Joint far = near->joint(static_cast<std::size_t>(spot.connector));
-  if (far.open() || layout.findPiece(far.target) == nullptr)
-    return {};
   const std::vector<std::int32_t> nearSide = sideOf(layout, spot.piece, spot.connector);
   if (containsId(nearSide, far.target))
     return {{},
@@ -126,23 +140,28 @@ EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpo
   if (auto refusal = lockGuard(layout, moving, "move"))
     return {{}, std::move(refusal)};
 
-  layout.pushHistory();
-  openJoint(layout, spot.piece, spot.connector);
   const Joint stays = farMoves ? Joint{spot.piece, spot.connector} : far;
   const Joint moves = farMoves ? far : Joint{spot.piece, spot.connector};
   const std::int32_t ownStays = farMoves ? spot.enter : spot.exit;
   const std::int32_t ownMoves = farMoves ? spot.exit : spot.enter;
   const PlacedPiece& fixed = *layout.findPiece(stays.target);
   const Pose pose = AttachPose(*definition, ownStays, endOf(layout, stays.target, stays.tconn));
+  const RigidMotion motion = facing(endOf(layout, moves.target, moves.tconn),
+                                    ConnectorToWorld(pieceAt(pose), *definition, ownMoves));
+  if (!fitsPlan(*definition, pose) || !staysInLimits(layout, moving, motion))
+    return {{}, beyondPlan()};
+
+  layout.pushHistory();
+  openJoint(layout, spot.piece, spot.connector);
   const std::int32_t id = addPiece(layout, *definition, pose, fixed.level, fixed.z);
-  movePieces(layout, moving,
-             facing(endOf(layout, moves.target, moves.tconn), endOf(layout, id, ownMoves)));
+  movePieces(layout, moving, motion);
   join(layout, id, ownStays, stays.target, stays.tconn);
   inheritElevation(layout, id, stays.target, stays.tconn);
   join(layout, id, ownMoves, moves.target, moves.tconn);
 
   std::vector<std::int32_t> touched = moving;
-  touched.push_back(id); // the newest id is the largest
+  touched.push_back(id);
+  std::ranges::sort(touched);
   closeMeetingEnds(layout, touched);
   selectOnly(layout, id);
   return {{id}, std::nullopt};

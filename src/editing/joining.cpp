@@ -18,6 +18,17 @@ void writeJoint(PlacedPiece& piece, std::int32_t connector, Joint joint) {
   piece.joints[slot] = joint;
 }
 
+bool hasOpenEnd(const Layout& layout, std::int32_t id, std::int32_t connector) {
+  const PlacedPiece* piece = layout.findPiece(id);
+  if (piece == nullptr || connector < 0)
+    return false;
+  const PieceDef* definition = definitionOf(*piece);
+  const auto slot = static_cast<std::size_t>(connector);
+  const std::size_t ends =
+      definition == nullptr ? piece->joints.size() : definition->connectors.size();
+  return slot < ends && piece->joint(slot).open();
+}
+
 bool meet(const PlacedEnd& a, const PlacedEnd& b, double distance, MeetingPlay play) {
   return a.piece != b.piece && a.system == b.system && distance <= play.distance &&
          std::abs(a.height - b.height) <= kClosingDistance &&
@@ -59,13 +70,21 @@ double endHeight(const PlacedPiece& piece, const PieceDef& definition, std::int3
   return piece.z;
 }
 
+const PlacedPiece* joinedPiece(const Layout& layout, const PlacedPiece& piece,
+                               std::size_t connector) {
+  const Joint joint = piece.joint(connector);
+  const PlacedPiece* other = layout.findPiece(joint.target);
+  const Joint back{piece.id, static_cast<std::int32_t>(connector)};
+  return other != nullptr && other->id != piece.id &&
+                 other->joint(static_cast<std::size_t>(joint.tconn)) == back
+             ? other
+             : nullptr;
+}
+
 void join(Layout& layout, std::int32_t a, std::int32_t connectorA, std::int32_t b,
           std::int32_t connectorB) {
-  if (layout.findPiece(a) == nullptr || layout.findPiece(b) == nullptr || connectorA < 0 ||
-      connectorB < 0)
+  if (a == b || !hasOpenEnd(layout, a, connectorA) || !hasOpenEnd(layout, b, connectorB))
     return;
-  openJoint(layout, a, connectorA);
-  openJoint(layout, b, connectorB);
   writeJoint(*layout.editPiece(a), connectorA, {b, connectorB});
   writeJoint(*layout.editPiece(b), connectorB, {a, connectorA});
 }
@@ -74,14 +93,13 @@ void openJoint(Layout& layout, std::int32_t piece, std::int32_t connector) {
   const PlacedPiece* own = layout.findPiece(piece);
   if (own == nullptr)
     return;
-  const Joint joint = own->joint(static_cast<std::size_t>(connector));
+  const auto slot = static_cast<std::size_t>(connector);
+  const Joint joint = own->joint(slot);
   if (joint.open())
     return;
-  writeJoint(*layout.editPiece(piece), connector, {});
-  const PlacedPiece* other = layout.findPiece(joint.target);
-  if (other != nullptr &&
-      other->joint(static_cast<std::size_t>(joint.tconn)) == Joint{piece, connector})
+  if (joinedPiece(layout, *own, slot) != nullptr)
     writeJoint(*layout.editPiece(joint.target), joint.tconn, {});
+  writeJoint(*layout.editPiece(piece), connector, {});
 }
 
 void detach(Layout& layout, std::span<const std::int32_t> pieces) {

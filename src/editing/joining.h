@@ -28,9 +28,13 @@ struct MeetingPlay {
   static MeetingPlay none() { return {0.01, 0.01}; }
 };
 
-/// Writes the joint on both pieces, lengthening their joint tables as needed; a joint that either
-/// end had before is opened first. Does nothing when a piece does not exist or an index is
-/// negative.
+/// The piece joined there, when it says so too. Null for an open end and for a joint that only this
+/// piece knows of, as a file from elsewhere can hold: such a one blocks its end and leads nowhere.
+const PlacedPiece* joinedPiece(const Layout& layout, const PlacedPiece& piece,
+                               std::size_t connector);
+
+/// Writes the joint on both pieces, lengthening their joint tables as needed. Does nothing unless
+/// both pieces have such an end and both ends are open.
 void join(Layout& layout, std::int32_t a, std::int32_t connectorA, std::int32_t b,
           std::int32_t connectorB);
 

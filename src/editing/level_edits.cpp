@@ -1,5 +1,6 @@
 #include "editing/level_edits.h"
 
+#include "document/limits.h"
 #include "editing/joining.h"
 #include "editing/polygons.h"
 #include "editing/selection.h"
@@ -37,6 +38,14 @@ Fates fatesOf(const Layout& layout, const LevelChange& wanted) {
       fate.rise = heights[*heir] - deckHeight(layout, level);
   }
   return fates;
+}
+
+bool staysInLimits(const Layout& layout, const LevelChange& wanted, const Fates& fates) {
+  return std::ranges::all_of(wanted.levels, [](const Level& level) { return inLimits(level); }) &&
+         std::ranges::all_of(layout.pieces(), [&fates](const PlacedPiece& piece) {
+           const auto fate = fates.find(piece.level);
+           return fate == fates.end() || isLength(piece.z + fate->second.rise);
+         });
 }
 
 void removeDoomed(PlanContent& content, const Fates& fates) {
@@ -141,14 +150,16 @@ std::string levelLock(const Layout& layout, std::int32_t level) {
   return {};
 }
 
-bool setLevels(Layout& layout, const LevelChange& wanted) {
+ChangeResult setLevels(Layout& layout, const LevelChange& wanted) {
   const PlanSettings& present = layout.settings();
   if (wanted.levels.empty() ||
       (present.levels == wanted.levels && present.activeLevel == wanted.activeLevel &&
        wanted.heirs.empty() && !wanted.usedShape))
     return false;
-  layout.pushHistory();
   const Fates fates = fatesOf(layout, wanted);
+  if (!staysInLimits(layout, wanted, fates))
+    return beyondPlan();
+  layout.pushHistory();
   removeDoomed(layout.edit(), fates);
   openSteps(layout, moveToFates(layout.edit(), fates));
   if (wanted.usedShape)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "document/layout.h"
+#include "editing/edit_result.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -42,7 +43,8 @@ struct LevelChange {
 /// as high above the level that takes it over. Where track runs on to a level that does not ride
 /// along, the joint opens; ends that come to lie on others are joined. What is on a hidden level
 /// does not stay selected.
-bool setLevels(Layout& layout, const LevelChange& wanted);
+/// Refused when a level or its track would lie beyond the limits of a plan.
+ChangeResult setLevels(Layout& layout, const LevelChange& wanted);
 
 /// Refuses what is no outline of an area, see `outlineProblem`; so do the edits below.
 bool setLevelOutline(Layout& layout, std::int32_t level, const std::vector<Point>& outline);

@@ -89,9 +89,11 @@ bool SelectionMove::changes() const {
   return shift > kStill || headingDifference(motion_.to.heading, 0) > kStill;
 }
 
-bool SelectionMove::commit(Layout& layout) const {
+ChangeResult SelectionMove::commit(Layout& layout) const {
   if (!hasSelection(layout) || !changes())
     return false;
+  if (!staysInLimits(layout.content(), motion_, rise_))
+    return beyondPlan();
   layout.pushHistory();
   detach(layout, pieces_);
   moveSelected(layout, motion_);
@@ -111,14 +113,17 @@ bool SelectionMove::commit(Layout& layout) const {
   return true;
 }
 
-bool nudgeSelection(Layout& layout, double dx, double dy, bool continued) {
+ChangeResult nudgeSelection(Layout& layout, double dx, double dy, bool continued) {
   if (!hasSelection(layout) || (dx == 0 && dy == 0))
     return false;
+  const RigidMotion motion{{0, 0}, {dx, dy, 0}};
+  if (!staysInLimits(layout.content(), motion))
+    return beyondPlan();
   if (!continued)
     layout.pushHistory();
   const std::vector<std::int32_t> pieces = selectedPieces(layout);
   detach(layout, pieces);
-  moveSelected(layout, {{0, 0}, {dx, dy, 0}});
+  moveSelected(layout, motion);
   closeMeetingEnds(layout, pieces, MeetingPlay::none());
   return true;
 }

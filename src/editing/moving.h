@@ -3,6 +3,7 @@
 
 #include "document/layout.h"
 #include "editing/connector_geometry.h"
+#include "editing/edit_result.h"
 #include "editing/end_grid.h"
 #include "editing/joining.h"
 #include "editing/rigid_motion.h"
@@ -49,8 +50,9 @@ class SelectionMove {
   /// Carries it out as one undo step: opens joints to the rest, moves, joins where it landed; after
   /// a free move only ends that lie exactly on each other. A group that snapped takes the height of
   /// the end it snapped to, and what was on the level of the snapping piece goes to the level of
-  /// the target. False and nothing changed when the group is where it was.
-  bool commit(Layout& layout) const;
+  /// the target. Nothing changes when the group is where it was, and what would lie beyond the
+  /// limits of a plan is refused.
+  ChangeResult commit(Layout& layout) const;
 
  private:
   const Layout& layout_;
@@ -65,9 +67,9 @@ class SelectionMove {
 };
 
 /// Moves the selection by (dx, dy) as one undo step, without snapping; joints to the rest open
-/// unless their ends still lie on each other. False when nothing is selected.
+/// unless their ends still lie on each other. Refused beyond the limits of a plan.
 /// With `continued` the step belongs to the run of nudges before it and pushes no history of its
 /// own.
-bool nudgeSelection(Layout& layout, double dx, double dy, bool continued);
+ChangeResult nudgeSelection(Layout& layout, double dx, double dy, bool continued);
 
 } // namespace trassix

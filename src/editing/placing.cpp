@@ -2,6 +2,7 @@
 
 #include "catalog/compatibility.h"
 #include "catalog/track_catalog.h"
+#include "document/limits.h"
 #include "editing/joining.h"
 #include "editing/scenery_footprint.h"
 #include "editing/selection.h"
@@ -107,6 +108,9 @@ EditResult extend(Layout& layout, std::int32_t from, std::int32_t connector,
   const std::int32_t own = matingEnd(definition, connector, system);
   if (own == -1)
     return {{}, incompatible(definition.connectorSystem(0), system)};
+  const WorldConnector end = ConnectorToWorld(*layout.findPiece(from), source, connector);
+  if (!fitsPlan(definition, AttachPose(definition, own, end)))
+    return {{}, beyondPlan()};
   layout.pushHistory();
   std::vector<std::int32_t> placed{attach(layout, definition, own, from, connector)};
   inheritElevation(layout, placed.front(), from, connector);
@@ -149,6 +153,12 @@ std::int32_t dropLevel(const Layout& layout) {
   return level;
 }
 
+bool fitsPlan(const PieceDef& definition, const Pose& pose) {
+  return inLimits({pose.x, pose.y}) &&
+         std::ranges::all_of(endsOfCarried(definition, pose),
+                             [](const PlacedEnd& end) { return inLimits(end.at); });
+}
+
 std::int32_t addPiece(Layout& layout, const PieceDef& definition, const Pose& pose,
                       std::int32_t level, double height) {
   PlacedPiece piece;
@@ -172,6 +182,9 @@ EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
   if (!snap.snapped && snapping)
     if (const auto contact = FindIncompatibleContact(*definition, pose, layout.pieces()))
       return {{}, incompatible(contact->carried, contact->other)};
+  const Pose& landing = snap.snapped ? snap.pose : pose;
+  if (!fitsPlan(*definition, landing))
+    return {{}, beyondPlan()};
 
   layout.pushHistory();
   layout.ensureLevel();
@@ -182,8 +195,7 @@ EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
     level = target->level;
     height = target->z;
   }
-  const std::int32_t chief =
-      addPiece(layout, *definition, snap.snapped ? snap.pose : pose, level, height);
+  const std::int32_t chief = addPiece(layout, *definition, landing, level, height);
   if (target != nullptr) {
     join(layout, chief, snap.newConnector, snap.target, snap.targetConnector);
     inheritElevation(layout, chief, snap.target, snap.targetConnector);
@@ -229,11 +241,13 @@ EditResult dropScenery(Layout& layout, std::string_view key, const Pose& pose) {
   const SceneryDef* definition = findScenery(key);
   if (definition == nullptr)
     return {};
-  layout.pushHistory();
-  layout.ensureLevel();
   const Pose at = key == kRoundhouse
                       ? seatedRoundhouse(layout, definition->footprint(planSystem(layout)), pose)
                       : pose;
+  if (!inLimits({at.x, at.y}))
+    return {{}, beyondPlan()};
+  layout.pushHistory();
+  layout.ensureLevel();
   SceneryItem item;
   item.id = layout.takeId();
   item.item = key;

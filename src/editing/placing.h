@@ -18,6 +18,10 @@ namespace trassix {
 /// height (the first of equal heights), else the active one.
 std::int32_t dropLevel(const Layout& layout);
 
+/// Whether the piece and all its ends, to which others will be joined, lie within the limits of a
+/// plan. What does not is refused by the edits below.
+bool fitsPlan(const PieceDef& definition, const Pose& pose);
+
 /// Appends a piece with all ends open and returns its id. A building block: pushes no history,
 /// joins and selects nothing.
 std::int32_t addPiece(Layout& layout, const PieceDef& definition, const Pose& pose,

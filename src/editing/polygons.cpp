@@ -1,5 +1,7 @@
 #include "editing/polygons.h"
 
+#include "document/limits.h"
+
 #include <boost/geometry/algorithms/correct.hpp>
 #include <boost/geometry/algorithms/is_simple.hpp>
 #include <boost/geometry/algorithms/is_valid.hpp>
@@ -91,6 +93,8 @@ bool liesIn(const Polygon& polygon, const Box& box) {
 std::string_view outlineProblem(const Polygon& corners) {
   if (corners.size() < 3)
     return "An outline needs at least three corners.";
+  if (!inLimits(corners))
+    return "The outline reaches beyond the plan, which ends 1,000,000 mm from its origin.";
   auto ring = lineOf<bg::model::ring<RingPoint, true, false>>(corners);
   bg::correct(ring); // either way round is as good
   bg::validity_failure_type failure = bg::no_failure;
@@ -101,7 +105,8 @@ std::string_view outlineProblem(const Polygon& corners) {
 }
 
 bool crossesItself(const std::vector<Point>& line) {
-  return line.size() > 2 && !bg::is_simple(lineOf<bg::model::linestring<RingPoint>>(line));
+  return line.size() > 2 && inLimits(line) &&
+         !bg::is_simple(lineOf<bg::model::linestring<RingPoint>>(line));
 }
 
 } // namespace trassix

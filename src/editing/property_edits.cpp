@@ -1,5 +1,6 @@
 #include "editing/property_edits.h"
 
+#include "document/limits.h"
 #include "editing/joining.h"
 #include "editing/selection.h"
 
@@ -18,7 +19,7 @@ bool replaceIn(Layout& layout, std::vector<Record> PlanContent::*records, const 
     return false;
   Record record = wanted;
   record.sel = found->sel;
-  if (record == *found)
+  if (record == *found || !inLimits(record))
     return false;
   const auto position = found - present.begin();
   layout.pushHistory();
@@ -41,7 +42,7 @@ bool anySelected(Content& content, const Change& change) {
 bool setPiecePose(Layout& layout, std::int32_t piece, const Pose& pose) {
   const PlacedPiece* present = layout.findPiece(piece);
   const Pose wanted{pose.x, pose.y, normaliseHeading(pose.heading)};
-  if (present == nullptr || poseOf(*present) == wanted)
+  if (present == nullptr || poseOf(*present) == wanted || !inLimits({pose.x, pose.y}))
     return false;
   layout.pushHistory();
   const std::array<std::int32_t, 1> moved{piece};
@@ -54,12 +55,16 @@ bool setPiecePose(Layout& layout, std::int32_t piece, const Pose& pose) {
   return true;
 }
 
-bool setTrackHeight(Layout& layout, std::int32_t piece, double z) {
+ChangeResult setTrackHeight(Layout& layout, std::int32_t piece, double z) {
   const PlacedPiece* present = layout.findPiece(piece);
   if (present == nullptr || present->z == z)
     return false;
   const double rise = z - present->z;
   const std::vector<std::int32_t> chain = chainOf(layout, piece);
+  if (!isLength(z) || !std::ranges::all_of(chain, [&layout, rise](std::int32_t id) {
+        return isLength(layout.findPiece(id)->z + rise);
+      }))
+    return beyondPlan();
   layout.pushHistory();
   for (PlacedPiece& joined : layout.edit().pieces) {
     if (joined.id == piece)
@@ -78,17 +83,24 @@ bool levelLiftsSelection(const Layout& layout) {
          });
 }
 
-bool setSelectedLevel(Layout& layout, std::int32_t level) {
+ChangeResult setSelectedLevel(Layout& layout, std::int32_t level) {
   if (layout.findLevel(level) == nullptr ||
       !anySelected(layout.content(), [level](const auto& record) { return record.level != level; }))
     return false;
   const bool lifts = levelLiftsSelection(layout);
   const double height = layout.levelHeight(level);
+  const auto lifted = [&layout, height](const PlacedPiece& piece) {
+    return piece.z + (height - layout.levelHeight(piece.level));
+  };
+  if (lifts && std::ranges::any_of(layout.pieces(), [&lifted](const PlacedPiece& piece) {
+        return piece.sel && !isLength(lifted(piece));
+      }))
+    return beyondPlan();
   layout.pushHistory();
   if (lifts)
     for (PlacedPiece& piece : layout.edit().pieces)
       if (piece.sel)
-        piece.z += height - layout.levelHeight(piece.level);
+        piece.z = lifted(piece);
   anySelected(layout.edit(), [level](auto& record) {
     record.level = level;
     return false;

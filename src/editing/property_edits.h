@@ -1,10 +1,12 @@
 // Exact values for what is on the plan, as the properties panel sets them. Each edit is one undo
-// step; false and nothing changed when everything has the value already or nothing is concerned.
+// step; nothing changed when everything has the value already or nothing is concerned, or when
+// something would lie beyond the limits of a plan.
 // Free ends that come to lie on others are joined.
 #pragma once
 
 #include "document/layout.h"
 #include "editing/connector_geometry.h"
+#include "editing/edit_result.h"
 
 #include <cstdint>
 #include <optional>
@@ -16,7 +18,7 @@ bool setPiecePose(Layout& layout, std::int32_t piece, const Pose& pose);
 
 /// Lifts or lowers a piece to `z` mm, and all track joined to it by as much, so that no joint gets
 /// a step.
-bool setTrackHeight(Layout& layout, std::int32_t piece, double z);
+ChangeResult setTrackHeight(Layout& layout, std::int32_t piece, double z);
 
 /// Whether the selected pieces change their height with their level: not when some are joined to
 /// track that stays, nor when they are part of a helix.
@@ -24,7 +26,7 @@ bool levelLiftsSelection(const Layout& layout);
 
 /// Puts the selected pieces, scenery items and shapes on a level. Joints stay; pieces are lifted by
 /// what the level is higher than theirs where that leaves no step in the track.
-bool setSelectedLevel(Layout& layout, std::int32_t level);
+ChangeResult setSelectedLevel(Layout& layout, std::int32_t level);
 
 /// Gives the selected pieces a colour of their own, or takes it from them.
 bool setSelectedColor(Layout& layout, std::optional<Color> color);

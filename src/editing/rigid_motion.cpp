@@ -1,5 +1,9 @@
 #include "editing/rigid_motion.h"
 
+#include "document/limits.h"
+
+#include <algorithm>
+
 namespace trassix {
 
 namespace {
@@ -17,6 +21,21 @@ void movePoses(Records& records, const RigidMotion& motion) {
 }
 
 } // namespace
+
+bool staysInLimits(const PlanContent& content, const RigidMotion& motion, double rise) {
+  const auto all = [](const auto& records, auto stays) {
+    return std::ranges::all_of(
+        records, [&stays](const auto& record) { return !record.sel || stays(record); });
+  };
+  const auto lands = [&motion](Point p) { return inLimits(motion(p)); };
+  const auto position = [&lands](const auto& record) { return lands({record.x, record.y}); };
+  return all(content.pieces,
+             [&](const PlacedPiece& p) { return position(p) && isLength(p.z + rise); }) &&
+         all(content.scenery, position) && all(content.labels, position) &&
+         all(content.measurements,
+             [&](const Measurement& m) { return lands(m.from) && lands(m.to); }) &&
+         all(content.shapes, [&](const Shape& s) { return std::ranges::all_of(s.points, lands); });
+}
 
 void moveSelectedBodies(PlanContent& content, const RigidMotion& motion) {
   movePoses(content.pieces, motion);

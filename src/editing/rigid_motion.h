@@ -17,6 +17,10 @@ struct RigidMotion {
   }
 };
 
+/// Whether everything selected stays within the limits of a plan when it is moved so, and pieces
+/// rise by `rise` mm.
+bool staysInLimits(const PlanContent& content, const RigidMotion& motion, double rise = 0);
+
 /// Applies the motion to the selected pieces, scenery items and shapes.
 void moveSelectedBodies(PlanContent& content, const RigidMotion& motion);
 

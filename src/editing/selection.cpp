@@ -176,11 +176,13 @@ std::vector<std::int32_t> chainOf(const Layout& layout, std::int32_t piece) {
     return chain;
   std::unordered_set<std::int32_t> met{piece};
   chain.push_back(piece);
-  for (std::size_t next = 0; next < chain.size(); ++next)
-    for (const Joint& joint : layout.findPiece(chain[next])->joints)
-      if (!joint.open() && layout.findPiece(joint.target) != nullptr &&
-          met.insert(joint.target).second)
-        chain.push_back(joint.target);
+  for (std::size_t k = 0; k < chain.size(); ++k) {
+    const PlacedPiece& from = *layout.findPiece(chain[k]);
+    for (std::size_t i = 0; i < from.joints.size(); ++i)
+      if (const PlacedPiece* next = joinedPiece(layout, from, i);
+          next != nullptr && met.insert(next->id).second)
+        chain.push_back(next->id);
+  }
   std::sort(chain.begin(), chain.end());
   return chain;
 }
@@ -200,15 +202,18 @@ std::optional<Box> selectionBox(const Layout& layout) {
   return box.box();
 }
 
-bool rotateSelection(Layout& layout, double degrees) {
+ChangeResult rotateSelection(Layout& layout, double degrees) {
   const std::optional<Box> box = selectionBox(layout);
   if (!box)
     return false;
+  const Point centre{(box->minX + box->maxX) / 2, (box->minY + box->maxY) / 2};
+  const RigidMotion motion{centre, {centre.x, centre.y, degrees}};
+  if (!staysInLimits(layout.content(), motion))
+    return beyondPlan();
   layout.pushHistory();
   const std::vector<std::int32_t> pieces = selectedPieces(layout);
   detach(layout, pieces);
-  const Point centre{(box->minX + box->maxX) / 2, (box->minY + box->maxY) / 2};
-  moveSelectedBodies(layout.edit(), {centre, {centre.x, centre.y, degrees}});
+  moveSelectedBodies(layout.edit(), motion);
   closeMeetingEnds(layout, pieces, MeetingPlay::none());
   return true;
 }

@@ -28,7 +28,8 @@ void selectAll(Layout& layout); ///< every record on a visible level
 /// Nothing stays selected on a hidden level, where it could be changed unseen.
 void deselectHidden(Layout& layout);
 
-/// All pieces joined to `piece` directly or through others, `piece` included; sorted ids.
+/// All pieces joined to `piece` directly or through others, `piece` included; sorted ids. Joints
+/// that only one side knows of do not count.
 std::vector<std::int32_t> chainOf(const Layout& layout, std::int32_t piece);
 
 /// The box that a rotation of the selection turns about: positions, ends and curve apexes of
@@ -36,9 +37,9 @@ std::vector<std::int32_t> chainOf(const Layout& layout, std::int32_t piece);
 std::optional<Box> selectionBox(const Layout& layout);
 
 /// Turns the selection as one rigid body about the centre of its box, as one undo step. Joints to
-/// unselected pieces open; ends that meet others where it lands are joined. False and nothing
-/// changed when no piece, scenery item or shape is selected.
-bool rotateSelection(Layout& layout, double degrees);
+/// unselected pieces open; ends that meet others where it lands are joined. Nothing changes when no
+/// piece, scenery item or shape is selected; refused beyond the limits of a plan.
+ChangeResult rotateSelection(Layout& layout, double degrees);
 
 /// Why the selection must not be changed ("Helix track is locked", "Tunnel is locked"). `verb` is
 /// put into the text, for example "delete".

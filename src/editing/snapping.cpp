@@ -11,15 +11,6 @@ namespace trassix {
 
 namespace {
 
-PlacedPiece carriedPiece(const PieceDef& carried, const Pose& pose) {
-  PlacedPiece piece;
-  piece.cat = carried.article;
-  piece.x = pose.x;
-  piece.y = pose.y;
-  piece.heading = pose.heading;
-  return piece;
-}
-
 double distanceBetween(Point a, Point b) {
   return std::hypot(a.x - b.x, a.y - b.y);
 }
@@ -43,7 +34,7 @@ SnapResult snapOnto(const PieceDef& carried, std::int32_t connector, const Place
 
 SnapResult FindSnap(const PieceDef& carried, const Pose& pose,
                     std::span<const PlacedPiece> candidates) {
-  const auto own = WorldConnectorsOf(carriedPiece(carried, pose), carried);
+  const auto own = WorldConnectorsOf(pieceAt(pose), carried);
   SnapResult best;
   best.distance = std::numeric_limits<double>::max();
   std::vector<PlacedEnd> ends;
@@ -67,7 +58,7 @@ SnapResult FindSnap(const PieceDef& carried, const Pose& pose,
 std::optional<IncompatibleContact> FindIncompatibleContact(const PieceDef& carried,
                                                            const Pose& pose,
                                                            std::span<const PlacedPiece> pieces) {
-  const auto own = WorldConnectorsOf(carriedPiece(carried, pose), carried);
+  const auto own = WorldConnectorsOf(pieceAt(pose), carried);
   std::vector<PlacedEnd> ends;
   for (const PlacedPiece& piece : pieces) {
     ends.clear();
@@ -84,7 +75,7 @@ std::optional<IncompatibleContact> FindIncompatibleContact(const PieceDef& carri
 
 std::vector<PlacedEnd> endsOfCarried(const PieceDef& carried, const Pose& pose) {
   std::vector<PlacedEnd> ends;
-  for (const WorldConnector& end : WorldConnectorsOf(carriedPiece(carried, pose), carried)) {
+  for (const WorldConnector& end : WorldConnectorsOf(pieceAt(pose), carried)) {
     PlacedEnd own;
     own.at = {end.x, end.y};
     own.heading = end.heading;
@@ -170,7 +161,7 @@ std::optional<EndContact> SnapIndex::findJoint(const PlacedEnd& own, double reac
 
 std::optional<IncompatibleContact> SnapIndex::findIncompatibleContact(const PieceDef& carried,
                                                                       const Pose& pose) const {
-  const auto own = WorldConnectorsOf(carriedPiece(carried, pose), carried);
+  const auto own = WorldConnectorsOf(pieceAt(pose), carried);
   const PlacedEnd* other = nullptr;
   std::int32_t connector = -1;
   for (const WorldConnector& mine : own) {

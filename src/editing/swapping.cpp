@@ -1,6 +1,7 @@
 #include "editing/swapping.h"
 
 #include "catalog/track_catalog.h"
+#include "document/limits.h"
 #include "editing/joining.h"
 #include "editing/routes.h"
 
@@ -11,14 +12,6 @@
 namespace trassix {
 
 namespace {
-
-PlacedPiece at(const Pose& pose) {
-  PlacedPiece piece;
-  piece.x = pose.x;
-  piece.y = pose.y;
-  piece.heading = pose.heading;
-  return piece;
-}
 
 bool coincide(const WorldConnector& a, const WorldConnector& b) {
   return std::hypot(a.x - b.x, a.y - b.y) <= kClosingDistance &&
@@ -37,7 +30,7 @@ std::vector<WorldConnector> endsToMeet(const Layout& layout, const PlacedPiece& 
   std::vector<WorldConnector> ends = WorldConnectorsOf(piece, definition);
   for (WorldConnector& end : ends) {
     const Joint joint = piece.joint(static_cast<std::size_t>(end.index));
-    const PlacedPiece* neighbour = layout.findPiece(joint.target);
+    const PlacedPiece* neighbour = joinedPiece(layout, piece, static_cast<std::size_t>(end.index));
     const PieceDef* other = neighbour == nullptr ? nullptr : definitionOf(*neighbour);
     if (other == nullptr)
       continue;
@@ -87,7 +80,7 @@ std::optional<SwapFit> fitAt(const PieceDef& definition, const Pose& pose,
                              const PieceDef& presentDefinition,
                              const std::vector<std::size_t>& required) {
   SwapFit fit{&definition, pose, std::vector<std::int32_t>(present.size(), -1)};
-  for (const WorldConnector& end : WorldConnectorsOf(at(pose), definition)) {
+  for (const WorldConnector& end : WorldConnectorsOf(pieceAt(pose), definition)) {
     const TrackSystem system = definition.connectorSystem(static_cast<std::size_t>(end.index));
     for (std::size_t i = 0; i < present.size(); ++i)
       if (fit.ends[i] == -1 && coincide(end, present[i]) &&
@@ -104,12 +97,30 @@ std::optional<SwapFit> fitAt(const PieceDef& definition, const Pose& pose,
 
 /// True when all ends of the one lie on ends of the other.
 bool looksTheSame(const SwapFit& a, const SwapFit& b) {
-  const auto endsA = WorldConnectorsOf(at(a.pose), *a.definition);
-  const auto endsB = WorldConnectorsOf(at(b.pose), *b.definition);
+  const auto endsA = WorldConnectorsOf(pieceAt(a.pose), *a.definition);
+  const auto endsB = WorldConnectorsOf(pieceAt(b.pose), *b.definition);
   return a.definition == b.definition && std::ranges::all_of(endsA, [&endsB](const auto& end) {
            return std::ranges::any_of(endsB,
                                       [&end](const auto& other) { return coincide(end, other); });
          });
+}
+
+/// The piece after the exchange, with all ends open.
+PlacedPiece exchanged(const PlacedPiece& before, const PieceDef& definition, const SwapFit& fit) {
+  PlacedPiece changed = before;
+  changed.cat = fit.definition->article;
+  changed.x = fit.pose.x;
+  changed.y = fit.pose.y;
+  changed.heading = fit.pose.heading;
+  changed.joints.assign(fit.definition->connectors.size(), Joint{});
+  // The height belongs to connector 0: a piece that lies the other way round starts at its far end.
+  const auto start = std::ranges::find(fit.ends, 0);
+  const auto startEnd = static_cast<std::int32_t>(start - fit.ends.begin());
+  if (start != fit.ends.end() && startEnd != 0) {
+    changed.z = endHeight(before, definition, startEnd);
+    changed.rev = isGraded(before) ? !before.rev : before.rev;
+  }
+  return changed;
 }
 
 } // namespace
@@ -133,6 +144,7 @@ std::vector<SwapFit> swapFits(const Layout& layout, std::int32_t piece) {
       const Pose pose = AttachPose(definition, static_cast<std::int32_t>(k), facing);
       const auto fit = fitAt(definition, pose, ends, *presentDefinition, required);
       if (fit && !looksTheSame(*fit, itself) &&
+          inLimits(exchanged(*present, *presentDefinition, *fit)) &&
           std::ranges::none_of(fits, [&fit](const SwapFit& f) { return looksTheSame(f, *fit); }))
         fits.push_back(*fit);
     }
@@ -146,26 +158,22 @@ bool swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit) {
     return false;
   layout.pushHistory();
   const PlacedPiece before = *layout.findPiece(piece);
-  const PieceDef& definition = *definitionOf(before);
-  for (std::size_t i = 0; i < before.joints.size(); ++i)
-    openJoint(layout, piece, static_cast<std::int32_t>(i));
-
-  PlacedPiece& changed = *layout.editPiece(piece);
-  changed.cat = fit.definition->article;
-  changed.x = fit.pose.x;
-  changed.y = fit.pose.y;
-  changed.heading = fit.pose.heading;
-  changed.joints.assign(fit.definition->connectors.size(), Joint{});
-  // The height belongs to connector 0: a piece that lies the other way round starts at its far end.
-  const auto start = std::ranges::find(fit.ends, 0);
-  const auto startEnd = static_cast<std::int32_t>(start - fit.ends.begin());
-  if (start != fit.ends.end() && startEnd != 0) {
-    changed.z = endHeight(before, definition, startEnd);
-    changed.rev = isGraded(before) ? !before.rev : before.rev;
+  PlacedPiece changed = exchanged(before, *definitionOf(before), fit);
+  std::vector<std::pair<std::int32_t, Joint>> joined;
+  for (std::size_t i = 0; i < std::min(fit.ends.size(), before.joints.size()); ++i) {
+    const Joint joint = before.joints[i];
+    if (joint.open() || fit.ends[i] == -1)
+      continue;
+    if (joinedPiece(layout, before, i) != nullptr)
+      joined.emplace_back(fit.ends[i], joint);
+    else // goes on blocking its end
+      changed.joints[static_cast<std::size_t>(fit.ends[i])] = joint;
   }
   for (std::size_t i = 0; i < before.joints.size(); ++i)
-    if (const Joint joint = before.joints[i]; !joint.open() && fit.ends[i] != -1)
-      join(layout, piece, fit.ends[i], joint.target, joint.tconn);
+    openJoint(layout, piece, static_cast<std::int32_t>(i));
+  *layout.editPiece(piece) = std::move(changed);
+  for (const auto& [end, joint] : joined)
+    join(layout, piece, end, joint.target, joint.tconn);
   closeMeetingEnds(layout, std::span(&piece, 1));
   return true;
 }

@@ -19,7 +19,7 @@ constexpr double kSleeperSpacing = 0.52;
 constexpr double kSleeperLength = 1.75;
 
 Point beside(const RoutePoint& at, double offset) {
-  const double radians = at.heading * kPi / 180.0;
+  const double radians = toRadians(at.heading);
   return {at.position.x - std::sin(radians) * offset, at.position.y + std::cos(radians) * offset};
 }
 

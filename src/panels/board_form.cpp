@@ -1,8 +1,10 @@
 #include "panels/board_form.h"
 
+#include "document/limits.h"
 #include "editing/content_box.h"
 #include "editing/level_edits.h"
 #include "editing/measure_format.h"
+#include "editing/polygons.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,8 +14,7 @@ namespace trassix {
 
 namespace {
 
-constexpr double kAnyLength = 1e9; // mm: the limits of a board are its own
-constexpr double kSame = 0.001;    // mm: plans are saved with four decimals
+constexpr double kSame = 0.001; // mm: plans are saved with four decimals
 
 Point topLeft(const std::vector<Point>& outline) {
   constexpr double kFar = std::numeric_limits<double>::max();
@@ -57,7 +58,7 @@ LastShape startingShape(const Layout& layout) {
 BoardForm::BoardForm(const Layout& layout) : layout_(layout), shape_(selectedShape(layout)) {
   const LastShape start = startingShape(layout);
   for (const double length : {start.w, start.h, start.w2, start.h2})
-    measures_.emplace_back(length, layout.settings().units, -kAnyLength, kAnyLength);
+    measures_.emplace_back(length, layout.settings().units, -kFarthest, kFarthest);
   choice_ = static_cast<Choice>(start.kind);
   const std::vector<Point>& present = layout.settings().baseboard;
   if (!present.empty() && !sameOutline(present, movedTo(boardOutline(start), topLeft(present)))) {
@@ -96,7 +97,8 @@ std::string BoardForm::problem() const {
   for (std::size_t i = 0; i < kMeasures; ++i)
     if (!measureName(i).empty() && !measures_[i].problem().empty())
       return std::string(measureName(i)).append(": ").append(measures_[i].problem());
-  return boardProblem(*chosen, layout_.settings().units);
+  const std::string problem = boardProblem(*chosen, layout_.settings().units);
+  return problem.empty() ? std::string(outlineProblem(placed(*chosen))) : problem;
 }
 
 Point BoardForm::placeOf(const LastShape& shape) const {
@@ -109,11 +111,15 @@ Point BoardForm::placeOf(const LastShape& shape) const {
           std::round((content->minY + content->maxY - shape.h) / 2)};
 }
 
+std::vector<Point> BoardForm::placed(const LastShape& shape) const {
+  return movedTo(boardOutline(shape), placeOf(shape));
+}
+
 std::vector<Point> BoardForm::outline() const {
   if (choice_ == Choice::None || !problem().empty())
     return {};
   if (const std::optional<LastShape> chosen = shape())
-    return movedTo(boardOutline(*chosen), placeOf(*chosen));
+    return placed(*chosen);
   return free_;
 }
 

@@ -52,6 +52,7 @@ class BoardForm {
 
  private:
   Point placeOf(const LastShape& shape) const;
+  std::vector<Point> placed(const LastShape& shape) const;
 
   const Layout& layout_;
   const Shape* shape_; ///< the selected one

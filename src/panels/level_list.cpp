@@ -1,5 +1,7 @@
 #include "panels/level_list.h"
 
+#include "document/limits.h"
+
 #include <algorithm>
 #include <set>
 
@@ -115,13 +117,16 @@ void LevelList::outlineFromShape(std::size_t place) {
 
 std::size_t LevelList::add() {
   Level level;
-  level.id = nextId_++;
+  level.id = nextId_;
+  do
+    ++nextId_;
+  while (std::ranges::any_of(rows_, [this](const Row& row) { return row.level.id == nextId_; }));
   std::int32_t number = level.id;
   do
     level.name = numbered(number++);
   while (nameTaken(level.name, rows_.size()));
   for (const Row& row : rows_)
-    level.height = std::max(level.height, row.level.height + kStorey);
+    level.height = std::max(level.height, std::min(row.level.height + kStorey, kFarthest));
   append(level);
   return rows_.size() - 1;
 }
@@ -212,12 +217,12 @@ LevelChange LevelList::change() const {
   return wanted;
 }
 
-bool LevelList::apply(Layout& layout) const {
+ChangeResult LevelList::apply(Layout& layout) const {
   if (firstProblem())
     return false;
   const LevelChange wanted = change();
   // Listing a level that the plan lacks is no edit yet.
-  return wanted != before_ && setLevels(layout, wanted);
+  return wanted == before_ ? false : setLevels(layout, wanted);
 }
 
 } // namespace trassix

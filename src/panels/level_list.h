@@ -69,8 +69,8 @@ class LevelList {
   /// The first level with a problem.
   std::optional<std::size_t> firstProblem() const;
 
-  /// One undo step. False and nothing changed when nothing was edited or something is refused.
-  bool apply(Layout& layout) const;
+  /// One undo step. Nothing changes when nothing was edited or something is refused.
+  ChangeResult apply(Layout& layout) const;
 
  private:
   void append(const Level& level);

@@ -1,5 +1,6 @@
 #include "panels/property_changes.h"
 
+#include "document/limits.h"
 #include "editing/annotations.h"
 #include "editing/joining.h"
 #include "editing/measure_format.h"
@@ -8,6 +9,7 @@
 #include "editing/selection.h"
 #include "panels/measure_input.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -15,16 +17,33 @@ namespace trassix {
 
 namespace {
 
-constexpr double kFarthest = 1e6; // mm: no plan is wider than a kilometre
 constexpr double kHighest = 10000;
 constexpr double kSmallest = 1;
 constexpr double kLargest = 100000;
+
+/// What a scenery item measures when it is not scaled.
+Footprint unscaledSize(const Layout& layout, SceneryItem item) {
+  item.scalex = item.scaley = 1;
+  return sceneryFootprint(layout, item);
+}
 
 bool movesIt(PropertyId id) {
   return id == PropertyId::X || id == PropertyId::Y || id == PropertyId::Heading;
 }
 
-NumberInput readNumber(PropertyId id, const std::string& text, std::int32_t units) {
+double scaleTo(double size, double unscaled) {
+  return std::clamp(size / unscaled, kSmallestScale, kLargestScale);
+}
+
+NumberInput readSize(const std::string& text, std::int32_t units, double unscaled) {
+  return readLength(text, units, std::max(kSmallest, unscaled * kSmallestScale),
+                    std::min(kLargest, unscaled * kLargestScale));
+}
+
+NumberInput readNumber(const Layout& layout, PropertyId id, const SelectedRecord& record,
+                       const std::string& text) {
+  const std::int32_t units = layout.settings().units;
+  const auto* item = std::get_if<const SceneryItem*>(&record);
   switch (id) {
   case PropertyId::X:
   case PropertyId::Y:
@@ -32,8 +51,9 @@ NumberInput readNumber(PropertyId id, const std::string& text, std::int32_t unit
   case PropertyId::Height:
     return readLength(text, units, -kHighest, kHighest);
   case PropertyId::Width:
+    return readSize(text, units, unscaledSize(layout, **item).width);
   case PropertyId::Depth:
-    return readLength(text, units, kSmallest, kLargest);
+    return readSize(text, units, unscaledSize(layout, **item).depth);
   case PropertyId::Heading:
     return readHeading(text);
   case PropertyId::Opacity:
@@ -67,10 +87,10 @@ struct RecordEdit {
 
   const std::string& text() const { return std::get<std::string>(value); }
 
-  bool operator()(std::monostate) const { return false; }
-  bool operator()(const Measurement*) const { return false; }
+  ChangeResult operator()(std::monostate) const { return false; }
+  ChangeResult operator()(const Measurement*) const { return false; }
 
-  bool operator()(const PlacedPiece* piece) const {
+  ChangeResult operator()(const PlacedPiece* piece) const {
     if (id == PropertyId::Height)
       return setTrackHeight(layout, piece->id, number);
     Pose pose = poseOf(*piece);
@@ -85,24 +105,21 @@ struct RecordEdit {
     return setPiecePose(layout, piece->id, pose);
   }
 
-  bool operator()(const SceneryItem* item) const {
+  ChangeResult operator()(const SceneryItem* item) const {
     SceneryItem wanted = *item;
-    wanted.scalex = wanted.scaley = 1;
-    const Footprint size = sceneryFootprint(layout, wanted);
-    wanted.scalex = item->scalex;
-    wanted.scaley = item->scaley;
+    const Footprint size = unscaledSize(layout, *item);
     if (id == PropertyId::Heading)
       wanted.heading = number;
     else if (id == PropertyId::Width)
-      wanted.scalex = std::copysign(number / size.width, item->scalex);
+      wanted.scalex = scaleTo(number, size.width);
     else if (id == PropertyId::Depth)
-      wanted.scaley = std::copysign(number / size.depth, item->scaley);
+      wanted.scaley = scaleTo(number, size.depth);
     else
       move(wanted, id, number);
     return replaceRecord(layout, wanted);
   }
 
-  bool operator()(const Label* label) const {
+  ChangeResult operator()(const Label* label) const {
     Label wanted = *label;
     if (id == PropertyId::Text)
       wanted.text = text();
@@ -111,7 +128,7 @@ struct RecordEdit {
     return replaceRecord(layout, wanted);
   }
 
-  bool operator()(const Shape* shape) const {
+  ChangeResult operator()(const Shape* shape) const {
     Shape wanted = *shape;
     if (id == PropertyId::Text)
       wanted.label = text();
@@ -136,9 +153,13 @@ std::optional<Notice> lockOf(const Layout& layout, PropertyId id, const Selected
   return lockGuard(layout, chainOf(layout, (*piece)->id), "lift");
 }
 
-bool setLevel(Layout& layout, std::size_t choice) {
+ChangeResult setLevel(Layout& layout, std::size_t choice) {
   const auto& levels = layout.settings().levels;
-  return choice < levels.size() && setSelectedLevel(layout, levels[choice].id);
+  return choice < levels.size() ? setSelectedLevel(layout, levels[choice].id) : false;
+}
+
+PropertyAnswer answer(ChangeResult result) {
+  return {result.changed, {}, std::move(result.refusal)};
 }
 
 } // namespace
@@ -152,7 +173,7 @@ PropertyAnswer setProperty(Layout& layout, PropertyId id, const PropertyValue& v
   const SelectedRecord record = selectedRecord(layout);
   const bool onShape = std::holds_alternative<const Shape*>(record);
   if (id == PropertyId::Level)
-    return {setLevel(layout, std::get<std::size_t>(value)), {}, {}};
+    return answer(setLevel(layout, std::get<std::size_t>(value)));
   if (id == PropertyId::Color && !onShape)
     return {setSelectedColor(layout, std::get<OwnColor>(value)), {}, {}};
 
@@ -163,7 +184,7 @@ PropertyAnswer setProperty(Layout& layout, PropertyId id, const PropertyValue& v
         return {false, "A label needs a text.", {}};
     } else {
       const std::int32_t units = layout.settings().units;
-      const NumberInput input = readNumber(id, *text, units);
+      const NumberInput input = readNumber(layout, id, record, *text);
       if (!input.good())
         return {false, input.problem, {}};
       number = input.value;
@@ -174,7 +195,7 @@ PropertyAnswer setProperty(Layout& layout, PropertyId id, const PropertyValue& v
   }
   if (std::optional<Notice> refusal = lockOf(layout, id, record))
     return {false, {}, std::move(refusal)};
-  return {std::visit(RecordEdit{layout, id, number, value, confirm}, record), {}, {}};
+  return answer(std::visit(RecordEdit{layout, id, number, value, confirm}, record));
 }
 
 } // namespace trassix

@@ -2,6 +2,7 @@
 
 #include "editing/annotations.h"
 #include "editing/measure_format.h"
+#include "editing/polygons.h"
 
 #include <algorithm>
 #include <cmath>
@@ -79,25 +80,29 @@ RectangleForm::RectangleForm(const Layout& layout, Point centre)
       depth_(usualSize(layout.settings().units, 400, 16), layout.settings().units, kSmallest,
              kLargest) {}
 
+std::vector<Point> RectangleForm::corners() const {
+  const double right = width_.mm() / 2;
+  const double down = depth_.mm() / 2;
+  return {{centre_.x - right, centre_.y - down},
+          {centre_.x + right, centre_.y - down},
+          {centre_.x + right, centre_.y + down},
+          {centre_.x - right, centre_.y + down}};
+}
+
 std::string RectangleForm::problem() const {
   for (const std::string& problem :
        {named("Width", width_.problem()), named("Depth", depth_.problem()),
         named("Height", height().problem())})
     if (!problem.empty())
       return problem;
-  return {};
+  return std::string(outlineProblem(corners()));
 }
 
 bool RectangleForm::place(Layout& layout) const {
   if (!problem().empty())
     return false;
-  const double right = width_.mm() / 2;
-  const double down = depth_.mm() / 2;
   Shape placed = shape;
-  placed.points = {{centre_.x - right, centre_.y - down},
-                   {centre_.x + right, centre_.y - down},
-                   {centre_.x + right, centre_.y + down},
-                   {centre_.x - right, centre_.y + down}};
+  placed.points = corners();
   return addShape(layout, placed) != -1;
 }
 

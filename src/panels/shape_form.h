@@ -54,6 +54,8 @@ class RectangleForm : public ShapeForm {
   bool place(Layout& layout) const;
 
  private:
+  std::vector<Point> corners() const;
+
   Point centre_;
   LengthEntry width_;
   LengthEntry depth_;

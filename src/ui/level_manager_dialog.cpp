@@ -375,7 +375,7 @@ void LevelManagerDialog::onCharHook(wxKeyEvent& event) {
     event.Skip();
 }
 
-bool LevelManagerDialog::apply() {
+ChangeResult LevelManagerDialog::apply() {
   return levels_.apply(layout_);
 }
 

@@ -24,7 +24,7 @@ class LevelManagerDialog : public wxDialog {
  public:
   LevelManagerDialog(wxWindow* parent, trassix::Layout& layout);
 
-  bool apply();
+  ChangeResult apply();
 
   /// The level whose outline the user wants to draw now.
   std::optional<std::int32_t> levelToDraw() const { return levelToDraw_; }

@@ -31,7 +31,10 @@ void MainFrame::manageLevels() {
   LevelManagerDialog dialog(this, layout_);
   if (dialog.ShowModal() != wxID_OK)
     return;
-  if (dialog.apply()) {
+  const ChangeResult applied = dialog.apply();
+  if (applied.refusal)
+    show(*applied.refusal);
+  if (applied) {
     selectionChanged();
     changed();
   }

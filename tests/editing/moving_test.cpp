@@ -1,9 +1,15 @@
+#include "editing/annotations.h"
+#include "editing/block_placing.h"
+#include "editing/level_edits.h"
 #include "editing/moving.h"
 #include "editing/placing.h"
+#include "editing/property_edits.h"
 #include "editing/selection.h"
 #include "support/plan.h"
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace trassix {
 namespace {
@@ -75,6 +81,84 @@ TEST(Moving, NudgesAreOneStepAndTakeNotesAlong) {
   EXPECT_TRUE(nudgeSelection(layout, 0, -1, true));
   EXPECT_EQ(layout.content(), before);
   EXPECT_FALSE(nudgeSelection(layout, 0, 0, false));
+}
+
+TEST(Edge, NothingGoesBeyondThePlan) {
+  Plan plan = Plan().place("24188", {999'800, 999'000, 0}).place("24188");
+  Layout& layout = plan.layout;
+  layout.editPiece(1)->z = 999'950;
+  layout.ensureLevel(2);
+  layout.editSettings().levels[1].height = 100;
+  dropScenery(layout, "74861", {});
+  addShape(layout, {{-1e6, -1e6}, {0, 0}, {0, 50}});
+  layout.editPiece(1)->sel = true;
+  nudgeSelection(layout, 1, 1, false);
+  layout.undo();
+  const auto refusedIf = [](bool none) {
+    return none ? std::optional(beyondPlan()) : std::nullopt;
+  };
+  const struct {
+    const char* name;
+    std::function<std::optional<Notice>(Layout&)> refusal;
+  } cases[] = {
+      {"drop",
+       [](Layout& l) {
+         return dropPiece(l, "24188", {0, 1e19, 0}, {}, true).refusal;
+       }},
+      {"far end",
+       [](Layout& l) {
+         return dropPiece(l, "24188", {-999'900, 0, 180}, {}, true).refusal;
+       }},
+      {"clone", [](Layout& l) { return cloneAndExtend(l, 1).refusal; }},
+      {"extend", [](Layout& l) { return extendSelected(l, "24188").refusal; }},
+      {"scenery",
+       [](Layout& l) {
+         return dropScenery(l, "74861", {-1e7, 0, 0}).refusal;
+       }},
+      {"block",
+       [](Layout& l) {
+         return placeBlock(l, blockFromSelection(l), {300, 0, 0}).refusal;
+       }},
+      {"nudge", [](Layout& l) { return nudgeSelection(l, 201, 0, false).refusal; }},
+      {"turn", [](Layout& l) { return rotateSelection(l, 45).refusal; }},
+      {"drag",
+       [](Layout& l) {
+         SelectionMove move(l, {0, 0});
+         move.update({0, -9}, false, SnapIndex(l));
+         return move.commit(l).refusal;
+       }},
+      {"height", [](Layout& l) { return setTrackHeight(l, 2, -1e7).refusal; }},
+      {"level", [](Layout& l) { return setSelectedLevel(l, 2).refusal; }},
+      {"levels",
+       [](Layout& l) {
+         LevelChange change{l.settings().levels, 1, {}, {}};
+         change.levels[0].height = 51;
+         return setLevels(l, change).refusal;
+       }},
+      {"pose",
+       [&](Layout& l) {
+         return refusedIf(!setPiecePose(l, 2, {2e6, 0, 0}));
+       }},
+      {"label",
+       [&](Layout& l) {
+         return refusedIf(addLabel(l, {0, 2e6}, "x") == -1);
+       }},
+      {"tape",
+       [&](Layout& l) {
+         return refusedIf(addMeasurement(l, {}, {2e6, 0}) == -1);
+       }},
+      {"record",
+       [&](Layout& l) {
+         SceneryItem item = l.content().scenery[0];
+         item.scalex = 1001;
+         return refusedIf(!replaceRecord(l, item));
+       }},
+  };
+  const std::uint64_t before = layout.revision();
+  for (const auto& c : cases) {
+    EXPECT_EQ(c.refusal(layout), beyondPlan()) << c.name;
+    EXPECT_TRUE(layout.revision() == before && layout.canRedo()) << c.name;
+  }
 }
 
 } // namespace

@@ -28,6 +28,9 @@ TEST(Outlines, NeitherCrossNorTouchThemselves) {
       {"closing", {{0, 0}, {100, 0}, {100, 50}, {30, 50}, {30, 100}, {200, 20}}, false, false},
       {"arrow", {{0, 0}, {50, 80}, {100, 0}, {50, 200}}, true, false},
       {"corner on an edge", {{0, 0}, {100, 0}, {100, 100}, {50, 0}, {0, 100}}, false, true},
+      {"beyond the plan", {{0, 0}, {1e19, 0}, {0, 1e19}}, false, false},
+      {"at its edge", {{-1e6, -1e6}, {1e6, -1e6}, {1e6, 1e6}}, true, false},
+      {"tiny", {{0, 0}, {1e-320, 0}, {0, 1e-320}}, true, false},
       {"star", {{0, 0}, {100, 60}, {0, 60}, {100, 0}, {50, 100}}, false, true},
   };
   for (const Case& c : cases) {

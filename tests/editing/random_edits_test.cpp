@@ -115,9 +115,9 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
     case Extend:
       return extendSelected(layout_, article.article).changed();
     case Rotate:
-      return rotateSelection(layout_, any(-3, 3) * 15.0);
+      return rotateSelection(layout_, any(-3, 3) * 15.0).changed;
     case Nudge:
-      return nudgeSelection(layout_, any(-2, 2), any(-2, 2), false);
+      return nudgeSelection(layout_, any(-2, 2), any(-2, 2), false).changed;
     case Delete:
       return deleteSelection(layout_);
     case Duplicate: {
@@ -147,13 +147,13 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
         levels.remove(place, any(0, 1) == 0 ? std::nullopt : std::optional((place + 1) % 4));
       levels.enterHeight(0, std::to_string(any(0, 4) * 40));
       levels.setVisible(1, any(0, 2) != 0);
-      return levels.apply(layout_);
+      return levels.apply(layout_).changed;
     }
     case Move: {
       SelectionMove move(layout_, {layout_.findPiece(id)->x, layout_.findPiece(id)->y});
       any(0, 3) == 0 ? move.turn({pose.x, pose.y}, pose.heading)
                      : move.update({pose.x, pose.y}, any(0, 4) != 0, index);
-      return move.commit(layout_);
+      return move.commit(layout_).changed;
     }
     default:
       const auto spot = findInsertSpot(layout_, index, article, pose);

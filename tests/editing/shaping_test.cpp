@@ -59,6 +59,31 @@ TEST(Swapping, KeepsThePlaceTheJointsAndTheHeights) {
   }
 }
 
+TEST(Swapping, AndInsertingLeaveOneSidedJointsAlone) {
+  Plan plan = Plan().place("24188").extend("24188").extend("24188");
+  Layout& layout = plan.layout;
+  const std::vector<PlacedPiece> sound = layout.pieces();
+  // What piece 2 says of its connector 1: pieces and ends that are not there, and one that is
+  // taken.
+  for (const Joint foreign : {Joint{9, 0}, Joint{3, 47}, Joint{1, 1}, Joint{2, 0}}) {
+    SCOPED_TRACE(foreign.tconn);
+    layout.edit().pieces = sound;
+    layout.editPiece(2)->joints[1] = foreign;
+    layout.editPiece(2)->joints.resize(47);
+    layout.editPiece(2)->joints[46] = {3, 1};
+    EXPECT_EQ(chainOf(layout, 2), (std::vector<std::int32_t>{1, 2}));
+    EXPECT_FALSE(insertPiece(layout, "24188", {2, 1, 0, 1, {}}).changed());
+    const std::vector<SwapFit> fits = swapFits(layout, 2);
+    const auto turned = std::ranges::find_if(fits, [](const SwapFit& fit) {
+      return fit.ends == std::vector<std::int32_t>{1, 0};
+    });
+    ASSERT_TRUE(turned != fits.end() && swapPiece(layout, 2, *turned));
+    EXPECT_EQ(layout.findPiece(2)->joint(0), foreign);
+    EXPECT_EQ(layout.findPiece(1)->joints, (JointTable{{}, {2, 1}}));
+    EXPECT_EQ(layout.findPiece(3)->joints, sound[2].joints);
+  }
+}
+
 /// Five straights in a row, the second one shorter.
 Plan row() {
   Plan plan = Plan().place("24188").extend("24077").extend("24188", 3);

@@ -96,6 +96,7 @@ TEST(Baseboard, impossibleMeasuresAreRefusedWithTheReason) {
       {Choice::U, 2, "1000 mm", "Two arms of this width leave no room between them."},
       {Choice::T, 2, "3000 mm", "Width of the stem must be less"},
       {Choice::T, 3, "0", "Depth of the bar: at least"},
+      {Choice::L, 2, "1001 m", "Width of the arm: At most"},
       {Choice::Rectangle, 2, "0", ""}, // a rectangle has no arm
       {Choice::None, 0, "wide", ""},
       {Choice::Free, 0, "", "Draw the outline"},
@@ -138,6 +139,8 @@ TEST(Baseboard, goesWhereTheOldOneWasOrUnderTheTrack) {
   EXPECT_TRUE(form.apply(layout));
   EXPECT_TRUE(layout.settings().baseboard.empty());
   EXPECT_EQ(layout.settings().lastShape.w, 400);
+  layout.edit().shapes = {test::shapeOf(1, {{1e6, 0}, {1e6, 9}, {999'999, 9}})};
+  EXPECT_THAT(BoardForm(layout).problem(), HasSubstr("beyond the plan"));
 }
 
 TEST(Baseboard, aShapeOrADrawnPolygonBecomesIt) {
@@ -193,6 +196,7 @@ TEST(ShapeForms, aRectangleIsExactAndSelected) {
     form.enterWidth(bad);
     EXPECT_FALSE(form.place(layout)) << bad;
   }
+  EXPECT_NE(RectangleForm(layout, {0, 999'900}).problem(), ""); // beyond the plan
   EXPECT_THAT(form.problem(), testing::StartsWith("Width: "));
   form.enterWidth("10 in");
   form.enterDepth("100");

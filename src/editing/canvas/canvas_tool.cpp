@@ -23,6 +23,13 @@ void ToolSite::report(const EditResult& result) {
   host.changed();
 }
 
+void ToolSite::report(const ChangeResult& result) {
+  if (result.refusal)
+    host.show(*result.refusal);
+  if (result.changed)
+    host.changed();
+}
+
 void ToolSite::reportExtension(const EditResult& result) {
   if (const std::optional<Box> box = result.changed() ? selectionBox(layout()) : std::nullopt)
     view.reveal(*box, size.width, size.height);

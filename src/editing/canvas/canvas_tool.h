@@ -78,6 +78,7 @@ class ToolSite {
 
   /// Tells the window what an edit did: a refusal in words, or that the plan has changed.
   void report(const EditResult& result);
+  void report(const ChangeResult& result);
   /// The same of an edit that went on from the selection, perhaps out of view: the view follows.
   void reportExtension(const EditResult& result);
 

@@ -35,15 +35,11 @@ std::int32_t CarryPieceTool::joiningEnd() const {
 }
 
 void CarryPieceTool::paint(Surface& surface) const {
-  PlacedPiece ghost;
   const Pose at = landing();
-  ghost.x = at.x;
-  ghost.y = at.y;
-  ghost.heading = at.heading;
   const std::int32_t joining = joiningEnd();
   PiecePainter(surface, site_.view)
       .paint(trackGeometryOf(definition_), at, carriedLook(joining != -1));
-  for (const WorldConnector& end : WorldConnectorsOf(ghost, definition_)) {
+  for (const WorldConnector& end : WorldConnectorsOf(pieceAt(at), definition_)) {
     const bool joins = end.index == joining;
     surface.circle(site_.view.toScreen({end.x, end.y}), joins ? 6 : 3.5,
                    joins ? plan_colors::kSnapped : plan_colors::kPaper,

@@ -124,8 +124,8 @@ void LayoutPainter::paintGrid(std::int32_t units) {
   std::vector<Point> fine;
   std::vector<Point> coarse;
   const auto lines = [&](double from, double to, auto add) {
-    const auto last = static_cast<long>(std::floor(to / steps.fine));
-    for (auto i = static_cast<long>(std::ceil(from / steps.fine)); i <= last; ++i)
+    const auto last = static_cast<std::int64_t>(std::floor(to / steps.fine));
+    for (auto i = static_cast<std::int64_t>(std::ceil(from / steps.fine)); i <= last; ++i)
       add(i % steps.major == 0 ? coarse : fine, static_cast<double>(i) * steps.fine);
   };
   // Half-pixel positions keep one-pixel lines crisp.
@@ -334,7 +334,7 @@ void LayoutPainter::paintArticles(std::span<const Visible> pieces) {
     const double angle = uprightAngle(heading);
     // Curves bend away from the text on one side only, so places farther out are tried as well.
     for (const auto& [side, farther] : kArticlePlaces) {
-      const double across = (heading + 90 * side) * kPi / 180;
+      const double across = toRadians(heading + 90 * side);
       const double reach = away + farther;
       const Point at{spot.x + std::cos(across) * reach, spot.y + std::sin(across) * reach};
       if (!taken.isFree(at, {box.width - 2, box.height - 5}, angle))
@@ -389,7 +389,7 @@ void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to
   const std::string text = formatLength(std::hypot(to.x - from.x, to.y - from.y), units);
   const TextStyle style{color, 12, true};
   const double angle = uprightAngle(std::atan2(along.y, along.x) * 180 / kPi);
-  const double up = (angle - 90) * kPi / 180;
+  const double up = toRadians(angle - 90);
   surface.text(text, {(a.x + b.x) / 2 + std::cos(up) * 10, (a.y + b.y) / 2 + std::sin(up) * 10},
                angle, style);
 }

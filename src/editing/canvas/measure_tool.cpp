@@ -59,7 +59,8 @@ void MeasureTool::release(const PointerInput& input, bool dragged) {
   // A hand that shook at the first click has drawn nothing yet.
   if (std::hypot(to_.x - from_->x, to_.y - from_->y) <= (dragged ? site_.mm(kCatchPx) : 0))
     return;
-  addMeasurement(site_.layout(), *from_, to_);
+  if (addMeasurement(site_.layout(), *from_, to_) == -1)
+    return site_.host.show(beyondPlan());
   from_.reset();
   site_.host.selectionChanged();
   site_.host.changed();

@@ -66,10 +66,9 @@ bool MoveGesture::allowed() {
 }
 
 void MoveGesture::drop() {
-  if (allowed() && move_.commit(site_.layout()))
-    site_.host.changed();
-  else
-    site_.host.repaint();
+  if (allowed())
+    site_.report(move_.commit(site_.layout()));
+  site_.host.repaint();
 }
 
 void MoveGesture::paint(Surface& surface) const {

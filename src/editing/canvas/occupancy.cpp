@@ -41,8 +41,8 @@ void Occupancy::mark(const std::vector<Point>& line, double halfWidth) {
 
 template <typename Visit>
 bool Occupancy::visitBox(Point centre, SizePx box, double degrees, Visit visit) const {
-  const double c = std::cos(degrees * kPi / 180);
-  const double s = std::sin(degrees * kPi / 180);
+  const double c = std::cos(toRadians(degrees));
+  const double s = std::sin(toRadians(degrees));
   const int across = static_cast<int>(box.width / kCellPx) + 1;
   const int down = static_cast<int>(box.height / kCellPx) + 1;
   for (int j = 0; j <= down; ++j) {

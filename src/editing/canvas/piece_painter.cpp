@@ -30,8 +30,8 @@ bool PiecePainter::fromAfar(const TrackGeometry& geometry) const {
 const std::vector<Point>& PiecePainter::toScreen(const std::vector<Point>& local,
                                                  const Pose& pose) {
   const double zoom = view_.zoom();
-  const double c = std::cos(pose.heading * kPi / 180) * zoom;
-  const double s = std::sin(pose.heading * kPi / 180) * zoom;
+  const double c = std::cos(toRadians(pose.heading)) * zoom;
+  const double s = std::sin(toRadians(pose.heading)) * zoom;
   const Point at = view_.toScreen({pose.x, pose.y});
   buffer_.resize(local.size());
   for (std::size_t i = 0; i < local.size(); ++i)

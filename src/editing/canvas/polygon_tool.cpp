@@ -1,5 +1,6 @@
 #include "editing/canvas/polygon_tool.h"
 
+#include "document/limits.h"
 #include "editing/annotations.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/level_edits.h"
@@ -55,6 +56,8 @@ void PolygonTool::release(const PointerInput& input, bool) {
     close();
     return;
   }
+  if (!inLimits(input.world))
+    return site_.host.show(beyondPlan());
   if (points_.empty() || points_.back() != input.world)
     points_.push_back(input.world);
   site_.host.repaint();

@@ -157,10 +157,10 @@ bool SelectTool::nudge(const KeyInput& input) {
   const double length = input.shift ? kFineNudge : kNudge;
   if (!continued && !mayLeave({step.x * length, step.y * length}))
     return true;
-  if (nudgeSelection(layout, step.x * length, step.y * length, continued)) {
+  const ChangeResult nudged = nudgeSelection(layout, step.x * length, step.y * length, continued);
+  if (nudged)
     nudgedTo_ = layout.revision();
-    site_.host.changed();
-  }
+  site_.report(nudged);
   return true;
 }
 

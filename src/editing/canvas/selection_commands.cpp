@@ -22,8 +22,8 @@ bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const char* title
 }
 
 void turnSelection(ToolSite& site, double degrees) {
-  if (!refuseLocked(site, "rotate") && rotateSelection(site.layout(), degrees))
-    site.host.changed();
+  if (!refuseLocked(site, "rotate"))
+    site.report(rotateSelection(site.layout(), degrees));
 }
 
 void cutSelection(ToolSite& site) {

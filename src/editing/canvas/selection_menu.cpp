@@ -1,5 +1,6 @@
 #include "editing/canvas/selection_menu.h"
 
+#include "document/limits.h"
 #include "editing/annotations.h"
 #include "editing/autofill.h"
 #include "editing/canvas/autofill_command.h"
@@ -100,6 +101,8 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
                     site.host.selectionChanged();
                   }});
   rows.push_back({"Add Label Here...", "", true, [&site, at] {
+                    if (!inLimits(at))
+                      return site.host.show(beyondPlan());
                     const auto text = site.host.askText("Add Label", "Text:", "");
                     if (!text || addLabel(site.layout(), at, *text) == -1)
                       return;

@@ -243,5 +243,19 @@ TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
   EXPECT_EQ(openEnds(script.host.plan), 2);
 }
 
+TEST(SelectTool, LikeTheOthersSaysWhatWouldLieBeyondThePlan) {
+  constexpr Point kBeyond{1'000'001, 0};
+  CanvasScript script(row());
+  script.drag(kOnFirst, kBeyond);
+  script.takeFromMenu(kBeyond, "Add Label");
+  script.setMode(ToolMode::Measure);
+  script.click({0, 900});
+  script.click(kBeyond);
+  script.setMode(ToolMode::Polygon);
+  script.click(kBeyond);
+  EXPECT_EQ(script.host.notices, std::vector<Notice>(4, beyondPlan()));
+  EXPECT_EQ(script.host.changes, 0);
+}
+
 } // namespace
 } // namespace trassix::test
