@@ -43,10 +43,10 @@ void pushHistory(benchmark::State& state, bool full) {
     benchmark::DoNotOptimize(copy.get());
   };
   for (std::size_t i = 0; full && i < History::kUndoLimit; ++i) {
-    history.push(content);
+    history.push(history.snapshot(content));
     copyBytes(true);
   }
-  const auto push = [&] { history.push(content); };
+  const auto push = [&] { history.push(history.snapshot(content)); };
   const auto copy = [&] { copyBytes(!full); };
   if (full) {
     compare(state, 3.0, push, copy);
@@ -55,7 +55,7 @@ void pushHistory(benchmark::State& state, bool full) {
   const auto fillHistory = [&] {
     History fresh;
     for (int i = 0; i < 10; ++i)
-      fresh.push(content);
+      fresh.push(fresh.snapshot(content));
   };
   const auto fillMemory = [&] {
     std::vector<std::unique_ptr<char[]>> fresh(10);
@@ -73,7 +73,7 @@ BENCHMARK_CAPTURE(pushHistory, fresh, false)->Arg(10000)->Arg(100000)->UseManual
 void pushGrowth(benchmark::State& state) {
   growth(state, 2.0, [](int pieces) {
     return [content = test::randomPlan(1, pieces).content(), history = History()]() mutable {
-      history.push(content);
+      history.push(history.snapshot(content));
     };
   });
 }

@@ -17,16 +17,16 @@ bool step(std::deque<PlanContent>& from, std::deque<PlanContent>& to, PlanConten
 
 } // namespace
 
-void History::push(const PlanContent& content) {
-  if (undo_.size() < kUndoLimit) {
-    undo_.push_back(content);
-  } else {
-    // Copying over the oldest snapshot reuses its storage, which is most of the cost of a copy.
-    PlanContent oldest = std::move(undo_.front());
-    oldest = content;
-    while (undo_.size() >= kUndoLimit)
-      undo_.pop_front();
-    undo_.push_back(std::move(oldest));
+PlanContent History::snapshot(const PlanContent& content) {
+  dropped_ = content;
+  return std::exchange(dropped_, {});
+}
+
+void History::push(PlanContent snapshot) {
+  undo_.push_back(std::move(snapshot));
+  while (undo_.size() > kUndoLimit) {
+    dropped_ = std::move(undo_.front());
+    undo_.pop_front();
   }
   redo_.clear();
 }
@@ -42,6 +42,7 @@ bool History::redo(PlanContent& content) {
 void History::clear() {
   undo_.clear();
   redo_.clear();
+  dropped_ = {};
 }
 
 } // namespace trassix

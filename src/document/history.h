@@ -13,8 +13,12 @@ class History {
  public:
   static constexpr std::size_t kUndoLimit = 50;
 
+  /// A copy to be pushed if it is needed. It takes over the storage of the snapshot that was
+  /// dropped last, which saves most of the cost of a copy.
+  PlanContent snapshot(const PlanContent& content);
+
   /// Appends a snapshot, drops the oldest beyond the limit and forgets everything undone.
-  void push(const PlanContent& content);
+  void push(PlanContent snapshot);
 
   /// Swaps `content` with the newest snapshot; false when there is none. Neither direction applies
   /// the limit.
@@ -36,6 +40,7 @@ class History {
  private:
   std::deque<PlanContent> undo_;
   std::deque<PlanContent> redo_;
+  PlanContent dropped_; ///< for its storage
 };
 
 } // namespace trassix

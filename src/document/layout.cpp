@@ -189,7 +189,7 @@ void Layout::clear() {
 }
 
 void Layout::pushHistory() {
-  history_.push(content_);
+  history_.push(history_.snapshot(content_));
 }
 
 bool Layout::undo() {

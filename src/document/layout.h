@@ -82,7 +82,8 @@ class Layout {
   /// Empties everything and forgets the history; ids start at 1 again.
   void clear();
 
-  /// Remembers the document as it is, to be called once by an edit that is going to change it.
+  /// Remembers the document as it is, to be called once before it is changed. Edits use an
+  /// `UndoScope`, which remembers only what turns out to be changed.
   void pushHistory();
   bool undo();
   bool redo();
@@ -90,6 +91,7 @@ class Layout {
   bool canRedo() const { return history_.canRedo(); }
 
  private:
+  friend class UndoScope;
   void stamp();
 
   PlanContent content_;
@@ -98,6 +100,7 @@ class Layout {
   bool reusingIds_ = false; ///< the counter has started over and must pass over ids in use
   History history_;
   std::uint64_t revision_ = 0;
+  bool inEdit_ = false; ///< an undo scope is open
 };
 
 } // namespace trassix

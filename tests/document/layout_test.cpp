@@ -1,4 +1,5 @@
 #include "document/layout.h"
+#include "document/undo_scope.h"
 #include "support/loose_records.h"
 
 #include <gtest/gtest.h>
@@ -106,6 +107,59 @@ TEST(Layout, levelsHaveTheirPresetNamesAndColours) {
   EXPECT_FALSE(layout.levelVisible(7));
   EXPECT_EQ(layout.levelHeight(7), 60);
   EXPECT_EQ(layout.levelHeight(2), 0);
+}
+
+TEST(UndoScope, keepsOneStepOrPutsEverythingBack) {
+  const struct {
+    const char* name;
+    void (*edit)(Layout&);
+    bool changes;
+  } cases[] = {
+      {"nothing", [](Layout&) {}, false},
+      {"only what is selected", [](Layout& plan) { plan.editPiece(1)->sel = true; }, false},
+      {"there and back", [](Layout& plan) { plan.edit().pieces[0].x += plan.takeId() * 0; }, false},
+      {"a level", [](Layout& plan) { plan.ensureLevel(4); }, true},
+      {"two edits",
+       [](Layout& plan) {
+         for (int i = 0; i < 2; ++i) {
+           UndoScope inner(plan);
+           plan.edit().pieces.push_back(pieceAt(plan.takeId(), i));
+           EXPECT_TRUE(inner.keep());
+         }
+       },
+       true},
+      {"one of two refused",
+       [](Layout& plan) {
+         plan.editPiece(1)->x = 5;
+         {
+           const UndoScope refused(plan);
+           plan.editPiece(1)->x = 9;
+         }
+         EXPECT_EQ(plan.findPiece(1)->x, 5);
+       },
+       true},
+  };
+  Layout start;
+  start.edit().pieces = {pieceAt(start.takeId(), 0)};
+  start.pushHistory();
+  start.undo();
+  for (const auto& [name, edit, changes] : cases) {
+    for (const bool keep : {false, true}) {
+      SCOPED_TRACE(name);
+      Layout plan = start;
+      {
+        UndoScope step(plan);
+        edit(plan);
+        EXPECT_EQ(keep && step.keep(), keep && changes);
+      }
+      EXPECT_EQ(plan.nextPieceId() != start.nextPieceId(),
+                keep && changes && plan.pieces().size() > 1);
+      EXPECT_EQ(plan.canRedo(), !(keep && changes));
+      EXPECT_EQ(plan.undo(), keep && changes);
+      EXPECT_TRUE(plan.content() == start.content());
+      EXPECT_FALSE(plan.canUndo());
+    }
+  }
 }
 
 } // namespace
