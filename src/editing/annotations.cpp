@@ -1,6 +1,7 @@
 #include "editing/annotations.h"
 
 #include "document/limits.h"
+#include "document/undo_scope.h"
 #include "editing/polygons.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ bool isBlank(std::string_view text) {
 std::int32_t addLabel(Layout& layout, Point at, std::string_view text) {
   if (isBlank(text) || !inLimits(at))
     return -1;
-  layout.pushHistory();
+  UndoScope step(layout);
   layout.clearSelection();
   Label label;
   label.id = layout.takeId();
@@ -31,16 +32,18 @@ std::int32_t addLabel(Layout& layout, Point at, std::string_view text) {
   label.y = at.y;
   label.sel = true;
   layout.edit().labels.push_back(label);
+  step.keep();
   return label.id;
 }
 
 std::int32_t addMeasurement(Layout& layout, Point from, Point to) {
   if (!inLimits(from) || !inLimits(to))
     return -1;
-  layout.pushHistory();
+  UndoScope step(layout);
   layout.clearSelection();
   const std::int32_t id = layout.takeId();
   layout.edit().measurements.push_back({id, from, to, true});
+  step.keep();
   return id;
 }
 
@@ -55,11 +58,12 @@ Shape usualShape(const Layout& layout) {
 std::int32_t addShape(Layout& layout, Shape shape) {
   if (!inLimits(shape) || !outlineProblem(shape.points).empty())
     return -1;
-  layout.pushHistory();
+  UndoScope step(layout);
   layout.clearSelection();
   shape.id = layout.takeId();
   shape.sel = true;
   layout.edit().shapes.push_back(std::move(shape));
+  step.keep();
   return layout.content().shapes.back().id;
 }
 
@@ -76,13 +80,13 @@ bool editLabelText(Layout& layout, std::int32_t label, std::string_view text) {
   if (found == labels.end() || found->text == text)
     return false;
   const auto position = found - labels.begin();
-  layout.pushHistory();
+  UndoScope step(layout);
   auto& edited = layout.edit().labels;
   if (isBlank(text))
     edited.erase(edited.begin() + position);
   else
     edited[static_cast<std::size_t>(position)].text = text;
-  return true;
+  return step.keep();
 }
 
 } // namespace trassix

@@ -2,6 +2,7 @@
 
 #include "catalog/plain_track.h"
 #include "catalog/track_catalog.h"
+#include "document/undo_scope.h"
 #include "editing/arc_fill.h"
 #include "editing/joining.h"
 #include "editing/placing.h"
@@ -183,7 +184,7 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
   if (!std::ranges::all_of(pieces,
                            [](const FillPiece& p) { return fitsPlan(*p.definition, p.pose); }))
     return {{}, beyondPlan()};
-  layout.pushHistory();
+  UndoScope step(layout);
   const std::int32_t level = start->level;
   const double height = start->z;
   const std::int32_t enter = candidate.reversed ? 1 : 0;
@@ -204,6 +205,7 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
     join(layout, before.target, before.tconn, gap.endPiece, gap.end.index);
   closeMeetingEnds(layout, placed);
   selectOnly(layout, placed.front());
+  step.keep();
   return {std::move(placed), std::nullopt};
 }
 

@@ -2,6 +2,7 @@
 
 #include "document/limits.h"
 #include "document/repairs.h"
+#include "document/undo_scope.h"
 #include "editing/joining.h"
 
 #include <algorithm>
@@ -79,7 +80,7 @@ EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose) {
   makeSound(block);
   if (!fitsPlan(block, pose))
     return {{}, beyondPlan()};
-  layout.pushHistory();
+  UndoScope step(layout);
   layout.clearSelection();
 
   std::vector<PlacedPiece> pieces = freshPieces(layout, block, pose);
@@ -100,6 +101,7 @@ EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose) {
   }
   createLevels(layout, block.pieces);
   closeMeetingEnds(layout, placedPieces);
+  step.keep();
   return result;
 }
 

@@ -2,6 +2,7 @@
 
 #include "catalog/track_catalog.h"
 #include "document/limits.h"
+#include "document/undo_scope.h"
 #include "editing/joining.h"
 #include "editing/placing.h"
 #include "editing/rigid_motion.h"
@@ -151,7 +152,7 @@ EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpo
   if (!fitsPlan(*definition, pose) || !staysInLimits(layout, moving, motion))
     return {{}, beyondPlan()};
 
-  layout.pushHistory();
+  UndoScope step(layout);
   openJoint(layout, spot.piece, spot.connector);
   const std::int32_t id = addPiece(layout, *definition, pose, fixed.level, fixed.z);
   movePieces(layout, moving, motion);
@@ -164,6 +165,7 @@ EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpo
   std::ranges::sort(touched);
   closeMeetingEnds(layout, touched);
   selectOnly(layout, id);
+  step.keep();
   return {{id}, std::nullopt};
 }
 

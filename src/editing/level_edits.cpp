@@ -1,6 +1,7 @@
 #include "editing/level_edits.h"
 
 #include "document/limits.h"
+#include "document/undo_scope.h"
 #include "editing/joining.h"
 #include "editing/polygons.h"
 #include "editing/selection.h"
@@ -159,7 +160,7 @@ ChangeResult setLevels(Layout& layout, const LevelChange& wanted) {
   const Fates fates = fatesOf(layout, wanted);
   if (!staysInLimits(layout, wanted, fates))
     return beyondPlan();
-  layout.pushHistory();
+  UndoScope step(layout);
   removeDoomed(layout.edit(), fates);
   openSteps(layout, moveToFates(layout.edit(), fates));
   if (wanted.usedShape)
@@ -168,16 +169,16 @@ ChangeResult setLevels(Layout& layout, const LevelChange& wanted) {
   settings.levels = wanted.levels;
   settings.activeLevel = wanted.activeLevel;
   deselectHidden(layout);
-  return true;
+  return step.keep();
 }
 
 bool setLevelOutline(Layout& layout, std::int32_t level, const std::vector<Point>& outline) {
   const Level* present = layout.findLevel(level);
   if (present == nullptr || !outlineProblem(outline).empty() || present->outline == outline)
     return false;
-  layout.pushHistory();
+  UndoScope step(layout);
   std::ranges::find(layout.editSettings().levels, level, &Level::id)->outline = outline;
-  return true;
+  return step.keep();
 }
 
 bool setBaseboard(Layout& layout, const std::vector<Point>& outline, const LastShape& shape) {
@@ -187,11 +188,11 @@ bool setBaseboard(Layout& layout, const std::vector<Point>& outline, const LastS
   if ((present.baseboard == wanted && present.lastShape == shape) ||
       (!wanted.empty() && !outlineProblem(wanted).empty()))
     return false;
-  layout.pushHistory();
+  UndoScope step(layout);
   PlanSettings& settings = layout.editSettings();
   settings.baseboard = wanted;
   settings.lastShape = shape;
-  return true;
+  return step.keep();
 }
 
 bool useAsBaseboard(Layout& layout, std::int32_t shape) {
@@ -199,10 +200,10 @@ bool useAsBaseboard(Layout& layout, std::int32_t shape) {
   const auto found = std::ranges::find(shapes, shape, &Shape::id);
   if (found == shapes.end() || !outlineProblem(found->points).empty())
     return false;
-  layout.pushHistory();
+  UndoScope step(layout);
   layout.editSettings().baseboard = found->points;
   removeShape(layout, shape);
-  return true;
+  return step.keep();
 }
 
 const Shape* selectedShape(const Layout& layout) {

@@ -1,15 +1,13 @@
 #include "editing/moving.h"
 
+#include "document/undo_scope.h"
 #include "editing/selection.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace trassix {
 
 namespace {
-
-constexpr double kStill = 1e-6; // mm and degrees: rounding of a snap back to where it was
 
 void moveSelected(Layout& layout, const RigidMotion& motion) {
   moveSelectedBodies(layout.edit(), motion);
@@ -85,8 +83,7 @@ bool SelectionMove::changes() const {
       layout_.findPiece(snappingPiece_)->joint(static_cast<std::size_t>(snap_->newConnector)) !=
           Joint{snap_->target, snap_->targetConnector})
     return true;
-  const double shift = std::hypot(motion_.to.x - motion_.from.x, motion_.to.y - motion_.from.y);
-  return shift > kStill || headingDifference(motion_.to.heading, 0) > kStill;
+  return !isStill({motion_.from.x, motion_.from.y, 0}, motion_.to);
 }
 
 ChangeResult SelectionMove::commit(Layout& layout) const {
@@ -94,7 +91,7 @@ ChangeResult SelectionMove::commit(Layout& layout) const {
     return false;
   if (!staysInLimits(layout.content(), motion_, rise_))
     return beyondPlan();
-  layout.pushHistory();
+  UndoScope step(layout);
   detach(layout, pieces_);
   moveSelected(layout, motion_);
   const PlacedPiece* target = snap_ ? layout.findPiece(snap_->target) : nullptr;
@@ -110,7 +107,7 @@ ChangeResult SelectionMove::commit(Layout& layout) const {
   }
   // Let go of by hand, ends that were joined a moment ago must not be joined again with a gap.
   closeMeetingEnds(layout, pieces_, snap_ ? MeetingPlay{} : MeetingPlay::none());
-  return true;
+  return step.keep();
 }
 
 ChangeResult nudgeSelection(Layout& layout, double dx, double dy, bool continued) {
@@ -119,13 +116,14 @@ ChangeResult nudgeSelection(Layout& layout, double dx, double dy, bool continued
   const RigidMotion motion{{0, 0}, {dx, dy, 0}};
   if (!staysInLimits(layout.content(), motion))
     return beyondPlan();
+  std::optional<UndoScope> step;
   if (!continued)
-    layout.pushHistory();
+    step.emplace(layout);
   const std::vector<std::int32_t> pieces = selectedPieces(layout);
   detach(layout, pieces);
   moveSelected(layout, motion);
   closeMeetingEnds(layout, pieces, MeetingPlay::none());
-  return true;
+  return continued || step->keep();
 }
 
 } // namespace trassix

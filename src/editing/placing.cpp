@@ -3,6 +3,7 @@
 #include "catalog/compatibility.h"
 #include "catalog/track_catalog.h"
 #include "document/limits.h"
+#include "document/undo_scope.h"
 #include "editing/joining.h"
 #include "editing/scenery_footprint.h"
 #include "editing/selection.h"
@@ -79,11 +80,12 @@ void attachSecondOfPair(Layout& layout, const PieceDef& definition, std::int32_t
   inheritElevation(layout, placed.back(), first, 1);
 }
 
-EditResult finish(Layout& layout, std::vector<std::int32_t> placed) {
+EditResult finish(Layout& layout, UndoScope& step, std::vector<std::int32_t> placed) {
   std::vector<std::int32_t> sorted = placed;
   std::sort(sorted.begin(), sorted.end());
   closeMeetingEnds(layout, sorted);
   selectOnly(layout, placed.front());
+  step.keep();
   return {std::move(placed), std::nullopt};
 }
 
@@ -111,12 +113,12 @@ EditResult extend(Layout& layout, std::int32_t from, std::int32_t connector,
   const WorldConnector end = ConnectorToWorld(*layout.findPiece(from), source, connector);
   if (!fitsPlan(definition, AttachPose(definition, own, end)))
     return {{}, beyondPlan()};
-  layout.pushHistory();
+  UndoScope step(layout);
   std::vector<std::int32_t> placed{attach(layout, definition, own, from, connector)};
   inheritElevation(layout, placed.front(), from, connector);
   if (withPair)
     attachSecondOfPair(layout, definition, placed.front(), placed);
-  return finish(layout, std::move(placed));
+  return finish(layout, step, std::move(placed));
 }
 
 /// The roundhouse's doors look at the nearest turntable, on one of its tracks' directions.
@@ -186,7 +188,7 @@ EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
   if (!fitsPlan(*definition, landing))
     return {{}, beyondPlan()};
 
-  layout.pushHistory();
+  UndoScope step(layout);
   layout.ensureLevel();
   const PlacedPiece* target = snap.snapped ? layout.findPiece(snap.target) : nullptr;
   std::int32_t level = snap.snapped ? layout.settings().activeLevel : dropLevel(layout);
@@ -204,7 +206,7 @@ EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
   if (definition->article == kTurntable)
     attachTurntableTracks(layout, chief, placed);
   attachSecondOfPair(layout, *definition, chief, placed);
-  return finish(layout, std::move(placed));
+  return finish(layout, step, std::move(placed));
 }
 
 EditResult cloneAndExtend(Layout& layout, std::int32_t piece) {
@@ -246,7 +248,7 @@ EditResult dropScenery(Layout& layout, std::string_view key, const Pose& pose) {
                       : pose;
   if (!inLimits({at.x, at.y}))
     return {{}, beyondPlan()};
-  layout.pushHistory();
+  UndoScope step(layout);
   layout.ensureLevel();
   SceneryItem item;
   item.id = layout.takeId();
@@ -258,6 +260,7 @@ EditResult dropScenery(Layout& layout, std::string_view key, const Pose& pose) {
   item.sel = true;
   layout.clearSelection();
   layout.edit().scenery.push_back(item);
+  step.keep();
   return {{item.id}, std::nullopt};
 }
 

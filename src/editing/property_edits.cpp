@@ -1,7 +1,9 @@
 #include "editing/property_edits.h"
 
 #include "document/limits.h"
+#include "document/undo_scope.h"
 #include "editing/joining.h"
+#include "editing/rigid_motion.h"
 #include "editing/selection.h"
 
 #include <algorithm>
@@ -22,9 +24,9 @@ bool replaceIn(Layout& layout, std::vector<Record> PlanContent::*records, const 
   if (record == *found || !inLimits(record))
     return false;
   const auto position = found - present.begin();
-  layout.pushHistory();
+  UndoScope step(layout);
   (layout.edit().*records)[static_cast<std::size_t>(position)] = std::move(record);
-  return true;
+  return step.keep();
 }
 
 /// Calls `change` with each selected record that has a level, until it returns true.
@@ -42,9 +44,9 @@ bool anySelected(Content& content, const Change& change) {
 bool setPiecePose(Layout& layout, std::int32_t piece, const Pose& pose) {
   const PlacedPiece* present = layout.findPiece(piece);
   const Pose wanted{pose.x, pose.y, normaliseHeading(pose.heading)};
-  if (present == nullptr || poseOf(*present) == wanted || !inLimits({pose.x, pose.y}))
+  if (present == nullptr || isStill(poseOf(*present), wanted) || !inLimits({pose.x, pose.y}))
     return false;
-  layout.pushHistory();
+  UndoScope step(layout);
   const std::array<std::int32_t, 1> moved{piece};
   detach(layout, moved);
   PlacedPiece& edited = *layout.editPiece(piece);
@@ -52,7 +54,7 @@ bool setPiecePose(Layout& layout, std::int32_t piece, const Pose& pose) {
   edited.y = wanted.y;
   edited.heading = wanted.heading;
   closeMeetingEnds(layout, moved, MeetingPlay::none());
-  return true;
+  return step.keep();
 }
 
 ChangeResult setTrackHeight(Layout& layout, std::int32_t piece, double z) {
@@ -65,7 +67,7 @@ ChangeResult setTrackHeight(Layout& layout, std::int32_t piece, double z) {
         return isLength(layout.findPiece(id)->z + rise);
       }))
     return beyondPlan();
-  layout.pushHistory();
+  UndoScope step(layout);
   for (PlacedPiece& joined : layout.edit().pieces) {
     if (joined.id == piece)
       joined.z = z;
@@ -73,7 +75,7 @@ ChangeResult setTrackHeight(Layout& layout, std::int32_t piece, double z) {
       joined.z += rise;
   }
   closeMeetingEnds(layout, chain, MeetingPlay::none());
-  return true;
+  return step.keep();
 }
 
 bool levelLiftsSelection(const Layout& layout) {
@@ -96,7 +98,7 @@ ChangeResult setSelectedLevel(Layout& layout, std::int32_t level) {
         return piece.sel && !isLength(lifted(piece));
       }))
     return beyondPlan();
-  layout.pushHistory();
+  UndoScope step(layout);
   if (lifts)
     for (PlacedPiece& piece : layout.edit().pieces)
       if (piece.sel)
@@ -108,7 +110,7 @@ ChangeResult setSelectedLevel(Layout& layout, std::int32_t level) {
   if (lifts)
     closeMeetingEnds(layout, selectedPieces(layout), MeetingPlay::none());
   deselectHidden(layout);
-  return true;
+  return step.keep();
 }
 
 bool setSelectedColor(Layout& layout, std::optional<Color> color) {
@@ -117,14 +119,14 @@ bool setSelectedColor(Layout& layout, std::optional<Color> color) {
   };
   if (std::ranges::none_of(layout.pieces(), differs))
     return false;
-  layout.pushHistory();
+  UndoScope step(layout);
   for (PlacedPiece& piece : layout.edit().pieces) {
     if (piece.sel) {
       piece.hasColor = color.has_value();
       piece.color = color.value_or(Color{});
     }
   }
-  return true;
+  return step.keep();
 }
 
 bool replaceRecord(Layout& layout, const SceneryItem& item) {

@@ -21,6 +21,9 @@ struct RigidMotion {
 /// rise by `rise` mm.
 bool staysInLimits(const PlanContent& content, const RigidMotion& motion, double rise = 0);
 
+/// Whether what goes from one pose to the other stays where it is, but for rounding.
+bool isStill(const Pose& from, const Pose& to);
+
 /// Applies the motion to the selected pieces, scenery items and shapes.
 void moveSelectedBodies(PlanContent& content, const RigidMotion& motion);
 

@@ -1,5 +1,6 @@
 #include "editing/selection.h"
 
+#include "document/undo_scope.h"
 #include "editing/connector_geometry.h"
 #include "editing/joining.h"
 #include "editing/rigid_motion.h"
@@ -204,18 +205,18 @@ std::optional<Box> selectionBox(const Layout& layout) {
 
 ChangeResult rotateSelection(Layout& layout, double degrees) {
   const std::optional<Box> box = selectionBox(layout);
-  if (!box)
+  if (!box || isStill({}, {0, 0, degrees}))
     return false;
   const Point centre{(box->minX + box->maxX) / 2, (box->minY + box->maxY) / 2};
   const RigidMotion motion{centre, {centre.x, centre.y, degrees}};
   if (!staysInLimits(layout.content(), motion))
     return beyondPlan();
-  layout.pushHistory();
+  UndoScope step(layout);
   const std::vector<std::int32_t> pieces = selectedPieces(layout);
   detach(layout, pieces);
   moveSelectedBodies(layout.edit(), motion);
   closeMeetingEnds(layout, pieces, MeetingPlay::none());
-  return true;
+  return step.keep();
 }
 
 std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb) {
@@ -253,7 +254,7 @@ void removePieces(PlanContent& content, std::span<const std::int32_t> ids) {
 bool deleteSelection(Layout& layout) {
   if (!hasSelection(layout))
     return false;
-  layout.pushHistory();
+  UndoScope step(layout);
   const std::vector<std::int32_t> doomed = doomedPieces(layout);
   PlanContent& content = layout.edit();
   removePieces(content, doomed);
@@ -262,7 +263,7 @@ bool deleteSelection(Layout& layout) {
   std::erase_if(content.labels, selected);
   std::erase_if(content.shapes, selected);
   std::erase_if(content.measurements, selected);
-  return true;
+  return step.keep();
 }
 
 } // namespace trassix

@@ -38,7 +38,8 @@ std::optional<Box> selectionBox(const Layout& layout);
 
 /// Turns the selection as one rigid body about the centre of its box, as one undo step. Joints to
 /// unselected pieces open; ends that meet others where it lands are joined. Nothing changes when no
-/// piece, scenery item or shape is selected; refused beyond the limits of a plan.
+/// piece, scenery item or shape is selected or all comes to lie as it was; refused beyond the
+/// limits of a plan.
 ChangeResult rotateSelection(Layout& layout, double degrees);
 
 /// Why the selection must not be changed ("Helix track is locked", "Tunnel is locked"). `verb` is

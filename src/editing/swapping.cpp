@@ -2,6 +2,7 @@
 
 #include "catalog/track_catalog.h"
 #include "document/limits.h"
+#include "document/undo_scope.h"
 #include "editing/joining.h"
 #include "editing/routes.h"
 
@@ -156,7 +157,7 @@ bool swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit) {
   const std::vector<SwapFit> fits = swapFits(layout, piece);
   if (std::ranges::find(fits, fit) == fits.end())
     return false;
-  layout.pushHistory();
+  UndoScope step(layout);
   const PlacedPiece before = *layout.findPiece(piece);
   PlacedPiece changed = exchanged(before, *definitionOf(before), fit);
   std::vector<std::pair<std::int32_t, Joint>> joined;
@@ -175,7 +176,7 @@ bool swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit) {
   for (const auto& [end, joint] : joined)
     join(layout, piece, end, joint.target, joint.tconn);
   closeMeetingEnds(layout, std::span(&piece, 1));
-  return true;
+  return step.keep();
 }
 
 } // namespace trassix

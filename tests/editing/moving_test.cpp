@@ -6,6 +6,7 @@
 #include "editing/property_edits.h"
 #include "editing/selection.h"
 #include "support/plan.h"
+#include "support/print_records.h"
 
 #include <gtest/gtest.h>
 
@@ -158,6 +159,39 @@ TEST(Edge, NothingGoesBeyondThePlan) {
   for (const auto& c : cases) {
     EXPECT_EQ(c.refusal(layout), beyondPlan()) << c.name;
     EXPECT_TRUE(layout.revision() == before && layout.canRedo()) << c.name;
+  }
+}
+
+TEST(Undo, AnEditThatChangesNothingIsNoStep) {
+  bool (*const edits[])(Layout&) = {
+      [](Layout& plan) { return rotateSelection(plan, 360); },
+      [](Layout& plan) { return rotateSelection(plan, -720); },
+      [](Layout& plan) { return nudgeSelection(plan, 0, 0, false); },
+      [](Layout& plan) {
+        SelectionMove move(plan, {7, 8});
+        move.turn({3, 4}, 360);
+        return move.commit(plan);
+      },
+      [](Layout& plan) {
+        const Pose pose = poseOf(*plan.findPiece(2));
+        return setPiecePose(plan, 2, {pose.x, pose.y, pose.heading - 720});
+      },
+      [](Layout& plan) { return setTrackHeight(plan, 2, 0); },
+      [](Layout& plan) { return setSelectedLevel(plan, 1); },
+      [](Layout& plan) { return setSelectedColor(plan, {}); },
+      [](Layout& plan) { return extendSelected(plan, "2200").changed(); }, // fits nowhere
+  };
+  Layout plan = twoChains();
+  selectAll(plan);
+  rotateSelection(plan, 36.87);
+  plan.editPiece(3)->sel = false;
+  rotateSelection(plan, 10);
+  plan.undo();
+  const PlanContent before = plan.content();
+  for (const auto& edit : edits) {
+    EXPECT_FALSE(edit(plan)) << &edit - edits;
+    EXPECT_TRUE(plan.content() == before) << &edit - edits;
+    EXPECT_TRUE(plan.canRedo()) << &edit - edits;
   }
 }
 
