@@ -201,7 +201,11 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
       ConnectorToWorld(*layout.findPiece(before.target), *pieces.back().definition, before.tconn);
   const double dx = last.x - gap.end.x;
   const double dy = last.y - gap.end.y;
-  if (dx * dx + dy * dy < 1.0 && openAt(layout, gap.endPiece, gap.end.index))
+  const PlacedPiece& end = *layout.findPiece(gap.endPiece);
+  const double rise = endHeight(end, *definitionOf(end), gap.end.index) - height;
+  if (dx * dx + dy * dy < 1.0 &&
+      std::abs(rise) <= (isGraded(end) ? kClosingDistance : kSameHeight) &&
+      openAt(layout, gap.endPiece, gap.end.index))
     join(layout, before.target, before.tconn, gap.endPiece, gap.end.index);
   closeMeetingEnds(layout, placed);
   selectOnly(layout, placed.front());

@@ -22,7 +22,8 @@ void appendEnds(std::vector<PlacedEnd>& ends, const PlacedPiece& piece, std::int
                     position,
                     index,
                     piece.joint(i).target,
-                    visible});
+                    visible,
+                    isGraded(piece)});
   }
 }
 

@@ -23,6 +23,7 @@ struct PlacedEnd {
   std::int32_t connector = -1;
   std::int32_t joinedTo = -1; ///< id of the joined piece, -1 when free
   bool visible = true;        ///< the piece's level is visible
+  bool graded = false;        ///< the piece has a grade
 };
 
 /// Appends the ends of a piece in index order. A piece whose article is unknown has none.

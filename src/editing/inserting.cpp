@@ -146,6 +146,7 @@ EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpo
   const std::int32_t ownStays = farMoves ? spot.enter : spot.exit;
   const std::int32_t ownMoves = farMoves ? spot.exit : spot.enter;
   const PlacedPiece& fixed = *layout.findPiece(stays.target);
+  const double height = endHeight(fixed, *definitionOf(fixed), stays.tconn);
   const Pose pose = AttachPose(*definition, ownStays, endOf(layout, stays.target, stays.tconn));
   const RigidMotion motion = facing(endOf(layout, moves.target, moves.tconn),
                                     ConnectorToWorld(pieceAt(pose), *definition, ownMoves));
@@ -154,7 +155,7 @@ EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpo
 
   UndoScope step(layout);
   openJoint(layout, spot.piece, spot.connector);
-  const std::int32_t id = addPiece(layout, *definition, pose, fixed.level, fixed.z);
+  const std::int32_t id = addPiece(layout, *definition, pose, fixed.level, height);
   movePieces(layout, moving, motion);
   join(layout, id, ownStays, stays.target, stays.tconn);
   inheritElevation(layout, id, stays.target, stays.tconn);

@@ -31,7 +31,7 @@ bool hasOpenEnd(const Layout& layout, std::int32_t id, std::int32_t connector) {
 
 bool meet(const PlacedEnd& a, const PlacedEnd& b, double distance, MeetingPlay play) {
   return a.piece != b.piece && a.system == b.system && distance <= play.distance &&
-         std::abs(a.height - b.height) <= kClosingDistance &&
+         std::abs(a.height - b.height) <= (a.graded || b.graded ? play.height : kSameHeight) &&
          180.0 - headingDifference(a.heading, b.heading) <= play.facing;
 }
 

@@ -9,7 +9,7 @@
 namespace trassix {
 
 /// Tolerances within which ends that meet by geometry are joined although nobody snapped them.
-inline constexpr double kClosingDistance = 1.0; ///< mm, in the plan and in height
+inline constexpr double kClosingDistance = 1.0; ///< mm, in the plan; of grades also in height
 inline constexpr double kClosingFacing = 1.0;   ///< degrees off exactly opposite
 
 /// Grades below a thousandth of a degree count as level.
@@ -19,13 +19,17 @@ bool isGraded(const PlacedPiece& piece);
 /// its other ends, and falls when its grade is reversed.
 double endHeight(const PlacedPiece& piece, const PieceDef& definition, std::int32_t connector);
 
+/// Level ends whose heights differ by more, in mm, are at different heights.
+inline constexpr double kSameHeight = 0.001;
+
 /// How far apart ends may be that count as meeting.
 struct MeetingPlay {
   double distance = kClosingDistance; ///< mm
   double facing = kClosingFacing;     ///< degrees
+  double height = kClosingDistance;   ///< mm, where one of the pieces is graded
 
   /// For ends that must lie on each other, as those that were never apart do.
-  static MeetingPlay none() { return {0.01, 0.01}; }
+  static MeetingPlay none() { return {0.01, 0.01, kSameHeight}; }
 };
 
 /// The piece joined there, when it says so too. Null for an open end and for a joint that only this
@@ -52,8 +56,9 @@ struct Detachment {
 Detachment detachmentOf(const Layout& layout, std::span<const std::int32_t> pieces);
 
 /// Joins each free connector of `pieces` (sorted ids) with the nearest free connector of any other
-/// piece that it meets within the play, same system and height (1.0 mm); of equally near ones with
-/// the first in document order. No pose changes. Returns the number of joints made.
+/// piece that it meets within the play, same system; of equally near ones with the first in
+/// document order. Level track is joined only where it leaves no step. No pose changes. Returns the
+/// number of joints made.
 int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces, MeetingPlay play = {});
 
 /// True when `id` is among the sorted ids.

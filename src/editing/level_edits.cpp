@@ -15,7 +15,7 @@ namespace trassix {
 namespace {
 
 constexpr std::size_t kFewestCorners = 3;
-constexpr double kStep = 0.01; // mm
+constexpr double kStep = 1e-6; // mm: anything less is rounding
 
 /// What becomes of a level and what stands there.
 struct Fate {

@@ -79,10 +79,14 @@ ChangeResult setTrackHeight(Layout& layout, std::int32_t piece, double z) {
 }
 
 bool levelLiftsSelection(const Layout& layout) {
-  return !detachmentOf(layout, selectedPieces(layout)).opensJoints &&
-         std::ranges::none_of(layout.pieces(), [](const PlacedPiece& piece) {
-           return piece.sel && piece.helix != -1;
-         });
+  return std::ranges::none_of(layout.pieces(), [&layout](const PlacedPiece& piece) {
+    const auto holds = [&](const Joint& joint) {
+      const PlacedPiece* other = layout.findPiece(joint.target);
+      return other != nullptr &&
+             (!other->sel || layout.levelHeight(other->level) != layout.levelHeight(piece.level));
+    };
+    return piece.sel && (piece.helix != -1 || std::ranges::any_of(piece.joints, holds));
+  });
 }
 
 ChangeResult setSelectedLevel(Layout& layout, std::int32_t level) {

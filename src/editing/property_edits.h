@@ -21,7 +21,7 @@ bool setPiecePose(Layout& layout, std::int32_t piece, const Pose& pose);
 ChangeResult setTrackHeight(Layout& layout, std::int32_t piece, double z);
 
 /// Whether the selected pieces change their height with their level: not when some are joined to
-/// track that stays, nor when they are part of a helix.
+/// track that stays or that would rise by more or less, nor when they are part of a helix.
 bool levelLiftsSelection(const Layout& layout);
 
 /// Puts the selected pieces, scenery items and shapes on a level. Joints stay; pieces are lifted by

@@ -96,6 +96,36 @@ std::optional<SwapFit> fitAt(const PieceDef& definition, const Pose& pose,
                                                                  : std::nullopt;
 }
 
+/// Lays a graded piece so that two of its ends, joined ones if there are, are as high as those of
+/// the piece before it, whichever way round it lies and however long it is.
+void keepHeights(PlacedPiece& piece, const PlacedPiece& before, const SwapFit& fit) {
+  if (before.grade == 0)
+    return;
+  std::vector<std::size_t> ends;
+  for (const bool open : {false, true})
+    for (std::size_t i = 0; i < fit.ends.size(); ++i)
+      if (fit.ends[i] != -1 && before.joint(i).open() == open)
+        ends.push_back(i);
+  PlacedPiece fromZero = piece;
+  fromZero.z = 0;
+  fromZero.rev = false;
+  const auto was = [&](std::size_t i) {
+    return endHeight(before, *definitionOf(before), static_cast<std::int32_t>(i));
+  };
+  const auto rise = [&](std::size_t i) {
+    return endHeight(fromZero, *fit.definition, fit.ends[i]);
+  };
+  const auto other =
+      std::ranges::find_if(ends, [&](std::size_t i) { return rise(i) != rise(ends.front()); });
+  if (other == ends.end())
+    return;
+  const double ratio = (was(*other) - was(ends.front())) / (rise(*other) - rise(ends.front()));
+  piece.rev = ratio < 0;
+  const double slope = std::abs(ratio) * std::sin(toRadians(before.grade));
+  piece.grade = toDegrees(std::asin(std::clamp(slope, -1.0, 1.0)));
+  piece.z = was(ends.front()) - ratio * rise(ends.front());
+}
+
 /// True when all ends of the one lie on ends of the other.
 bool looksTheSame(const SwapFit& a, const SwapFit& b) {
   const auto endsA = WorldConnectorsOf(pieceAt(a.pose), *a.definition);
@@ -107,20 +137,14 @@ bool looksTheSame(const SwapFit& a, const SwapFit& b) {
 }
 
 /// The piece after the exchange, with all ends open.
-PlacedPiece exchanged(const PlacedPiece& before, const PieceDef& definition, const SwapFit& fit) {
+PlacedPiece exchanged(const PlacedPiece& before, const SwapFit& fit) {
   PlacedPiece changed = before;
   changed.cat = fit.definition->article;
   changed.x = fit.pose.x;
   changed.y = fit.pose.y;
   changed.heading = fit.pose.heading;
   changed.joints.assign(fit.definition->connectors.size(), Joint{});
-  // The height belongs to connector 0: a piece that lies the other way round starts at its far end.
-  const auto start = std::ranges::find(fit.ends, 0);
-  const auto startEnd = static_cast<std::int32_t>(start - fit.ends.begin());
-  if (start != fit.ends.end() && startEnd != 0) {
-    changed.z = endHeight(before, definition, startEnd);
-    changed.rev = isGraded(before) ? !before.rev : before.rev;
-  }
+  keepHeights(changed, before, fit);
   return changed;
 }
 
@@ -159,7 +183,7 @@ bool swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit) {
     return false;
   UndoScope step(layout);
   const PlacedPiece before = *layout.findPiece(piece);
-  PlacedPiece changed = exchanged(before, *definitionOf(before), fit);
+  PlacedPiece changed = exchanged(before, fit);
   std::vector<std::pair<std::int32_t, Joint>> joined;
   for (std::size_t i = 0; i < std::min(fit.ends.size(), before.joints.size()); ++i) {
     const Joint joint = before.joints[i];

@@ -163,7 +163,7 @@ TEST(Edge, NothingGoesBeyondThePlan) {
 }
 
 TEST(Undo, AnEditThatChangesNothingIsNoStep) {
-  bool (*const edits[])(Layout&) = {
+  const std::function<ChangeResult(Layout&)> edits[] = {
       [](Layout& plan) { return rotateSelection(plan, 360); },
       [](Layout& plan) { return rotateSelection(plan, -720); },
       [](Layout& plan) { return nudgeSelection(plan, 0, 0, false); },

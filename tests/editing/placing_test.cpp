@@ -92,10 +92,14 @@ TEST(Dropping, SomeArticlesBringOthers) {
 }
 
 TEST(Dropping, EndsThatMeetCloseAtOneHeightOnly) {
-  for (const double height : {0.0, 1.0, 1.1}) {
-    Plan plan;
-    plan.place("24130").extend("24130", 10).layout.editPiece(1)->z = height;
-    EXPECT_EQ(openEnds(plan.extend("24130").layout), height > 1 ? 2 : 0) << height;
+  const std::tuple<double, double, int> cases[] = {
+      {0, 0, 0}, {0.9, 0, 2}, {0.9, 0.002, 0}, {1.1, 0.002, 2}};
+  for (const auto& [height, grade, open] : cases) {
+    Plan plan = Plan().place("24130").extend("24130", 10);
+    plan.layout.editPiece(1)->z = height;
+    for (const std::int32_t id : {1, 11}) // only grades may leave a little step
+      plan.layout.editPiece(id)->grade = grade;
+    EXPECT_EQ(openEnds(plan.extend("24130").layout), open) << height;
   }
 }
 

@@ -50,9 +50,9 @@ TEST(Swapping, KeepsThePlaceTheJointsAndTheHeights) {
                 !plan.layout.findPiece(3)->joints[0].open());
     EXPECT_LT(largestPlay(plan.layout).distance, 0.01); // crossings are rounded a little
     const PlacedPiece& swapped = *plan.layout.findPiece(2);
-    EXPECT_NEAR(endHeight(swapped, *fit.definition, fit.ends[0]), 10, 1e-3);
+    EXPECT_NEAR(endHeight(swapped, *fit.definition, fit.ends[0]), 10, 1e-9);
     EXPECT_NEAR(endHeight(swapped, *fit.definition, fit.ends[1]),
-                10 + 188.3 * std::sin(toRadians(2)), 1e-3);
+                10 + 188.3 * std::sin(toRadians(2)), 1e-9);
     EXPECT_FALSE(swapPiece(plan.layout, 2, fit)); // is there by now
     plan.layout.undo();
     EXPECT_EQ(plan.layout.content(), before);

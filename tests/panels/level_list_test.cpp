@@ -176,7 +176,11 @@ TEST_F(Decks, trackRidesWithItsLevelAndOpensWhereItWouldGetAStep) {
   EXPECT_TRUE(both.apply(layout));
   EXPECT_THAT(heights(), ElementsAre(25, 25, 25));
   EXPECT_EQ(layout.pieces()[1].joint(1), joined.joint(1)); // they meet again
-  EXPECT_EQ(undos(), 2);
+  LevelList little(layout);
+  little.enterHeight(1, "25.4");
+  EXPECT_TRUE(little.apply(layout));
+  EXPECT_TRUE(layout.pieces()[1].joint(1).open()) << "a little step is one too";
+  EXPECT_EQ(undos(), 3);
 }
 
 TEST_F(Decks, theActiveLevelIsShownAndSomethingAlwaysIs) {

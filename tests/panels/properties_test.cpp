@@ -260,6 +260,15 @@ TEST(PropertyChange, heightsNeverLeaveAStepInTheTrack) {
   sample.layout.editPiece(4)->y = 0;
   setProperty(sample.layout, PropertyId::Height, "30", answers.confirm);
   EXPECT_EQ(sample.piece(4).joint(0), (Joint{1, 0}));
+
+  // Joined across levels of different heights, it is lifted by none of them.
+  for (const std::size_t level : {0u, 1u}) {
+    for (const std::vector<std::int32_t>& ids : {std::vector{1}, {1, 2, 3, 4}}) {
+      sample.select(ids);
+      setProperty(sample.layout, PropertyId::Level, level, answers.confirm);
+      EXPECT_THAT(heights(), testing::ElementsAre(30, 30, 40, 30)) << level;
+    }
+  }
 }
 
 } // namespace
