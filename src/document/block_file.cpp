@@ -101,6 +101,7 @@ std::string writeBlock(const Block& block, const TextSink& sink) {
 
 std::string readBlock(std::string_view text, Block& block) {
   block = {};
+  block.onLevels = true;
   try {
     ElementReader reader(text);
     readLines(reader, block);

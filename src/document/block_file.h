@@ -18,6 +18,7 @@ struct Block {
   std::string name;
   std::vector<PlacedPiece> pieces;
   std::vector<SceneryItem> scenery;
+  bool onLevels = false; ///< pieces have no height of their own, but that of their level
 
   bool empty() const { return pieces.empty() && scenery.empty(); }
   bool operator==(const Block&) const = default;
@@ -35,8 +36,8 @@ Point centreBlock(Block& block);
 std::string writeBlock(const Block& block, const TextSink& sink);
 
 /// Fills `block` from the text of a block file. Heights, grades, colours, helices and flags stay in
-/// the file: a block from the library comes level, plain and not selected. Returns a message, empty
-/// on success; after a failure the block holds what was read before it.
+/// the file: a block from there stands on its levels, plain and not selected. Returns a message,
+/// empty on success; after a failure the block holds what was read before it.
 std::string readBlock(std::string_view text, Block& block);
 
 /// Saves the selection under `name`; see `writeTextFile`. Messages as above.

@@ -6,6 +6,9 @@
 #include "editing/joining.h"
 
 #include <algorithm>
+#include <cmath>
+#include <span>
+#include <string>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -70,6 +73,34 @@ void createLevels(Layout& layout, const std::vector<PlacedPiece>& pieces) {
   }
 }
 
+/// Puts each piece at the height of its level. Joints that would get a step by it are opened;
+/// returns how many.
+int standOnLevels(Layout& layout, std::span<const std::int32_t> pieces) {
+  for (const std::int32_t id : pieces) {
+    PlacedPiece& piece = *layout.editPiece(id);
+    piece.z = layout.levelHeight(piece.level);
+  }
+  int opened = 0;
+  for (const std::int32_t id : pieces) {
+    const PlacedPiece& piece = *layout.findPiece(id);
+    for (std::size_t i = 0; i < piece.joints.size(); ++i) {
+      const PlacedPiece* other = layout.findPiece(piece.joints[i].target);
+      if (other == nullptr || std::abs(other->z - piece.z) <= kSameHeight)
+        continue;
+      openJoint(layout, id, static_cast<std::int32_t>(i));
+      ++opened;
+    }
+  }
+  return opened;
+}
+
+Notice openedJoints(int count) {
+  return {"Place Block",
+          count == 1 ? "One joint of the block was opened: it leads to a level of another height."
+                     : std::to_string(count) + " joints of the block were opened: they lead to "
+                                               "levels of another height."};
+}
+
 } // namespace
 
 EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose) {
@@ -100,6 +131,8 @@ EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose) {
     content.scenery.push_back(std::move(item));
   }
   createLevels(layout, block.pieces);
+  if (const int opened = block.onLevels ? standOnLevels(layout, placedPieces) : 0; opened != 0)
+    result.remark = openedJoints(opened);
   closeMeetingEnds(layout, placedPieces);
   step.keep();
   return result;

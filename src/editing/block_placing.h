@@ -13,7 +13,8 @@ namespace trassix {
 /// Joints inside the block stay, all others are opened; then ends that meet are joined. What does
 /// not fit into the limits of a plan is refused. Pieces do
 /// not take their helix along, which is more than its track. Levels that the pieces are on and the
-/// plan lacks are created.
+/// plan lacks are created. Of a block that stands on its levels, joints between levels of different
+/// heights are opened, which the result remarks.
 EditResult placeBlock(Layout& layout, const Block& block, const Pose& pose);
 
 } // namespace trassix

@@ -24,6 +24,7 @@ struct Notice {
 struct EditResult {
   std::vector<std::int32_t> placed;
   std::optional<Notice> refusal;
+  std::optional<Notice> remark = {}; ///< what the user should know of an edit that was done
 
   bool changed() const { return !placed.empty(); }
 };

@@ -63,6 +63,33 @@ TEST(BlockPlacing, copiesOfASelectionJoinWhereTheyMeet) {
   EXPECT_EQ(brokenRule(layout), "");
 }
 
+TEST(BlockPlacing, aBlockFromTheLibraryStandsOnItsLevels) {
+  Layout layout = Plan().place("24188").extend("24188", 2).layout;
+  for (PlacedPiece& piece : layout.edit().pieces)
+    piece.z = 7;
+  layout.editPiece(3)->level = 2;
+  selectAll(layout);
+  const Block copy = blockFromSelection(layout);
+  std::string text;
+  writeBlock(copy, [&text](std::string_view part) { text += part; });
+  Block loaded;
+  ASSERT_EQ(readBlock(text, loaded), "");
+  for (const double upper : {30.0, 100.0}) {
+    layout.editSettings().levels = {{1, "", true, 30, false, {}, {}},
+                                    {2, "", true, upper, false, {}, {}}};
+    const EditResult result = placeBlock(layout, loaded, {0, 500, 0});
+    EXPECT_EQ(layout.findPiece(result.placed[0])->z, 30);
+    EXPECT_EQ(layout.findPiece(result.placed[2])->z, upper);
+    EXPECT_EQ(layout.findPiece(result.placed[1])->joint(1).open(), upper == 100);
+    EXPECT_FALSE(layout.findPiece(result.placed[1])->joint(0).open());
+    EXPECT_EQ(result.remark.has_value(), upper == 100);
+    EXPECT_EQ(brokenRule(layout), "");
+  }
+  const EditResult pasted = placeBlock(layout, copy, {0, 900, 0});
+  EXPECT_EQ(layout.findPiece(pasted.placed[2])->z, 7);
+  EXPECT_FALSE(layout.findPiece(pasted.placed[2])->joint(0).open());
+}
+
 TEST(BlockPlacing, opensTheJointsOfADamagedBlock) {
   Block block;
   block.pieces = {loosePiece(1, "24188", {}, {{2, 0}, {1, 1}, {2, -1}}),

@@ -21,6 +21,8 @@ void ToolSite::report(const EditResult& result) {
     return;
   host.selectionChanged();
   host.changed();
+  if (result.remark)
+    host.show(*result.remark);
 }
 
 void ToolSite::report(const ChangeResult& result) {

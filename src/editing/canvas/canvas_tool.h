@@ -76,7 +76,8 @@ class ToolSite {
     return px.x >= 0 && px.y >= 0 && px.x < size.width && px.y < size.height;
   }
 
-  /// Tells the window what an edit did: a refusal in words, or that the plan has changed.
+  /// Tells the window what an edit did: a refusal in words, or that the plan has changed and what
+  /// there is to remark.
   void report(const EditResult& result);
   void report(const ChangeResult& result);
   /// The same of an edit that went on from the selection, perhaps out of view: the view follows.
