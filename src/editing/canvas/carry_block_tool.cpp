@@ -33,7 +33,13 @@ void CarryBlockTool::paint(Surface& surface) const {
 }
 
 std::string CarryBlockTool::hint() const {
-  return "Click to place " + (block_.name.empty() ? "the copy" : block_.name) + turningHint();
+  std::set<std::int32_t> levels;
+  for (const PlacedPiece& piece : block_.pieces)
+    levels.insert(piece.level);
+  for (const SceneryItem& item : block_.scenery)
+    levels.insert(item.level);
+  return "Click to place " + (block_.name.empty() ? "the copy" : block_.name) +
+         landingHint(levels) + turningHint();
 }
 
 } // namespace trassix

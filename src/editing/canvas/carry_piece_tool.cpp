@@ -48,11 +48,15 @@ void CarryPieceTool::paint(Surface& surface) const {
 }
 
 std::string CarryPieceTool::hint() const {
+  const Layout& layout = site_.layout();
+  const PlacedPiece* joined = layout.findPiece(insert_ ? insert_->piece : snap_.target);
+  const std::string landing =
+      landingHint({joined != nullptr ? joined->level : dropLevel(layout)}) + turningHint();
   if (insert_)
     return "Let go to insert " + definition_.article + " here: the shorter side makes room" +
-           turningHint();
+           landing;
   return (snap_.snapped ? "Let go to join " : "Click or let go to place ") + definition_.article +
-         turningHint();
+         landing;
 }
 
 } // namespace trassix

@@ -20,7 +20,8 @@ void CarrySceneryTool::paint(Surface& surface) const {
 }
 
 std::string CarrySceneryTool::hint() const {
-  return "Click or let go to place " + std::string(definition_.name) + turningHint();
+  return "Click or let go to place " + std::string(definition_.name) +
+         landingHint({dropLevel(site_.layout())}) + turningHint();
 }
 
 } // namespace trassix

@@ -214,6 +214,36 @@ TEST(CarryPiece, ASecondCarryEndsTheFirst) {
   EXPECT_EQ(script.content().scenery[0].item, "stn.small");
 }
 
+TEST(CarryTools, SayWhatLandsOutOfSightOrOnAnotherLevel) {
+  CanvasScript script(Plan().place("24188").layout);
+  std::vector<Level>& levels = script.host.plan.editSettings().levels;
+  levels.push_back({2, "Upper", true, 90, false, {}, {}});
+  levels.push_back({3, "Cellar", false, 0, false, {}, {}});
+  const auto landing = [&script](std::string_view carried, Point at) {
+    if (carried == "block")
+      script.canvas.carryBlock({"", script.pieces(), {{9, "", 0, 0, 0, 1, 1, 3}}}, script.at(at),
+                               false);
+    else if (carried == "scenery")
+      script.canvas.carryScenery("stn.small", script.at(at), false);
+    else
+      script.canvas.carryPiece(carried, script.at(at), false);
+    const std::string hint = script.host.hint;
+    const std::size_t from = std::min(hint.find("    Lands"), hint.find("    Wheel"));
+    return hint.substr(from, hint.find("    Wheel") - from);
+  };
+  EXPECT_EQ(landing("24188", {600, 500}), "    Lands on Upper (not the active level)");
+  EXPECT_EQ(landing("24188", {195, 12}), "") << "it snaps to the active level";
+  EXPECT_EQ(landing("scenery", {195, 12}), "    Lands on Upper (not the active level)");
+  EXPECT_EQ(landing("block", {0, 500}), "    Lands on Cellar (hidden)");
+  script.host.plan.editPiece(1)->level = 2;
+  EXPECT_EQ(landing("24188", {195, 12}), "    Lands on Upper (not the active level)");
+  script.host.plan.editPiece(1)->level = 7; // to be added with the block
+  EXPECT_EQ(landing("block", {0, 500}),
+            "    Lands on Cellar (hidden), Level 7 (not the active level)");
+  levels[0].visible = levels[1].visible = false;
+  EXPECT_EQ(landing("24188", {600, 500}), "    Lands on Level 1 (hidden)");
+}
+
 TEST(CanvasWheel, CtrlTurnsTheSelectionAndZoomsWithoutOne) {
   CanvasScript script(Plan().place("24188").layout);
   script.host.plan.clearSelection();
