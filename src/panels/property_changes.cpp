@@ -100,7 +100,7 @@ struct RecordEdit {
       move(pose, id, number);
     const std::array<std::int32_t, 1> moved{piece->id};
     if (detachmentOf(layout, moved).opensGradedJoints &&
-        !confirm({"Move", "This takes the selection apart from graded track. Go on?", false, true}))
+        !confirm({"Move", "This takes the selection apart from graded track. Go on?", true}))
       return false;
     return setPiecePose(layout, piece->id, pose);
   }

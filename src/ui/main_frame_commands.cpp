@@ -59,7 +59,7 @@ void MainFrame::deleteSelection() {
     return;
   }
   if (selectionHasGrades(layout_) &&
-      !confirm({"Delete", "Selection includes graded pieces. Delete?", true, false}))
+      !confirm({"Delete", "Selection includes graded pieces. Delete?"}))
     return;
   if (!trassix::deleteSelection(layout_))
     return;

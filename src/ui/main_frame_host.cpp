@@ -80,9 +80,7 @@ void MainFrame::show(const Notice& notice) {
 }
 
 bool MainFrame::confirm(const Question& question) {
-  int style = wxYES_NO | (question.warning ? wxICON_WARNING : wxICON_QUESTION);
-  if (!question.defaultYes)
-    style |= wxNO_DEFAULT;
+  const int style = wxYES_NO | wxNO_DEFAULT | (question.warning ? wxICON_WARNING : wxICON_QUESTION);
   return wxMessageBox(fromUtf8(question.text), fromUtf8(question.title), style, this) == wxYES;
 }
 

@@ -254,7 +254,7 @@ void TallyPanel::saveAsCsv() {
     std::error_code error;
     if (std::filesystem::exists(file, error) &&
         wxMessageBox(wxString::Format(_("\"%s\" exists. Replace it?"), fromUtf8(pathText(file))),
-                     _("Save Tally"), wxYES_NO | wxICON_QUESTION, this) != wxYES)
+                     _("Save Tally"), wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION, this) != wxYES)
       return;
   }
   saveCsv(file);

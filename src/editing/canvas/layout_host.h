@@ -33,11 +33,10 @@ struct EditorSwitches {
   PolygonUse polygonUse;
 };
 
-/// A Yes/No question.
+/// A Yes/No question before something is lost; No is the default.
 struct Question {
   std::string title;
   std::string text;
-  bool defaultYes = true;
   bool warning = false; ///< warning icon instead of the question mark
 };
 

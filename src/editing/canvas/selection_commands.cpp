@@ -18,11 +18,13 @@ bool refuseLocked(ToolSite& site, const char* verb) {
 bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const char* title) {
   return !move.opensGradedJoints() ||
          site.host.confirm(
-             {title, "This takes the selection apart from graded track. Go on?", false, true});
+             {title, "This takes the selection apart from graded track. Go on?", true});
 }
 
 void turnSelection(ToolSite& site, double degrees) {
-  if (!refuseLocked(site, "rotate"))
+  SelectionMove turn(site.layout(), {});
+  turn.turn({}, degrees);
+  if (!refuseLocked(site, "rotate") && mayLeaveGrades(site, turn, "Rotate"))
     site.report(rotateSelection(site.layout(), degrees));
 }
 

@@ -131,13 +131,27 @@ TEST(SelectTool, NudgesAreOneUndoStep) {
 TEST(SelectTool, GradedNeighboursAreAskedForAndNoLeavesThemJoined) {
   Layout plan = row();
   plan.edit().pieces[1].grade = 1.5;
-  for (const bool yes : {false, true}) {
-    CanvasScript script(plan);
-    script.host.answers = {yes};
-    script.drag(kOnThird, {700, 300});
-    EXPECT_EQ(script.host.questions.size(), 1u);
-    EXPECT_EQ(script.pieces()[2].joint(0).open(), yes);
-    EXPECT_EQ(script.host.changes, yes ? 1 : 0);
+  void (*const moves[])(CanvasScript&) = {
+      [](CanvasScript& s) {
+        s.drag(kOnThird, {700, 300});
+      },
+      [](CanvasScript& s) {
+        s.drag({476.6, 0}, {376.6, 100}, kAlt);
+      },
+      [](CanvasScript& s) { s.key(Key::Down); },
+      [](CanvasScript& s) { s.wheel(kOnThird, -1, kCtrl); },
+      [](CanvasScript& s) { s.takeFromMenu(kOnThird, "Turn Left"); },
+  };
+  for (const auto& move : moves) {
+    for (const bool yes : {false, true}) {
+      CanvasScript script(plan);
+      script.click(kOnThird);
+      script.host.answers = {yes};
+      move(script);
+      EXPECT_EQ(script.host.questions.size(), 1u);
+      EXPECT_EQ(script.pieces()[2].joint(0).open(), yes);
+      EXPECT_EQ(script.host.changes, yes ? 1 : 0);
+    }
   }
 }
 
