@@ -109,7 +109,7 @@ void MainFrame::exportLayout() {
 }
 
 void MainFrame::saveBlock() {
-  if (!hasSelection(layout_)) {
+  if (blockFromSelection(layout_).empty()) {
     wxMessageBox(_("Select pieces first to save as library block."), _("Save Block"),
                  wxOK | wxICON_INFORMATION, this);
     return;

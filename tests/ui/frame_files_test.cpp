@@ -1,4 +1,5 @@
 #include "driver.h"
+#include "editing/annotations.h"
 #include "frame_test.h"
 
 #include <wx/button.h>
@@ -274,6 +275,9 @@ TEST_F(FrameTest, EscLeavesEveryFileDialog) {
 
 TEST_F(FrameTest, ABlockGoesToTheLibraryOfTheShownSystem) {
   start();
+  dialogs.answer("Save Block", wxID_OK);
+  put(2001);
+  addLabel(frame().layout(), {0, 0}, "Yard"); // is no part of a block
   dialogs.answer("Save Block", wxID_OK);
   put(2001);
   EXPECT_EQ(dialogs.messages().back(), "Select pieces first to save as library block.");
