@@ -1,6 +1,7 @@
 #include "support/plan.h"
 
 #include "catalog/track_catalog.h"
+#include "editing/joining.h"
 #include "editing/placing.h"
 #include "editing/snapping.h"
 
@@ -71,9 +72,12 @@ WorldConnector worldEnd(const PlacedPiece& piece, std::int32_t connector) {
 
 Play playOf(const Layout& layout, const PlacedPiece& piece, std::int32_t connector) {
   const Joint joint = piece.joint(static_cast<std::size_t>(connector));
+  const PlacedPiece& other = *layout.findPiece(joint.target);
   const WorldConnector a = worldEnd(piece, connector);
-  const WorldConnector b = worldEnd(*layout.findPiece(joint.target), joint.tconn);
-  return {std::hypot(a.x - b.x, a.y - b.y), 180.0 - headingDifference(a.heading, b.heading)};
+  const WorldConnector b = worldEnd(other, joint.tconn);
+  return {std::hypot(a.x - b.x, a.y - b.y), 180.0 - headingDifference(a.heading, b.heading),
+          endHeight(other, *definitionOf(other), joint.tconn) -
+              endHeight(piece, *definitionOf(piece), connector)};
 }
 
 Play largestPlay(const Layout& layout) {
@@ -84,7 +88,8 @@ Play largestPlay(const Layout& layout) {
         continue;
       const Play play = playOf(layout, piece, static_cast<std::int32_t>(i));
       largest = {std::max(largest.distance, play.distance),
-                 std::max(largest.heading, play.heading)};
+                 std::max(largest.heading, play.heading),
+                 std::max(largest.step, std::abs(play.step))};
     }
   }
   return largest;

@@ -51,6 +51,7 @@ WorldConnector worldEnd(const PlacedPiece& piece, std::int32_t connector);
 struct Play {
   double distance = 0; ///< mm
   double heading = 0;  ///< degrees
+  double step = 0;     ///< mm in height
 };
 Play playOf(const Layout& layout, const PlacedPiece& piece, std::int32_t connector);
 Play largestPlay(const Layout& layout);
