@@ -3,7 +3,6 @@
 #include "document/element_reader.h"
 #include "document/element_writer.h"
 #include "document/piece_lines.h"
-#include "document/text_file.h"
 
 #include <algorithm>
 #include <exception>
@@ -112,15 +111,16 @@ std::string readBlock(std::string_view text, Block& block) {
 }
 
 std::string saveBlock(const Layout& layout, const std::filesystem::path& path,
-                      std::string_view name) {
+                      std::string_view name, FileReport* report) {
   Block block = blockFromSelection(layout);
   block.name = name;
-  return replaceTextFile(path, [&block](const TextSink& sink) { return writeBlock(block, sink); });
+  return replaceTextFile(
+      path, [&block](const TextSink& sink) { return writeBlock(block, sink); }, report);
 }
 
-std::string loadBlock(const std::filesystem::path& path, Block& block) {
+std::string loadBlock(const std::filesystem::path& path, Block& block, FileReport* report) {
   std::string text;
-  std::string message = readTextFile(path, text);
+  std::string message = readTextFile(path, text, report);
   return message.empty() ? readBlock(text, block) : message;
 }
 

@@ -4,6 +4,7 @@
 
 #include "document/element_writer.h"
 #include "document/layout.h"
+#include "document/text_file.h"
 
 #include <filesystem>
 #include <string>
@@ -40,11 +41,12 @@ std::string writeBlock(const Block& block, const TextSink& sink);
 /// empty on success; after a failure the block holds what was read before it.
 std::string readBlock(std::string_view text, Block& block);
 
-/// Saves the selection under `name`; see `writeTextFile`. Messages as above.
+/// Saves the selection under `name`; see `replaceTextFile`. Messages as above.
 std::string saveBlock(const Layout& layout, const std::filesystem::path& path,
-                      std::string_view name);
+                      std::string_view name, FileReport* report = nullptr);
 
 /// `block` is untouched when the file cannot be opened or read. Not centred yet.
-std::string loadBlock(const std::filesystem::path& path, Block& block);
+std::string loadBlock(const std::filesystem::path& path, Block& block,
+                      FileReport* report = nullptr);
 
 } // namespace trassix

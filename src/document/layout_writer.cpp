@@ -2,7 +2,6 @@
 
 #include "document/element_writer.h"
 #include "document/piece_lines.h"
-#include "document/text_file.h"
 
 namespace trassix {
 
@@ -176,9 +175,9 @@ std::string writeLayout(const Layout& layout, std::string_view name, std::string
 }
 
 std::string saveLayout(const Layout& layout, const std::filesystem::path& path,
-                       std::string_view name) {
-  return replaceTextFile(path,
-                         [&](const TextSink& sink) { return writeLayout(layout, name, sink); });
+                       std::string_view name, FileReport* report) {
+  return replaceTextFile(
+      path, [&](const TextSink& sink) { return writeLayout(layout, name, sink); }, report);
 }
 
 } // namespace trassix

@@ -2,6 +2,7 @@
 
 #include "document/element_writer.h"
 #include "document/layout.h"
+#include "document/text_file.h"
 
 #include <filesystem>
 #include <string>
@@ -17,9 +18,9 @@ std::string writeLayout(const Layout& layout, std::string_view name, const TextS
 /// The same, the whole text in `text`.
 std::string writeLayout(const Layout& layout, std::string_view name, std::string& text);
 
-/// Saves without ever leaving a damaged file: see `writeTextFile`. Returns a message, empty on
-/// success.
+/// Saves without ever leaving a damaged file: see `replaceTextFile`. Returns a message, empty
+/// on success.
 std::string saveLayout(const Layout& layout, const std::filesystem::path& path,
-                       std::string_view name);
+                       std::string_view name, FileReport* report = nullptr);
 
 } // namespace trassix

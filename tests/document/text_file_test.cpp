@@ -128,10 +128,16 @@ TEST(TextFile, namesWhatItCannotOpen) {
   const TempFolder folder;
   std::string text = "untouched";
   fs::create_directory(folder.path() / "folder");
-  for (const char* name : {"folder", "missing/plan.txl", "folder/"}) {
+  for (const auto& [name, why] : {std::pair{"folder", std::errc::is_a_directory},
+                                  {"missing/plan.txl", std::errc::no_such_file_or_directory},
+                                  {"folder/", std::errc::is_a_directory}}) {
     const fs::path path = folder.path() / name;
-    EXPECT_EQ(writeTextFile(path, "text"), "Cannot open file: " + path.string());
-    EXPECT_EQ(readTextFile(path, text), "Cannot open file: " + path.string());
+    FileReport report;
+    EXPECT_EQ(writeTextFile(path, "text", &report), "Cannot open file: " + path.string());
+    EXPECT_EQ(report.reason, why) << path;
+    report = {};
+    EXPECT_EQ(readTextFile(path, text, &report), "Cannot open file: " + path.string());
+    EXPECT_EQ(report.reason, why) << path;
   }
   EXPECT_EQ(readTextFile(folder.path() / "none", text).substr(0, 18), "Cannot open file: ");
   EXPECT_EQ(text, "untouched");
