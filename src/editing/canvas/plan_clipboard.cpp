@@ -1,5 +1,7 @@
 #include "editing/canvas/plan_clipboard.h"
 
+#include "document/entities.h"
+
 namespace trassix {
 
 Block copyOfSelection(const Layout& layout) {
@@ -28,6 +30,7 @@ Block PlanClipboard::paste(LayoutHost& host) const {
   Block block;
   if (!readBlock(text, block).empty())
     return {};
+  decodeTexts(block);
   centreBlock(block);
   return block;
 }

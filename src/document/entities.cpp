@@ -1,0 +1,67 @@
+#include "document/entities.h"
+
+#include <array>
+
+namespace trassix {
+
+namespace {
+
+struct Entity {
+  std::string_view written;
+  char character;
+};
+
+constexpr std::array<Entity, 4> kEntities = {
+    {{"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}}};
+
+void decode(std::string& text) {
+  if (text.find('&') != std::string::npos)
+    text = decodeEntities(text);
+}
+
+template <class Records, class Text>
+void decodeAll(Records& records, Text text) {
+  for (auto& record : records)
+    decode(record.*text);
+}
+
+} // namespace
+
+std::string decodeEntities(std::string_view text) {
+  std::string decoded;
+  decoded.reserve(text.size());
+  while (!text.empty()) {
+    const std::size_t plain = text.find('&');
+    decoded += text.substr(0, plain);
+    if (plain == std::string_view::npos)
+      break;
+    text.remove_prefix(plain);
+    Entity found{"&", '&'};
+    for (const Entity& entity : kEntities) {
+      if (text.starts_with(entity.written))
+        found = entity;
+    }
+    decoded += found.character;
+    text.remove_prefix(found.written.size());
+  }
+  return decoded;
+}
+
+void decodeTexts(Layout& layout, std::string& name) {
+  decode(name);
+  PlanContent& content = layout.edit();
+  decodeAll(content.pieces, &PlacedPiece::cat);
+  decodeAll(content.scenery, &SceneryItem::item);
+  decodeAll(content.labels, &Label::text);
+  decodeAll(content.shapes, &Shape::label);
+  decodeAll(content.helices, &Helix::variant);
+  decodeAll(layout.editSettings().levels, &Level::name);
+}
+
+void decodeTexts(Block& block) {
+  decode(block.name);
+  decodeAll(block.pieces, &PlacedPiece::cat);
+  decodeAll(block.scenery, &SceneryItem::item);
+}
+
+} // namespace trassix
