@@ -2,6 +2,7 @@
 // and a load unharmed.
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/unread_part.h"
 
 #include <cstdlib>
 
@@ -23,6 +24,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   std::string saved;
   require(writeLayout(first, name, saved).empty());
+  require(unreadPart(saved).empty());
+  static_cast<void>(unreadPart(text));
   Layout second;
   std::string savedName;
   require(readLayout(saved, second, savedName).empty());

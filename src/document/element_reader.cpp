@@ -49,7 +49,8 @@ std::uint64_t letterBit(char c) {
   return std::uint64_t{1} << (static_cast<unsigned char>(c) % 64U);
 }
 
-/// A value in a message: short, and nothing that a message box could stumble over.
+} // namespace
+
 std::string excerpt(std::string_view value) {
   constexpr std::size_t kLongest = 40;
   std::string result(value.substr(0, kLongest));
@@ -59,8 +60,6 @@ std::string excerpt(std::string_view value) {
   }
   return value.size() > kLongest ? result + "..." : result;
 }
-
-} // namespace
 
 bool ElementReader::next() {
   if (rest_.empty())

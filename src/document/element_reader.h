@@ -15,6 +15,10 @@ class ReadFailure : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// A value from a file as a message shows it: short, and nothing that a message box could stumble
+/// over.
+std::string excerpt(std::string_view value);
+
 /// Walks over the lines of a plan file and takes elements and attributes from the current one by
 /// plain search: this is no XML parser, and an element stands on one line. Texts come as they are
 /// in the file, nothing is decoded.
