@@ -1,0 +1,68 @@
+#include "document/file_names.h"
+
+#include <algorithm>
+
+namespace trassix {
+
+namespace {
+
+constexpr std::string_view kSeparators = "/\\";
+constexpr std::string_view kExtension = ".txl";
+
+bool isLetter(char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+bool beginsWithDrive(std::string_view name) {
+  return name.size() > 1 && isLetter(name[0]) && name[1] == ':' &&
+         (name.size() == 2 || name[2] != ' ');
+}
+
+bool hasControlCharacters(std::string_view name) {
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(name[i]);
+    const auto next = static_cast<unsigned char>(i + 1 < name.size() ? name[i + 1] : '\0');
+    // In UTF-8 the second set, U+0080 to U+009F, begins with the byte C2.
+    if (byte < 0x20 || byte == 0x7f || (byte == 0xc2 && next >= 0x80 && next < 0xa0))
+      return true;
+  }
+  return false;
+}
+
+/// Devices of Windows, with any extension and blanks before it.
+bool namesDevice(std::string_view name) {
+  name = name.substr(0, name.find('.'));
+  name = name.substr(0, name.find_last_not_of(' ') + 1);
+  std::string upper(name);
+  std::transform(upper.begin(), upper.end(), upper.begin(),
+                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
+  if (upper.size() == 4 && upper[3] >= '1' && upper[3] <= '9')
+    return upper.starts_with("COM") || upper.starts_with("LPT");
+  return upper == "CON" || upper == "PRN" || upper == "AUX" || upper == "NUL";
+}
+
+} // namespace
+
+NameAdvice adviseOnName(std::string_view name) {
+  constexpr std::size_t kLongest = 200;
+  if (name.find_first_of(kSeparators) != std::string_view::npos)
+    return {"A name with / or \\ leads out of the folder.", true};
+  if (name == ".." || beginsWithDrive(name))
+    return {"This name leads out of the folder.", true};
+  if (hasControlCharacters(name))
+    return {"The name holds characters that cannot be seen."};
+  if (name.find_first_of("<>:\"|?*") != std::string_view::npos)
+    return {"Windows takes none of < > : \" | ? * in a name."};
+  if (namesDevice(name))
+    return {"Windows keeps this name for a device."};
+  if (name.size() + kExtension.size() > kLongest)
+    return {"The name is too long for some disks."};
+  return {};
+}
+
+std::string withoutSeparators(std::string name) {
+  std::erase_if(name, [](char c) { return kSeparators.find(c) != std::string_view::npos; });
+  return name;
+}
+
+} // namespace trassix
