@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/block_file.h"
+#include "document/open_plan.h"
 
 #include <filesystem>
 #include <string>
@@ -18,6 +19,10 @@ struct LibraryEntry {
 
   bool operator==(const LibraryEntry&) const = default;
 };
+
+/// Reads a block of the library, ready to be placed: sound, centred, with texts as they were typed.
+/// After a failure it holds what was read.
+FileResult openBlock(const std::filesystem::path& file, Block& block);
 
 /// The ".txl" files that lie in the folder, by name; none for a folder that is not there. Each is
 /// read, so that it can be shown.

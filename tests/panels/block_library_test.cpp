@@ -14,6 +14,7 @@ TEST(BlockLibrary, listsTheFilesOfAFolderByName) {
   Layout layout;
   layout.edit().pieces.push_back(test::loosePiece(1, "24188", {500, 0}));
   layout.edit().pieces[0].sel = true;
+  layout.edit().pieces[0].cat = "a & <b>";
   ASSERT_EQ(saveBlock(layout, folder.path() / u8"Züge.txl", "another name"), "");
   ASSERT_EQ(saveBlock(layout, folder.path() / "Yard.v2.txl", "Yard"), "");
   test::writeText(folder.path() / "Broken.txl", "<block name=\"x\">\n<piece id=\"a\" />\n");
@@ -29,6 +30,7 @@ TEST(BlockLibrary, listsTheFilesOfAFolderByName) {
   EXPECT_EQ(entries[2].problem, "");
   ASSERT_EQ(entries[2].block.pieces.size(), 1U);
   EXPECT_EQ(entries[2].block.pieces[0].x, 0);
+  EXPECT_EQ(entries[2].block.pieces[0].cat, "a & <b>");
 }
 
 } // namespace

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "document/layout.h"
+#include "document/text_file.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace trassix {
+
+/// How reading or writing a plan went.
+struct FileResult : FileReport {
+  std::string message; ///< why it failed; empty on success
+  /// What the user should know although it went well: whole sentences.
+  std::vector<std::string> notices;
+
+  bool failed() const { return !message.empty(); }
+};
+
+/// The plan that is worked on: the document, the file and the name it goes by, and whether any of
+/// it is unsaved. Texts are in it as the user typed them, however often they were saved.
+class OpenPlan {
+ public:
+  Layout& layout() { return layout_; }
+  const Layout& layout() const { return layout_; }
+  /// Empty when a save has to ask for a name: the plan has no file, or one that must not be written
+  /// over unasked.
+  const std::filesystem::path& file() const { return file_; }
+  const std::string& name() const { return name_; }
+  bool unsaved() const { return unsaved_; }
+  void noteChange() { unsaved_ = true; }
+
+  /// An empty plan. The name stays, to be offered by the next save.
+  void startNew(std::int32_t units);
+
+  /// Takes over the plan in a file; a failure leaves the open one alone. What is wrong with a plan
+  /// that can be read all the same is among the notices. A file that was not understood whole does
+  /// not become the plan's file, so that what is left in it is not lost by a save.
+  FileResult load(const std::filesystem::path& path);
+
+  /// Writes the plan to its file. File and name of `saveAs` count also when it fails, so that the
+  /// next save goes there.
+  FileResult save();
+  FileResult saveAs(const std::filesystem::path& path, std::string_view name);
+
+  /// To be told of each file that was deleted: it may have been the plan's.
+  void fileDeleted(const std::filesystem::path& path);
+
+ private:
+  Layout layout_;
+  std::filesystem::path file_;
+  std::string name_;
+  bool unsaved_ = false;
+};
+
+struct ImportResult : FileResult {
+  enum class Step : std::uint8_t { Read, Copy, Done };
+  Step step = Step::Read; ///< the one that failed, if any did
+};
+
+/// Copies a plan file byte for byte and then stores `name` in the copy. A copy of a file that was
+/// not understood whole is left as it is. Source and target may be one file.
+ImportResult importPlan(const std::filesystem::path& source, const std::filesystem::path& target,
+                        std::string_view name);
+
+} // namespace trassix
