@@ -4,6 +4,7 @@
 #include <chrono>
 #include <exception>
 #include <fstream>
+#include <optional>
 
 namespace trassix {
 
@@ -50,6 +51,10 @@ fs::path behindLinks(fs::path path) {
   return {};
 }
 
+/// Names of temporary files; between them stands a number.
+constexpr std::string_view kTemporaryStart = ".trassix-";
+constexpr std::string_view kTemporaryEnd = ".tmp";
+
 /// Creates the temporary file beside the target, under a name that nothing else has.
 std::error_code createBeside(const fs::path& target, bool exists, FileOperations& operations,
                              fs::path& temporary) {
@@ -57,12 +62,21 @@ std::error_code createBeside(const fs::path& target, bool exists, FileOperations
   auto number = std::chrono::system_clock::now().time_since_epoch().count();
   std::error_code error;
   for (int i = 0; i < kAttempts; ++i, ++number) {
-    temporary = target.parent_path() / (".trassix-" + std::to_string(number) + ".tmp");
+    temporary = target.parent_path() / (std::string(kTemporaryStart) + std::to_string(number) +
+                                        std::string(kTemporaryEnd));
     error = operations.create(temporary, exists ? target : fs::path{});
     if (error != std::errc::file_exists)
       break;
   }
   return error;
+}
+
+/// Makes sure that what was written is on the disk, and closes the file; the first error counts.
+std::error_code finish(FileOperations& operations, std::error_code error) {
+  if (!error)
+    error = operations.flush();
+  const std::error_code closing = operations.close();
+  return error ? error : closing;
 }
 
 /// Writes what is produced and makes sure that it is on the disk. A failure of the producer comes
@@ -74,11 +88,74 @@ std::string fill(const fs::path& path, const TextProducer& produce, FileOperatio
     if (!error)
       error = operations.write(text);
   });
-  if (!error)
-    error = operations.flush();
-  if (const std::error_code closing = operations.close(); !error)
-    error = closing;
+  error = finish(operations, error);
   return error && message.empty() ? cannotWrite(path, error, report) : message;
+}
+
+/// Whether the folder is what refused, by its permissions or as a place that is mounted file by
+/// file: then the file itself may still be written. A full disk is no such case.
+bool refusedByFolder(std::error_code error) {
+  return error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
+         error == std::errc::read_only_file_system || error == std::errc::device_or_resource_busy;
+}
+
+/// The message of a save by way of a temporary file; nothing where the folder refused it.
+std::optional<std::string> writeBeside(const fs::path& path, const fs::path& target, bool exists,
+                                       const TextProducer& produce, FileOperations& operations,
+                                       FileReport* report) {
+  fs::path temporary;
+  if (const std::error_code error = createBeside(target, exists, operations, temporary))
+    return exists && refusedByFolder(error) ? std::nullopt
+                                            : std::optional(cannotOpen(path, error, report));
+  std::optional<std::string> message;
+  try {
+    message = fill(path, produce, operations, report);
+    if (message->empty()) {
+      if (const std::error_code error = operations.rename(temporary, target))
+        message = exists && refusedByFolder(error)
+                      ? std::nullopt
+                      : std::optional(cannotWrite(path, error, report));
+    }
+  } catch (...) {
+    static_cast<void>(operations.close());
+    operations.remove(temporary);
+    throw;
+  }
+  if (message != "")
+    operations.remove(temporary);
+  return message;
+}
+
+/// Everything that can fail without the file comes first. Its old end is cut only behind the new
+/// text, so that the old text has its room on the disk while it may have to be put back.
+std::string writeInPlace(const fs::path& path, const fs::path& target, const TextProducer& produce,
+                         FileOperations& operations, FileReport* report) {
+  std::string text;
+  std::string message = produce([&text](std::string_view part) { text += part; });
+  if (!message.empty())
+    return message;
+  std::string old;
+  FileReport reading;
+  if (!readTextFile(target, old, &reading).empty())
+    return cannotOpen(path, reading.reason, report);
+  std::error_code error = operations.openInPlace(target);
+  if (error)
+    return cannotOpen(path, error, report);
+  error = operations.write(text);
+  if (!error)
+    error = operations.cut();
+  error = finish(operations, error);
+  if (!error)
+    return {};
+  operations.putBack(target, old);
+  return cannotWrite(path, error, report);
+}
+
+TextProducer asIs(std::string_view text) {
+  return [text](const std::function<void(std::string_view)>& sink) {
+    sink(text);
+    return std::string{};
+  };
 }
 
 } // namespace
@@ -128,34 +205,44 @@ std::string replaceTextFile(const fs::path& path, const TextProducer& produce,
                           ? std::make_error_code(std::errc::too_many_symbolic_link_levels)
                           : noFile(status, error),
                       report);
-
-  fs::path temporary;
-  error = createBeside(target, exists, operations, temporary);
-  if (error)
-    return cannotOpen(path, error, report);
-  std::string message;
   try {
-    message = fill(path, produce, operations, report);
-    if (message.empty()) {
-      error = operations.rename(temporary, target);
-      if (error)
-        message = cannotWrite(path, error, report);
-    }
+    std::optional<std::string> message =
+        writeBeside(path, target, exists, produce, operations, report);
+    const WriteWay taken = message ? WriteWay::Replaced : WriteWay::InPlace;
+    if (!message)
+      message = writeInPlace(path, target, produce, operations, report);
+    if (report != nullptr && message->empty())
+      report->way = taken;
+    return *message;
   } catch (const std::exception& failure) {
-    static_cast<void>(operations.close());
-    message = "Cannot write file: " + pathText(path) + " (" + failure.what() + ")";
+    return "Cannot write file: " + pathText(path) + " (" + failure.what() + ")";
   }
-  if (!message.empty())
-    operations.remove(temporary);
-  return message;
 }
 
 std::string writeTextFile(const fs::path& path, std::string_view text, FileReport* report) {
-  const auto produce = [text](const std::function<void(std::string_view)>& sink) {
-    sink(text);
-    return std::string{};
-  };
-  return replaceTextFile(path, produce, report);
+  return replaceTextFile(path, asIs(text), report);
+}
+
+std::string writeBytes(const fs::path& path, std::string_view bytes, FileReport* report) {
+  SystemFileOperations operations(LineEnds::AsGiven);
+  return replaceTextFile(path, asIs(bytes), operations, report);
+}
+
+void removeLeftovers(const fs::path& folder) {
+  const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(24);
+  // As the system has them: not every name can be told in UTF-8.
+  const fs::path start = kTemporaryStart;
+  const fs::path end = kTemporaryEnd;
+  std::error_code error;
+  for (fs::directory_iterator file(folder, error); !error && file != fs::directory_iterator();
+       file.increment(error)) {
+    std::error_code unknown;
+    const fs::path name = file->path().filename();
+    if (name.native().starts_with(start.native()) && name.native().ends_with(end.native()) &&
+        fs::is_regular_file(file->symlink_status(unknown)) &&
+        file->last_write_time(unknown) < longAgo && !unknown)
+      fs::remove(file->path(), unknown);
+  }
 }
 
 } // namespace trassix

@@ -7,8 +7,12 @@
 #include <cstdlib>
 
 #ifndef _WIN32
+#include "support/plain_user.h"
+
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
 #endif
 
 namespace trassix {
@@ -19,27 +23,37 @@ using test::readText;
 using test::TempFolder;
 using test::writeText;
 
-enum class Step { Create, Write, Flush, Close, Rename, Done };
+enum class Step { Create, OpenInPlace, Write, Cut, Flush, Close, Rename, Done };
 constexpr Step kFailingSteps[] = {Step::Create, Step::Write, Step::Flush, Step::Close,
                                   Step::Rename};
 
-std::string writeWith(FileOperations&& operations, const fs::path& path, std::string_view text) {
+std::string writeWith(FileOperations&& operations, const fs::path& path, std::string_view text,
+                      FileReport* report = nullptr) {
   return replaceTextFile(
       path,
       [text](const auto& sink) {
         sink(text);
         return std::string();
       },
-      operations);
+      operations, report);
 }
 
 /// Fails at one step, or ends the process there as a power cut would.
 class FaultyOperations : public SystemFileOperations {
  public:
   explicit FaultyOperations(Step step, bool kill = false) : step_(step), kill_(kill) {}
+  FaultyOperations(Step step, Step refused) : step_(step), refused_(refused) {}
 
   std::error_code create(const fs::path& file, const fs::path& replaced) override {
+    if (refused_ == Step::Create)
+      return std::make_error_code(std::errc::permission_denied);
     return fails(Step::Create) ? error() : SystemFileOperations::create(file, replaced);
+  }
+  std::error_code openInPlace(const fs::path& file) override {
+    return fails(Step::OpenInPlace) ? error() : SystemFileOperations::openInPlace(file);
+  }
+  std::error_code cut() override {
+    return fails(Step::Cut) ? error() : SystemFileOperations::cut();
   }
   std::error_code write(std::string_view bytes) override {
     if (step_ != Step::Write)
@@ -55,6 +69,8 @@ class FaultyOperations : public SystemFileOperations {
     return fails(Step::Close) ? error() : result;
   }
   std::error_code rename(const fs::path& file, const fs::path& target) override {
+    if (refused_ == Step::Rename)
+      return std::make_error_code(std::errc::operation_not_permitted);
     const bool now = fails(Step::Rename);
     const std::error_code result = now ? error() : SystemFileOperations::rename(file, target);
     fails(Step::Done);
@@ -70,7 +86,8 @@ class FaultyOperations : public SystemFileOperations {
   static std::error_code error() { return std::make_error_code(std::errc::no_space_on_device); }
 
   Step step_;
-  bool kill_;
+  bool kill_ = false;
+  Step refused_ = Step::Done; ///< by the folder, with a lack of rights
 };
 
 std::size_t filesIn(const fs::path& folder) {
@@ -90,6 +107,48 @@ TEST(TextFile, keepsTheOldFileWhenAnyStepFails) {
     EXPECT_EQ(readText(target), "old");
     EXPECT_EQ(filesIn(folder.path()), 1U) << "temporary file left behind";
   }
+}
+
+TEST(TextFile, writesInPlaceWhereOnlyTheFolderRefuses) {
+  const TempFolder folder;
+  const fs::path target = folder.path() / "plan.txl";
+  for (const Step refused : {Step::Create, Step::Rename}) {
+    for (const std::string old : {"old\r\n", "an old text that is longer than the new one\r\n"}) {
+      writeText(target, old);
+      for (const Step step :
+           {Step::OpenInPlace, Step::Write, Step::Cut, Step::Flush, Step::Close}) {
+        EXPECT_NE(writeWith(FaultyOperations(step, refused), target, "the new text"), "");
+        std::string kept;
+        EXPECT_EQ(readTextFile(target, kept), "");
+        EXPECT_EQ(kept, old) << "put back";
+      }
+      FileReport report;
+      EXPECT_EQ(writeWith(FaultyOperations(Step::Done, refused), target, "the new text", &report),
+                "");
+      EXPECT_EQ(report.way, WriteWay::InPlace);
+      EXPECT_EQ(readText(target), "the new text");
+      EXPECT_EQ(filesIn(folder.path()), 1U);
+    }
+  }
+  EXPECT_NE(writeWith(FaultyOperations(Step::Done, Step::Create), folder.path() / "new", ""), "")
+      << "there is nothing to write over";
+}
+
+TEST(TextFile, leftoversGoAfterADay) {
+  const TempFolder folder;
+  const auto age = [&folder](const char* name, int hours) {
+    const fs::path path = folder.path() / name;
+    fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::hours(hours));
+  };
+  for (const char* name : {".trassix-1.tmp", ".trassix-2.tmp", ".trassix-3.txl", "trassix-4.tmp"})
+    writeText(folder.path() / name, "");
+  fs::create_directory(folder.path() / ".trassix-5.tmp");
+  for (const char* old : {".trassix-1.tmp", ".trassix-3.txl", "trassix-4.tmp", ".trassix-5.tmp"})
+    age(old, 25);
+  age(".trassix-2.tmp", 23);
+  removeLeftovers(folder.path());
+  EXPECT_EQ(filesIn(folder.path()), 4U);
+  EXPECT_FALSE(fs::exists(folder.path() / ".trassix-1.tmp"));
 }
 
 #ifndef _WIN32 // where such a test starts anew in another temporary folder
@@ -119,6 +178,10 @@ TEST(TextFile, writesAndReadsUnderAnyName) {
       std::erase(read, '\r'); // which Windows puts at the ends of lines
       EXPECT_EQ(read, text);
     }
+    EXPECT_EQ(writeBytes(target, "one\r\ntwo\n"), "");
+    std::string read;
+    EXPECT_EQ(readTextFile(target, read), "");
+    EXPECT_EQ(read, "one\r\ntwo\n");
   }
   const fs::path longest = folder.path() / (std::string(250, 'n') + ".txl");
   EXPECT_EQ(writeTextFile(longest, "text"), "");
@@ -146,12 +209,14 @@ TEST(TextFile, namesWhatItCannotOpen) {
 
 #ifndef _WIN32
 
-TEST(TextFile, keepsLinksAndPermissions) {
+TEST(TextFile, keepsLinksPermissionsOwnerAndAttributes) {
   const TempFolder folder;
   const fs::path target = folder.path() / "plan.txl";
   writeText(target, "old");
   const auto mode = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
   fs::permissions(target, mode);
+  const bool given = chown(target.c_str(), 4321, 8765) == 0;
+  const bool marked = setxattr(target.c_str(), "user.origin", "club", 4, 0) == 0;
   fs::create_symlink("plan.txl", folder.path() / "link");
   fs::create_symlink(folder.path() / "link", folder.path() / "second link");
   fs::create_symlink("nothing yet", folder.path() / "dangling");
@@ -162,6 +227,13 @@ TEST(TextFile, keepsLinksAndPermissions) {
   EXPECT_TRUE(fs::is_symlink(folder.path() / "second link"));
   EXPECT_EQ(readText(target), "new");
   EXPECT_EQ(fs::status(target).permissions(), mode);
+  struct stat found {};
+  EXPECT_EQ(stat(target.c_str(), &found), 0);
+  EXPECT_EQ(found.st_uid, given ? 4321U : geteuid());
+  EXPECT_EQ(found.st_gid, given ? 8765U : getegid());
+  std::string mark(4, ' ');
+  EXPECT_EQ(getxattr(target.c_str(), "user.origin", mark.data(), 4), marked ? 4 : -1);
+  EXPECT_EQ(mark, marked ? "club" : "    ");
 
   EXPECT_EQ(writeTextFile(folder.path() / "dangling", "new"), "");
   EXPECT_EQ(readText(folder.path() / "nothing yet"), "new");
@@ -189,18 +261,22 @@ TEST(TextFile, respectsWriteProtection) {
   const TempFolder folder;
   const fs::path target = folder.path() / "locked" / "plan.txl";
   writeText(target, "old");
-  fs::permissions(target, fs::perms::owner_read);
-  fs::permissions(folder.path() / "locked", fs::perms::owner_read | fs::perms::owner_exec);
-  const bool mightyUser = static_cast<bool>(std::ofstream(target, std::ios::app));
-  const std::string fileLocked = writeTextFile(target, "new");
-  fs::permissions(target, fs::perms::owner_all);
-  const std::string folderLocked = writeTextFile(target, "new");
-  fs::permissions(folder.path() / "locked", fs::perms::owner_all);
-  if (mightyUser)
-    GTEST_SKIP() << "this user may write anywhere";
-  EXPECT_EQ(fileLocked, "Cannot open file: " + target.string());
-  EXPECT_EQ(folderLocked, "Cannot open file: " + target.string());
+  fs::permissions(folder.path(), fs::perms(0755));
+  fs::permissions(folder.path() / "locked", fs::perms(0555));
+  fs::permissions(target, fs::perms(0444));
+  const auto save = [&target](FileReport* report) {
+    const test::PlainUser plain;
+    return replaceTextFile(
+        target, [](const auto& sink) { return sink("new"), std::string(); }, report);
+  };
+  FileReport report;
+  EXPECT_EQ(save(&report), "Cannot open file: " + target.string());
   EXPECT_EQ(readText(target), "old");
+  fs::permissions(target, fs::perms(0666));
+  EXPECT_EQ(save(&report), "");
+  EXPECT_EQ(report.way, WriteWay::InPlace);
+  EXPECT_EQ(readText(target), "new");
+  fs::permissions(folder.path() / "locked", fs::perms::owner_all);
 }
 
 #endif
