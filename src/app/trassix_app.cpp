@@ -3,7 +3,9 @@
 #include "app/services/app_prefs.h"
 #include "app/services/diagnostic_log.h"
 #include "app/services/standard_folders.h"
+#include "app/services/user_paths.h"
 #include "catalog/track_catalog.h"
+#include "document/text_file.h"
 #include "ui/main_frame.h"
 #include "ui/splash_dialog.h"
 
@@ -15,7 +17,9 @@
 #endif
 
 #include <exception>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace trassix {
 
@@ -28,6 +32,17 @@ void dispatchUntil(const bool& done) {
   for (const wxStopWatch watch; !done && watch.Time() < 2000;) {
     loop.DispatchTimeout(50);
   }
+}
+
+/// Takes away what a crash during a save left among the user's files.
+void tidyUserFolders() {
+  removeLeftovers(UserPaths::layoutsFolder());
+  const std::filesystem::path library = UserPaths::libraryRoot();
+  removeLeftovers(library);
+  std::error_code error;
+  for (std::filesystem::directory_iterator folder(library, error), end; !error && folder != end;
+       folder.increment(error))
+    removeLeftovers(folder->path());
 }
 
 } // namespace
@@ -46,7 +61,7 @@ bool TrassixApp::OnInit() {
   if (!wxApp::OnInit()) {
     return false;
   }
-  DiagnosticLog::open(StandardFolders::logs() / DiagnosticLog::kFileName);
+  DiagnosticLog::open(StandardFolders::logs());
   DiagnosticLog::write("=== Trassix starting ===");
   wxInitAllImageHandlers();
   DiagnosticLog::write("Image handlers registered");
@@ -83,6 +98,7 @@ void TrassixApp::openWindow() {
     SplashDialog(frame).ShowModal();
   }
   frame->refreshProperties();
+  tidyUserFolders();
 }
 
 MainFrame* TrassixApp::makeFrame() {

@@ -1,5 +1,6 @@
 #include "panels/block_library.h"
 
+#include "app/services/file_listing.h"
 #include "document/entities.h"
 #include "document/repairs.h"
 
@@ -22,14 +23,9 @@ FileResult openBlock(const fs::path& file, Block& block) {
 
 std::vector<LibraryEntry> libraryBlocks(const fs::path& folder) {
   std::vector<LibraryEntry> entries;
-  std::error_code error;
-  for (fs::directory_iterator file(folder, error), end; !error && file != end;
-       file.increment(error)) {
-    std::error_code unreadable;
-    if (file->path().extension() != ".txl" || !file->is_regular_file(unreadable))
-      continue;
+  for (const fs::path& file : filesIn(folder, ".txl")) {
     LibraryEntry entry;
-    entry.file = file->path();
+    entry.file = file;
     const std::u8string name = entry.file.stem().u8string();
     entry.name.assign(name.begin(), name.end());
     entry.problem = openBlock(entry.file, entry.block).message;

@@ -19,9 +19,14 @@ TEST(BlockLibrary, listsTheFilesOfAFolderByName) {
   ASSERT_EQ(saveBlock(layout, folder.path() / "Yard.v2.txl", "Yard"), "");
   test::writeText(folder.path() / "Broken.txl", "<block name=\"x\">\n<piece id=\"a\" />\n");
   test::writeText(folder.path() / "notes.txt", "");
+  test::writeText(folder.path() / "A.TXL", "");
   test::writeText(folder.path() / "folder.txl" / "inner.txl", "");
 
-  const std::vector<LibraryEntry> entries = libraryBlocks(folder.path());
+  std::vector<LibraryEntry> entries = libraryBlocks(folder.path());
+#ifdef _WIN32 // where names differ by more than capitals
+  EXPECT_EQ(entries.at(0).name, "A");
+  entries.erase(entries.begin());
+#endif
   ASSERT_EQ(entries.size(), 3U);
   EXPECT_EQ(entries[0].name, "Broken");
   EXPECT_NE(entries[0].problem, "");

@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 namespace trassix::test {
 namespace {
 
@@ -48,6 +52,13 @@ TEST(AppPrefs, WhatCannotBeOpenedLeavesTheRecordAlone) {
   writeText(folder.path() / "file", "not a folder");
   writePrefs(prefs, folder.path() / "file" / "prefs.cfg");
   EXPECT_EQ(readText(folder.path() / "file"), "not a folder");
+#ifndef _WIN32
+  const auto pipe = folder.path() / "prefs.cfg"; // where reader and writer wait for each other
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  readPrefsOrMigrate(prefs, pipe, pipe);
+  writePrefs(prefs, pipe);
+  EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+#endif
 }
 
 TEST(AppPrefs, WritesThreeLinesIntoAFolderItMakes) {

@@ -4,6 +4,7 @@
 
 #include <wx/app.h>
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <functional>
@@ -44,8 +45,13 @@ TEST_F(UiTest, StartWritesItsLogAndTraceAnew) {
   const auto trace = home() / ".trassix" / "mainframe.log";
   writeText(logFile(), "from the run before\n");
   writeText(trace, "from the run before\n");
+  const auto leftover = layoutsFolder() / "library" / "Marklin_C-Track" / ".trassix-1.tmp";
+  writeText(leftover, "half a block");
+  std::filesystem::last_write_time(leftover, std::filesystem::file_time_type::clock::now() -
+                                                 std::chrono::hours(48));
   start();
   finish();
+  EXPECT_FALSE(std::filesystem::exists(leftover));
   EXPECT_EQ(eventsOf(logFile()),
             (Lines{"=== Trassix starting ===", "Image handlers registered",
                    "Built-in catalog loaded - 246 pieces", "Creating MainFrame...",

@@ -36,10 +36,13 @@ AppPrefs& appPrefs() {
 }
 
 bool readPrefs(AppPrefs& prefs, const std::filesystem::path& file) {
-  std::ifstream in(file);
-  // A folder opens as a stream here and there, yet has no lines to give.
+  // Asked first: to open a pipe is to wait until somebody writes into it.
   std::error_code ignored;
-  if (!in || std::filesystem::is_directory(file, ignored)) {
+  if (!std::filesystem::is_regular_file(file, ignored)) {
+    return false;
+  }
+  std::ifstream in(file);
+  if (!in) {
     return false;
   }
   for (std::string line; std::getline(in, line);) {
@@ -58,6 +61,9 @@ void readPrefsOrMigrate(AppPrefs& prefs, const std::filesystem::path& file,
 void writePrefs(const AppPrefs& prefs, const std::filesystem::path& file) {
   std::error_code ignored;
   std::filesystem::create_directories(file.parent_path(), ignored);
+  if (std::filesystem::exists(file, ignored) && !std::filesystem::is_regular_file(file, ignored)) {
+    return;
+  }
   std::ofstream out(file);
   // Whole text at once, digits by to_string: a stream would group digits by the user's locale.
   out << "playful=" + std::string(prefs.playful ? "1" : "0") +

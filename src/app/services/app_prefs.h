@@ -24,8 +24,8 @@ AppPrefs& appPrefs();
 
 /// Takes the fields that the file names into `prefs`, keeps the others. A key counts only from the
 /// first column and in lower case, of the value only the first character; unknown lines are
-/// skipped, the last of several lines wins. False, and nothing is changed, when the file cannot be
-/// opened.
+/// skipped, the last of several lines wins. False, and nothing is changed, when it is no regular
+/// file or cannot be opened.
 bool readPrefs(AppPrefs& prefs, const std::filesystem::path& file);
 
 /// Reads `file`; when that cannot be opened, `legacyFile`, whose content is then written to `file`
@@ -33,8 +33,8 @@ bool readPrefs(AppPrefs& prefs, const std::filesystem::path& file);
 void readPrefsOrMigrate(AppPrefs& prefs, const std::filesystem::path& file,
                         const std::filesystem::path& legacyFile);
 
-/// Writes all fields, making the folder when it is missing. A file that cannot be written is left
-/// alone without a word: the choice then holds for this run.
+/// Writes all fields, making the folder when it is missing. What cannot be written, or is no
+/// regular file, is left alone without a word: the choice then holds for this run.
 void writePrefs(const AppPrefs& prefs, const std::filesystem::path& file);
 
 } // namespace trassix

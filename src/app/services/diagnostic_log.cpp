@@ -4,7 +4,6 @@
 #include <chrono>
 #include <cstdio>
 #include <ctime>
-#include <fstream>
 #include <memory>
 #include <string>
 
@@ -12,8 +11,8 @@ namespace trassix {
 
 namespace {
 
-std::unique_ptr<std::ofstream>& handle() {
-  static std::unique_ptr<std::ofstream> log;
+std::unique_ptr<LogFile>& handle() {
+  static std::unique_ptr<LogFile> log;
   return log;
 }
 
@@ -36,18 +35,17 @@ std::string timeStamp(std::chrono::system_clock::time_point when) {
 
 } // namespace
 
-void DiagnosticLog::open(const std::filesystem::path& file) {
-  handle() = std::make_unique<std::ofstream>(file);
+void DiagnosticLog::open(const LogFolder& folder) {
+  handle() = std::make_unique<LogFile>(folder, kFileName, LogFile::Start::Anew);
 }
 
 void DiagnosticLog::write(std::string_view text) {
-  if (!handle() || !handle()->is_open()) {
+  if (!handle()) {
     return;
   }
   std::string line = timeStamp(std::chrono::system_clock::now());
   line.append(text).append("\n");
-  handle()->write(line.data(), static_cast<std::streamsize>(line.size()));
-  handle()->flush();
+  handle()->write(line);
 }
 
 void DiagnosticLog::close() {

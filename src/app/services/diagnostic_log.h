@@ -1,6 +1,7 @@
 #pragma once
 
-#include <filesystem>
+#include "app/services/log_file.h"
+
 #include <string_view>
 
 namespace trassix {
@@ -13,7 +14,7 @@ class DiagnosticLog {
   static constexpr std::string_view kFileName = "trassix.log";
 
   /// Starts the file anew; what an earlier run wrote is lost.
-  static void open(const std::filesystem::path& file);
+  static void open(const LogFolder& folder);
 
   /// `text` is one line in the encoding of the file, without the line's end.
   static void write(std::string_view text);

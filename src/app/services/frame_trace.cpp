@@ -3,22 +3,20 @@
 #include "app/services/standard_folders.h"
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <system_error>
 
 namespace trassix {
 
 void FrameTrace::write(const char* text) {
-  static const std::filesystem::path file = StandardFolders::logs() / kFileName;
+  static const LogFolder folder = StandardFolders::logs();
   static bool truncated = false;
   if (!truncated) {
     std::error_code ignored;
-    std::filesystem::remove(file, ignored);
+    std::filesystem::remove(folder.path / kFileName, ignored);
     truncated = true;
   }
-  std::ofstream out(file, std::ios::app);
-  out << text + std::string("\n");
+  LogFile(folder, kFileName, LogFile::Start::Append).write(text + std::string("\n"));
 }
 
 } // namespace trassix

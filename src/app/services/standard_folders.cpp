@@ -11,9 +11,10 @@ namespace trassix {
 
 namespace fs = std::filesystem;
 
-fs::path StandardFolders::logs() {
-  return folderOrFallback(toPath(wxStandardPaths::Get().GetUserLocalDataDir()),
-                          toPath(wxStandardPaths::Get().GetTempDir()));
+LogFolder StandardFolders::logs() {
+  const fs::path own = toPath(wxStandardPaths::Get().GetUserLocalDataDir());
+  const fs::path folder = folderOrFallback(own, toPath(wxStandardPaths::Get().GetTempDir()));
+  return {folder, folder != own};
 }
 
 fs::path StandardFolders::documents() {

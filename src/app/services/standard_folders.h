@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/services/log_file.h"
+
 #include <filesystem>
 
 namespace trassix {
@@ -8,7 +10,7 @@ namespace trassix {
 class StandardFolders {
  public:
   /// Per-user local data, made when missing; the folder for temporary files when that fails.
-  static std::filesystem::path logs();
+  static LogFolder logs();
 
   static std::filesystem::path documents();
 
