@@ -122,7 +122,7 @@ void describe(SheetBuilder& build, const PlacedPiece* piece) {
   build.sheet.title = definition != nullptr ? definition->name : piece->cat;
   build.fixed("Article", piece->cat);
   if (definition != nullptr) {
-    build.fixed("System", std::string(systemName(definition->system)));
+    build.fixed("System", std::string(systemShortName(definition->system)));
     build.fixed("Kind", std::string(kindName(definition->kind)));
     if (definition->kind != PieceKind::Curve && definition->length > 0)
       build.length(PropertyId::Fixed, "Length", definition->length);
@@ -267,7 +267,7 @@ void describeSeveral(SheetBuilder& build, const Layout& layout) {
     build.length(PropertyId::Fixed, "Track length", length);
     build.fixed("Article", article.get().value_or(Property::kVarious));
     build.fixed("System",
-                system.get() ? std::string(systemName(*system.get())) : Property::kVarious);
+                system.get() ? std::string(systemShortName(*system.get())) : Property::kVarious);
     if (height.get())
       build.length(PropertyId::Fixed, "Height", *height.get());
     else

@@ -91,7 +91,7 @@ std::pair<double, std::string_view> articleOrder(const std::string& article) {
 }
 
 std::string_view systemText(const TallyRow& row) {
-  return row.system ? systemName(*row.system) : std::string_view{};
+  return row.system ? systemShortName(*row.system) : std::string_view{};
 }
 
 template <class Order>
@@ -108,14 +108,31 @@ Cells cellsOf(const TallyRow& row) {
           std::to_string(row.sold)};
 }
 
+bool isNegativeNumber(std::string_view text) {
+  const std::string_view digits = text.substr(text.starts_with('-') ? 1 : 0);
+  return digits.size() < text.size() && digits.find_first_of("0123456789") != digits.npos &&
+         digits.find_first_not_of("0123456789.") == digits.npos &&
+         std::ranges::count(digits, '.') <= 1;
+}
+
+/// Articles come with the plan, from whoever made it: a spreadsheet would run some as formulas.
+std::string plainText(const std::string& text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  const bool formula = first != std::string::npos &&
+                       std::string_view("=+-@\t\r\n").find(text[first]) != std::string_view::npos;
+  return formula && !isNegativeNumber(text) ? "'" + text : text;
+}
+
 /// Nothing in a clipboard table can be quoted, so that separators become blanks.
-std::string tableCell(std::string text) {
+std::string tableCell(const std::string& cell) {
+  std::string text = plainText(cell);
   std::ranges::replace_if(
       text, [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
   return text;
 }
 
-std::string csvCell(const std::string& text) {
+std::string csvCell(const std::string& cell) {
+  const std::string text = plainText(cell);
   if (text.find_first_of(",\"\r\n") == std::string::npos) {
     return text;
   }

@@ -47,10 +47,12 @@ using TallyHeadings = std::array<std::string, kTallyColumnCount>;
 /// English headings by column.
 const TallyHeadings& tallyHeadings();
 
-/// The rows as lines of tab-separated cells, which spreadsheets take from the clipboard.
+/// The rows as lines of tab-separated cells, which spreadsheets take from the clipboard. A cell
+/// that they would run as a formula gets an apostrophe in front.
 std::string tallyAsTable(const std::vector<TallyRow>& rows, const TallyHeadings& headings);
 
-/// The rows as comma-separated values in UTF-8 with CR LF line ends (RFC 4180).
+/// The rows as comma-separated values in UTF-8 with CR LF line ends (RFC 4180), and formulas as
+/// above.
 std::string tallyAsCsv(const std::vector<TallyRow>& rows, const TallyHeadings& headings);
 
 } // namespace trassix

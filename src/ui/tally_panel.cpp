@@ -58,12 +58,8 @@ bool severalSystems(const std::vector<TallyRow>& rows) {
 
 wxString cellText(const TallyRow& row, TallyColumn column) {
   switch (column) {
-  case TallyColumn::System: {
-    // The maker of nearly all of them would fill the column.
-    wxString name = row.system ? fromUtf8(systemName(*row.system)) : wxString();
-    name.StartsWith("Marklin ", &name);
-    return name;
-  }
+  case TallyColumn::System:
+    return row.system ? fromUtf8(systemShortName(*row.system)) : wxString();
   case TallyColumn::Article:
     return fromUtf8(row.article);
   case TallyColumn::Name:
@@ -160,7 +156,7 @@ class TallyList : public wxListCtrl {
     }
     const TallyRow& row = rows_[index];
     const wxString name = cellText(row, TallyColumn::Name);
-    const wxString system = row.system ? fromUtf8(systemName(*row.system)) : wxString();
+    const wxString system = cellText(row, TallyColumn::System);
     area.SetToolTip(fromUtf8(row.article) + "  " + name + "\n" +
                     (system.empty() ? system : system + "\n") +
                     wxString::Format(_("%d on the plan, %d to order"), row.placed, row.sold));
@@ -261,7 +257,10 @@ void TallyPanel::saveAsCsv() {
 }
 
 void TallyPanel::saveCsv(const std::filesystem::path& file) {
-  const std::string message = writeTextFile(file, tallyAsCsv(tally_.rows, translatedHeadings()));
+  // Without the mark some spreadsheets read UTF-8 as something else.
+  constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
+  const std::string message =
+      writeBytes(file, kByteOrderMark + tallyAsCsv(tally_.rows, translatedHeadings()));
   if (!message.empty())
     wxMessageBox(fromUtf8(message), _("Save Failed"), wxOK | wxICON_ERROR, this);
 }

@@ -71,7 +71,7 @@ TEST(PropertySheet, showsWhatIsSelected) {
                        "Extent: 811.8 \u00d7 713.5 mm\nScenery: 1\nLevels: 2\n"
                        "Active level: Level 1\n");
   EXPECT_EQ(shown({2}), "24611 Left Turnout R2=437.5mm 24.3\u00b0\nArticle: 24611\n"
-                        "System: Marklin C-Track\nKind: Left turnout\nLength: 188.3 mm\n"
+                        "System: Märklin C\nKind: Left turnout\nLength: 188.3 mm\n"
                         "Radius: 437.5 mm\nAngle: 24.3\u00b0\nPosition x = 188.3 mm\n"
                         "Position y = 0.0 mm\nHeading = 0\u00b0\n"
                         "Height = 0.0 mm (All track joined to it goes along.)\nGrade: none\n"
@@ -86,7 +86,7 @@ TEST(PropertySheet, showsWhatIsSelected) {
   sample.layout.editPiece(4)->level = 2;
   EXPECT_EQ(shown({1, 4, sample.label}),
             "Selection\nPieces: 2\nLabels: 1\nTrack length: 360.0 mm\nArticle: various\n"
-            "System: Marklin C-Track\nHeight: 0.0 mm\n"
+            "System: Märklin C\nHeight: 0.0 mm\n"
             "Level = various (Joined to other track: it keeps its height.)\nColour = none\n");
   EXPECT_EQ(shown({sample.label}),
             "Label\nText = Depot\nPosition x = 10.0 mm\nPosition y = 20.0 mm\n");

@@ -64,16 +64,22 @@ TEST(Tally, sortsByAnyColumn) {
 }
 
 TEST(Tally, goesOutAsTableAndCsv) {
-  const std::vector<TallyRow> rows = tallyOf(planOf({"8500", "a\tb,\"c\"\n"})).rows;
   const TallyHeadings headings{"S", "A", "N", "P", "O"};
-  EXPECT_EQ(tallyAsTable(rows, headings),
-            "S\tA\tN\tP\tO\n"
-            "Marklin Z-Track\t8500\t8500 Straight 110mm / 4-3/8\"\t1\t1\n"
-            "\ta b,\"c\" \t\t1\t1\n");
-  EXPECT_EQ(tallyAsCsv(rows, headings),
-            "S,A,N,P,O\r\n"
-            "Marklin Z-Track,8500,\"8500 Straight 110mm / 4-3/8\"\"\",1,1\r\n"
-            ",\"a\tb,\"\"c\"\"\n\",,1,1\r\n");
+  const std::vector<TallyRow> rows = tallyOf(planOf({"8500", "a\tb,\"c\"\n"})).rows;
+  EXPECT_EQ(tallyAsTable(rows, headings), "S\tA\tN\tP\tO\n"
+                                          "Märklin Z\t8500\t8500 Straight 110mm / 4-3/8\"\t1\t1\n"
+                                          "\ta b,\"c\" \t\t1\t1\n");
+  EXPECT_EQ(tallyAsCsv(rows, headings), "S,A,N,P,O\r\n"
+                                        "Märklin Z,8500,\"8500 Straight 110mm / 4-3/8\"\"\",1,1\r\n"
+                                        ",\"a\tb,\"\"c\"\"\n\",,1,1\r\n");
+
+  for (const std::string text : {"=1+1", "+5", "@SUM(A1)", "-A1", " =2", "-", "-1.5.2"}) {
+    const std::vector<TallyRow> formula = tallyOf(planOf({text.c_str()})).rows;
+    EXPECT_EQ(tallyAsCsv(formula, headings), "S,A,N,P,O\r\n,'" + text + ",,1,1\r\n");
+    EXPECT_EQ(tallyAsTable(formula, headings), "S\tA\tN\tP\tO\n\t'" + text + "\t\t1\t1\n");
+  }
+  EXPECT_EQ(tallyAsCsv(tallyOf(planOf({"-12.5", "\t3", "a=1"})).rows, headings),
+            "S,A,N,P,O\r\n,'\t3,,1,1\r\n,-12.5,,1,1\r\n,a=1,,1,1\r\n");
 }
 
 } // namespace
