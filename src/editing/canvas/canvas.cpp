@@ -52,7 +52,7 @@ Canvas::~Canvas() = default;
 
 void Canvas::press(Button button, const PointerInput& input) {
   const Input working(*this);
-  last_ = input;
+  pointAt(input);
   if (button == Button::Right) {
     if (carry_ || gesture_ != Gesture::None)
       cancel();
@@ -83,8 +83,7 @@ void Canvas::press(Button button, const PointerInput& input) {
 
 void Canvas::move(const PointerInput& input) {
   const Input working(*this);
-  last_ = input;
-  site_.host.setPointer(input.world);
+  pointAt(input);
   switch (gesture_) {
   case Gesture::None:
     tool().hover(input);
@@ -105,15 +104,16 @@ void Canvas::move(const PointerInput& input) {
   case Gesture::Pan:
     site_.view.panTo({originAtPress_.x + input.px.x - pressed_.px.x,
                       originAtPress_.y + input.px.y - pressed_.px.y});
-    site_.host.repaint();
+    viewChanged();
     break;
   }
+  site_.host.setPointer(pointer());
   afterInput();
 }
 
 void Canvas::release(Button button, const PointerInput& input) {
   const Input working(*this);
-  last_ = input;
+  pointAt(input);
   if (button == Button::Right || (gesture_ != Gesture::None && button != button_))
     return;
   const Gesture gesture = gesture_;
@@ -147,7 +147,7 @@ void Canvas::doubleClick(const PointerInput& input) {
   if (carry_ || dropped_ || input.ctrl || space_)
     return press(Button::Left, input);
   const Input working(*this);
-  last_ = input;
+  pointAt(input);
   gesture_ = Gesture::None;
   tool().doubleClick(input);
   afterInput();
@@ -155,7 +155,7 @@ void Canvas::doubleClick(const PointerInput& input) {
 
 void Canvas::wheel(const PointerInput& input, double notches) {
   const Input working(*this);
-  last_ = input;
+  pointAt(input);
   if (notches == 0)
     return;
   const bool whole = std::abs(notches) >= 1;
@@ -163,7 +163,7 @@ void Canvas::wheel(const PointerInput& input, double notches) {
     wheelRest_ = 0;
     const double step = notches > 0 ? kWheelIn : kWheelOut;
     site_.view.zoomAbout(whole ? step : std::pow(kWheelIn, notches), input.px);
-    site_.host.repaint();
+    viewChanged();
   } else {
     // Turning back counts from the start.
     if (whole || wheelRest_ * notches < 0)
@@ -220,8 +220,10 @@ void Canvas::retire(std::unique_ptr<CanvasTool> tool) {
 }
 
 void Canvas::cancel() {
-  if (gesture_ == Gesture::Pan)
+  if (gesture_ == Gesture::Pan) {
     site_.view.panTo(originAtPress_);
+    viewChanged();
+  }
   gesture_ = Gesture::None;
   tool().cancel();
   retire(std::move(carry_));
@@ -261,6 +263,19 @@ void Canvas::carryBlock(Block block, const PointerInput& at, bool held) {
     startCarry(std::make_unique<CarryBlockTool>(site_, std::move(block), held), at);
 }
 
+void Canvas::pointAt(const PointerInput& input) {
+  last_ = input;
+  pointed_ = true;
+}
+
+void Canvas::viewChanged() {
+  // The plan moved below the pointer.
+  if (pointed_)
+    last_.world = site_.view.toWorld(last_.px);
+  site_.host.setPointer(pointer());
+  site_.host.repaint();
+}
+
 void Canvas::afterInput() {
   if (carry_ && carry_->finished()) {
     retire(std::move(carry_));
@@ -294,22 +309,22 @@ Point Canvas::centre() const {
 void Canvas::zoomAboutCentre(double factor) {
   const auto half = [](double length) { return std::floor(length / 2); };
   site_.view.zoomAbout(factor, {half(site_.size.width), half(site_.size.height)});
-  site_.host.repaint();
+  viewChanged();
 }
 
 void Canvas::fit() {
   site_.view.fit(contentBox(site_.layout()).value_or(Box{}), site_.size.width, site_.size.height);
-  site_.host.repaint();
+  viewChanged();
 }
 
 void Canvas::resetView() {
   site_.view.reset();
-  site_.host.repaint();
+  viewChanged();
 }
 
 void Canvas::resetViewForSmall() {
   site_.view.resetForSmall();
-  site_.host.repaint();
+  viewChanged();
 }
 
 PaintOptions Canvas::paintOptions() const {

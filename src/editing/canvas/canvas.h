@@ -38,7 +38,7 @@ class Canvas {
   void wheel(const PointerInput& input, double notches);
   /// The pointer left the canvas.
   void leave();
-  /// Where the pointer was last, mm.
+  /// Where the pointer is on the plan, or left it, mm; the plan's origin before it came.
   Point pointer() const { return last_.world; }
   bool key(const KeyInput& input);
   void setSpace(bool down);
@@ -82,6 +82,8 @@ class Canvas {
   void startCarry(std::unique_ptr<CarryTool> carry, const PointerInput& at);
   bool wheelTurnsSelection(const PointerInput& input) const;
   void afterInput();
+  void pointAt(const PointerInput& input);
+  void viewChanged();
   PaintOptions paintOptions() const;
 
   /// Around everything that lets a tool work.
@@ -118,6 +120,7 @@ class Canvas {
   bool space_ = false;
   double wheelRest_ = 0; ///< notches on the way to the next step
   PointerInput last_;
+  bool pointed_ = false; ///< whether `last_` came from the pointer
 };
 
 } // namespace trassix

@@ -104,6 +104,28 @@ TEST(CanvasView, SpaceAndTheMiddleButtonPanAndEscGoesBack) {
   }
 }
 
+TEST(CanvasView, ThePointersPlaceFollowsEveryChangeOfTheView) {
+  CanvasScript script;
+  Canvas& canvas = script.canvas;
+  canvas.fit();
+  EXPECT_EQ(script.host.pointer, Point{}) << "it has not come yet";
+  const auto at = [&](double x) {
+    return PointerInput{{x, 300}, canvas.view().toWorld({x, 300}), false, false, false};
+  };
+  canvas.move(at(400));
+  for (const int change : {1, 2, 3, 4, 5, 6, 7}) {
+    change == 1   ? canvas.zoomAboutCentre(0.8)
+    : change == 2 ? canvas.resetView()
+    : change == 3 ? canvas.resetViewForSmall()
+    : change == 4 ? canvas.fit()
+    : change == 5 ? canvas.press(Canvas::Button::Middle, at(400))
+    : change == 6 ? canvas.move(at(500))
+                  : canvas.cancel();
+    EXPECT_NEAR(canvas.view().toScreen(script.host.pointer).x, change < 6 ? 400 : 500, 1e-6)
+        << change;
+  }
+}
+
 TEST(CarryPiece, TurnsByWheelAndKeyAndJoinsWhereItSnaps) {
   CanvasScript script(Plan().place("24188").layout);
   script.carry("24130", {600, 300});

@@ -23,6 +23,7 @@ class FakeHost : public LayoutHost {
   std::vector<MenuRow> menu;
   std::vector<std::string> offered;
   std::string hint;
+  Point pointer;
 
   Layout& layout() override { return plan; }
   const EditorSwitches& switches() const override { return state; }
@@ -30,7 +31,7 @@ class FakeHost : public LayoutHost {
   void selectionChanged() override {}
   void repaint() override {}
   void setHint(const std::string& text) override { hint = text; }
-  void setPointer(Point) override {}
+  void setPointer(Point world) override { pointer = world; }
   void setToolMode(ToolMode mode) override { state.mode = mode; }
   void show(const Notice& notice) override { notices.push_back(notice); }
   bool confirm(const Question& question) override {
