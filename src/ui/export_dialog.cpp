@@ -2,6 +2,8 @@
 
 #include "ui/accept_later.h"
 #include "ui/folder_field.h"
+#include "ui/name_dialog.h"
+#include "ui/problem_text.h"
 #include "ui/utf8.h"
 
 #include <wx/button.h>
@@ -21,7 +23,7 @@ ExportDialog::ExportDialog(wxWindow* parent, SavedLayouts saved,
     : wxDialog(parent, wxID_ANY, _("Export Layout"), wxDefaultPosition,
                parent->FromDIP(wxSize(440, 480)), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER,
                "export"),
-      saved_(std::move(saved)) {
+      saved_(std::move(saved)), fileNames_(saved_.names()) {
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   const auto row = wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, 8);
   const auto label = [&](const wxString& text) {
@@ -30,7 +32,7 @@ ExportDialog::ExportDialog(wxWindow* parent, SavedLayouts saved,
   label(_("Choose a layout to export:"));
   names_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxLB_SINGLE,
                          wxDefaultValidator, "layouts");
-  for (const std::string& name : saved_.names())
+  for (const std::string& name : fileNames_)
     names_->Append(fromUtf8(name));
   sizer->Add(names_, wxSizerFlags(row).Proportion(1));
   label(_("Destination:"));
@@ -40,6 +42,8 @@ ExportDialog::ExportDialog(wxWindow* parent, SavedLayouts saved,
   name_ = new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
                          wxDefaultValidator, "name");
   sizer->Add(name_, row);
+  problem_ = new ProblemText(this, FromDIP(420));
+  sizer->Add(problem_, row);
   auto* buttons = new wxBoxSizer(wxHORIZONTAL);
   buttons->AddStretchSpacer();
   auto* accept = new wxButton(this, wxID_OK, _("Export"));
@@ -61,19 +65,22 @@ ExportDialog::ExportDialog(wxWindow* parent, SavedLayouts saved,
 void ExportDialog::offerName() {
   // A name that the user typed stays.
   if (typedName().empty() || typedName() == offered_) {
-    offered_ = names_->GetStringSelection();
+    offered_ = fromUtf8(withoutSeparators(toUtf8(names_->GetStringSelection())));
     name_->SetValue(offered_);
   }
   enableButtons();
 }
 
 void ExportDialog::enableButtons() {
+  const NameAdvice advice = adviseOnTyped(fileName());
+  problem_->show(advice.line);
   FindWindow(wxID_OK)->Enable(names_->GetSelection() != wxNOT_FOUND && !folder_->folder().empty() &&
-                              !typedName().empty());
+                              !typedName().empty() && !advice.leadsOut);
 }
 
 std::filesystem::path ExportDialog::source() const {
-  return saved_.find(toUtf8(names_->GetStringSelection())).value_or(std::filesystem::path());
+  return saved_.find(fileNames_.at(static_cast<std::size_t>(names_->GetSelection())))
+      .value_or(std::filesystem::path());
 }
 
 std::filesystem::path ExportDialog::destination() const {

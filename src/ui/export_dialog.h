@@ -12,6 +12,7 @@ class wxTextCtrl;
 namespace trassix {
 
 class FolderField;
+class ProblemText;
 
 /// Asks which of the user's plans to copy, and where to. Ends with wxID_OK only when a plan, a
 /// folder and a name are given.
@@ -30,9 +31,11 @@ class ExportDialog : public wxDialog {
   void enableButtons();
 
   SavedLayouts saved_;
+  std::vector<std::string> fileNames_; ///< in the order of the list
   wxListBox* names_;
   FolderField* folder_;
   wxTextCtrl* name_;
+  ProblemText* problem_;
   wxString offered_; ///< the name filled in for the user
 };
 

@@ -3,7 +3,10 @@
 #include "app/services/path_text.h"
 #include "ui/accept_later.h"
 #include "ui/folder_field.h"
+#include "ui/name_dialog.h"
+#include "ui/problem_text.h"
 #include "ui/saved_layouts.h"
+#include "ui/utf8.h"
 
 #include <wx/button.h>
 #include <wx/intl.h>
@@ -34,6 +37,8 @@ ImportDialog::ImportDialog(wxWindow* parent, const std::filesystem::path& folder
   name_ = new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
                          wxDefaultValidator, "name");
   sizer->Add(name_, row);
+  problem_ = new ProblemText(this, FromDIP(420));
+  sizer->Add(problem_, row);
   auto* buttons = new wxBoxSizer(wxHORIZONTAL);
   buttons->AddStretchSpacer();
   auto* accept = new wxButton(this, wxID_OK, _("Import"));
@@ -63,14 +68,17 @@ void ImportDialog::list() {
 void ImportDialog::offerName() {
   // A name that the user typed stays.
   if (names_->GetSelection() != wxNOT_FOUND && (layoutName().empty() || layoutName() == offered_)) {
-    offered_ = toText(source().stem());
+    offered_ = fromUtf8(withoutSeparators(toUtf8(toText(source().stem()))));
     name_->SetValue(offered_);
   }
   enableButtons();
 }
 
 void ImportDialog::enableButtons() {
-  FindWindow(wxID_OK)->Enable(names_->GetSelection() != wxNOT_FOUND && !layoutName().empty());
+  const NameAdvice advice = adviseOnTyped(layoutName());
+  problem_->show(advice.line);
+  FindWindow(wxID_OK)->Enable(names_->GetSelection() != wxNOT_FOUND && !layoutName().empty() &&
+                              !advice.leadsOut);
 }
 
 const std::filesystem::path& ImportDialog::source() const {

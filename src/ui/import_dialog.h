@@ -11,6 +11,7 @@ class wxTextCtrl;
 namespace trassix {
 
 class FolderField;
+class ProblemText;
 
 /// Asks for a plan file anywhere on the disk and the name that it is to have among the user's
 /// plans. Ends with wxID_OK only when both are given.
@@ -29,6 +30,7 @@ class ImportDialog : public wxDialog {
   FolderField* folder_;
   wxListBox* names_;
   wxTextCtrl* name_;
+  ProblemText* problem_;
   std::vector<std::filesystem::path> files_; ///< in the order of the list
   wxString offered_;                         ///< the name filled in for the user
 };

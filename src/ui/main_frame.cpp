@@ -89,7 +89,7 @@ void MainFrame::buildPanels() {
                                [this](std::string_view key) { canvas_->dragScenery(key); },
                                [this](std::string_view key) { canvas_->pickUpScenery(key); },
                                [this](const Block& block) { canvas_->pickUpBlock(block); },
-                               [this] { return layout_.settings().units; }});
+                               [this] { return plan_.layout().settings().units; }});
   palette_->SetMinSize(FromDIP(wxSize(kPaletteMinWidth, -1)));
   FrameTrace::write("BuildPanels: palette created");
   auto* inner = makeSplitter(outer, "innerSplitter");
@@ -150,7 +150,7 @@ void MainFrame::fitToDisplay() {
 
 void MainFrame::readPreferences() {
   readPrefsOrMigrate(appPrefs(), StandardFolders::prefsFile(), StandardFolders::legacyPrefsFile());
-  layout_.editSettings().units = appPrefs().units;
+  plan_.layout().editSettings().units = appPrefs().units;
   showUnits();
   if (!appPrefs().asked)
     askExperienceOnceRunning();
@@ -164,7 +164,7 @@ void MainFrame::bindCommands() {
     Bind(
         wxEVT_UPDATE_UI,
         [this, &command](wxUpdateUIEvent& event) {
-          event.Enable(commandEnabled(command, layout_));
+          event.Enable(commandEnabled(command, plan_.layout()));
         },
         command.id);
   }
@@ -210,11 +210,11 @@ void MainFrame::onClose(wxCloseEvent& event) {
 
 void MainFrame::refreshTitle() {
   wxString title = kBaseTitle;
-  if (!currentName_.empty())
-    title += " - " + currentName_;
-  else if (!currentPath_.empty())
-    title += " - " + fromUtf8(currentPath_.stem().u8string());
-  if (dirty_)
+  if (!plan_.name().empty())
+    title += " - " + fromUtf8(plan_.name());
+  else if (!plan_.file().empty())
+    title += " - " + fromUtf8(plan_.file().stem().u8string());
+  if (plan_.unsaved())
     title += " *";
   SetTitle(title);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/layout.h"
+#include "document/open_plan.h"
 #include "editing/canvas/layout_host.h"
 
 #include <wx/cmndata.h>
@@ -20,18 +20,18 @@ enum class HelpTopic;
 class PalettePanel;
 class PropertiesPanel;
 
-/// The program's only document window. Owns the open plan, the file it belongs to and whether it
-/// has unsaved changes; carries out the commands and passes everything else on.
+/// The program's only document window. Owns the open plan; carries out the commands and passes
+/// everything else on.
 class MainFrame : public wxFrame, private LayoutHost {
  public:
   MainFrame();
   ~MainFrame() override;
 
-  trassix::Layout& layout() override { return layout_; }
+  trassix::Layout& layout() override { return plan_.layout(); }
   LayoutHost& host() { return *this; }
   CanvasPanel& canvasPanel() { return *canvas_; }
   PropertiesPanel* propertiesPanel() { return properties_; }
-  bool dirty() const { return dirty_; }
+  bool dirty() const { return plan_.unsaved(); }
   void refreshProperties();
 
   /// Opens a plan file in place of the present one; false, after telling why, when it cannot be
@@ -120,7 +120,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   void drawPolygon(const PolygonUse& use);
   void planReplaced();
   bool menuChecked(int id) const;
-  bool write(const std::filesystem::path& path);
+  void tellSaved(const FileResult& result);
   bool confirmReplace(const std::filesystem::path& target, const wxString& name);
   wxString openedStatus() const;
 
@@ -128,10 +128,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   CanvasPanel* canvas_ = nullptr;
   PropertiesPanel* properties_ = nullptr;
   HelpDialog* help_ = nullptr; ///< made when it is first wanted
-  trassix::Layout layout_;
-  std::filesystem::path currentPath_; ///< empty: never saved
-  wxString currentName_;
-  bool dirty_ = false;
+  OpenPlan plan_;
   wxPrintData printData_;
   wxPageSetupDialogData pageSetup_;
   EditorSwitches switches_;

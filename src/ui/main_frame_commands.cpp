@@ -25,50 +25,50 @@ constexpr double kZoomOutStep = 0.8;
 } // namespace
 
 void MainFrame::placeFromPalette(std::string_view article) {
-  if (selectedPieces(layout_).empty()) {
+  if (selectedPieces(plan_.layout()).empty()) {
     canvas_->pickUpPiece(article);
     return;
   }
-  const EditResult result = extendSelected(layout_, article);
+  const EditResult result = extendSelected(plan_.layout(), article);
   canvas_->canvas().site().reportExtension(result);
   if (!result.changed() && !result.refusal)
     SetStatusText(_("The selected piece has no free end to go on from"), kHintField);
 }
 
 void MainFrame::undo() {
-  const PlanContent before = layout_.content();
-  if (!layout_.undo())
+  const PlanContent before = plan_.layout().content();
+  if (!plan_.layout().undo())
     return;
-  const bool visible = layout_.content() != before;
-  deselectHidden(layout_);
+  const bool visible = plan_.layout().content() != before;
+  deselectHidden(plan_.layout());
   changed();
   if (!visible)
     SetStatusText(_("Nothing to be seen: levels and the baseboard are not undone"), kHintField);
 }
 
 void MainFrame::redo() {
-  if (!layout_.redo())
+  if (!plan_.layout().redo())
     return;
-  deselectHidden(layout_);
+  deselectHidden(plan_.layout());
   changed();
 }
 
 void MainFrame::deleteSelection() {
-  if (const std::optional<Notice> refusal = lockGuard(layout_, "delete")) {
+  if (const std::optional<Notice> refusal = lockGuard(plan_.layout(), "delete")) {
     show(*refusal);
     return;
   }
-  if (selectionHasGrades(layout_) &&
+  if (selectionHasGrades(plan_.layout()) &&
       !confirm({"Delete", "Selection includes graded pieces. Delete?"}))
     return;
-  if (!trassix::deleteSelection(layout_))
+  if (!trassix::deleteSelection(plan_.layout()))
     return;
   selectionChanged();
   changed();
 }
 
 void MainFrame::selectEverything() {
-  selectAll(layout_);
+  selectAll(plan_.layout());
   selectionChanged();
 }
 
@@ -120,7 +120,7 @@ void MainFrame::toggleMode(int tool, ToolMode mode) {
     setToolMode(ToolMode::Select);
     return;
   }
-  layout_.clearSelection();
+  plan_.layout().clearSelection();
   selectionChanged();
   setToolMode(mode);
 }
@@ -136,7 +136,7 @@ void MainFrame::unitsInch() {
 }
 
 void MainFrame::setUnits(std::int32_t units) {
-  layout_.editSettings().units = units;
+  plan_.layout().editSettings().units = units;
   appPrefs().units = units;
   writePrefs(appPrefs(), StandardFolders::prefsFile());
   palette_->unitsChanged();
@@ -145,7 +145,7 @@ void MainFrame::setUnits(std::int32_t units) {
 }
 
 void MainFrame::showUnits() {
-  const std::int32_t units = layout_.settings().units;
+  const std::int32_t units = plan_.layout().settings().units;
   GetMenuBar()->Check(kUnitsMm + (units >= kMillimetres && units <= kInches ? units : 0), true);
 }
 

@@ -2,13 +2,11 @@
 #include "app/services/path_text.h"
 #include "app/services/user_paths.h"
 #include "catalog/track_catalog.h"
-#include "document/layout_reader.h"
-#include "document/layout_writer.h"
-#include "document/repairs.h"
-#include "document/text_file.h"
 #include "ui/canvas_panel.h"
 #include "ui/command_ids.h"
+#include "ui/file_boxes.h"
 #include "ui/main_frame.h"
+#include "ui/name_dialog.h"
 #include "ui/open_layout_dialog.h"
 #include "ui/palette_panel.h"
 #include "ui/properties_panel.h"
@@ -17,7 +15,6 @@
 
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
-#include <wx/textdlg.h>
 
 #include <algorithm>
 
@@ -35,7 +32,7 @@ bool holdsSmallTrack(const Layout& layout) {
 } // namespace
 
 bool MainFrame::promptUnsaved() {
-  if (!dirty_)
+  if (!plan_.unsaved())
     return true;
   const int answer =
       wxMessageBox(_("You have unsaved changes. Save before continuing?"), _("Unsaved Changes"),
@@ -50,13 +47,7 @@ bool MainFrame::promptUnsaved() {
 void MainFrame::newLayout() {
   if (!promptUnsaved())
     return;
-  const std::int32_t units = layout_.settings().units;
-  layout_.clear();
-  layout_.editSettings().units = units;
-  layout_.ensureLevel();
-  layout_.editSettings().activeLevel = 1;
-  currentPath_.clear();
-  dirty_ = false;
+  plan_.startNew(plan_.layout().settings().units);
   SetTitle(kBaseTitle);
   planReplaced();
   canvas_->canvas().resetView();
@@ -68,50 +59,30 @@ void MainFrame::newLayout() {
 }
 
 bool MainFrame::loadLayout(const std::filesystem::path& path) {
-  // Read beside the open plan, which is replaced only by a plan that was read to its end.
-  trassix::Layout loaded;
-  std::string name;
-  std::string text;
-  std::string message = readTextFile(path, text);
-  if (message.empty())
-    message = readLayout(text, loaded, name);
-  if (!message.empty()) {
-    wxMessageBox(fromUtf8(message), _("Open Failed"), wxOK | wxICON_ERROR, this);
+  const FileResult opened = plan_.load(path);
+  if (opened.failed()) {
+    showFailure(this, _("Open Failed"), fromUtf8(opened.message), opened.reason);
     return false;
   }
-  const bool whole = isWholeLayout(text);
-  const std::string mended = describeRepairs(makeSound(loaded));
-  layout_ = std::move(loaded);
-  layout_.ensureLevel();
-  // A damaged file is not written over unasked: its rest may still be saved by other means.
-  currentPath_ = whole ? path : std::filesystem::path();
-  currentName_ = fromUtf8(name);
-  dirty_ = false;
   refreshTitle();
   showUnits();
   planReplaced();
-  if (holdsSmallTrack(layout_))
+  if (holdsSmallTrack(plan_.layout()))
     canvas_->canvas().resetViewForSmall();
   else
     canvas_->canvas().fit();
   canvas_->update();
   selectionChanged();
   refreshProperties();
-  palette_->followLayout(layout_);
+  palette_->followLayout(plan_.layout());
   SetStatusText(openedStatus(), kHintField);
   showPieceCount();
-  if (!whole)
-    wxMessageBox(
-        _("This file is damaged: it does not hold a whole layout.\n\nWhat could be read is "
-          "shown. Saving will ask for a name, so that the file can stay as it is."),
-        _("Open Layout"), wxOK | wxICON_WARNING, this);
-  if (!mended.empty())
-    wxMessageBox(fromUtf8(mended), _("Open Layout"), wxOK | wxICON_INFORMATION, this);
+  showNotices(this, _("Open Layout"), opened.notices);
   return true;
 }
 
 wxString MainFrame::openedStatus() const {
-  const auto& runs = layout_.content().gradeRuns;
+  const auto& runs = plan_.layout().content().gradeRuns;
   if (runs.empty())
     return _("Ready");
   wxString status = "[ELEV]";
@@ -129,40 +100,34 @@ void MainFrame::openLayout() {
                  wxOK | wxICON_INFORMATION, this);
     return;
   }
-  OpenLayoutDialog dialog(this, saved, [this](const std::filesystem::path& deleted) {
-    if (deleted == currentPath_)
-      currentPath_.clear();
-  });
+  OpenLayoutDialog dialog(this, saved, [this](const auto& deleted) { plan_.fileDeleted(deleted); });
   if (dialog.ShowModal() != wxID_OK)
     return;
   if (const auto chosen = dialog.chosen())
     loadLayout(*chosen);
 }
 
-bool MainFrame::write(const std::filesystem::path& path) {
-  const std::string message = saveLayout(layout_, path, toUtf8(currentName_));
-  if (!message.empty()) {
-    wxMessageBox(fromUtf8(message), _("Save Failed"), wxOK | wxICON_ERROR, this);
-    return false;
+void MainFrame::tellSaved(const FileResult& result) {
+  if (result.failed()) {
+    showFailure(this, _("Save Failed"), fromUtf8(result.message), result.reason);
+    return;
   }
-  dirty_ = false;
   refreshTitle();
   SetStatusText(_("Saved"), kHintField);
-  return true;
 }
 
 void MainFrame::save() {
-  if (currentPath_.empty())
+  if (plan_.file().empty())
     saveAs();
   else
-    write(currentPath_);
+    tellSaved(plan_.save());
 }
 
 void MainFrame::saveAs() {
   const wxString kDefaultName = _("My Layout");
-  wxTextEntryDialog dialog(this, _("Layout name:"), _("Save Layout"),
-                           currentName_.empty() ? kDefaultName : currentName_,
-                           wxOK | wxCANCEL | wxCENTRE);
+  const wxString offered = fromUtf8(withoutSeparators(plan_.name()));
+  NameDialog dialog(this, _("Layout name:"), _("Save Layout"),
+                    offered.empty() ? kDefaultName : offered);
   if (dialog.ShowModal() != wxID_OK)
     return;
   wxString name = dialog.GetValue();
@@ -170,11 +135,8 @@ void MainFrame::saveAs() {
   if (name.empty())
     name = kDefaultName;
   const std::filesystem::path target = layoutFile(UserPaths::layoutsFolder(), toUtf8(name));
-  if (!confirmReplace(target, name))
-    return;
-  currentPath_ = target;
-  currentName_ = name;
-  write(target);
+  if (confirmReplace(target, name))
+    tellSaved(plan_.saveAs(target, toUtf8(name)));
 }
 
 bool MainFrame::confirmReplace(const std::filesystem::path& target, const wxString& name) {

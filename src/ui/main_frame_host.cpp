@@ -28,7 +28,7 @@ void MainFrame::refreshProperties() {
 }
 
 void MainFrame::changed() {
-  dirty_ = true;
+  plan_.noteChange();
   refreshTitle();
   tellAll();
 }
@@ -51,7 +51,7 @@ void MainFrame::setHint(const std::string& hint) {
 }
 
 void MainFrame::setPointer(Point world) {
-  const std::int32_t units = layout_.settings().units;
+  const std::int32_t units = plan_.layout().settings().units;
   const double unit = millimetresPer(units);
   const int decimals = units == kMillimetres ? 0 : units == kCentimetres ? 1 : 2;
   SetStatusText(wxString::Format("x: %.*f  y: %.*f %s", decimals, world.x / unit, decimals,
@@ -149,7 +149,7 @@ std::string MainFrame::clipboard() {
 }
 
 void MainFrame::showPieceCount() {
-  SetStatusText(wxString::Format(_("Pieces: %zu"), layout_.pieces().size()), kPiecesField);
+  SetStatusText(wxString::Format(_("Pieces: %zu"), plan_.layout().pieces().size()), kPiecesField);
 }
 
 } // namespace trassix

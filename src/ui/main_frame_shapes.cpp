@@ -13,7 +13,7 @@
 namespace trassix {
 
 void MainFrame::drawPolygon(const PolygonUse& use) {
-  layout_.clearSelection();
+  plan_.layout().clearSelection();
   selectionChanged();
   // Half a polygon may be on the plan already, for something else.
   setToolMode(ToolMode::Select);
@@ -28,7 +28,7 @@ void MainFrame::planReplaced() {
 }
 
 void MainFrame::manageLevels() {
-  LevelManagerDialog dialog(this, layout_);
+  LevelManagerDialog dialog(this, plan_.layout());
   if (dialog.ShowModal() != wxID_OK)
     return;
   const ChangeResult applied = dialog.apply();
@@ -39,17 +39,17 @@ void MainFrame::manageLevels() {
     changed();
   }
   if (const std::optional<std::int32_t> level = dialog.levelToDraw()) {
-    layout_.ensureLevel(*level);
+    plan_.layout().ensureLevel(*level);
     drawPolygon({PolygonUse::Kind::LevelOutline, *level});
   }
 }
 
 void MainFrame::chooseBaseboard() {
-  BaseboardShapeDialog dialog(this, layout_);
+  BaseboardShapeDialog dialog(this, plan_.layout());
   const int answer = dialog.ShowModal();
   if (answer == BaseboardShapeDialog::kDraw)
     drawPolygon({PolygonUse::Kind::Baseboard, -1});
-  const bool first = layout_.settings().baseboard.empty();
+  const bool first = plan_.layout().settings().baseboard.empty();
   if (answer != wxID_OK || !dialog.apply())
     return;
   selectionChanged();
@@ -60,7 +60,7 @@ void MainFrame::chooseBaseboard() {
 }
 
 void MainFrame::placeRectangle() {
-  RectangleDialog dialog(this, layout_, canvas_->canvas().centre());
+  RectangleDialog dialog(this, plan_.layout(), canvas_->canvas().centre());
   if (dialog.ShowModal() != wxID_OK || !dialog.place())
     return;
   setToolMode(ToolMode::Select); // so that it can be moved
@@ -69,15 +69,15 @@ void MainFrame::placeRectangle() {
 }
 
 void MainFrame::editShape(std::int32_t id) {
-  const auto& shapes = layout_.content().shapes;
+  const auto& shapes = plan_.layout().content().shapes;
   const auto shape = std::ranges::find(shapes, id, &Shape::id);
   if (shape == shapes.end())
     return;
-  ShapeDialog dialog(this, layout_, *shape);
+  ShapeDialog dialog(this, plan_.layout(), *shape);
   const int answer = dialog.ShowModal();
-  const bool done = answer == wxID_OK
-                        ? replaceRecord(layout_, dialog.wanted())
-                        : answer == ShapeDialog::kUseAsBaseboard && useAsBaseboard(layout_, id);
+  const bool done = answer == wxID_OK ? replaceRecord(plan_.layout(), dialog.wanted())
+                                      : answer == ShapeDialog::kUseAsBaseboard &&
+                                            useAsBaseboard(plan_.layout(), id);
   if (!done)
     return;
   selectionChanged();

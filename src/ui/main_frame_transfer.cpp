@@ -4,34 +4,39 @@
 #include "app/services/user_paths.h"
 #include "catalog/track_system.h"
 #include "document/block_file.h"
-#include "document/layout_reader.h"
-#include "document/layout_writer.h"
-#include "document/repairs.h"
 #include "document/text_file.h"
 #include "editing/selection.h"
 #include "ui/export_dialog.h"
+#include "ui/file_boxes.h"
 #include "ui/import_dialog.h"
 #include "ui/main_frame.h"
+#include "ui/name_dialog.h"
 #include "ui/palette_panel.h"
 #include "ui/saved_layouts.h"
 #include "ui/utf8.h"
 
 #include <wx/msgdlg.h>
-#include <wx/textdlg.h>
 
 namespace trassix {
 
 namespace {
 
-bool sameFile(const std::filesystem::path& a, const std::filesystem::path& b) {
-  std::error_code none;
-  return a == b || std::filesystem::equivalent(a, b, none);
+/// Byte for byte, and whole or not at all.
+bool copyOver(const std::filesystem::path& source, const std::filesystem::path& target,
+              FileReport& report) {
+  std::string text;
+  return readTextFile(source, text, &report).empty() &&
+         writeTextFile(target, text, &report).empty();
 }
 
-/// Byte for byte, and whole or not at all.
-bool copyOver(const std::filesystem::path& source, const std::filesystem::path& target) {
-  std::string text;
-  return readTextFile(source, text).empty() && writeTextFile(target, text).empty();
+/// Blocks are replaced without a question.
+NameAdvice adviseOnBlock(const std::filesystem::path& folder, const wxString& typed) {
+  NameAdvice advice = adviseOnTyped(typed);
+  std::error_code none;
+  if (advice.line.empty() && !typed.empty() &&
+      std::filesystem::exists(layoutFile(folder, toUtf8(typed)), none))
+    advice.line = "Replaces the block of that name";
+  return advice;
 }
 
 } // namespace
@@ -45,32 +50,17 @@ void MainFrame::importLayout() {
   const std::filesystem::path target = layoutFile(UserPaths::layoutsFolder(), toUtf8(name));
   if (!confirmReplace(target, name))
     return;
-  trassix::Layout scratch;
-  std::string storedName;
-  std::string text;
-  std::string message = readTextFile(source, text);
-  if (message.empty())
-    message = readLayout(text, scratch, storedName);
-  if (message.empty() && !isWholeLayout(text))
-    message = _("It does not hold a whole layout.").utf8_string();
-  if (!message.empty()) {
-    wxMessageBox(_("This file does not appear to be a Trassix layout:\n\n") + fromUtf8(message),
-                 _("Import Failed"), wxOK | wxICON_ERROR, this);
+  const ImportResult imported = importPlan(source, target, toUtf8(name));
+  if (imported.failed()) {
+    showFailure(this, _("Import Failed"),
+                imported.step == ImportResult::Step::Read
+                    ? _("This file does not appear to be a Trassix layout:\n\n") +
+                          fromUtf8(imported.message)
+                    : _("Could not copy the file to:\n") + toText(target),
+                imported.reason);
     return;
   }
-  if (!sameFile(source, target) && !copyOver(source, target)) {
-    wxMessageBox(_("Could not copy the file to:\n") + toText(target), _("Import Failed"),
-                 wxOK | wxICON_ERROR, this);
-    return;
-  }
-  // The stored name follows the file's. Where that fails the copy is there all the same, under the
-  // name it came with.
-  if (trassix::loadLayout(target, scratch, storedName).empty()) {
-    const std::string mended = describeRepairs(makeSound(scratch));
-    saveLayout(scratch, target, toUtf8(name));
-    if (!mended.empty())
-      wxMessageBox(fromUtf8(mended), _("Import"), wxOK | wxICON_INFORMATION, this);
-  }
+  showNotices(this, _("Import"), imported.notices);
   if (wxMessageBox(wxString::Format(_("Imported successfully.\n\nOpen \"%s\" now?"), name),
                    _("Import"), wxYES_NO | wxICON_QUESTION, this) == wxYES &&
       promptUnsaved())
@@ -100,33 +90,35 @@ void MainFrame::exportLayout() {
                                     toText(target.filename())),
                    _("Confirm Replace"), wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION, this) != wxYES)
     return;
-  if (!copyOver(dialog.source(), target)) {
-    wxMessageBox(_("Could not copy the file to:\n") + toText(target), _("Export Failed"),
-                 wxOK | wxICON_ERROR, this);
+  FileReport report;
+  if (!copyOver(dialog.source(), target, report)) {
+    showFailure(this, _("Export Failed"), _("Could not copy the file to:\n") + toText(target),
+                report.reason);
     return;
   }
   wxMessageBox(_("Exported to:\n") + toText(target), _("Export"), wxOK | wxICON_INFORMATION, this);
 }
 
 void MainFrame::saveBlock() {
-  if (blockFromSelection(layout_).empty()) {
+  if (blockFromSelection(plan_.layout()).empty()) {
     wxMessageBox(_("Select pieces first to save as library block."), _("Save Block"),
                  wxOK | wxICON_INFORMATION, this);
     return;
   }
-  wxTextEntryDialog dialog(this, _("Block name:"), _("Save Library Block"), wxEmptyString,
-                           wxOK | wxCANCEL | wxCENTRE);
+  const std::filesystem::path folder = palette_->libraryFolder();
+  NameDialog dialog(this, _("Block name:"), _("Save Library Block"), wxEmptyString,
+                    [&folder](const wxString& typed) { return adviseOnBlock(folder, typed); });
   if (dialog.ShowModal() != wxID_OK || dialog.GetValue().empty())
     return;
   const wxString name = dialog.GetValue();
-  const std::filesystem::path folder = palette_->libraryFolder();
   // A folder that cannot be made shows as a block that cannot be written.
   std::error_code ignored;
   std::filesystem::create_directories(folder, ignored);
+  FileReport report;
   const std::string message =
-      trassix::saveBlock(layout_, layoutFile(folder, toUtf8(name)), toUtf8(name));
+      trassix::saveBlock(plan_.layout(), layoutFile(folder, toUtf8(name)), toUtf8(name), &report);
   if (!message.empty()) {
-    wxMessageBox(fromUtf8(message), _("Save Block Failed"), wxOK | wxICON_ERROR, this);
+    showFailure(this, _("Save Block Failed"), fromUtf8(message), report.reason);
     return;
   }
   palette_->reloadLibrary();

@@ -2,6 +2,7 @@
 
 #include "app/services/path_text.h"
 #include "ui/accept_later.h"
+#include "ui/file_boxes.h"
 #include "ui/utf8.h"
 
 #include <wx/button.h>
@@ -15,43 +16,44 @@ OpenLayoutDialog::OpenLayoutDialog(wxWindow* parent, SavedLayouts saved,
                                    std::function<void(const std::filesystem::path&)> deleted)
     : wxDialog(parent, wxID_ANY, _("Open Layout"), wxDefaultPosition,
                parent->FromDIP(wxSize(320, 420)), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
-      saved_(std::move(saved)), deleted_(std::move(deleted)) {
-  wxArrayString texts;
-  for (const std::string& name : saved_.names())
-    texts.Add(fromUtf8(name));
-  names_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, texts,
-                         wxLB_SINGLE | wxLB_SORT, wxDefaultValidator, "layouts");
+      saved_(std::move(saved)), names_(saved_.names()), deleted_(std::move(deleted)) {
+  rows_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
+                        wxLB_SINGLE | wxLB_SORT, wxDefaultValidator, "layouts");
+  // The list sorts in its own way, and its texts do not lead back to names in another encoding.
+  for (std::string& name : names_)
+    rows_->Append(fromUtf8(name), &name);
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(new wxButton(this, wxID_DELETE, _("Delete...")));
   row->AddStretchSpacer();
   row->Add(new wxButton(this, wxID_OK, _("Open")), wxSizerFlags().Border(wxRIGHT, 8));
   row->Add(new wxButton(this, wxID_CANCEL, _("Cancel")));
   auto* sizer = new wxBoxSizer(wxVERTICAL);
-  sizer->Add(names_, wxSizerFlags(1).Expand().Border(wxALL, 8));
+  sizer->Add(rows_, wxSizerFlags(1).Expand().Border(wxALL, 8));
   sizer->Add(row, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, 8));
   SetSizer(sizer);
   FindWindow(wxID_OK)->SetName("open");
   static_cast<wxButton*>(FindWindow(wxID_OK))->SetDefault();
   enableButtons();
-  names_->SetFocus();
+  rows_->SetFocus();
   Centre();
 
-  names_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { enableButtons(); });
-  names_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptLater(*this); });
+  rows_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { enableButtons(); });
+  rows_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptLater(*this); });
   Bind(
       wxEVT_BUTTON, [this](wxCommandEvent&) { deleteSelected(); }, wxID_DELETE);
 }
 
 void OpenLayoutDialog::enableButtons() {
-  const bool selected = names_->GetSelection() != wxNOT_FOUND;
+  const bool selected = rows_->GetSelection() != wxNOT_FOUND;
   FindWindow(wxID_DELETE)->Enable(selected);
   FindWindow(wxID_OK)->Enable(selected);
 }
 
 std::optional<std::filesystem::path> OpenLayoutDialog::chosen() const {
-  if (names_->GetSelection() == wxNOT_FOUND)
+  if (rows_->GetSelection() == wxNOT_FOUND)
     return {};
-  return saved_.find(toUtf8(names_->GetStringSelection()));
+  const auto row = static_cast<unsigned>(rows_->GetSelection());
+  return saved_.find(*static_cast<const std::string*>(rows_->GetClientData(row)));
 }
 
 void OpenLayoutDialog::deleteSelected() {
@@ -59,17 +61,16 @@ void OpenLayoutDialog::deleteSelected() {
   if (!file)
     return;
   const wxString question = wxString::Format(_("Delete layout \"%s\"?\n\nThis cannot be undone."),
-                                             names_->GetStringSelection());
+                                             rows_->GetStringSelection());
   if (wxMessageBox(question, _("Delete Layout"), wxYES_NO | wxNO_DEFAULT | wxICON_WARNING, this) !=
       wxYES)
     return;
   std::error_code error;
   if (!std::filesystem::remove(*file, error)) {
-    wxMessageBox(_("Could not delete:\n") + toText(*file), _("Delete Failed"), wxOK | wxICON_ERROR,
-                 this);
+    showFailure(this, _("Delete Failed"), _("Could not delete:\n") + toText(*file), error);
     return;
   }
-  names_->Delete(static_cast<unsigned>(names_->GetSelection()));
+  rows_->Delete(static_cast<unsigned>(rows_->GetSelection()));
   saved_.remove(*file);
   enableButtons();
   deleted_(*file);

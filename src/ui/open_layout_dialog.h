@@ -24,8 +24,9 @@ class OpenLayoutDialog : public wxDialog {
   void enableButtons();
 
   SavedLayouts saved_;
+  std::vector<std::string> names_; ///< as the files have them; a row's data points to its own
   std::function<void(const std::filesystem::path&)> deleted_;
-  wxListBox* names_;
+  wxListBox* rows_;
 };
 
 } // namespace trassix

@@ -5,6 +5,7 @@
 #include "editing/measure_format.h"
 #include "panels/piece_names.h"
 #include "ui/catalog_list.h"
+#include "ui/file_boxes.h"
 #include "ui/palette_drawings.h"
 #include "ui/utf8.h"
 
@@ -327,16 +328,14 @@ void PalettePanel::noteUse(const PieceDef& piece) {
 
 void PalettePanel::loadEntry(const LibraryEntry& entry) {
   Block block;
-  if (const std::string message = loadBlock(entry.file, block); !message.empty()) {
-    wxMessageBox(fromUtf8(message), _("Load Block Failed"), wxOK | wxICON_ERROR, this);
+  const FileResult opened = openBlock(entry.file, block);
+  if (opened.failed()) {
+    showFailure(this, _("Load Block Failed"), fromUtf8(opened.message), opened.reason);
     return;
   }
-  if (block.empty())
-    return;
-  if (const std::string mended = describeRepairs(makeSound(block)); !mended.empty())
-    wxMessageBox(fromUtf8(mended), _("Load Block"), wxOK | wxICON_INFORMATION, this);
-  centreBlock(block);
-  actions_.useBlock(block);
+  showNotices(this, _("Load Block"), opened.notices);
+  if (!block.empty())
+    actions_.useBlock(block);
 }
 
 void PalettePanel::showEntryMenu(const LibraryEntry& entry) {
@@ -355,8 +354,7 @@ void PalettePanel::deleteEntry(const LibraryEntry& entry) {
   const std::filesystem::path file = entry.file;
   std::error_code error;
   if (!std::filesystem::remove(file, error))
-    wxMessageBox(_("Could not delete:\n") + toText(file), _("Delete Failed"), wxOK | wxICON_ERROR,
-                 this);
+    showFailure(this, _("Delete Failed"), _("Could not delete:\n") + toText(file), error);
   reloadLibrary();
 }
 

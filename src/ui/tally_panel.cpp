@@ -6,6 +6,7 @@
 #include "editing/canvas/layout_host.h"
 #include "editing/measure_format.h"
 #include "panels/piece_names.h"
+#include "ui/file_boxes.h"
 #include "ui/purchase_list_dialog.h"
 #include "ui/utf8.h"
 
@@ -259,10 +260,11 @@ void TallyPanel::saveAsCsv() {
 void TallyPanel::saveCsv(const std::filesystem::path& file) {
   // Without the mark some spreadsheets read UTF-8 as something else.
   constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
+  FileReport report;
   const std::string message =
-      writeBytes(file, kByteOrderMark + tallyAsCsv(tally_.rows, translatedHeadings()));
+      writeBytes(file, kByteOrderMark + tallyAsCsv(tally_.rows, translatedHeadings()), &report);
   if (!message.empty())
-    wxMessageBox(fromUtf8(message), _("Save Failed"), wxOK | wxICON_ERROR, this);
+    showFailure(this, _("Save Failed"), fromUtf8(message), report.reason);
 }
 
 void TallyPanel::openPurchaseList() {

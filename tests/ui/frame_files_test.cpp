@@ -13,6 +13,36 @@ constexpr const char* kBase = "Trassix v1.7.1 by Quorrail";
 constexpr const char* kBad =
     "<layout name=\"b\">\n<pieces>\n<piece id=\"1\" cat=\"24188\" x=\"what\">\n</piece>\n";
 
+class FileTest : public FrameTest {
+ protected:
+  /// Opens a plan by its row in the Open dialog.
+  void open(const char* row) {
+    dialogs.answer("Open Layout", [row](wxDialog& dialog) {
+      wxWindow* accept = dialog.FindWindow(wxID_OK);
+      EXPECT_FALSE(accept->IsEnabled() || dialog.FindWindow(wxID_DELETE)->IsEnabled());
+      choose(dialog, "layouts", row);
+      EXPECT_TRUE(accept->IsEnabled() && dialog.FindWindow(wxID_DELETE)->IsEnabled());
+      return wxID_OK;
+    });
+  }
+  void import(const std::filesystem::path& folder, const char* row, const char* name) {
+    dialogs.answer("Import Layout", [=](wxDialog& dialog) {
+      type(dialog, "source", folder.string());
+      EXPECT_FALSE(dialog.FindWindow(wxID_OK)->IsEnabled());
+      choose(dialog, "files", row);
+      EXPECT_TRUE(dialog.FindWindow(wxID_OK)->IsEnabled()); // its name is offered
+      type(dialog, "name", name);
+      return wxID_OK;
+    });
+  }
+  /// What a dialog says about the name in it; what of it is refused stands in brackets.
+  static std::string advice(wxDialog& dialog) {
+    const wxWindow* line = wxWindow::FindWindowByName("problem", &dialog);
+    const std::string text = line == nullptr ? "no line" : line->GetLabel().utf8_string();
+    return dialog.FindWindow(wxID_OK)->IsEnabled() ? text : "[" + text + "]";
+  }
+};
+
 struct Leaving {
   const char* name;
   bool dirty;
@@ -112,48 +142,30 @@ TEST_F(FrameTest, AFailedSaveKeepsTheChangesUnsaved) {
   answerText("Save Layout", "no such folder/Yard");
   dialogs.answer("Save Failed", wxID_OK);
   put(wxID_SAVE);
+  const auto target = layoutsFolder() / "no such folder" / "Yard.txl";
+  EXPECT_NE(dialogs.messages().back().find("No such file or directory"), std::string::npos);
   EXPECT_TRUE(frame().dirty());
-  std::filesystem::create_directories(layoutsFolder() / "no such folder");
+  std::filesystem::create_directories(target.parent_path());
   put(wxID_SAVE); // to the same place, without asking
   EXPECT_FALSE(frame().dirty());
-  EXPECT_TRUE(std::filesystem::exists(layoutsFolder() / "no such folder" / "Yard.txl"));
+  EXPECT_TRUE(std::filesystem::exists(target));
 }
 
-TEST_F(FrameTest, OpenListsDeletesAndSurvivesBadFiles) {
+TEST_F(FileTest, OpenListsDeletesAndSurvivesBadFiles) {
   start();
   placePiece();
   saveAs("a");
-  const std::string good = readText(layoutsFolder() / "a.txl");
   writeText(layoutsFolder() / "a.xml", "");
   writeText(layoutsFolder() / "b.xml", kBad);
   placePiece(500);
   saveAs("c");
 
-  const auto openNamed = [this](const char* name) {
-    dialogs.answer("Open Layout", [name](wxDialog& dialog) {
-      wxWindow* accept = dialog.FindWindow(wxID_OK);
-      EXPECT_FALSE(accept->IsEnabled() || dialog.FindWindow(wxID_DELETE)->IsEnabled());
-      EXPECT_EQ(list(dialog, "layouts").GetCount(), 4u);
-      choose(dialog, "layouts", name);
-      EXPECT_TRUE(accept->IsEnabled() && dialog.FindWindow(wxID_DELETE)->IsEnabled());
-      return wxID_OK;
-    });
-  };
-  openNamed("b");
+  open("b");
   dialogs.answer("Open Failed", wxID_OK);
   put(wxID_OPEN);
   EXPECT_EQ(pieces(), 2u); // nothing changed
   EXPECT_EQ(title(), std::string(kBase) + " - c");
-  const std::string half = good.substr(0, good.find("</pieces>"));
-  writeText(layoutsFolder() / "b.xml", half);
-  openNamed("b");
-  dialogs.answer("Open Layout", wxID_OK); // told that the file is not whole
-  put(wxID_OPEN);
-  EXPECT_EQ(pieces(), 1u);
-  dialogs.answer("Save Layout", wxID_CANCEL);
-  put(wxID_SAVE);
-  EXPECT_EQ(readText(layoutsFolder() / "b.xml"), half) << "what is damaged is not written over";
-  openNamed("a");
+  open("a");
   put(wxID_OPEN);
   EXPECT_EQ(pieces(), 1u);
   EXPECT_EQ(title(), std::string(kBase) + " - a");
@@ -179,24 +191,13 @@ TEST_F(FrameTest, OpenListsDeletesAndSurvivesBadFiles) {
   EXPECT_TRUE(frame().dirty());
 }
 
-TEST_F(FrameTest, ImportReplacesOnlyWhenTold) {
+TEST_F(FileTest, ImportReplacesOnlyWhenTold) {
   start();
   placePiece();
   saveAs("Yard");
   std::string yard = readText(layoutsFolder() / "Yard.txl");
   writeText(home() / "in" / "Station.txl", yard);
   writeText(home() / "in" / "bad.xml", kBad);
-  const auto import = [this](const std::filesystem::path& folder, const char* file,
-                             const char* name) {
-    dialogs.answer("Import Layout", [=](wxDialog& dialog) {
-      type(dialog, "source", folder.string());
-      EXPECT_FALSE(dialog.FindWindow(wxID_OK)->IsEnabled());
-      choose(dialog, "files", file);
-      EXPECT_TRUE(dialog.FindWindow(wxID_OK)->IsEnabled()); // its name is offered
-      type(dialog, "name", name);
-      return wxID_OK;
-    });
-  };
   import(home() / "in", "Station.txl", "Yard");
   dialogs.answer("Confirm Replace", wxID_NO);
   put(1900);
@@ -261,6 +262,98 @@ TEST_F(FrameTest, ExportCopiesByteForByteAndAsks) {
   EXPECT_EQ(readText(out / "plan.txl"), readText(layoutsFolder() / "Yard.txl"));
 }
 
+TEST_F(FileTest, WhatWasNotUnderstoodIsNotWrittenOver) {
+  start();
+  placePiece();
+  saveAs("Odd");
+  const auto file = layoutsFolder() / "Odd.txl";
+  std::string oneLine = readText(file);
+  std::replace(oneLine.begin(), oneLine.end(), '\n', ' ');
+  writeText(file, oneLine);
+  open("Odd");
+  dialogs.answer("Open Layout", wxID_OK);
+  put(wxID_OPEN);
+  EXPECT_TRUE(dialogs.messages().back().starts_with("Not all of this file was understood ("));
+  EXPECT_EQ(pieces(), 0u);
+  dialogs.answer("Save Layout", wxID_CANCEL);
+  put(wxID_SAVE);
+  EXPECT_EQ(readText(file), oneLine);
+
+  import(layoutsFolder(), "Odd.txl", "Copy");
+  dialogs.answer("Import", wxID_OK);
+  dialogs.answer("Import", wxID_NO);
+  put(1900);
+  EXPECT_EQ(readText(layoutsFolder() / "Copy.txl"), oneLine);
+}
+
+TEST_F(FileTest, NamesAreJudgedWhileTheyAreTyped) {
+  start();
+  placePiece();
+  const std::string leadsOut = "[A name with / or \\ leads out of the folder.]";
+  const std::string device = "Windows keeps this name for a device.";
+  dialogs.drive("Save Layout", [&](wxDialog& dialog) {
+    pressKey('A', wxMOD_CONTROL);
+    typeText("/Yard");
+    waitUntil("the name is refused", [&] { return advice(dialog) == leadsOut; });
+    pressKey(WXK_RETURN);
+    pressKey(WXK_HOME);
+    pressKey(WXK_DELETE);
+    waitUntil("the name is taken", [&] { return advice(dialog).empty(); });
+    pressKey(WXK_RETURN);
+  });
+  put(wxID_SAVE);
+  ASSERT_TRUE(std::filesystem::exists(layoutsFolder() / "Yard.txl"));
+
+  for (const auto& [command, title, rows] :
+       {std::tuple{1900, "Import Layout", "files"}, {1901, "Export Layout", "layouts"}}) {
+    dialogs.answer(title, [&, rows = rows](wxDialog& dialog) {
+      if (list(dialog, rows).IsEmpty())
+        type(dialog, "source", layoutsFolder().string());
+      choose(dialog, rows, list(dialog, rows).GetString(0).utf8_str());
+      EXPECT_EQ(advice(dialog), "");
+      type(dialog, "name", "con.txl ");
+      EXPECT_EQ(advice(dialog), device);
+      type(dialog, "name", "a\\b");
+      EXPECT_EQ(advice(dialog), leadsOut);
+      return wxID_CANCEL;
+    });
+    put(command);
+  }
+}
+
+TEST_F(FileTest, NamesInAnyBytesAndOutOfFilesAreTaken) {
+  start();
+  placePiece();
+  saveAs("Yard");
+  std::string stored = readText(layoutsFolder() / "Yard.txl");
+  stored.replace(stored.find("Yard"), 4, "../A &amp; B");
+  const auto file = layoutsFolder() / "K\xf6ln.txl"; // Latin-1
+  writeText(file, stored);
+  open("Köln");
+  put(wxID_OPEN);
+  EXPECT_EQ(title(), std::string(kBase) + " - ../A & B");
+  dialogs.answer("Save Layout", [](wxDialog& dialog) {
+    EXPECT_EQ(dynamic_cast<wxTextEntryDialog&>(dialog).GetValue(), "..A & B");
+    return wxID_CANCEL;
+  });
+  put(wxID_SAVEAS);
+  put(wxID_SAVE);
+  EXPECT_EQ(readText(file), stored);
+
+  import(layoutsFolder(), "Köln.txl", "In");
+  dialogs.answer("Import", wxID_YES);
+  put(1900);
+  EXPECT_EQ(title(), std::string(kBase) + " - In");
+  dialogs.answer("Open Layout", [](wxDialog& dialog) {
+    choose(dialog, "layouts", "Köln");
+    press(dialog, wxID_DELETE);
+    return wxID_CANCEL;
+  });
+  dialogs.answer("Delete Layout", wxID_YES);
+  put(wxID_OPEN);
+  EXPECT_FALSE(std::filesystem::exists(file));
+}
+
 TEST_F(FrameTest, EscLeavesEveryFileDialog) {
   start();
   placePiece();
@@ -273,7 +366,7 @@ TEST_F(FrameTest, EscLeavesEveryFileDialog) {
   EXPECT_TRUE(dialogs.finished());
 }
 
-TEST_F(FrameTest, ABlockGoesToTheLibraryOfTheShownSystem) {
+TEST_F(FileTest, ABlockGoesToTheLibraryOfTheShownSystem) {
   start();
   dialogs.answer("Save Block", wxID_OK);
   put(2001);
@@ -288,6 +381,16 @@ TEST_F(FrameTest, ABlockGoesToTheLibraryOfTheShownSystem) {
   EXPECT_EQ(dialogs.messages().back(), "Block saved: Throat");
   EXPECT_TRUE(
       std::filesystem::exists(layoutsFolder() / "library" / "Marklin_C-Track" / "Throat.txl"));
+  dialogs.answer("Save Library Block", [](wxDialog& dialog) {
+    for (const auto& [name, line] : {std::pair{"Throat", "Replaces the block of that name"},
+                                     {"Nul", "Windows keeps this name for a device."},
+                                     {"Other", ""}}) {
+      dynamic_cast<wxTextEntryDialog&>(dialog).SetValue(name);
+      EXPECT_EQ(advice(dialog), line);
+    }
+    return wxID_CANCEL;
+  });
+  put(2001);
   answerText("Save Library Block", "no such folder/Throat");
   dialogs.answer("Save Block Failed", wxID_OK);
   put(2001);

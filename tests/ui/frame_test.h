@@ -31,7 +31,7 @@ class FrameTest : public UiTest {
   }
   static void choose(wxDialog& dialog, const char* name, const char* row) {
     wxListBox& box = list(dialog, name);
-    ASSERT_TRUE(box.SetStringSelection(row)) << row;
+    ASSERT_TRUE(box.SetStringSelection(wxString::FromUTF8(row))) << row;
     wxCommandEvent event(wxEVT_LISTBOX, box.GetId());
     event.SetEventObject(&box);
     box.ProcessWindowEvent(event);

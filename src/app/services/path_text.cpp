@@ -1,6 +1,15 @@
 #include "app/services/path_text.h"
 
+#include <wx/strconv.h>
+
 namespace trassix {
+
+wxString textOfBytes(std::string_view bytes) {
+  if (bytes.empty())
+    return {};
+  const wxString text = wxString::FromUTF8(bytes.data(), bytes.size());
+  return text.empty() ? wxString(bytes.data(), wxConvISO8859_1, bytes.size()) : text;
+}
 
 std::filesystem::path toPath(const wxString& text) {
 #ifdef _WIN32
@@ -14,7 +23,7 @@ wxString toText(const std::filesystem::path& path) {
 #ifdef _WIN32
   return {path.wstring()};
 #else
-  return wxString::FromUTF8(path.native());
+  return textOfBytes(path.native());
 #endif
 }
 
