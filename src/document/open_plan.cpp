@@ -98,7 +98,7 @@ ImportResult importPlan(const fs::path& source, const fs::path& target, std::str
     return result;
   result.step = ImportResult::Step::Copy;
   if (!sameFile(source, target))
-    result.message = writeTextFile(target, plan.text, &result);
+    result.message = writeBytes(target, plan.text, &result);
   if (result.failed())
     return result;
   result.step = ImportResult::Step::Done;
@@ -108,7 +108,7 @@ ImportResult importPlan(const fs::path& source, const fs::path& target, std::str
     return result;
   }
   // Where this fails the copy is there all the same, as it came.
-  if (saveLayout(plan.layout, target, name).empty() && !plan.repairs.empty())
+  if (saveLayout(plan.layout, target, name, &result).empty() && !plan.repairs.empty())
     result.notices = {plan.repairs};
   return result;
 }

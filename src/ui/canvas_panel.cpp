@@ -96,6 +96,7 @@ CanvasPanel::CanvasPanel(wxWindow* parent, LayoutHost& host)
   Bind(wxEVT_MOUSE_CAPTURE_LOST, &CanvasPanel::onCaptureLost, this);
   Bind(wxEVT_SIZE, &CanvasPanel::onSize, this);
   wxAcceleratorEntry entries[] = {{wxACCEL_NORMAL, WXK_DELETE, kDeleteSelection},
+                                  {wxACCEL_NORMAL, WXK_NUMPAD_DELETE, kDeleteSelection},
                                   {wxACCEL_NORMAL, WXK_BACK, kDeleteSelection}};
   SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(std::size(entries)), entries));
   Bind(

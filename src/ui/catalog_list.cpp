@@ -45,8 +45,9 @@ CatalogList::CatalogList(wxWindow* parent, const wxString& name, Actions actions
   if (!actions_.remove)
     return;
   // Ahead of the menu's Del, which is about the plan.
-  wxAcceleratorEntry entries[] = {{wxACCEL_NORMAL, WXK_DELETE, wxID_DELETE}};
-  SetAcceleratorTable(wxAcceleratorTable(1, entries));
+  wxAcceleratorEntry entries[] = {{wxACCEL_NORMAL, WXK_DELETE, wxID_DELETE},
+                                  {wxACCEL_NORMAL, WXK_NUMPAD_DELETE, wxID_DELETE}};
+  SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(std::size(entries)), entries));
   Bind(
       wxEVT_MENU,
       [this](wxCommandEvent&) {
@@ -244,8 +245,10 @@ void CatalogList::drawEntry(wxDC& dc, const wxRect& rect, const CatalogRow& row,
   const auto draw = [&](const wxString& text, const wxFont& font, int middle) {
     dc.SetFont(font);
     const wxSize extent = dc.GetTextExtent(text);
-    dc.DrawText(extent.x <= room ? text : wxControl::Ellipsize(text, dc, wxELLIPSIZE_END, room),
-                left, middle - extent.y / 2);
+    const wxString shown = extent.x <= room ? text
+                                            : wxControl::Ellipsize(text, dc, wxELLIPSIZE_END, room,
+                                                                   wxELLIPSIZE_FLAGS_NONE);
+    dc.DrawText(shown, left, middle - extent.y / 2);
   };
   if (row.detail.empty()) {
     draw(row.title, GetFont(), rect.y + rect.height / 2);

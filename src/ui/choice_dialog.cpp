@@ -30,7 +30,8 @@ ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
   if (!texts.empty())
     rows_->SetSelection(0);
   auto* buttons = new wxStdDialogButtonSizer;
-  buttons->AddButton(new wxButton(this, wxID_OK, fromUtf8(choice.accept)));
+  buttons->AddButton(
+      new wxButton(this, wxID_OK, wxControl::EscapeMnemonics(fromUtf8(choice.accept))));
   buttons->AddButton(new wxButton(this, wxID_CANCEL));
   buttons->Realize();
 

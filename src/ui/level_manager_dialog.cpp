@@ -369,7 +369,7 @@ void LevelManagerDialog::onCharHook(wxKeyEvent& event) {
   const bool inList = list_->IsDescendant(FindFocus());
   if (inList && (key == WXK_RETURN || key == WXK_NUMPAD_ENTER))
     acceptLater(*this); // the list would take the key for a double-click
-  else if (inList && key == WXK_DELETE)
+  else if (inList && (key == WXK_DELETE || key == WXK_NUMPAD_DELETE))
     remove();
   else
     event.Skip();

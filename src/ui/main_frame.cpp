@@ -34,6 +34,7 @@ constexpr int kPaletteMinWidth = 150;
 constexpr int kPropertiesWidth = 280;
 constexpr int kInnerMinWidth = 200;
 constexpr int kMarginMm = 15;
+constexpr std::size_t kLongestTitle = 200; ///< in characters
 
 wxSplitterWindow* makeSplitter(wxWindow* parent, const wxString& name) {
   return new wxSplitterWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
@@ -209,14 +210,16 @@ void MainFrame::onClose(wxCloseEvent& event) {
 }
 
 void MainFrame::refreshTitle() {
+  wxString name = fromUtf8(plan_.name());
+  if (name.empty() && !plan_.file().empty())
+    name = fromUtf8(plan_.file().stem().u8string());
   wxString title = kBaseTitle;
-  if (!plan_.name().empty())
-    title += " - " + fromUtf8(plan_.name());
-  else if (!plan_.file().empty())
-    title += " - " + fromUtf8(plan_.file().stem().u8string());
-  if (plan_.unsaved())
-    title += " *";
-  SetTitle(title);
+  const wxString mark = plan_.unsaved() ? " *" : "";
+  if (!name.empty()) {
+    title += " - ";
+    title += shortened(name, kLongestTitle - title.length() - mark.length());
+  }
+  SetTitle(title + mark);
 }
 
 } // namespace trassix

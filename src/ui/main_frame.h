@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <set>
 
 class wxSplitterWindow;
 
@@ -121,6 +122,8 @@ class MainFrame : public wxFrame, private LayoutHost {
   void planReplaced();
   bool menuChecked(int id) const;
   void tellSaved(const FileResult& result);
+  /// Says once for each file that it could not be written in the safe way.
+  void tellWay(WriteWay way, const std::filesystem::path& path);
   bool confirmReplace(const std::filesystem::path& target, const wxString& name);
   wxString openedStatus() const;
 
@@ -129,6 +132,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   PropertiesPanel* properties_ = nullptr;
   HelpDialog* help_ = nullptr; ///< made when it is first wanted
   OpenPlan plan_;
+  std::set<std::filesystem::path> toldInPlace_;
   wxPrintData printData_;
   wxPageSetupDialogData pageSetup_;
   EditorSwitches switches_;

@@ -139,14 +139,15 @@ void MainFrame::setUnits(std::int32_t units) {
   plan_.layout().editSettings().units = units;
   appPrefs().units = units;
   writePrefs(appPrefs(), StandardFolders::prefsFile());
-  palette_->unitsChanged();
-  setPointer(canvas_->canvas().pointer());
+  showUnits();
   tellAll();
 }
 
 void MainFrame::showUnits() {
   const std::int32_t units = plan_.layout().settings().units;
   GetMenuBar()->Check(kUnitsMm + (units >= kMillimetres && units <= kInches ? units : 0), true);
+  palette_->unitsChanged();
+  setPointer(canvas_->canvas().pointer());
 }
 
 void MainFrame::options() {

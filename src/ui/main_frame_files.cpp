@@ -1,4 +1,5 @@
 // The frame's commands on files: what the open plan belongs to, and how nothing of it gets lost.
+#include "app/services/app_prefs.h"
 #include "app/services/path_text.h"
 #include "app/services/user_paths.h"
 #include "catalog/track_catalog.h"
@@ -47,8 +48,9 @@ bool MainFrame::promptUnsaved() {
 void MainFrame::newLayout() {
   if (!promptUnsaved())
     return;
-  plan_.startNew(plan_.layout().settings().units);
+  plan_.startNew(appPrefs().units);
   SetTitle(kBaseTitle);
+  showUnits();
   planReplaced();
   canvas_->canvas().resetView();
   canvas_->update();
@@ -114,6 +116,18 @@ void MainFrame::tellSaved(const FileResult& result) {
   }
   refreshTitle();
   SetStatusText(_("Saved"), kHintField);
+  tellWay(result.way, plan_.file());
+}
+
+void MainFrame::tellWay(WriteWay way, const std::filesystem::path& path) {
+  if (way == WriteWay::Replaced || !toldInPlace_.insert(path).second)
+    return;
+  wxMessageBox(
+      wxString::Format(_("The folder takes no new files, so this file itself was written over:\n%s"
+                         "\n\nThat is less safe: should the computer stop during a save, the file "
+                         "is damaged."),
+                       toText(path)),
+      _("Saved in Place"), wxOK | wxICON_INFORMATION, this);
 }
 
 void MainFrame::save() {

@@ -8,6 +8,7 @@
 #include "ui/utf8.h"
 
 #include <wx/clipbrd.h>
+#include <wx/control.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
 #include <wx/statusbr.h>
@@ -107,6 +108,10 @@ void MainFrame::popupMenu(const std::vector<MenuRow>& rows) {
   std::function<void()> chosen;
   wxMenu* submenu = nullptr;
   std::string submenuName;
+  // Names of pieces and levels are among the texts, and shortcuts are not.
+  const auto shown = [](const std::string& text) {
+    return wxControl::EscapeMnemonics(wxGetTranslation(fromUtf8(text)));
+  };
   for (const MenuRow& row : rows) {
     if (row.text.empty()) {
       menu.AppendSeparator();
@@ -116,12 +121,12 @@ void MainFrame::popupMenu(const std::vector<MenuRow>& rows) {
       submenuName = row.submenu;
       submenu = submenuName.empty() ? nullptr : new wxMenu;
       if (submenu)
-        menu.AppendSubMenu(submenu, wxGetTranslation(fromUtf8(submenuName)));
+        menu.AppendSubMenu(submenu, shown(submenuName));
     }
     // The keys are shown in the text: as an accelerator the menu would take them over.
-    wxString text = wxGetTranslation(fromUtf8(row.text));
+    wxString text = shown(row.text);
     if (!row.keys.empty())
-      text += "   (" + wxGetTranslation(fromUtf8(row.keys)) + ")";
+      text += "   (" + shown(row.keys) + ")";
     wxMenuItem* item = (submenu ? *submenu : menu).Append(wxID_ANY, text);
     item->Enable(row.enabled);
     menu.Bind(

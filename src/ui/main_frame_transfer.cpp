@@ -24,9 +24,8 @@ namespace {
 /// Byte for byte, and whole or not at all.
 bool copyOver(const std::filesystem::path& source, const std::filesystem::path& target,
               FileReport& report) {
-  std::string text;
-  return readTextFile(source, text, &report).empty() &&
-         writeTextFile(target, text, &report).empty();
+  std::string bytes;
+  return readTextFile(source, bytes, &report).empty() && writeBytes(target, bytes, &report).empty();
 }
 
 /// Blocks are replaced without a question.
@@ -61,6 +60,7 @@ void MainFrame::importLayout() {
     return;
   }
   showNotices(this, _("Import"), imported.notices);
+  tellWay(imported.way, target);
   if (wxMessageBox(wxString::Format(_("Imported successfully.\n\nOpen \"%s\" now?"), name),
                    _("Import"), wxYES_NO | wxICON_QUESTION, this) == wxYES &&
       promptUnsaved())
@@ -96,6 +96,7 @@ void MainFrame::exportLayout() {
                 report.reason);
     return;
   }
+  tellWay(report.way, target);
   wxMessageBox(_("Exported to:\n") + toText(target), _("Export"), wxOK | wxICON_INFORMATION, this);
 }
 
@@ -114,14 +115,15 @@ void MainFrame::saveBlock() {
   // A folder that cannot be made shows as a block that cannot be written.
   std::error_code ignored;
   std::filesystem::create_directories(folder, ignored);
+  const std::filesystem::path target = layoutFile(folder, toUtf8(name));
   FileReport report;
-  const std::string message =
-      trassix::saveBlock(plan_.layout(), layoutFile(folder, toUtf8(name)), toUtf8(name), &report);
+  const std::string message = trassix::saveBlock(plan_.layout(), target, toUtf8(name), &report);
   if (!message.empty()) {
     showFailure(this, _("Save Block Failed"), fromUtf8(message), report.reason);
     return;
   }
   palette_->reloadLibrary();
+  tellWay(report.way, target);
   wxMessageBox(_("Block saved: ") + name, _("Save Block"), wxOK | wxICON_INFORMATION, this);
 }
 

@@ -17,9 +17,9 @@ OpenLayoutDialog::OpenLayoutDialog(wxWindow* parent, SavedLayouts saved,
     : wxDialog(parent, wxID_ANY, _("Open Layout"), wxDefaultPosition,
                parent->FromDIP(wxSize(320, 420)), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       saved_(std::move(saved)), names_(saved_.names()), deleted_(std::move(deleted)) {
-  rows_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
-                        wxLB_SINGLE | wxLB_SORT, wxDefaultValidator, "layouts");
-  // The list sorts in its own way, and its texts do not lead back to names in another encoding.
+  rows_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxLB_SINGLE,
+                        wxDefaultValidator, "layouts");
+  // Texts do not lead back to names in another encoding.
   for (std::string& name : names_)
     rows_->Append(fromUtf8(name), &name);
   auto* row = new wxBoxSizer(wxHORIZONTAL);

@@ -196,6 +196,10 @@ void PalettePanel::showTab(Tab tab) {
 }
 
 void PalettePanel::unitsChanged() {
+  // To fill the lists anew is to lose their place.
+  if (actions_.units() == units_)
+    return;
+  units_ = actions_.units();
   fill(kTrackTab);
   fill(kSceneryTab);
 }
@@ -219,8 +223,10 @@ void PalettePanel::searchFor(const wxString& text) {
 void PalettePanel::onSearchKey(wxKeyEvent& event) {
   switch (event.GetKeyCode()) {
   case WXK_UP:
+  case WXK_NUMPAD_UP:
     return listOf(shownTab_).moveSelection(-1);
   case WXK_DOWN:
+  case WXK_NUMPAD_DOWN:
     return listOf(shownTab_).moveSelection(1);
   case WXK_RETURN:
   case WXK_NUMPAD_ENTER:

@@ -7,6 +7,7 @@
 #include <wx/panel.h>
 
 #include <array>
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string_view>
@@ -40,6 +41,7 @@ class PalettePanel : public wxPanel {
   void populate();
   /// Shows the system that most of the plan is built in; a plan without track changes nothing.
   void followLayout(const trassix::Layout& layout);
+  /// Shows the measures in the plan's units.
   void unitsChanged();
   void reloadLibrary();
 
@@ -84,6 +86,7 @@ class PalettePanel : public wxPanel {
   wxSearchCtrl* search_ = nullptr;
   std::array<wxToggleButton*, 3> tabs_{}; ///< by Tab; narrower than the toolkit's own
   Tab shownTab_ = kTrackTab;
+  std::int32_t units_ = 0; ///< of the measures in the lists
   wxPanel* pages_ = nullptr;
   std::array<CatalogList*, 3> lists_{}; ///< by Tab; none before it was looked at
 };

@@ -7,6 +7,11 @@
 
 namespace trassix {
 
+void showWrapped(wxStaticText& label, const wxString& text, int width) {
+  label.SetLabelText(text);
+  label.Wrap(width);
+}
+
 ProblemText::ProblemText(wxWindow* parent, int width, int lines)
     : wxStaticText(parent, wxID_ANY, wxEmptyString, wxDefaultPosition,
                    {width, parent->GetCharHeight() * lines + parent->FromDIP(4)},
@@ -16,8 +21,7 @@ ProblemText::ProblemText(wxWindow* parent, int width, int lines)
 }
 
 void ProblemText::show(const std::string& problem) {
-  SetLabel(EscapeMnemonics(wxGetTranslation(fromUtf8(problem))));
-  Wrap(width_);
+  showWrapped(*this, wxGetTranslation(fromUtf8(problem)), width_);
 }
 
 } // namespace trassix

@@ -1,6 +1,7 @@
 #include "ui/property_fields.h"
 
 #include "ui/picture_panel.h"
+#include "ui/problem_text.h"
 #include "ui/utf8.h"
 
 #include <wx/button.h>
@@ -215,7 +216,7 @@ void PropertyFields::refresh() {
     const wxString value = fromUtf8(property.value);
     switch (editorOf(property)) {
     case Editor::Fixed:
-      static_cast<wxStaticText*>(editor)->SetLabel(value);
+      static_cast<wxStaticText*>(editor)->SetLabelText(value);
       editor->SetToolTip(value);
       break;
     case Editor::Choice:
@@ -249,8 +250,7 @@ void PropertyFields::arrange() {
 
 void PropertyFields::wrapTexts() {
   const auto wrap = [](wxStaticText& text, const std::string& label, int width) {
-    text.SetLabel(wxGetTranslation(fromUtf8(label)));
-    text.Wrap(width);
+    showWrapped(text, wxGetTranslation(fromUtf8(label)), width);
     text.Show(!label.empty());
   };
   wrap(*title_, sheet_.title, GetClientSize().x - 2 * FromDIP(kGap));

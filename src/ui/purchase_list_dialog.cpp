@@ -4,6 +4,7 @@
 #include "app/services/user_paths.h"
 #include "panels/piece_names.h"
 #include "ui/picture_panel.h"
+#include "ui/problem_text.h"
 #include "ui/shopping_scene.h"
 #include "ui/utf8.h"
 
@@ -154,7 +155,7 @@ void PurchaseListDialog::showSelected() {
   const PurchaseRow& shown = rows_[static_cast<std::size_t>(row)];
   owned_->Enable(!stock_.unreadable());
   owned_->SetValue(shown.owned);
-  article_->SetLabel(
+  article_->SetLabelText(
       wxString::Format(_("of %s"), fromUtf8(shown.name.empty() ? shown.article : shown.name)));
   Layout();
 }
@@ -173,8 +174,7 @@ void PurchaseListDialog::saveStock() {
 }
 
 void PurchaseListDialog::showProblem(const std::string& problem) {
-  problem_->SetLabel(fromUtf8(problem));
-  problem_->Wrap(std::max(list_->GetSize().x, FromDIP(kWidth)));
+  showWrapped(*problem_, fromUtf8(problem), std::max(list_->GetSize().x, FromDIP(kWidth)));
   problem_->Show(!problem.empty());
   Layout();
 }

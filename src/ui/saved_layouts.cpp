@@ -1,6 +1,16 @@
 #include "ui/saved_layouts.h"
 
+#include "app/services/file_listing.h"
+#include "app/services/path_text.h"
+
+#ifdef __WXMSW__
+#include <wx/msw/wrapwin.h>
+#else
+#include <wx/crt.h>
+#endif
+
 #include <algorithm>
+#include <iterator>
 
 namespace trassix {
 
@@ -15,36 +25,40 @@ std::filesystem::path path(std::string_view utf8) {
   return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
 }
 
+int compareNames(const wxString& a, const wxString& b) {
+#ifdef __WXMSW__
+  return ::lstrcmpiW(a.wc_str(), b.wc_str());
+#else
+  return wxStrcoll(a.Lower(), b.Lower());
+#endif
+}
+
+bool listedBefore(const std::filesystem::path& a, const std::filesystem::path& b) {
+  const int names = compareNames(toText(a.stem()), toText(b.stem()));
+  return names != 0 ? names < 0 : a < b;
+}
+
 } // namespace
 
 std::filesystem::path layoutFile(const std::filesystem::path& folder, std::string_view name) {
-  // Put together as text: a name that begins with a separator must not replace the folder.
-  std::filesystem::path file = folder;
-  file += std::filesystem::path::preferred_separator;
-  file += path(std::string(name) + ".txl");
-  return file;
+  // From one text: a name that begins with a separator must not replace the folder, and what is put
+  // together by `+=` keeps the parent path of its first part in some libraries.
+  std::filesystem::path::string_type text = folder.native();
+  text += std::filesystem::path::preferred_separator;
+  text += path(std::string(name) + ".txl").native();
+  return {std::move(text)};
 }
 
 SavedLayouts::SavedLayouts(const std::filesystem::path& folder) {
-  for (const char* extension : {".txl", ".xml"}) {
-    std::vector<std::filesystem::path> found;
-    std::error_code error;
-    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-      std::error_code ignored;
-      if (entry->is_regular_file(ignored) && entry->path().extension() == extension)
-        found.push_back(entry->path());
-    }
-    std::sort(found.begin(), found.end());
-    files_.insert(files_.end(), found.begin(), found.end());
-  }
+  for (const char* extension : {".txl", ".xml"})
+    std::ranges::copy(filesIn(folder, extension), std::back_inserter(files_));
+  std::ranges::sort(files_, listedBefore);
 }
 
 std::vector<std::string> SavedLayouts::names() const {
   std::vector<std::string> names;
   for (const auto& file : files_)
     names.push_back(text(file.stem()));
-  std::sort(names.begin(), names.end());
   return names;
 }
 

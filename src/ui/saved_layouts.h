@@ -12,8 +12,9 @@ namespace trassix {
 /// The file that a plan or block of this name (UTF-8, as typed) has in a folder.
 std::filesystem::path layoutFile(const std::filesystem::path& folder, std::string_view name);
 
-/// The plans in a folder: its .txl files, then its .xml ones. A name that exists with both
-/// extensions is listed twice, and both entries mean the .txl file.
+/// The plans in a folder: its .txl and its .xml files, as every list of plans shows them: by name
+/// in the order of the user's language, capitals or not. A name that exists with both extensions is
+/// listed twice, the .txl file first, and both entries mean that.
 class SavedLayouts {
  public:
   explicit SavedLayouts(const std::filesystem::path& folder);
@@ -21,10 +22,10 @@ class SavedLayouts {
   bool empty() const { return files_.empty(); }
   const std::vector<std::filesystem::path>& files() const { return files_; }
 
-  /// Names without folder and extension, in ascending order, UTF-8.
+  /// Of the files, without folder and extension; UTF-8.
   std::vector<std::string> names() const;
 
-  /// The first file in listing order whose name is exactly this.
+  /// The first file whose name is exactly this.
   std::optional<std::filesystem::path> find(std::string_view name) const;
 
   void remove(const std::filesystem::path& file);

@@ -2,6 +2,7 @@
 
 #include <wx/string.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -14,5 +15,8 @@ inline wxString fromUtf8(const std::u8string& text) {
   return fromUtf8(std::string_view(reinterpret_cast<const char*>(text.data()), text.size()));
 }
 std::string toUtf8(const wxString& text);
+
+/// A text of more characters than this cut to as many, the last one an ellipsis.
+wxString shortened(const wxString& text, std::size_t characters);
 
 } // namespace trassix

@@ -1,8 +1,13 @@
+#include "document/layout_writer.h"
 #include "driver.h"
 #include "editing/annotations.h"
 #include "frame_test.h"
+#include "support/plain_user.h"
+#include "ui/canvas_panel.h"
+#include "ui/command_ids.h"
 
 #include <wx/button.h>
+#include <wx/menu.h>
 #include <wx/msgdlg.h>
 
 namespace trassix::test {
@@ -149,6 +154,52 @@ TEST_F(FrameTest, AFailedSaveKeepsTheChangesUnsaved) {
   put(wxID_SAVE); // to the same place, without asking
   EXPECT_FALSE(frame().dirty());
   EXPECT_TRUE(std::filesystem::exists(target));
+}
+
+TEST_F(FrameTest, AFolderWithoutRoomForNewFilesIsToldOnce) {
+  start();
+  placePiece();
+  saveAs("Yard");
+  for (const auto& [path, rights] :
+       {std::pair{home(), 0755u}, {layoutsFolder(), 0555u}, {layoutsFolder() / "Yard.txl", 0666u}})
+    std::filesystem::permissions(path, std::filesystem::perms(rights));
+  dialogs.answer("Saved in Place", wxID_OK);
+  for (const double x : {500, 900}) {
+    placePiece(x);
+    const PlainUser plain;
+    put(wxID_SAVE);
+    EXPECT_FALSE(frame().dirty());
+  }
+  std::filesystem::permissions(layoutsFolder(), std::filesystem::perms(0755));
+  put(wxID_NEW);
+  EXPECT_TRUE(frame().loadLayout(layoutsFolder() / "Yard.txl"));
+  EXPECT_EQ(pieces(), 3u);
+}
+
+TEST_F(FrameTest, UnitsAndThePointersPlaceFollowThePlan) {
+  startLaidOut();
+  const auto expectPlace = [this](const char* format, double unit) {
+    const Point at = frame().canvasPanel().canvas().view().toWorld({300, 200});
+    EXPECT_EQ(frame().GetStatusBar()->GetStatusText(2),
+              wxString::Format(format, at.x / unit, at.y / unit));
+  };
+  placePiece(700);
+  const wxString name(L'\u00fc', 300);
+  ASSERT_EQ(saveLayout(frame().layout(), home() / "mm.txl", name.utf8_string()), "");
+  moveMouse({frame().canvasPanel(), {300, 200}});
+  put(kUnitsInch);
+  expectPlace("x: %.2f  y: %.2f in", 25.4);
+  put(kZoomIn);
+  expectPlace("x: %.2f  y: %.2f in", 25.4);
+  ASSERT_TRUE(frame().loadLayout(home() / "mm.txl"));
+  expectPlace("x: %.0f  y: %.0f mm", 1);
+  frame().host().changed();
+  EXPECT_EQ(frame().GetTitle().length(), 200U) << "a longer one is cut";
+  EXPECT_TRUE(frame().GetTitle().EndsWith(L"\u00fc\u2026 *"));
+  dialogs.answer("Unsaved Changes", wxID_NO);
+  put(wxID_NEW);
+  EXPECT_TRUE(frame().GetMenuBar()->IsChecked(kUnitsInch)) << "as the user prefers";
+  expectPlace("x: %.2f  y: %.2f in", 25.4);
 }
 
 TEST_F(FileTest, OpenListsDeletesAndSurvivesBadFiles) {
@@ -354,14 +405,30 @@ TEST_F(FileTest, NamesInAnyBytesAndOutOfFilesAreTaken) {
   EXPECT_FALSE(std::filesystem::exists(file));
 }
 
-TEST_F(FrameTest, EscLeavesEveryFileDialog) {
+TEST_F(FrameTest, FileDialogsSortAlikeAndEscLeavesThem) {
   start();
   placePiece();
   saveAs("Yard");
-  for (const auto& [command, title] :
-       {std::pair{5000, "Open Layout"}, {1900, "Import Layout"}, {1901, "Export Layout"}}) {
-    dialogs.drive(title, [](wxDialog&) { pressKey(WXK_ESCAPE); });
-    put(command);
+  for (const char* other : {"yard 2.txl", "Box.txl", "apron.xml", "apron.txl"})
+    writeText(layoutsFolder() / other, "");
+  struct Case {
+    int command;
+    const char *title, *list, *rows;
+  };
+  for (const Case& c :
+       {Case{5000, "Open Layout", "layouts", "apron apron Box Yard yard 2 "},
+        {1900, "Import Layout", "files", "apron.txl apron.xml Box.txl Yard.txl yard 2.txl "},
+        {1901, "Export Layout", "layouts", "apron apron Box Yard yard 2 "}}) {
+    dialogs.drive(c.title, [&c, this](wxDialog& dialog) {
+      if (c.command == 1900)
+        type(dialog, "source", layoutsFolder().string());
+      wxString rows;
+      for (const wxString& row : list(dialog, c.list).GetStrings())
+        rows += row + " ";
+      EXPECT_EQ(rows, c.rows);
+      pressKey(WXK_ESCAPE);
+    });
+    put(c.command);
   }
   EXPECT_TRUE(dialogs.finished());
 }

@@ -14,6 +14,7 @@
 #include <wx/clrpicker.h>
 #include <wx/filedlg.h>
 #include <wx/listctrl.h>
+#include <wx/menu.h>
 #include <wx/spinctrl.h>
 #include <wx/splitter.h>
 #include <wx/stattext.h>
@@ -142,6 +143,28 @@ TEST_F(PanelsTest, EveryKindOfRecordIsEditedInItsFields) {
   expectOneStep("resized", [&] { return content().scenery[0].scalex < 0.9; });
 }
 
+TEST_F(PanelsTest, NamesShowAsTheyAre) {
+  start();
+  placePiece();
+  plan().editSettings().levels[0].name = "Yard & Co";
+  plan().edit().pieces[0].cat = "A & B";
+  select(&PlanContent::pieces);
+  for (const char* shown : {"A & B", "Yard & Co"})
+    EXPECT_NE(findLabelled(shown), nullptr) << shown;
+  takeScreenshot("ampersands");
+  openPurchaseList([&](wxDialog&) {
+    EXPECT_NE(findLabelled("of A & B"), nullptr);
+    pressKey(WXK_ESCAPE);
+  });
+  wxString row;
+  frame().Bind(wxEVT_MENU_OPEN, [&row](wxMenuEvent& event) {
+    row = event.GetMenu()->FindItemByPosition(0)->GetItemLabelText();
+    event.GetMenu()->GetInvokingWindow()->CallAfter([] { pressKey(WXK_ESCAPE); });
+  });
+  frame().host().popupMenu({{"Yard & Co", "", true, [] {}}});
+  EXPECT_EQ(row, "Yard & Co");
+}
+
 TEST_F(PanelsTest, RefusedInputSaysWhyInPlaceAndEscTakesItBack) {
   start();
   placePiece();
@@ -191,14 +214,13 @@ TEST_F(PanelsTest, ThePanesKeepTheirSizesAndShowTheTally) {
   EXPECT_EQ(tally.GetItemText(0, 2), "188.3mm");
   const std::string row = "24188\t24188 - 188.3mm\t3\t3\n";
   click(control<wxWindow>("tally.copy"));
-  EXPECT_EQ(frame().host().clipboard(),
-            "System\tArticle\tName\tPlaced\tNeeded\nMarklin C-Track\t" + row);
+  EXPECT_EQ(frame().host().clipboard(), "System\tArticle\tName\tPlaced\tNeeded\nMärklin C\t" + row);
   dialogs.answer("", wxID_CANCEL); // the desktop's own dialog keeps its title to itself
   click(control<wxWindow>("tally.save"));
   waitUntil("the dialog came", [this] { return dialogs.finished(); });
   dynamic_cast<TallyPanel&>(*tally.GetParent()).saveCsv(home() / "mytally.csv");
-  EXPECT_EQ(readText(home() / "mytally.csv"), "System,Article,Name,Placed,Needed\r\n"
-                                              "Marklin C-Track,24188,24188 - 188.3mm,3,3\r\n");
+  EXPECT_EQ(readText(home() / "mytally.csv"), "\xEF\xBB\xBFSystem,Article,Name,Placed,Needed\r\n"
+                                              "Märklin C,24188,24188 - 188.3mm,3,3\r\n");
 
   const wxSize size = frame().GetSize();
   frame().SetSize(size - wxSize(200, 150));

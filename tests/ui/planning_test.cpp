@@ -148,9 +148,13 @@ TEST_F(PlanningTest, MouseAndKeysShapeThePlan) {
   ASSERT_TRUE(waitUntil("moved", [&] { return plan().pieces()[0].y > before.y + 150; }));
   pressKey('Z', wxMOD_CONTROL);
   ASSERT_TRUE(waitUntil("undone", [&] { return plan().pieces()[0].y == before.y; }));
-  click(onPlan({before.x + 90, before.y}));
-  pressKey(WXK_DELETE);
-  waitForPieces(0);
+  for (const int key : {WXK_DELETE, WXK_NUMPAD_DELETE}) {
+    click(onPlan({before.x + 90, before.y}));
+    pressKey(key);
+    waitForPieces(0);
+    pressKey('Z', wxMOD_CONTROL);
+    waitForPieces(1);
+  }
   finish();
 }
 
