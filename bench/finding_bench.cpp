@@ -1,5 +1,6 @@
-// Finding things on large plans: where a carried piece snaps, what lies under the pointer. Against
-// plain loops over all pieces, and on plans of very different sizes.
+// Finding things on large plans: where a carried piece snaps, what lies under the pointer, which
+// piece has an id. Against plain loops over all pieces, on plans of very different sizes and with
+// ids in another order.
 #include "catalog/track_catalog.h"
 #include "editing/joining.h"
 #include "editing/piece_outline.h"
@@ -133,6 +134,37 @@ void finding(benchmark::State& state, Cost (*costOf)(int)) {
 }
 BENCHMARK_CAPTURE(finding, snap, snapCost)->UseManualTime()->Iterations(1);
 BENCHMARK_CAPTURE(finding, hitTest, hitCost)->UseManualTime()->Iterations(1);
+
+/// The same plan as if it came from elsewhere, with its ids falling.
+Layout withFallingIds(Layout layout) {
+  std::vector<PlacedPiece>& pieces = layout.edit().pieces;
+  const auto turned = [count = static_cast<std::int32_t>(pieces.size())](std::int32_t id) {
+    return id == -1 ? -1 : count + 1 - id;
+  };
+  for (PlacedPiece& piece : pieces) {
+    piece.id = turned(piece.id);
+    for (Joint& joint : piece.joints)
+      joint.target = turned(joint.target);
+  }
+  return layout;
+}
+
+/// Every piece and as many that do not exist, edited or looked for in turns after an edit of the
+/// plan.
+void lookUpEvery(Layout& layout) {
+  const auto count = static_cast<std::int32_t>(layout.pieces().size());
+  layout.edit().currentGrade = {};
+  for (std::int32_t id = 1; id <= 2 * count; ++id)
+    benchmark::DoNotOptimize(id % 2 == 0 ? layout.findPiece(id) : layout.editPiece(id));
+}
+
+void idsInAnyOrder(benchmark::State& state) {
+  Layout rising = yard(10000);
+  Layout falling = withFallingIds(rising);
+  compare(
+      state, 1.5, [&] { lookUpEvery(falling); }, [&] { lookUpEvery(rising); });
+}
+BENCHMARK(idsInAnyOrder)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 
 /// What an edit on a large plan costs, and bringing both indexes up to date after it.
 void editOfTenThousandPieces(benchmark::State& state) {

@@ -3,6 +3,7 @@
 #include "document/element_reader.h"
 #include "document/element_writer.h"
 #include "document/piece_lines.h"
+#include "document/piece_pairs.h"
 
 #include <algorithm>
 #include <exception>
@@ -61,6 +62,13 @@ Block blockFromSelection(const Layout& layout) {
                selected);
   std::copy_if(layout.content().scenery.begin(), layout.content().scenery.end(),
                std::back_inserter(block.scenery), selected);
+  const auto inBlock = [&layout](std::int32_t id) {
+    const PlacedPiece* piece = layout.findPiece(id);
+    return piece != nullptr && piece->sel;
+  };
+  for (const PiecePair& pair : layout.content().pairs)
+    if (inBlock(pair.first) && inBlock(pair.second))
+      block.pairs.push_back(pair);
   return block;
 }
 
@@ -107,6 +115,7 @@ std::string readBlock(std::string_view text, Block& block) {
   } catch (const std::exception& failure) {
     return failure.what();
   }
+  block.pairs = pairsOfRuns(block.pieces);
   return {};
 }
 

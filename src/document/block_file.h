@@ -20,6 +20,7 @@ struct Block {
   std::vector<PlacedPiece> pieces;
   std::vector<SceneryItem> scenery;
   bool onLevels = false; ///< pieces have no height of their own, but that of their level
+  std::vector<PiecePair> pairs = {}; ///< not saved
 
   bool empty() const { return pieces.empty() && scenery.empty(); }
   bool operator==(const Block&) const = default;

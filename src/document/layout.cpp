@@ -11,29 +11,6 @@ namespace {
 
 constexpr Color kFirstLevelColor{180, 200, 220};
 
-/// Ids are handed out in rising order and pieces are appended, so the vector is nearly always
-/// sorted; a plan from elsewhere may not be, and is then searched from the front.
-template <class Pieces>
-auto* pieceWithId(Pieces& pieces, std::int32_t id) {
-  decltype(pieces.data()) found = nullptr;
-  if (id == -1)
-    return found;
-  std::size_t low = 0;
-  std::size_t high = pieces.size();
-  while (low < high) {
-    const std::size_t middle = low + (high - low) / 2;
-    if (pieces[middle].id < id)
-      low = middle + 1;
-    else
-      high = middle;
-  }
-  if (low < pieces.size() && pieces[low].id == id)
-    return &pieces[low];
-  const auto it = std::find_if(pieces.begin(), pieces.end(),
-                               [id](const PlacedPiece& piece) { return piece.id == id; });
-  return it == pieces.end() ? found : &*it;
-}
-
 template <class Records>
 bool anySelected(const Records& records) {
   return std::any_of(records.begin(), records.end(), [](const auto& record) { return record.sel; });
@@ -60,7 +37,7 @@ bool inUse(const PlanContent& content, std::int32_t id) {
 } // namespace
 
 PlanContent& Layout::edit() {
-  stamp();
+  stampArrangement();
   return content_;
 }
 
@@ -70,14 +47,15 @@ PlanSettings& Layout::editSettings() {
 }
 
 const PlacedPiece* Layout::findPiece(std::int32_t id) const {
-  return pieceWithId(content_.pieces, id);
+  return id == -1 ? nullptr : index_.find(content_.pieces, id, arrangement_);
 }
 
 PlacedPiece* Layout::editPiece(std::int32_t id) {
-  PlacedPiece* piece = pieceWithId(content_.pieces, id);
-  if (piece != nullptr)
-    stamp();
-  return piece;
+  const PlacedPiece* piece = findPiece(id);
+  if (piece == nullptr)
+    return nullptr;
+  stamp();
+  return &content_.pieces[static_cast<std::size_t>(piece - content_.pieces.data())];
 }
 
 const Level* Layout::findLevel(std::int32_t id) const {
@@ -185,7 +163,7 @@ void Layout::clear() {
   settings_ = {};
   setNextPieceId(1);
   history_.clear();
-  stamp();
+  stampArrangement();
 }
 
 void Layout::pushHistory() {
@@ -195,20 +173,25 @@ void Layout::pushHistory() {
 bool Layout::undo() {
   if (!history_.undo(content_))
     return false;
-  stamp();
+  stampArrangement();
   return true;
 }
 
 bool Layout::redo() {
   if (!history_.redo(content_))
     return false;
-  stamp();
+  stampArrangement();
   return true;
 }
 
 void Layout::stamp() {
   static std::atomic<std::uint64_t> lastRevision{0};
   revision_ = ++lastRevision;
+}
+
+void Layout::stampArrangement() {
+  stamp();
+  arrangement_ = revision_;
 }
 
 } // namespace trassix

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/history.h"
+#include "document/piece_index.h"
 #include "document/plan_content.h"
 #include "document/records.h"
 
@@ -40,8 +41,10 @@ class Layout {
   /// content, also between copies of a document.
   std::uint64_t revision() const { return revision_; }
 
-  /// Null when no piece has this id. The pointer is good until the next edit.
+  /// Null when no piece has this id. The pointer is good until the next edit. Never a scan, in
+  /// whatever order the ids stand; not to be called by two threads at once.
   const PlacedPiece* findPiece(std::int32_t id) const;
+  /// The same for changing the piece, but never its id.
   PlacedPiece* editPiece(std::int32_t id);
 
   /// Null when no level has this id.
@@ -93,6 +96,7 @@ class Layout {
  private:
   friend class UndoScope;
   void stamp();
+  void stampArrangement();
 
   PlanContent content_;
   PlanSettings settings_;
@@ -100,7 +104,9 @@ class Layout {
   bool reusingIds_ = false; ///< the counter has started over and must pass over ids in use
   History history_;
   std::uint64_t revision_ = 0;
-  bool inEdit_ = false; ///< an undo scope is open
+  bool inEdit_ = false;           ///< an undo scope is open
+  std::uint64_t arrangement_ = 0; ///< the last revision in which pieces may have changed places
+  mutable PieceIndex index_;
 };
 
 } // namespace trassix

@@ -2,6 +2,7 @@
 
 #include "document/element_reader.h"
 #include "document/piece_lines.h"
+#include "document/piece_pairs.h"
 #include "document/text_file.h"
 
 #include <algorithm>
@@ -206,6 +207,7 @@ std::string readLayout(std::string_view text, Layout& layout, std::string& name)
     message = failure.what();
   }
   content.mirrorLastGradeRun();
+  content.pairs = pairsOfRuns(content.pieces);
   layout.setNextPieceId(largestId(content) + 1);
   layout.ensureLevel();
   return message;

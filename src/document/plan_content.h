@@ -2,11 +2,12 @@
 
 #include "document/records.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace trassix {
 
-/// What undo and redo bring back, and all of it but the measurements is saved.
+/// What undo and redo bring back, and all of it but the measurements and pairs is saved.
 struct PlanContent {
   std::vector<PlacedPiece> pieces;
   std::vector<SceneryItem> scenery;
@@ -17,6 +18,7 @@ struct PlanContent {
   std::vector<Helix> helices;
   CurrentGrade currentGrade;
   std::vector<GradeRun> gradeRuns;
+  std::vector<PiecePair> pairs;
 
   bool operator==(const PlanContent&) const = default;
 
@@ -25,6 +27,14 @@ struct PlanContent {
     currentGrade = gradeRuns.empty() ? CurrentGrade{}
                                      : CurrentGrade{true, gradeRuns.back().deg,
                                                     gradeRuns.back().anchor, gradeRuns.back().conn};
+  }
+
+  /// Id of the piece that came with this one as a pair, -1 when there is none.
+  std::int32_t partnerOf(std::int32_t piece) const {
+    for (const PiecePair& pair : pairs)
+      if (pair.has(piece))
+        return pair.first == piece ? pair.second : pair.first;
+    return -1;
   }
 };
 

@@ -72,6 +72,17 @@ struct PlacedPiece {
   }
 };
 
+/// Two pieces of an article that is sold in pairs and that came together. Kept by undo and redo,
+/// not by the file.
+struct PiecePair {
+  std::int32_t first = -1; ///< id
+  std::int32_t second = -1;
+
+  bool operator==(const PiecePair&) const = default;
+
+  bool has(std::int32_t piece) const { return piece == first || piece == second; }
+};
+
 struct SceneryItem {
   std::int32_t id = -1;
   std::string item; ///< key in the scenery catalogue

@@ -23,7 +23,7 @@ bool sameButSelected(const PlanContent& a, const PlanContent& b) {
   return sameButSelected(a.pieces, b.pieces) && sameButSelected(a.scenery, b.scenery) &&
          sameButSelected(a.labels, b.labels) && sameButSelected(a.measurements, b.measurements) &&
          sameButSelected(a.shapes, b.shapes) && a.tunnels == b.tunnels && a.helices == b.helices &&
-         a.currentGrade == b.currentGrade && a.gradeRuns == b.gradeRuns;
+         a.currentGrade == b.currentGrade && a.gradeRuns == b.gradeRuns && a.pairs == b.pairs;
 }
 
 } // namespace

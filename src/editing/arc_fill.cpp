@@ -40,7 +40,7 @@ std::vector<ConnectingArc> connectingArcs(const WorldConnector& start, const Wor
     const double along = u.x * gap.x + u.y * gap.y;
     if (std::abs(across) < kArcClosure || std::abs(along) > kArcClosure)
       return {};
-    return {{std::abs(across) / 2, across > 0 ? 180.0 : -180.0}};
+    return {{std::abs(across) / 2, across > 0 ? 180.0 : -180.0, std::abs(along)}};
   }
 
   // A train arrives against the end's heading; it gets there by the short or by the long way round.
@@ -52,8 +52,9 @@ std::vector<ConnectingArc> connectingArcs(const WorldConnector& start, const Wor
     const double towards = candidate > 0 ? across : -across;
     if (std::abs(2 * towards) < kNone)
       continue;
-    const ConnectingArc arc{(gap.x * gap.x + gap.y * gap.y) / (2 * towards), candidate};
-    if (arc.radius > 1e-6 && missBy(arc, u, gap) <= kArcClosure)
+    ConnectingArc arc{(gap.x * gap.x + gap.y * gap.y) / (2 * towards), candidate};
+    arc.miss = missBy(arc, u, gap);
+    if (arc.radius > 1e-6)
       arcs.push_back(arc);
   }
   return arcs;

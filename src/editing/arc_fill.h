@@ -13,9 +13,11 @@ inline constexpr double kArcClosure = 2.0; ///< mm
 struct ConnectingArc {
   double radius = 0; ///< mm
   double turn = 0;   ///< degrees, positive to the right
+  double miss = 0;   ///< mm from where it ends to the other end
 };
 
-/// At most one arc to each side, ending within 2.0 mm of `end`. Ends a micrometre apart have none.
+/// At most one arc to each side. The circle leads through the other end; the arc misses it when
+/// that does not face as the circle does there. Ends a micrometre apart have none.
 std::vector<ConnectingArc> connectingArcs(const WorldConnector& start, const WorldConnector& end);
 
 } // namespace trassix

@@ -23,6 +23,7 @@ constexpr std::size_t kMostStraightFills = 12;
 constexpr int kMostCurves = 64;
 constexpr double kRadiusTolerance = 3.0; // mm
 constexpr double kAngleFit = 0.5;        // degrees
+constexpr double kJoinReach = 1.0;       // mm, exclusive
 
 bool mayFill(const PieceDef& piece, TrackSystem system) {
   return piece.system == system && !piece.bridge && !piece.ramp && !hasOwnFunction(piece) &&
@@ -59,11 +60,13 @@ std::optional<Gap> findGap(const PlacedPiece& a, const PieceDef& definitionA, co
     for (const WorldConnector& end : openEnds(b, definitionB)) {
       const double distance = std::hypot(start.x - end.x, start.y - end.y);
       if (distance < gap.distance)
-        gap = {a.id, start, b.id, end, distance, GapKind::Arc};
+        gap = {a.id, start, b.id, end, distance, GapKind::Arc, 0, false};
     }
   }
   if (gap.startPiece == -1 || gap.distance <= kNoGap)
     return std::nullopt;
+  gap.rise = endHeight(b, definitionB, gap.end.index) - endHeight(a, definitionA, gap.start.index);
+  gap.graded = isGraded(b);
   if (headingDifference(gap.start.heading, gap.end.heading) > kStraightFacing &&
       std::abs(offsets(gap).y) <= kStraightOffset)
     gap.kind = GapKind::Straight;
@@ -101,6 +104,19 @@ std::vector<FillCandidate> straightCandidates(const Gap& gap, TrackSystem system
   return candidates;
 }
 
+/// The connector by which the pieces of a fill are entered.
+std::int32_t entry(const FillCandidate& candidate) {
+  return candidate.reversed ? 1 : 0;
+}
+
+WorldConnector farEnd(const FillPiece& fill, const FillCandidate& candidate) {
+  PlacedPiece piece;
+  piece.x = fill.pose.x;
+  piece.y = fill.pose.y;
+  piece.heading = fill.pose.heading;
+  return ConnectorToWorld(piece, *fill.definition, 1 - entry(candidate));
+}
+
 std::vector<FillCandidate> arcCandidates(const Gap& gap, TrackSystem system) {
   const TrackCatalog& catalog = TrackCatalog::instance();
   std::vector<FillCandidate> candidates;
@@ -116,9 +132,10 @@ std::vector<FillCandidate> arcCandidates(const Gap& gap, TrackSystem system) {
       if (count < 1 || count > kMostCurves ||
           std::abs(exact - static_cast<double>(count)) * angle > kAngleFit)
         continue;
-      candidates.push_back({std::vector(static_cast<std::size_t>(count), curve.article),
-                            static_cast<double>(count) * angle,
-                            (curve.angle > 0) != (arc.turn > 0)});
+      FillCandidate fill{std::vector(static_cast<std::size_t>(count), curve.article),
+                         static_cast<double>(count) * angle, (curve.angle > 0) != (arc.turn > 0)};
+      if (arc.miss <= kArcClosure || restOf(gap, fill).reaches())
+        candidates.push_back(std::move(fill));
     }
   }
   std::ranges::stable_sort(candidates, {},
@@ -154,22 +171,31 @@ std::optional<Autofill> solveAutofill(const Layout& layout, std::int32_t a, std:
 }
 
 std::vector<FillPiece> fillPieces(const Gap& gap, const FillCandidate& candidate) {
-  const std::int32_t enter = candidate.reversed ? 1 : 0;
   WorldConnector front = gap.start;
   std::vector<FillPiece> pieces;
   for (const std::string& article : candidate.articles) {
     const PieceDef* definition = TrackCatalog::instance().find(article);
     if (definition == nullptr || definition->connectors.size() < 2)
       break;
-    const Pose pose = AttachPose(*definition, enter, front);
-    pieces.push_back({definition, pose});
-    PlacedPiece piece;
-    piece.x = pose.x;
-    piece.y = pose.y;
-    piece.heading = pose.heading;
-    front = ConnectorToWorld(piece, *definition, 1 - enter);
+    pieces.push_back({definition, AttachPose(*definition, entry(candidate), front)});
+    front = farEnd(pieces.back(), candidate);
   }
   return pieces;
+}
+
+bool Rest::reaches() const {
+  return distance * distance < kJoinReach * kJoinReach;
+}
+
+bool Rest::joins() const {
+  return reaches() && height <= (graded ? kClosingDistance : kSameHeight);
+}
+
+Rest restOf(const Gap& gap, const FillCandidate& candidate) {
+  WorldConnector last = gap.start;
+  for (const FillPiece& piece : fillPieces(gap, candidate))
+    last = farEnd(piece, candidate);
+  return {std::hypot(last.x - gap.end.x, last.y - gap.end.y), std::abs(gap.rise), gap.graded};
 }
 
 EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candidate) {
@@ -186,8 +212,8 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
     return {{}, beyondPlan()};
   UndoScope step(layout);
   const std::int32_t level = start->level;
-  const double height = start->z;
-  const std::int32_t enter = candidate.reversed ? 1 : 0;
+  const double height = endHeight(*start, *definitionOf(*start), gap.start.index);
+  const std::int32_t enter = entry(candidate);
   std::vector<std::int32_t> placed;
   Joint before{gap.startPiece, gap.start.index};
   for (const FillPiece& piece : pieces) {
@@ -197,15 +223,7 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
     placed.push_back(id);
     before = {id, 1 - enter};
   }
-  const WorldConnector last =
-      ConnectorToWorld(*layout.findPiece(before.target), *pieces.back().definition, before.tconn);
-  const double dx = last.x - gap.end.x;
-  const double dy = last.y - gap.end.y;
-  const PlacedPiece& end = *layout.findPiece(gap.endPiece);
-  const double rise = endHeight(end, *definitionOf(end), gap.end.index) - height;
-  if (dx * dx + dy * dy < 1.0 &&
-      std::abs(rise) <= (isGraded(end) ? kClosingDistance : kSameHeight) &&
-      openAt(layout, gap.endPiece, gap.end.index))
+  if (restOf(gap, candidate).joins() && openAt(layout, gap.endPiece, gap.end.index))
     join(layout, before.target, before.tconn, gap.endPiece, gap.end.index);
   closeMeetingEnds(layout, placed);
   selectOnly(layout, placed.front());

@@ -22,6 +22,8 @@ struct Gap {
   WorldConnector end;
   double distance = 0; ///< mm between the two ends
   GapKind kind = GapKind::Straight;
+  double rise = 0;     ///< mm from the start's height up to the end's
+  bool graded = false; ///< the end is one of a climbing piece
 };
 
 struct FillCandidate {
@@ -57,9 +59,21 @@ struct FillPiece {
 };
 std::vector<FillPiece> fillPieces(const Gap& gap, const FillCandidate& candidate);
 
-/// Places the fill as one undo step, joined from piece to piece and, where it comes within 1.0 mm,
-/// to the gap's end. Level and height are those of the start piece. Refused when an article is
-/// missing or has fewer than two ends; nothing happens when the gap's start is joined by now.
+/// What a fill leaves between its last end and the gap's end.
+struct Rest {
+  double distance = 0; ///< mm in the plan
+  double height = 0;   ///< mm
+  bool graded = false; ///< of the gap's end
+
+  bool reaches() const; ///< near enough in the plan, within 1.0 mm
+  bool joins() const;   ///< and in height: where the end climbs at most 1.0 mm, else none
+};
+Rest restOf(const Gap& gap, const FillCandidate& candidate);
+
+/// Places the fill as one undo step, joined from piece to piece and, where the rest allows it, to
+/// the gap's end. It lies on the level of the start piece, at the height of the end where it
+/// starts. Refused when an article is missing or has fewer than two ends; nothing happens when the
+/// gap's start is joined by now.
 EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candidate);
 
 } // namespace trassix

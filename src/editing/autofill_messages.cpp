@@ -74,4 +74,14 @@ std::string autofillRow(GapKind kind, const FillCandidate& candidate) {
   return row + "  (" + oneDecimal(candidate.total) + " mm)";
 }
 
+std::string autofillRest(const Rest& rest) {
+  constexpr double kShown = 0.05; // mm: less would read 0.0
+  std::string text = rest.joins() ? "Joins both ends" : "Leaves the far end open";
+  if (rest.distance >= kShown)
+    text += ", " + oneDecimal(rest.distance) + " mm apart";
+  if (rest.height >= kShown)
+    text += ", " + oneDecimal(rest.height) + " mm apart in height";
+  return text + ".";
+}
+
 } // namespace trassix

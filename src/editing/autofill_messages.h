@@ -18,4 +18,7 @@ std::string autofillPrompt(const Gap& gap);
 /// One row of the choice dialog.
 std::string autofillRow(GapKind kind, const FillCandidate& candidate);
 
+/// What the fill of a row leaves open, for the line under the rows.
+std::string autofillRest(const Rest& rest);
+
 } // namespace trassix

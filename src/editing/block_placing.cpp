@@ -43,25 +43,43 @@ std::vector<PlacedPiece> freshPieces(Layout& layout, const Block& block, const P
   return pieces;
 }
 
+/// Where the block's pieces stand, by the ids they have there.
+using Positions = std::unordered_map<std::int32_t, std::size_t>;
+
+Positions positionsOf(const std::vector<PlacedPiece>& pieces) {
+  Positions positions;
+  for (std::size_t i = 0; i < pieces.size(); ++i)
+    positions.emplace(pieces[i].id, i);
+  return positions;
+}
+
 /// Joints get the new id of their target, or are opened when that is not in the block. A damaged
 /// file can hold joints that only one side knows of, or of a piece with itself; no plan may have
 /// these.
-void remapJoints(std::vector<PlacedPiece>& pieces, const Block& block) {
-  std::unordered_map<std::int32_t, std::size_t> positions;
-  for (std::size_t i = 0; i < pieces.size(); ++i)
-    positions.emplace(block.pieces[i].id, i);
+void remapJoints(std::vector<PlacedPiece>& pieces, const Block& block, const Positions& positions) {
   for (std::size_t i = 0; i < pieces.size(); ++i) {
     const std::int32_t oldId = block.pieces[i].id;
     for (std::size_t slot = 0; slot < pieces[i].joints.size(); ++slot) {
       Joint& joint = pieces[i].joints[slot];
       const auto target = positions.find(joint.target);
       const Joint back{oldId, static_cast<std::int32_t>(slot)};
-      if (target == positions.end() || target->second == i || positions[oldId] != i ||
+      if (target == positions.end() || target->second == i || positions.at(oldId) != i ||
           block.pieces[target->second].joint(static_cast<std::size_t>(joint.tconn)) != back)
         joint = {};
       else
         joint.target = pieces[target->second].id;
     }
+  }
+}
+
+/// Copies of both pieces of a pair are a pair again.
+void copyPairs(const Block& block, const std::vector<PlacedPiece>& pieces,
+               const Positions& positions, std::vector<PiecePair>& pairs) {
+  for (const PiecePair& pair : block.pairs) {
+    const auto first = positions.find(pair.first);
+    const auto second = positions.find(pair.second);
+    if (first != positions.end() && second != positions.end())
+      pairs.push_back({pieces[first->second].id, pieces[second->second].id});
   }
 }
 
@@ -115,8 +133,10 @@ EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose) {
   layout.clearSelection();
 
   std::vector<PlacedPiece> pieces = freshPieces(layout, block, pose);
-  remapJoints(pieces, block);
+  const Positions positions = positionsOf(block.pieces);
+  remapJoints(pieces, block, positions);
   PlanContent& content = layout.edit();
+  copyPairs(block, pieces, positions, content.pairs);
   for (PlacedPiece& piece : pieces) {
     result.placed.push_back(piece.id);
     content.pieces.push_back(std::move(piece));

@@ -21,9 +21,9 @@ bool inBox(const Box& box, const Polygon& polygon, bool whole) {
   return !polygon.empty() && (whole ? liesIn(polygon, box) : touches(polygon, box));
 }
 
-/// Calls `visit` with the record, if there is one.
-template <typename Content, typename Visit>
-void withRecord(Content& content, const Pick& pick, Visit visit) {
+/// Calls `visit` with the record, if there is one. `piece` is the one with the pick's id.
+template <typename Content, typename Piece, typename Visit>
+void withRecord(Content& content, Piece* piece, const Pick& pick, Visit visit) {
   const auto call = [&visit](auto* record) {
     if (record)
       visit(*record);
@@ -34,7 +34,7 @@ void withRecord(Content& content, const Pick& pick, Visit visit) {
   case RecordKind::Measurement:
     return call(recordWithId(content.measurements, pick.id));
   case RecordKind::Piece:
-    return call(recordWithId(content.pieces, pick.id));
+    return call(piece);
   case RecordKind::Scenery:
     return call(recordWithId(content.scenery, pick.id));
   case RecordKind::Shape:
@@ -91,12 +91,14 @@ std::vector<Pick> picksAt(const Layout& layout, const PlanIndex& index, Point at
 
 bool isSelected(const Layout& layout, const Pick& pick) {
   bool selected = false;
-  withRecord(layout.content(), pick, [&](const auto& record) { selected = record.sel; });
+  withRecord(layout.content(), layout.findPiece(pick.id), pick,
+             [&](const auto& record) { selected = record.sel; });
   return selected;
 }
 
 void setSelected(Layout& layout, const Pick& pick, bool selected) {
-  withRecord(layout.edit(), pick, [selected](auto& record) { record.sel = selected; });
+  withRecord(layout.edit(), layout.editPiece(pick.id), pick,
+             [selected](auto& record) { record.sel = selected; });
 }
 
 void selectInBox(Layout& layout, const PlanIndex& index, const Box& box, bool whole) {

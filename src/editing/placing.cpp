@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
+#include <optional>
 #include <string>
 
 namespace trassix {
@@ -78,6 +78,7 @@ void attachSecondOfPair(Layout& layout, const PieceDef& definition, std::int32_t
     return;
   placed.push_back(attach(layout, definition, 0, first, 1));
   inheritElevation(layout, placed.back(), first, 1);
+  layout.edit().pairs.push_back({first, placed.back()});
 }
 
 EditResult finish(Layout& layout, UndoScope& step, std::vector<std::int32_t> placed) {
@@ -121,21 +122,41 @@ EditResult extend(Layout& layout, std::int32_t from, std::int32_t connector,
   return finish(layout, step, std::move(placed));
 }
 
-/// The roundhouse's doors look at the nearest turntable, on one of its tracks' directions.
-Pose seatedRoundhouse(const Layout& layout, const Footprint& size, const Pose& drop) {
-  const SceneryItem* turntable = nullptr;
-  double nearest = std::numeric_limits<double>::max();
-  for (const SceneryItem& item : layout.content().scenery) {
-    const double distance = std::hypot(item.x - drop.x, item.y - drop.y);
-    if (item.item == kTurntable && distance < nearest) {
+/// The one of the turntables among `records` that is nearest to the drop, if it is within reach.
+template <class Records, class IsTurntable>
+auto nearestTurntable(const Records& records, const Pose& drop, IsTurntable isTurntable) {
+  const typename Records::value_type* turntable = nullptr;
+  double nearest = kRoundhouseReach;
+  for (const auto& record : records) {
+    const double distance = std::hypot(record.x - drop.x, record.y - drop.y);
+    if (distance < nearest && isTurntable(record)) {
       nearest = distance;
-      turntable = &item;
+      turntable = &record;
     }
   }
-  if (turntable == nullptr || nearest >= kRoundhouseReach)
+  return turntable;
+}
+
+/// The turntable that a roundhouse dropped here belongs to. Its tracks are counted from the
+/// heading, which scenery has none of.
+std::optional<Pose> turntableAt(const Layout& layout, const Pose& drop) {
+  if (const SceneryItem* item =
+          nearestTurntable(layout.content().scenery, drop,
+                           [](const SceneryItem& scenery) { return scenery.item == kTurntable; }))
+    return Pose{item->x, item->y, 0};
+  if (const PlacedPiece* track = nearestTurntable(
+          layout.pieces(), drop, [](const PlacedPiece& piece) { return piece.cat == kTurntable; }))
+    return poseOf(*track);
+  return std::nullopt;
+}
+
+/// The roundhouse's doors look at the nearest turntable, on one of its tracks' directions.
+Pose seatedRoundhouse(const Layout& layout, const Footprint& size, const Pose& drop) {
+  const std::optional<Pose> turntable = turntableAt(layout, drop);
+  if (!turntable)
     return drop;
-  const double heading =
-      normaliseHeading(std::round(drop.heading / kRoundhousePitch) * kRoundhousePitch);
+  const double steps = std::round((drop.heading - turntable->heading) / kRoundhousePitch);
+  const double heading = normaliseHeading(turntable->heading + steps * kRoundhousePitch);
   const Point at =
       toWorld({turntable->x, turntable->y, heading}, {0, 0.5 * size.depth + kRoundhouseFront});
   return {at.x, at.y, heading};
@@ -210,14 +231,16 @@ EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
 }
 
 EditResult cloneAndExtend(Layout& layout, std::int32_t piece) {
-  const PlacedPiece* source = layout.findPiece(piece);
-  const PieceDef* definition = source == nullptr ? nullptr : definitionOf(*source);
-  if (definition == nullptr || source->helix != -1)
-    return {};
-  for (const std::int32_t connector : {1, 0})
-    if (hasEnd(*definition, connector) && openAt(*source, connector) &&
-        !claimed(layout, {piece, connector}))
-      return extend(layout, piece, connector, *definition, false);
+  for (const std::int32_t id : {piece, layout.content().partnerOf(piece)}) {
+    const PlacedPiece* source = layout.findPiece(id);
+    const PieceDef* definition = source == nullptr ? nullptr : definitionOf(*source);
+    if (definition == nullptr || source->helix != -1)
+      return {};
+    for (const std::int32_t connector : {1, 0})
+      if (hasEnd(*definition, connector) && openAt(*source, connector) &&
+          !claimed(layout, {id, connector}))
+        return extend(layout, id, connector, *definition, false);
+  }
   return {};
 }
 
@@ -226,16 +249,18 @@ EditResult extendSelected(Layout& layout, std::string_view article) {
   const std::vector<std::int32_t> selected = selectedPieces(layout);
   if (definition == nullptr || selected.empty())
     return {};
-  const PlacedPiece& source = *layout.findPiece(selected.back());
-  const PieceDef* sourceDefinition = definitionOf(source);
-  if (sourceDefinition == nullptr)
-    return {};
-  std::vector<std::int32_t> order{1, 0};
-  for (std::int32_t i = 2; hasEnd(*sourceDefinition, i); ++i)
-    order.push_back(i);
-  for (const std::int32_t connector : order)
-    if (hasEnd(*sourceDefinition, connector) && openAt(source, connector))
-      return extend(layout, source.id, connector, *definition, true);
+  for (const std::int32_t id : {selected.back(), layout.content().partnerOf(selected.back())}) {
+    const PlacedPiece* source = layout.findPiece(id);
+    const PieceDef* sourceDefinition = source == nullptr ? nullptr : definitionOf(*source);
+    if (sourceDefinition == nullptr)
+      return {};
+    std::vector<std::int32_t> order{1, 0};
+    for (std::int32_t i = 2; hasEnd(*sourceDefinition, i); ++i)
+      order.push_back(i);
+    for (const std::int32_t connector : order)
+      if (hasEnd(*sourceDefinition, connector) && openAt(*source, connector))
+        return extend(layout, id, connector, *definition, true);
+  }
   return {};
 }
 

@@ -35,16 +35,19 @@ EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
                      const SnapResult& snap, bool snapping);
 
 /// Places another piece of the same article at an open end of `piece` (connector 1 first, then 0).
-/// A one-sided joint blocks an end as well. Pieces of a helix are left alone.
+/// A one-sided joint blocks an end as well. Where none is open but the piece came as one of a pair,
+/// the other one is extended. Pieces of a helix are left alone.
 EditResult cloneAndExtend(Layout& layout, std::int32_t piece);
 
 /// Places `article` at an open end of the selected piece with the highest id (connector 1, 0, then
 /// 2 upwards), with its connector 0 or, at connector 0 of the selected piece, its 1; an adapter is
-/// turned round when only its other end fits. Refused when no end fits the system. Nothing when no
-/// piece is selected or all its ends are joined.
+/// turned round when only its other end fits. Where none is open but the piece came as one of a
+/// pair, the other one is extended. Refused when no end fits the system. Nothing when no piece is
+/// selected or all its ends are joined.
 EditResult extendSelected(Layout& layout, std::string_view article);
 
-/// Drops a scenery item; the roundhouse seats itself at the nearest turntable within reach.
+/// Drops a scenery item. The roundhouse seats itself at the nearest turntable within reach, rather
+/// at one that is scenery than at one of track, and on one of the directions of its tracks.
 EditResult dropScenery(Layout& layout, std::string_view key, const Pose& pose);
 
 /// True when the plan holds exactly one piece and it is of a small gauge: the view then starts over

@@ -60,37 +60,6 @@ void addScenery(BoxBuilder& box, const Layout& layout, const SceneryItem& item) 
   box.add({item.x + size.width / 2, item.y + size.depth / 2});
 }
 
-/// The piece that was dropped together with this one, as the second of a pair or the first.
-const PlacedPiece* otherOfPair(const Layout& layout, const PlacedPiece& piece) {
-  const PieceDef* definition = definitionOf(piece);
-  if (definition == nullptr || !definition->pair)
-    return nullptr;
-  for (const std::size_t end : {std::size_t{0}, std::size_t{1}}) {
-    const Joint joint = piece.joint(end);
-    const bool second = end == 0;
-    const PlacedPiece* other = layout.findPiece(joint.target);
-    if (other != nullptr && other->cat == piece.cat && joint.tconn == (second ? 1 : 0) &&
-        other->id == (second ? piece.id - 1 : piece.id + 1))
-      return other;
-  }
-  return nullptr;
-}
-
-/// Ids to remove, sorted.
-std::vector<std::int32_t> doomedPieces(const Layout& layout) {
-  std::vector<std::int32_t> ids;
-  for (const PlacedPiece& piece : layout.pieces()) {
-    if (!piece.sel)
-      continue;
-    ids.push_back(piece.id);
-    if (const PlacedPiece* other = otherOfPair(layout, piece))
-      ids.push_back(other->id);
-  }
-  std::sort(ids.begin(), ids.end());
-  ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
-  return ids;
-}
-
 std::optional<Notice> guard(const Layout& layout, std::span<const std::int32_t> pieces,
                             std::span<const std::int32_t> scenery, const std::string& verb) {
   std::unordered_set<std::int32_t> locked;
@@ -113,6 +82,25 @@ std::optional<Notice> guard(const Layout& layout, std::span<const std::int32_t> 
                   "Selection includes tunnel track or portals. Remove the tunnel first, then " +
                       verb + "."};
   return std::nullopt;
+}
+
+/// Ids to remove, sorted: what is selected and the other pieces of pairs, where these can be seen
+/// and are not locked.
+std::vector<std::int32_t> doomedPieces(const Layout& layout) {
+  const std::vector<std::int32_t> selected = selectedPieces(layout);
+  std::vector<std::int32_t> ids = selected;
+  for (const PiecePair& pair : layout.content().pairs) {
+    const bool first = containsId(selected, pair.first);
+    if (first == containsId(selected, pair.second))
+      continue;
+    const std::int32_t other = first ? pair.second : pair.first;
+    const PlacedPiece* piece = layout.findPiece(other);
+    if (piece != nullptr && layout.levelVisible(piece->level) &&
+        !lockGuard(layout, std::span(&other, 1), "delete"))
+      ids.push_back(other);
+  }
+  std::ranges::sort(ids);
+  return ids;
 }
 
 } // namespace
@@ -237,6 +225,11 @@ bool selectionHasGrades(const Layout& layout) {
                      [](const PlacedPiece& piece) { return piece.sel && isGraded(piece); });
 }
 
+void selectPartners(Layout& layout) {
+  for (const std::int32_t id : doomedPieces(layout))
+    layout.editPiece(id)->sel = true;
+}
+
 void removePieces(PlanContent& content, std::span<const std::int32_t> ids) {
   std::erase_if(content.pieces,
                 [ids](const PlacedPiece& piece) { return containsId(ids, piece.id); });
@@ -246,6 +239,9 @@ void removePieces(PlanContent& content, std::span<const std::int32_t> ids) {
         joint = {};
   for (Tunnel& tunnel : content.tunnels)
     std::erase_if(tunnel.covers, [ids](std::int32_t id) { return containsId(ids, id); });
+  std::erase_if(content.pairs, [ids](const PiecePair& pair) {
+    return containsId(ids, pair.first) || containsId(ids, pair.second);
+  });
   if (std::erase_if(content.gradeRuns,
                     [ids](const GradeRun& run) { return containsId(ids, run.anchor); }) != 0)
     content.mirrorLastGradeRun();

@@ -52,12 +52,16 @@ std::optional<Notice> lockGuard(const Layout& layout, std::span<const std::int32
 
 bool selectionHasGrades(const Layout& layout);
 
-/// Removes everything selected as one undo step; neighbours' joints open. A piece of an article
-/// that is sold in pairs takes the piece with it that it was placed together with. Grade runs
-/// that start on a removed piece end, tunnels forget it. False when nothing was selected.
+/// Removes everything selected as one undo step; neighbours' joints open. A piece that came as one
+/// of a pair takes the other one with it, wherever that lies now, unless it is locked or on a
+/// hidden level. Grade runs that start on a removed piece end, tunnels forget it. False when
+/// nothing was selected.
 bool deleteSelection(Layout& layout);
 
-/// The part of that which concerns pieces (sorted ids), as a step of other edits: records no
+/// Selects what deleting takes along besides, so that it can be kept.
+void selectPartners(Layout& layout);
+
+/// The part of deleting which concerns pieces (sorted ids), as a step of other edits: records no
 /// history.
 void removePieces(PlanContent& content, std::span<const std::int32_t> pieces);
 

@@ -15,9 +15,6 @@ inline constexpr int kStraightFillPieces = 32;          ///< at most in one run
 /// non-decreasing order. `lengths` are in mm, longest first, all above zero and multiples of a
 /// tenth of a millimetre, as published lengths are. Runs of fewer pieces come first, among equal
 /// counts those with longer pieces in front; the search ends with the 16th.
-///
-/// The answer is that of trying all combinations, but no branch is entered that cannot end in a
-/// run, so the cost hardly depends on how many combinations there are.
 std::vector<std::vector<std::size_t>> straightFills(std::span<const double> lengths, double gap);
 
 } // namespace trassix

@@ -197,6 +197,7 @@ bool swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit) {
   for (std::size_t i = 0; i < before.joints.size(); ++i)
     openJoint(layout, piece, static_cast<std::int32_t>(i));
   *layout.editPiece(piece) = std::move(changed);
+  std::erase_if(layout.edit().pairs, [piece](const PiecePair& pair) { return pair.has(piece); });
   for (const auto& [end, joint] : joined)
     join(layout, piece, end, joint.target, joint.tconn);
   closeMeetingEnds(layout, std::span(&piece, 1));

@@ -29,6 +29,8 @@ ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
   rows_->SetMinSize({std::clamp(widest + FromDIP(30), least.x, FromDIP(900)), least.y});
   if (!texts.empty())
     rows_->SetSelection(0);
+  note_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                           wxST_NO_AUTORESIZE);
   auto* buttons = new wxStdDialogButtonSizer;
   buttons->AddButton(
       new wxButton(this, wxID_OK, wxControl::EscapeMnemonics(fromUtf8(choice.accept))));
@@ -39,6 +41,7 @@ ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
   sizer->Add(new wxStaticText(this, wxID_ANY, wxControl::EscapeMnemonics(fromUtf8(choice.line))),
              wxSizerFlags().Border(wxALL, FromDIP(10)));
   sizer->Add(rows_, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT, FromDIP(10)));
+  sizer->Add(note_, wxSizerFlags().Expand().Border(wxALL, FromDIP(10)));
   sizer->Add(buttons, wxSizerFlags().Right().Border(wxALL, FromDIP(10)));
   SetSizerAndFit(sizer);
   SetDefaultItem(FindWindow(wxID_OK));
@@ -67,7 +70,11 @@ std::size_t ChoiceDialog::chosen() const {
 }
 
 void ChoiceDialog::highlight() {
-  if (choice_.highlighted && rows_->GetSelection() != wxNOT_FOUND)
+  if (rows_->GetSelection() == wxNOT_FOUND)
+    return;
+  if (chosen() < choice_.notes.size())
+    note_->SetLabel(wxControl::EscapeMnemonics(fromUtf8(choice_.notes[chosen()])));
+  if (choice_.highlighted)
     choice_.highlighted(chosen());
 }
 

@@ -5,11 +5,12 @@
 #include <wx/dialog.h>
 
 class wxListBox;
+class wxStaticText;
 
 namespace trassix {
 
 /// One of several rows, the first one highlighted at the start; tells which row is highlighted so
-/// that the plan can show it.
+/// that the plan can show it, and shows that row's note.
 class ChoiceDialog : public wxDialog {
  public:
   ChoiceDialog(wxWindow* parent, const Choice& choice);
@@ -24,6 +25,7 @@ class ChoiceDialog : public wxDialog {
 
   Choice choice_;
   wxListBox* rows_;
+  wxStaticText* note_;
 };
 
 } // namespace trassix

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace trassix {
 namespace {
 
@@ -38,16 +40,40 @@ TEST(Layout, undoesAtMostFiftyEditsAndForgetsTheUndoneOnesAtTheNextEdit) {
   EXPECT_FALSE(layout.canRedo());
 }
 
-TEST(Layout, findsPiecesInAnyOrderOfIds) {
-  Layout layout;
-  for (const std::int32_t id : {7, 3, 9, 1, 8, 2})
-    layout.edit().pieces.push_back(pieceAt(id, id));
-  for (const std::int32_t id : {7, 3, 9, 1, 8, 2}) {
-    ASSERT_NE(layout.findPiece(id), nullptr) << id;
-    EXPECT_EQ(layout.findPiece(id)->x, id);
+TEST(Layout, findsPiecesInAnyOrderOfIdsAfterAnyEdit) {
+  for (const std::vector<std::int32_t>& ids :
+       {std::vector{1, 2, 3, 7, 8, 9}, {9, 8, 7, 3, 2, 1}, {7, 3, 9, 1, 8, 2}}) {
+    Layout layout;
+    const auto check = [&layout] {
+      for (std::int32_t id = -1; id < 12; ++id) {
+        const auto at = std::ranges::find(layout.pieces(), id, &PlacedPiece::id);
+        EXPECT_EQ(layout.findPiece(id), at == layout.pieces().end() ? nullptr : &*at) << id;
+        EXPECT_EQ(layout.editPiece(id), layout.findPiece(id)) << id;
+      }
+    };
+    for (const std::int32_t id : ids)
+      layout.edit().pieces.push_back(pieceAt(id, 0));
+    check();
+    layout.pushHistory();
+    for (const std::int32_t id : {5, 0, 10}) {
+      layout.edit().pieces.push_back(pieceAt(id, 0));
+      EXPECT_NE(layout.findPiece(id), nullptr);
+    }
+    check();
+    std::ranges::rotate(layout.edit().pieces, layout.edit().pieces.begin() + 2);
+    check();
+    layout.edit().pieces.erase(layout.edit().pieces.begin());
+    layout.edit().pieces[0].id = 11;
+    check();
+    const Layout copy = layout;
+    layout.undo();
+    check();
+    layout.redo();
+    check();
+    layout.clear();
+    check();
+    EXPECT_NE(copy.findPiece(11), nullptr);
   }
-  for (const std::int32_t id : {-1, 0, 4, 10})
-    EXPECT_EQ(layout.findPiece(id), nullptr) << id;
 }
 
 TEST(Layout, stampsEveryChangeAndNothingElse) {

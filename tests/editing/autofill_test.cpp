@@ -3,13 +3,14 @@
 #include "editing/autofill_messages.h"
 #include "editing/selection.h"
 #include "editing/straight_fill.h"
-#include "support/plain_straight_fills.h"
 #include "support/plan.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <numeric>
 #include <tuple>
 
 namespace trassix {
@@ -34,27 +35,46 @@ Notice notice(const Layout& layout) {
   return autofillNotice(layout, 1, 2, solve(layout)).value_or(Notice{});
 }
 
-TEST(StraightFill, AnswersLikeThePlainEnumeration) {
-  int compared = 0;
-  int full = 0;
+TEST(StraightFill, FindsAllRunsOfEachCountUntilThereAreSixteen) {
+  constexpr std::size_t kLast = 12000; // all in tenths of a millimetre
   for (const TrackSystem system :
        {TrackSystem::CTrack, TrackSystem::TrixCTrack, TrackSystem::ZTrack, TrackSystem::KTrack,
         TrackSystem::MTrack, TrackSystem::Gauge1}) {
     std::vector<double> lengths;
+    std::vector ways(33, std::vector<long>(kLast + 16)); // of so many pieces to make such a sum
+    ways[0][0] = 1;
     for (const PlainStraight& straight : plainStraights(system)) {
       lengths.push_back(straight.length);
-      EXPECT_NEAR(straight.length * 10, std::round(straight.length * 10), 1e-9);
+      const auto length = static_cast<std::size_t>(std::lround(straight.length * 10));
+      EXPECT_NEAR(straight.length * 10, static_cast<double>(length), 1e-9);
+      for (std::size_t count = 1; count < ways.size(); ++count)
+        for (std::size_t sum = length; sum < ways[count].size(); ++sum)
+          ways[count][sum] += ways[count - 1][sum - length];
     }
-    for (double gap = 1.1; gap < 10000; gap += gap < 700 ? 1.1 : 53.1) {
-      const PlainFills plain = plainStraightFills(lengths, gap, 5000);
-      if (!plain.finished)
-        continue;
-      ASSERT_EQ(straightFills(lengths, gap), plain.runs) << systemName(system) << " " << gap;
-      ++compared;
-      full += plain.runs.size() == 16 ? 1 : 0;
+    for (std::size_t gap = 15; gap < kLast; gap += 13) {
+      const double mm = static_cast<double>(gap) / 10;
+      const auto runs = straightFills(lengths, mm);
+      std::vector<long> found(ways.size());
+      for (const std::vector<std::size_t>& run : runs) {
+        double sum = 0;
+        for (const std::size_t i : run)
+          sum += lengths[i];
+        EXPECT_TRUE(std::ranges::is_sorted(run) && std::abs(sum - mm) < 1.5001);
+        ++found[run.size()];
+      }
+      const auto inOrder = [](const auto& a, const auto& b) {
+        return std::pair(a.size(), a) < std::pair(b.size(), b);
+      };
+      EXPECT_EQ(std::ranges::adjacent_find(runs, std::not_fn(inOrder)), runs.end());
+      long wanted = 16;
+      for (std::size_t count = 1; count < ways.size(); ++count) {
+        const auto from = ways[count].begin() + static_cast<std::ptrdiff_t>(gap) - 15;
+        const long expected = std::min(wanted, std::accumulate(from, from + 31, 0L));
+        ASSERT_EQ(found[count], expected) << systemName(system) << " " << gap << " " << count;
+        wanted -= expected;
+      }
     }
   }
-  EXPECT_TRUE(compared > 4000 && full > 1000) << compared << " " << full;
   const double lone[] = {100.0}; // at most 32 of them
   for (const double gap : {98.5, 101.5, 3201.5, 98.4, 101.6, 3301.6, 1e9, 0.0, -5.0})
     EXPECT_EQ(straightFills(lone, gap).size(), gap == 98.5 || gap == 101.5 || gap == 3201.5) << gap;
@@ -112,10 +132,29 @@ TEST(Autofill, PlacesAndJoinsAsOneStep) {
             (Notice{"Autofill", "Internal error: a fill piece is missing or has too few "
                                 "connectors. Autofill aborted."}));
   EXPECT_EQ(layout.content(), before);
-  Layout loose = straightGap(361.3); // found, but too far off to be joined
-  const Autofill fills = solve(loose);
-  placeFill(loose, *fills.gap, fills.candidates[0]);
-  EXPECT_EQ(openEnds(loose), 4);
+}
+
+TEST(Autofill, JoinsTheFarEndWhereItComesNearEnough) {
+  // Gap, height of the end, grade of the start, what the line under the rows says.
+  const std::tuple<double, double, double, const char*> cases[] = {
+      {360, 0, 0, "Joins both ends."},
+      {360.9, 0, 0, "Joins both ends, 0.9 mm apart."},
+      {361.3, 0, 0, "Leaves the far end open, 1.3 mm apart."},
+      {360, 1, 0, "Joins both ends, 1.0 mm apart in height."},
+      {360, 1.1, 0, "Leaves the far end open, 1.1 mm apart in height."},
+      {361, -100, 0, "Leaves the far end open, 1.0 mm apart, 100.0 mm apart in height."},
+      {360, 188.3 / 2, 30, "Joins both ends."}, // so high is the end where the fill starts
+  };
+  for (const auto& [gap, height, grade, line] : cases) {
+    Layout layout = straightGap(gap);
+    layout.editPiece(1)->grade = grade;
+    layout.editPiece(2)->z = height;
+    const Autofill fills = solve(layout);
+    EXPECT_EQ(autofillRest(restOf(*fills.gap, fills.candidates[0])), line);
+    placeFill(layout, *fills.gap, fills.candidates[0]);
+    EXPECT_EQ(openEnds(layout), line[0] == 'J' ? 2 : 4) << line;
+    EXPECT_NEAR(layout.pieces().back().z, grade == 0 ? 0 : height, 1e-9);
+  }
 }
 
 /// Circles with a part of them missing, both ways round.
@@ -146,6 +185,17 @@ TEST(Autofill, ArcsCloseAnyCornerSemicircleOrRestOfACircle) {
     }
   }
   EXPECT_GT(closed, 500);
+  for (const int count : {1, 2, 5}) // the far piece is turned a little, but they arrive
+    for (const double off : {-0.4, 0.3}) {
+      Pose pose = AttachPose(cataloguePiece("24188"), 0,
+                             Plan().place("24188").extend("24330", count).front());
+      pose.heading += off;
+      const Plan near = Plan().place("24188").place("24188", pose);
+      EXPECT_THAT(
+          solve(near.layout).candidates,
+          testing::Contains(testing::Field(&FillCandidate::articles, testing::SizeIs(count))))
+          << off;
+    }
   Plan corner = Plan().place("24188").place("24188", {188.3 + 437.5, -437.5 - 188.3, 90});
   EXPECT_EQ(autofillRow(GapKind::Arc, solve(corner.layout).candidates.at(0)),
             "3 x 24230 (30°) R2 - 437.5mm (17-1/4)  (90.0 deg)");

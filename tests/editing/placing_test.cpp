@@ -85,8 +85,6 @@ TEST(Dropping, SomeArticlesBringOthers) {
   Plan pair = Plan().place("74618", {0, 0, 45});
   ASSERT_EQ(pair.layout.pieces().size(), 2u);
   EXPECT_EQ(pair.layout.pieces()[1].joints[0], (Joint{1, 1}));
-  deleteSelection(pair.layout); // the other one goes too
-  EXPECT_TRUE(pair.layout.pieces().empty());
   Plan taken; // by its connector 1: no second one there
   EXPECT_EQ(taken.place("24188").extendBy("74618", 1, 0).layout.pieces().size(), 2u);
 }
@@ -104,21 +102,32 @@ TEST(Dropping, EndsThatMeetCloseAtOneHeightOnly) {
 }
 
 TEST(Dropping, TheRoundhouseSeatsItselfAtATurntable) {
-  const std::tuple<Pose, bool, double> cases[] = {{{699.9, 0, 50}, true, 48},
-                                                  {{0, 100, 54}, true, 60},
-                                                  {{0, -300, 355}, true, 0},
-                                                  {{700, 0, 50}, false, 50}};
-  for (const auto& [drop, seated, heading] : cases) {
+  // Drop, a turntable of track and one of scenery, the heading and centre that are taken.
+  const double none = 5000;
+  const std::tuple<Pose, Pose, Point, double, Point> cases[] = {
+      {{699.9, 0, 50}, {none}, {0, 0}, 48, {0, 0}},
+      {{0, 100, 54}, {none}, {0, 0}, 60, {0, 0}},
+      {{0, -300, 355}, {none}, {0, 0}, 0, {0, 0}},
+      {{700, 0, 50}, {700 + 700}, {0, 0}, 50, {}},
+      {{699.9, 0, 50}, {0, 0, 5}, {none, 0}, 53, {0, 0}},
+      {{0, 10, 358}, {0, 0, 200}, {none, 0}, 356, {0, 0}},
+      {{650, 0, 50}, {600, 0, 5}, {0, 0}, 48, {0, 0}}, // scenery wins, though farther
+      {{650, 0, 50}, {600, 0, 5}, {-51, 0}, 53, {600, 0}},
+  };
+  for (const auto& [drop, track, scenery, heading, centre] : cases) {
     Layout layout;
-    dropScenery(layout, "74861", {5000, 0, 0});
-    dropScenery(layout, "74861", {0, 0, 0});
+    dropScenery(layout, "74861", {none, none, 0});
+    dropScenery(layout, "74861", {scenery.x, scenery.y, 0});
+    dropPiece(layout, "74861", {none, none, 0}, {}, false);
+    dropPiece(layout, "74861", track, {}, false);
     dropScenery(layout, "72886", drop);
     const SceneryItem& house = layout.content().scenery.back();
-    const Point door = toWorld({0, 0, heading}, {0, 346.0 / 2 + 349.6});
+    const Point door = toWorld({centre.x, centre.y, heading}, {0, 346.0 / 2 + 349.6});
+    const bool seated = drop.x != 700;
     EXPECT_TRUE(house.sel && !layout.content().scenery[1].sel);
     EXPECT_NEAR(house.heading, heading, 1e-9);
-    EXPECT_NEAR(house.x, seated ? door.x : 700, 1e-9);
-    EXPECT_NEAR(house.y, seated ? door.y : 0, 1e-9);
+    EXPECT_NEAR(house.x, seated ? door.x : drop.x, 1e-9);
+    EXPECT_NEAR(house.y, seated ? door.y : drop.y, 1e-9);
   }
 }
 
@@ -136,6 +145,19 @@ TEST(Extending, ClonesAtTheOpenEnd) {
   EXPECT_EQ(oneSided.layout.findPiece(3)->joints[1], (Joint{1, 0}));
   oneSided.layout.editPiece(2)->helix = 5;
   EXPECT_FALSE(cloneAndExtend(oneSided.layout, 2).changed());
+}
+
+TEST(Extending, GoesOnBehindAPairThatLeavesNoEndOpen) {
+  for (const bool clone : {false, true}) {
+    Plan plan = Plan().place("24188").extend("74618"); // 2 and 3, of which 2 is selected
+    const EditResult result =
+        clone ? cloneAndExtend(plan.layout, 2) : extendSelected(plan.layout, "24172");
+    EXPECT_EQ(result.placed, Ids{4});
+    EXPECT_EQ(plan.layout.findPiece(3)->joint(1), (Joint{4, 0}));
+    selectOnly(plan.layout, 2);
+    EXPECT_FALSE(clone ? cloneAndExtend(plan.layout, 2).changed()
+                       : extendSelected(plan.layout, "24172").changed());
+  }
 }
 
 TEST(Extending, FromThePaletteGoesOnAtTheNewestSelectedPiece) {

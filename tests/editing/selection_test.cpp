@@ -1,3 +1,6 @@
+#include "document/layout_reader.h"
+#include "document/layout_writer.h"
+#include "editing/block_placing.h"
 #include "editing/connector_geometry.h"
 #include "editing/placing.h"
 #include "editing/selection.h"
@@ -6,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 
 namespace trassix {
 namespace {
@@ -74,6 +78,49 @@ TEST(Selection, DeletingOpensNeighboursAndForgetsThePiece) {
   EXPECT_EQ(plan.layout.content().gradeRuns, (std::vector<GradeRun>{{2.0, 1, 1}}));
   EXPECT_EQ(plan.layout.content().currentGrade, (CurrentGrade{true, 2.0, 1, 1}));
   EXPECT_FALSE(deleteSelection(plan.layout));
+}
+
+TEST(Selection, DeletingOneOfAPairTakesTheOtherAndNoNeighbour) {
+  // Clones behind the dropped pair, saved and loaded, what is deleted, what is left.
+  const std::tuple<int, bool, std::int32_t, std::vector<std::int32_t>> cases[] = {
+      {0, false, 1, {}},        {1, false, 3, {1, 2}},    {1, false, 2, {3}},
+      {2, false, 4, {1, 2, 3}}, {2, false, 3, {1, 2, 4}}, {0, true, 2, {}},
+      {1, true, 3, {1, 2}},     {2, true, 1, {2, 3, 4}},
+  };
+  for (const auto& [clones, loaded, deleted, left] : cases) {
+    SCOPED_TRACE(testing::Message() << clones << loaded << deleted);
+    Layout layout = Plan().place("74618").layout;
+    for (int i = 0; i < clones; ++i)
+      cloneAndExtend(layout, i + 2);
+    if (loaded) {
+      std::string text;
+      std::string name;
+      writeLayout(layout, "ramps", text);
+      readLayout(text, layout, name);
+    }
+    for (int again = 0; again < 2; ++again) { // undo brings back what belongs together
+      selectOnly(layout, deleted);
+      deleteSelection(layout);
+      selectAll(layout);
+      EXPECT_EQ(selectedPieces(layout), left);
+      EXPECT_EQ(brokenRule(layout), "");
+      layout.undo();
+    }
+  }
+  Layout layout = Plan().place("74618").layout;
+  selectAll(layout); // a copy of both is a pair as well, a copy of one is none
+  placeBlock(layout, blockFromSelection(layout), {0, 500, 0});
+  selectOnly(layout, 4);
+  placeBlock(layout, blockFromSelection(layout), {0, 900, 0});
+  deleteSelection(layout); // 5
+  selectOnly(layout, 3);
+  selectPartners(layout); // as before a cut
+  EXPECT_EQ(selectedPieces(layout), (std::vector<std::int32_t>{3, 4}));
+  layout.edit().tunnels = {{9, 2, -1, -1, -1, {}}};
+  layout.editPiece(1)->sel = true; // whose partner must not go
+  deleteSelection(layout);
+  selectAll(layout);
+  EXPECT_EQ(selectedPieces(layout), std::vector<std::int32_t>{2});
 }
 
 TEST(Selection, HelixAndTunnelTrackIsGuarded) {

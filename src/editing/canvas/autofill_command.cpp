@@ -32,8 +32,10 @@ void runAutofill(ToolSite& site) {
   Choice choice;
   choice.title = "Autofill Gap";
   choice.line = autofillPrompt(*fills->gap);
-  for (const FillCandidate& candidate : fills->candidates)
+  for (const FillCandidate& candidate : fills->candidates) {
     choice.rows.push_back(autofillRow(fills->gap->kind, candidate));
+    choice.notes.push_back(autofillRest(restOf(*fills->gap, candidate)));
+  }
   choice.accept = "Place";
   choice.about = {(fills->gap->start.x + fills->gap->end.x) / 2,
                   (fills->gap->start.y + fills->gap->end.y) / 2};

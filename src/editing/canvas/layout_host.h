@@ -55,7 +55,8 @@ struct Choice {
   std::string title;
   std::string line; ///< one line above the rows
   std::vector<std::string> rows;
-  std::string accept; ///< label of the button that takes the row
+  std::vector<std::string> notes; ///< a line for each row, shown under them while it is highlighted
+  std::string accept;             ///< label of the button that takes the row
   std::function<void(std::size_t)> highlighted;
   Point about = {}; ///< where on the plan that is, in mm
 };

@@ -29,6 +29,7 @@ void turnSelection(ToolSite& site, double degrees) {
 }
 
 void cutSelection(ToolSite& site) {
+  selectPartners(site.layout());
   if (site.clipboard.copy(site.host))
     site.host.deleteSelection();
 }

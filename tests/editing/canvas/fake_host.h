@@ -22,6 +22,7 @@ class FakeHost : public LayoutHost {
   std::vector<Question> questions;
   std::vector<MenuRow> menu;
   std::vector<std::string> offered;
+  std::vector<std::string> notes;
   std::string hint;
   Point pointer;
 
@@ -42,6 +43,7 @@ class FakeHost : public LayoutHost {
   }
   std::optional<std::size_t> choose(const Choice& rows) override {
     offered = rows.rows;
+    notes = rows.notes;
     if (choice && rows.highlighted)
       rows.highlighted(*choice);
     return choice;

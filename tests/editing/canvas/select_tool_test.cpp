@@ -250,6 +250,8 @@ TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
   EXPECT_EQ(script.pieces().size(), 2u) << "cancelled";
   ASSERT_FALSE(script.host.offered.empty());
   EXPECT_THAT(script.host.offered[0], testing::HasSubstr("24360"));
+  EXPECT_EQ(script.host.notes.size(), script.host.offered.size());
+  EXPECT_EQ(script.host.notes[0], "Joins both ends.");
   script.host.choice = 0;
   script.takeFromMenu({90, 0}, "Autofill Gap...");
   EXPECT_EQ(script.pieces().size(), 3u);
