@@ -1,5 +1,6 @@
 #include "app/trassix_app.h"
 
+#include "app/fault_guard.h"
 #include "app/services/app_prefs.h"
 #include "app/services/diagnostic_log.h"
 #include "app/services/standard_folders.h"
@@ -25,11 +26,12 @@ namespace trassix {
 
 namespace {
 
-/// Handles events until `done`, at most two seconds.
-void dispatchUntil(const bool& done) {
+/// Handles events until `done`, for a limited time.
+template <typename Condition>
+void dispatchUntil(Condition done, long atMostMs) {
   wxGUIEventLoop loop;
   const wxEventLoopActivator activate(&loop);
-  for (const wxStopWatch watch; !done && watch.Time() < 2000;) {
+  for (const wxStopWatch watch; !done() && watch.Time() < atMostMs;) {
     loop.DispatchTimeout(50);
   }
 }
@@ -47,7 +49,7 @@ void tidyUserFolders() {
 
 } // namespace
 
-TrassixApp::TrassixApp() {
+TrassixApp::TrassixApp() : faults_(std::make_unique<FaultGuard>()) {
   // The per-user folders are named after the program, whatever the executable is called.
   SetAppName("trassix");
   SetAppDisplayName("Trassix");
@@ -56,6 +58,8 @@ TrassixApp::TrassixApp() {
   fonts_ = std::async(std::launch::async, [] { FcInit(); });
 #endif
 }
+
+TrassixApp::~TrassixApp() = default;
 
 bool TrassixApp::OnInit() {
   if (!wxApp::OnInit()) {
@@ -82,6 +86,8 @@ bool TrassixApp::OnInit() {
 void TrassixApp::openWindow() {
   DiagnosticLog::write("Creating MainFrame...");
   MainFrame* frame = makeFrame();
+  RethrowStoredException(); // of a handler that ran meanwhile
+  started_ = true;
   DiagnosticLog::write("MainFrame created OK");
   // Some window managers put a dialog below a parent that came later, and the toolkit may delay
   // the parent: the welcome waits for it.
@@ -94,7 +100,8 @@ void TrassixApp::openWindow() {
   frame->layout().ensureLevel();
   readPrefsOrMigrate(appPrefs(), StandardFolders::prefsFile(), StandardFolders::legacyPrefsFile());
   if (appPrefs().playful) {
-    dispatchUntil(frameOnScreen_);
+    dispatchUntil([this] { return frameOnScreen_; }, 2000);
+    dispatchUntil([frame] { return frame->inPlace(); }, 300);
     SplashDialog(frame).ShowModal();
   }
   frame->refreshProperties();
@@ -103,6 +110,35 @@ void TrassixApp::openWindow() {
 
 MainFrame* TrassixApp::makeFrame() {
   return new MainFrame;
+}
+
+void TrassixApp::CallEventHandler(wxEvtHandler* handler, wxEventFunctor& functor,
+                                  wxEvent& event) const {
+  try {
+    wxApp::CallEventHandler(handler, functor, event);
+  } catch (...) {
+    exceptionCaught();
+  }
+}
+
+void TrassixApp::ProcessPendingEvents() {
+  try {
+    wxApp::ProcessPendingEvents();
+  } catch (...) {
+    exceptionCaught();
+    WakeUpIdle(); // for the events behind that one
+  }
+}
+
+bool TrassixApp::OnExceptionInMainLoop() {
+  exceptionCaught();
+  return true;
+}
+
+void TrassixApp::exceptionCaught() const {
+  if (!started_)
+    throw; // which ends the start
+  faults_->caught(dynamic_cast<MainFrame*>(GetTopWindow()));
 }
 
 int TrassixApp::OnExit() {

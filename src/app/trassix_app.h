@@ -3,18 +3,27 @@
 #include <wx/app.h>
 
 #include <future>
+#include <memory>
 
 namespace trassix {
 
+class FaultGuard;
 class MainFrame;
 
 /// Starts the process and ends it: log, image formats, catalogue, main window, welcome.
 class TrassixApp : public wxApp {
  public:
   TrassixApp();
+  ~TrassixApp() override;
 
   bool OnInit() override;
   int OnExit() override;
+
+  // Exceptions of handlers and posted calls, and what the toolkit caught of them itself.
+  void CallEventHandler(wxEvtHandler* handler, wxEventFunctor& functor,
+                        wxEvent& event) const override;
+  void ProcessPendingEvents() override;
+  bool OnExceptionInMainLoop() override;
 
  protected:
   /// The main window, not yet shown; owned by the toolkit.
@@ -22,8 +31,11 @@ class TrassixApp : public wxApp {
 
  private:
   void openWindow();
+  void exceptionCaught() const;
 
+  bool started_ = false; ///< the main window is there: the program goes on whatever happens
   bool frameOnScreen_ = false;
+  const std::unique_ptr<FaultGuard> faults_;
   std::future<void> fonts_; ///< on their way while the toolkit starts
 };
 

@@ -68,13 +68,18 @@ bool inside(const Polygon& polygon, Point at) {
   return in;
 }
 
-double distanceToEdge(Point at, Point a, Point b) {
+Point nearestOnEdge(Point at, Point a, Point b) {
   const double dx = b.x - a.x;
   const double dy = b.y - a.y;
   const double squared = dx * dx + dy * dy;
   const double t =
       squared > 0 ? std::clamp(((at.x - a.x) * dx + (at.y - a.y) * dy) / squared, 0.0, 1.0) : 0.0;
-  return std::hypot(at.x - a.x - t * dx, at.y - a.y - t * dy);
+  return {a.x + t * dx, a.y + t * dy};
+}
+
+double distanceToEdge(Point at, Point a, Point b) {
+  const Point nearest = nearestOnEdge(at, a, b);
+  return std::hypot(at.x - nearest.x, at.y - nearest.y);
 }
 
 bool nearOutline(const Polygon& polygon, Point at, double tolerance) {

@@ -14,6 +14,7 @@ using Polygon = std::vector<Point>;
 
 bool holds(const Box& box, Point p);
 bool inside(const Polygon& polygon, Point at);
+Point nearestOnEdge(Point at, Point a, Point b);
 double distanceToEdge(Point at, Point a, Point b);
 
 /// True for a point at most `tolerance` away from an edge of the area.

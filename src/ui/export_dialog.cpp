@@ -5,6 +5,7 @@
 #include "ui/name_dialog.h"
 #include "ui/problem_text.h"
 #include "ui/utf8.h"
+#include "ui/whole_window.h"
 
 #include <wx/button.h>
 #include <wx/filename.h>
@@ -54,6 +55,7 @@ ExportDialog::ExportDialog(wxWindow* parent, SavedLayouts saved,
   accept->SetDefault();
   enableButtons();
   names_->SetFocus();
+  showWhole(*this);
   Centre();
 
   names_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { offerName(); });

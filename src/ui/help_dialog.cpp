@@ -62,7 +62,7 @@ HelpDialog::HelpDialog(wxWindow* parent)
 void HelpDialog::showPage(HelpTopic topic) {
   picture_->Show(appPrefs().playful);
   if (!IsShown()) {
-    Fit();
+    GetSizer()->Fit(this);
     CentreOnParent();
   }
   int row = 0;

@@ -7,6 +7,7 @@
 #include "ui/problem_text.h"
 #include "ui/saved_layouts.h"
 #include "ui/utf8.h"
+#include "ui/whole_window.h"
 
 #include <wx/button.h>
 #include <wx/intl.h>
@@ -49,6 +50,7 @@ ImportDialog::ImportDialog(wxWindow* parent, const std::filesystem::path& folder
   accept->SetDefault();
   list();
   names_->SetFocus();
+  showWhole(*this);
   Centre();
 
   folder_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { list(); });

@@ -14,6 +14,7 @@
 #include "ui/properties_panel.h"
 #include "ui/sash_rule.h"
 #include "ui/utf8.h"
+#include "ui/whole_window.h"
 
 #include <wx/display.h>
 #include <wx/menu.h>
@@ -22,6 +23,7 @@
 #include <wx/statusbr.h>
 #include <wx/toolbar.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace trassix {
@@ -39,6 +41,15 @@ constexpr std::size_t kLongestTitle = 200; ///< in characters
 wxSplitterWindow* makeSplitter(wxWindow* parent, const wxString& name) {
   return new wxSplitterWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                               wxSP_NOBORDER | wxSP_3DSASH | wxSP_LIVE_UPDATE, name);
+}
+
+/// The arrow for tools without room is laid out by the toolkit before it is shown, which is in
+/// vain, so it appears where it was the last time. A change of a label has the bar laid out once
+/// more.
+void layOutAgain(wxToolBarToolBase& tool) {
+  const wxString label = tool.GetLabel();
+  tool.SetLabel(label + " ");
+  tool.SetLabel(label);
 }
 
 } // namespace
@@ -76,7 +87,13 @@ void MainFrame::buildMenuBar() {
 }
 
 void MainFrame::buildToolBar() {
-  fillToolBar(*CreateToolBar(wxTB_HORIZONTAL | wxTB_TEXT | wxTB_NOICONS));
+  wxToolBar* bar = CreateToolBar(wxTB_HORIZONTAL | wxTB_TEXT | wxTB_NOICONS);
+  fillToolBar(*bar);
+  Bind(wxEVT_SIZE, [this, bar, width = 0](wxSizeEvent& event) mutable {
+    event.Skip();
+    if (std::exchange(width, event.GetSize().x) != event.GetSize().x)
+      CallAfter([bar] { layOutAgain(*bar->GetToolByPos(0)); });
+  });
 }
 
 void MainFrame::buildPanels() {
@@ -139,14 +156,25 @@ void MainFrame::fitToDisplay() {
   const wxRect area =
       wxDisplay(display == wxNOT_FOUND ? 0u : static_cast<unsigned>(display)).GetClientArea();
   const wxSize size(std::min(GetSize().x, area.width), std::min(GetSize().y, area.height));
-  SetSize(size);
-  const wxPoint place(area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2);
-  // Some window managers lose a place that is given before the window is there.
-  Bind(wxEVT_SHOW, [this, place, moved = false](wxShowEvent& event) mutable {
+  const wxRect place = wxRect(size).CentreIn(area);
+  SetSize(place);
+#ifdef __WXGTK__
+  // Its decorations come on top of its size and are taken off again.
+  showWhole(*this);
+  inPlace_ = false;
+  Bind(wxEVT_SIZE, [this, place, client = GetClientSize()](wxSizeEvent& event) {
     event.Skip();
-    if (!std::exchange(moved, true))
-      Move(place);
+    if (inPlace_ || !IsShown() || GetSize() == place.GetSize())
+      return;
+    if (GetClientSize() != client)
+      inPlace_ = true; // the window manager has a size of its own for it
+    else
+      CallAfter([this, place] { // it cannot become smaller before this size has settled
+        SetSize(place);
+        inPlace_ = true;
+      });
   });
+#endif
 }
 
 void MainFrame::readPreferences() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/aside_copy.h"
 #include "document/open_plan.h"
 #include "editing/canvas/layout_host.h"
 
@@ -33,6 +34,8 @@ class MainFrame : public wxFrame, private LayoutHost {
   CanvasPanel& canvasPanel() { return *canvas_; }
   PropertiesPanel* propertiesPanel() { return properties_; }
   bool dirty() const { return plan_.unsaved(); }
+  /// True once the window has the place and size that it starts with.
+  bool inPlace() const { return inPlace_; }
   void refreshProperties();
 
   /// Opens a plan file in place of the present one; false, after telling why, when it cannot be
@@ -41,6 +44,8 @@ class MainFrame : public wxFrame, private LayoutHost {
   void refreshTitle();
   /// Asks about unsaved changes if there are any; false when the user wants to stay.
   bool promptUnsaved();
+  /// Keeps a copy of the plan as it is in the user's local data; plan, file and title stay.
+  AsideCopy writeAside() const;
 
   // The commands, see the command table.
   void newLayout();
@@ -125,6 +130,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   /// Says once for each file that it could not be written in the safe way.
   void tellWay(WriteWay way, const std::filesystem::path& path);
   bool confirmReplace(const std::filesystem::path& target, const wxString& name);
+  void tellAside(const AsideCopy& copy);
   wxString openedStatus() const;
 
   PalettePanel* palette_ = nullptr;
@@ -133,6 +139,7 @@ class MainFrame : public wxFrame, private LayoutHost {
   HelpDialog* help_ = nullptr; ///< made when it is first wanted
   OpenPlan plan_;
   std::set<std::filesystem::path> toldInPlace_;
+  bool inPlace_ = true;
   wxPrintData printData_;
   wxPageSetupDialogData pageSetup_;
   EditorSwitches switches_;

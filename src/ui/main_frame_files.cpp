@@ -1,6 +1,7 @@
 // The frame's commands on files: what the open plan belongs to, and how nothing of it gets lost.
 #include "app/services/app_prefs.h"
 #include "app/services/path_text.h"
+#include "app/services/standard_folders.h"
 #include "app/services/user_paths.h"
 #include "catalog/track_catalog.h"
 #include "ui/canvas_panel.h"
@@ -18,6 +19,7 @@
 #include <wx/msgdlg.h>
 
 #include <algorithm>
+#include <ctime>
 
 namespace trassix {
 
@@ -40,9 +42,27 @@ bool MainFrame::promptUnsaved() {
                    wxYES_NO | wxCANCEL | wxICON_QUESTION, this);
   if (answer == wxCANCEL)
     return false;
-  if (answer == wxYES)
+  if (answer == wxYES) {
     save();
+    if (plan_.unsaved())
+      tellAside(writeAside());
+  }
   return true;
+}
+
+AsideCopy MainFrame::writeAside() const {
+  return trassix::writeAside(plan_.layout(), plan_.name(), StandardFolders::asideCopies(),
+                             std::time(nullptr));
+}
+
+void MainFrame::tellAside(const AsideCopy& copy) {
+  if (copy.problem.empty())
+    wxMessageBox(_("The plan was not saved. A copy of it was written to:\n") + toText(copy.file),
+                 _("Unsaved Changes"), wxOK | wxICON_INFORMATION, this);
+  else
+    wxMessageBox(_("The plan was not saved, nor could a copy be written:\n") +
+                     fromUtf8(copy.problem),
+                 _("Unsaved Changes"), wxOK | wxICON_ERROR, this);
 }
 
 void MainFrame::newLayout() {

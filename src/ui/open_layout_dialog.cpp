@@ -4,6 +4,7 @@
 #include "ui/accept_later.h"
 #include "ui/file_boxes.h"
 #include "ui/utf8.h"
+#include "ui/whole_window.h"
 
 #include <wx/button.h>
 #include <wx/listbox.h>
@@ -35,6 +36,7 @@ OpenLayoutDialog::OpenLayoutDialog(wxWindow* parent, SavedLayouts saved,
   static_cast<wxButton*>(FindWindow(wxID_OK))->SetDefault();
   enableButtons();
   rows_->SetFocus();
+  showWhole(*this);
   Centre();
 
   rows_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { enableButtons(); });

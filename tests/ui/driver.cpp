@@ -32,7 +32,7 @@ void handleEvents() {
 }
 
 wxWindow* findIf(const wxWindowList& windows, const std::function<bool(const wxWindow&)>& fits) {
-  for (auto* node = windows.GetFirst(); node != nullptr; node = node->GetNext()) {
+  for (auto node = windows.GetFirst(); node; node = node->GetNext()) {
     wxWindow* window = node->GetData();
     if (!window->IsShownOnScreen()) {
       continue;

@@ -3,12 +3,11 @@
 #include <wx/gdicmn.h>
 #include <wx/kbdstate.h>
 #include <wx/mousestate.h>
+#include <wx/window.h>
 
 #include <functional>
 #include <string>
 #include <vector>
-
-class wxWindow;
 
 namespace trassix::test {
 
@@ -28,6 +27,14 @@ struct Spot {
   Spot(wxWindow& inWindow, wxPoint point) : window(&inWindow), client(point) {}
   wxPoint onScreen() const;
 };
+
+/// The middle of a window or of part of the screen.
+inline wxPoint middleOf(const wxRect& rect) {
+  return rect.GetPosition() + rect.GetSize() / 2;
+}
+inline wxPoint middleOf(const wxWindow& window) {
+  return middleOf(window.GetScreenRect());
+}
 
 /// The real mouse. Moves go over several intermediate points, as a hand does.
 void moveMouse(const Spot& to);

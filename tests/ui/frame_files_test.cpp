@@ -10,6 +10,11 @@
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
 
+#include <functional>
+#include <new>
+#include <set>
+#include <stdexcept>
+
 namespace trassix::test {
 namespace {
 
@@ -48,13 +53,35 @@ class FileTest : public FrameTest {
   }
 };
 
+std::size_t piecesIn(const std::filesystem::path& plan) {
+  const std::string text = readText(plan);
+  std::size_t count = 0;
+  for (std::size_t at = 0; (at = text.find("<piece ", at)) != std::string::npos; ++at)
+    ++count;
+  return count;
+}
+
+/// Of the plans that were written aside, in the order of their names.
+std::vector<std::size_t> piecesAside(const std::filesystem::path& home) {
+  std::set<std::filesystem::path> files;
+  std::error_code none;
+  for (const auto& entry : std::filesystem::directory_iterator(home / ".trassix" / "aside", none))
+    files.insert(entry.path());
+  std::vector<std::size_t> pieces;
+  for (const auto& file : files)
+    pieces.push_back(piecesIn(file));
+  return pieces;
+}
+
 struct Leaving {
   const char* name;
   bool dirty;
   bool saved; ///< the plan has a file
   int answer;
+  const char* newName; ///< under which it is tried to save it; null: that is cancelled
   std::size_t piecesAfter;
   std::size_t piecesInFile; ///< of the two that were placed, the second one unsaved
+  std::vector<std::size_t> piecesAside;
 };
 
 void PrintTo(const Leaving& leaving, std::ostream* out) {
@@ -63,38 +90,76 @@ void PrintTo(const Leaving& leaving, std::ostream* out) {
 
 class UnsavedChanges : public FrameTest, public testing::WithParamInterface<Leaving> {};
 
-TEST_P(UnsavedChanges, AreAskedFor) {
+TEST_P(UnsavedChanges, AreAskedForAndNotLost) {
   const Leaving& leaving = GetParam();
   start();
   placePiece();
   if (leaving.saved)
     saveAs("Yard");
-  if (leaving.dirty)
+  if (leaving.dirty) {
     placePiece(500);
-  if (leaving.dirty)
     dialogs.answer("Unsaved Changes", leaving.answer);
-  if (leaving.answer == wxID_YES && !leaving.saved)
+  }
+  if (leaving.answer == wxID_YES && !leaving.saved && leaving.newName != nullptr) {
+    answerText("Save Layout", leaving.newName);
+    dialogs.answer("Save Failed", wxID_OK);
+  } else if (leaving.answer == wxID_YES && !leaving.saved)
     dialogs.answer("Save Layout", wxID_CANCEL);
+  if (!leaving.piecesAside.empty())
+    dialogs.answer("Unsaved Changes", wxID_OK); // told where the plan is
   put(wxID_NEW);
   EXPECT_EQ(pieces(), leaving.piecesAfter);
   EXPECT_EQ(frame().dirty(), leaving.piecesAfter > 0);
-  const std::string file = readText(layoutsFolder() / "Yard.txl");
-  std::size_t inFile = 0;
-  for (std::size_t at = 0; (at = file.find("<piece ", at)) != std::string::npos; ++at)
-    ++inFile;
-  EXPECT_EQ(inFile, leaving.piecesInFile);
+  EXPECT_EQ(piecesIn(layoutsFolder() / "Yard.txl"), leaving.piecesInFile);
+  EXPECT_EQ(piecesAside(home()), leaving.piecesAside);
   if (leaving.piecesAfter == 0) {
     EXPECT_EQ(title(), kBase);
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Answers, UnsavedChanges,
-                         testing::Values(Leaving{"NothingToAsk", false, true, wxID_NONE, 0, 1},
-                                         Leaving{"Cancel", true, true, wxID_CANCEL, 2, 1},
-                                         Leaving{"No", true, true, wxID_NO, 0, 1},
-                                         Leaving{"Yes", true, true, wxID_YES, 0, 2},
-                                         Leaving{"YesThenNoName", true, false, wxID_YES, 0, 0}),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    Answers, UnsavedChanges,
+    testing::Values(Leaving{"NothingToAsk", false, true, wxID_NONE, nullptr, 0, 1, {}},
+                    Leaving{"Cancel", true, true, wxID_CANCEL, nullptr, 2, 1, {}},
+                    Leaving{"No", true, true, wxID_NO, nullptr, 0, 1, {}},
+                    Leaving{"Yes", true, true, wxID_YES, nullptr, 0, 2, {}},
+                    Leaving{"YesThenNoName", true, false, wxID_YES, nullptr, 0, 0, {2}},
+                    Leaving{"YesThenAFailure", true, false, wxID_YES, "none/Yard", 0, 0, {2}}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+/// In every way in which the toolkit calls what the program does.
+TEST_F(FrameTest, AFaultIsToldOnceAndThePlanWrittenAside) {
+  start();
+  CanvasPanel& canvas = frame().canvasPanel();
+  const auto throwAt = [](wxWindow& window, const auto& type, auto thrown) {
+    window.Bind(type, [thrown](wxEvent&) { throw thrown; });
+  };
+  const std::pair<const char*, std::function<void()>> faults[] = {
+      {"posted", [&] { frame().CallAfter([] { throw std::runtime_error("posted"); }); }},
+      {"chosen",
+       [&] {
+         throwAt(frame(), wxEVT_TOOL_RCLICKED, std::logic_error("chosen"));
+         wxQueueEvent(&frame(), new wxCommandEvent(wxEVT_TOOL_RCLICKED));
+       }},
+      {"unknown", [&] { throwAt(frame(), wxEVT_IDLE, 7); }},
+      {"memory", [&] { throwAt(canvas, wxEVT_PAINT, std::bad_alloc()); }}};
+  dialogs.answer("Unexpected Error", wxID_OK);
+  std::vector<std::size_t> copies;
+  for (const auto& [logged, cause] : faults) {
+    placePiece(200.0 * static_cast<double>(copies.size()));
+    copies.push_back(pieces());
+    cause();
+    waitUntil("the fault is logged and the plan kept", [&, text = logged] {
+      canvas.Refresh();
+      return readText(logFile()).find(text) != std::string::npos &&
+             std::ranges::is_permutation(piecesAside(home()), copies);
+    });
+  }
+  EXPECT_TRUE(dialogs.finished());
+  bool goesOn = false;
+  frame().CallAfter([&] { goesOn = true; });
+  waitUntil("the program goes on", [&] { return goesOn; });
+}
 
 TEST_F(FrameTest, CloseCanBeVetoed) {
   start();

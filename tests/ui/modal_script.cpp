@@ -18,7 +18,7 @@ namespace trassix::test {
 namespace {
 
 void collectControls(wxWindow& parent, std::vector<wxWindow*>& controls) {
-  for (auto* node = parent.GetChildren().GetFirst(); node != nullptr; node = node->GetNext()) {
+  for (auto node = parent.GetChildren().GetFirst(); node; node = node->GetNext()) {
     wxWindow* child = node->GetData();
     if (!child->IsShown()) {
       continue;
@@ -37,8 +37,11 @@ bool laidOut(wxDialog& dialog) {
   });
 }
 
-/// Tab goes in reading order, and no text is cut off.
+/// The dialog is over its window, Tab goes in reading order, and no text is cut off.
 void expectTidy(wxDialog& dialog) {
+  if (const wxWindow* parent = dialog.GetParent()) { // it may give way upwards or downwards
+    EXPECT_NEAR(middleOf(dialog).x, middleOf(*parent).x, 4) << dialog.GetTitle();
+  }
   std::vector<wxWindow*> controls;
   collectControls(dialog, controls);
   wxRect last;

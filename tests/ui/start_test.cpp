@@ -5,7 +5,9 @@
 #include <wx/app.h>
 
 #include <chrono>
+#include <cmath>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <regex>
@@ -112,6 +114,18 @@ TEST_F(UiTest, AFailingStartIsLoggedAndEnds) {
   EXPECT_EQ(failWith([] { throw 7; }), "UNKNOWN EXCEPTION in MainFrame");
 }
 
+/// Where a window of another program is, as a program of the desktop tells it.
+wxRect foreignWindow(const std::string& title) {
+  const std::string command = "xdotool search --onlyvisible --name '" + title +
+                              "' getwindowgeometry --shell %1 2>/dev/null";
+  wxRect rect;
+  FILE* answer = popen(command.c_str(), "r");
+  std::fscanf(answer, "WINDOW=%*d X=%d Y=%d WIDTH=%d HEIGHT=%d", &rect.x, &rect.y, &rect.width,
+              &rect.height);
+  pclose(answer);
+  return rect;
+}
+
 /// The real program, started from an install folder that an older release has used.
 TEST_F(UiTest, TheFirstStartTakesOverAnOlderReleasesFiles) {
   const auto installed = home() / "install";
@@ -128,9 +142,10 @@ TEST_F(UiTest, TheFirstStartTakesOverAnOlderReleasesFiles) {
   }
   waitUntil("the program runs",
             [this] { return readText(logFile()).find("Show OK") != std::string::npos; });
-  waitUntil("it tells of the copied file", [] {
-    return std::system("xdotool search --onlyvisible --name '^Trassix Information$' >/dev/null") ==
-           0;
+  waitUntil("it tells of the copied file, over its window", [] {
+    const wxPoint off =
+        middleOf(foreignWindow("^Trassix Information$")) - middleOf(foreignWindow("^Trassix v"));
+    return off != wxPoint() && std::hypot(off.x, off.y) <= 40;
   });
   takeScreenshot("migration");
   kill(program, SIGTERM);

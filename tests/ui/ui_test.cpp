@@ -5,6 +5,7 @@
 #include "ui/canvas_panel.h"
 #include "ui/main_frame.h"
 
+#include <gmock/gmock.h>
 #include <wx/evtloop.h>
 #include <wx/init.h>
 
@@ -90,13 +91,18 @@ void UiTest::startLaidOut() {
 }
 
 bool UiTest::startAsIs() {
-  if (!app().CallOnInit()) {
-    return false;
+  testing::internal::CaptureStderr();
+  const bool started = app().CallOnInit();
+  if (started) {
+    frame_ = dynamic_cast<MainFrame*>(app().GetTopWindow());
+    app().enterMainLoop();
+    waitUntil("the main window is active",
+              [this] { return frame_->IsActive() || !dialogs.finished(); });
   }
-  frame_ = dynamic_cast<MainFrame*>(app().GetTopWindow());
-  app().enterMainLoop();
-  return waitUntil("the main window is active",
-                   [this] { return frame_->IsActive() || !dialogs.finished(); });
+  // The toolkit's own warnings, about windows that are too small for what is in them.
+  EXPECT_THAT(testing::internal::GetCapturedStderr(),
+              testing::Not(testing::ContainsRegex("Gtk-|Gdk-|pixman")));
+  return started;
 }
 
 void UiTest::finish() {

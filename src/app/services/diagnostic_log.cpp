@@ -1,5 +1,7 @@
 #include "app/services/diagnostic_log.h"
 
+#include "app/services/local_time.h"
+
 #include <array>
 #include <chrono>
 #include <cstdio>
@@ -21,12 +23,7 @@ std::string timeStamp(std::chrono::system_clock::time_point when) {
   const std::time_t seconds = std::chrono::system_clock::to_time_t(when);
   const auto sinceEpoch =
       std::chrono::duration_cast<std::chrono::milliseconds>(when.time_since_epoch());
-  std::tm local{};
-#ifdef _WIN32
-  localtime_s(&local, &seconds);
-#else
-  localtime_r(&seconds, &local);
-#endif
+  const std::tm local = localTime(seconds);
   std::array<char, 64> text{};
   std::snprintf(text.data(), text.size(), "%02d:%02d:%02d.%03d ", local.tm_hour, local.tm_min,
                 local.tm_sec, static_cast<int>(sinceEpoch.count() % 1000));

@@ -17,6 +17,10 @@ LogFolder StandardFolders::logs() {
   return {folder, folder != own};
 }
 
+fs::path StandardFolders::asideCopies() {
+  return toPath(wxStandardPaths::Get().GetUserLocalDataDir()) / "aside";
+}
+
 fs::path StandardFolders::documents() {
   return toPath(wxStandardPaths::Get().GetDocumentsDir());
 }

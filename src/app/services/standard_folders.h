@@ -12,6 +12,9 @@ class StandardFolders {
   /// Per-user local data, made when missing; the folder for temporary files when that fails.
   static LogFolder logs();
 
+  /// Where plans are written aside that might get lost, in the per-user local data; not made here.
+  static std::filesystem::path asideCopies();
+
   static std::filesystem::path documents();
 
   /// Where files from elsewhere arrive: the user's downloads, the home folder when there is none.

@@ -323,7 +323,7 @@ void Canvas::resetView() {
 }
 
 void Canvas::resetViewForSmall() {
-  site_.view.resetForSmall();
+  site_.resetViewForSmall();
   viewChanged();
 }
 

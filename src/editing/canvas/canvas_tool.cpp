@@ -1,5 +1,7 @@
 #include "editing/canvas/canvas_tool.h"
 
+#include "editing/content_box.h"
+
 namespace trassix {
 
 const PlanIndex& ToolSite::planIndex() {
@@ -36,6 +38,22 @@ void ToolSite::reportExtension(const EditResult& result) {
   if (const std::optional<Box> box = result.changed() ? selectionBox(layout()) : std::nullopt)
     view.reveal(*box, size.width, size.height);
   report(result);
+}
+
+void ToolSite::resetViewForSmall() {
+  view.resetForSmall();
+  const double margin = ViewTransform::kRevealMarginPx;
+  if (size.width <= 2 * margin || size.height <= 2 * margin)
+    return;
+  const auto boxOf = [this](Point low, Point high) {
+    const Point from = view.toWorld(low);
+    const Point to = view.toWorld(high);
+    return Box{from.x, from.y, to.x, to.y};
+  };
+  const Box window = boxOf({0, 0}, {size.width, size.height});
+  const Box room = boxOf({margin, margin}, {size.width - margin, size.height - margin});
+  if (const std::optional<Box> content = nearestContent(layout(), window, room))
+    view.reveal(*content, size.width, size.height);
 }
 
 } // namespace trassix

@@ -83,6 +83,10 @@ class ToolSite {
   /// The same of an edit that went on from the selection, perhaps out of view: the view follows.
   void reportExtension(const EditResult& result);
 
+  /// Starts the view over at the scale of small gauges. Where nothing of the plan would show, it
+  /// pans as little as brings something in.
+  void resetViewForSmall();
+
   /// Millimetres that `px` pixels cover.
   double mm(double px) const { return px / view.zoom(); }
 

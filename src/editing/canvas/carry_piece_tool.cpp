@@ -22,7 +22,7 @@ EditResult CarryPieceTool::drop() {
   const EditResult result =
       dropPiece(site_.layout(), definition_.article, pose(), snap_, site_.host.switches().snap);
   if (result.changed() && wantsSmallTrackView(site_.layout()))
-    site_.view.resetForSmall();
+    site_.resetViewForSmall();
   return result;
 }
 

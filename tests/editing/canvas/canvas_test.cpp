@@ -1,6 +1,7 @@
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/recording_surface.h"
+#include "editing/placing.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 
@@ -70,6 +71,35 @@ TEST(CanvasView, FitCentresTheContentWithItsMargin) {
   EXPECT_EQ(view.origin(), (Point{0, 0})) << "it is in view";
   view.reveal({900, -100, 1100, 1000}, 1000, 800);
   EXPECT_EQ(view.origin(), (Point{-140, 0})) << "too high for the window";
+}
+
+TEST(CanvasView, ASmallPlanIsPannedOnlyWhereNothingOfItWouldShow) {
+  struct Case {
+    std::vector<Point> straights; ///< 110 by 12 mm; the window is 1600 by 1000 px
+    std::vector<Point> area;
+    Point origin;
+  };
+  for (const Case& c : {Case{{}, {}, {60, 60}},
+                        {{{1539, 0}}, {}, {60, 60}},
+                        {{{5000, 0}}, {}, {-3550, 60}},
+                        {{{-2000, -900}}, {}, {2040, 946}},
+                        {{{-9000, -9000}, {300, 2000}}, {}, {60, -1046}},
+                        {{{5000, 0}}, {{-9e3, -9e3}, {9e3, -9e3}, {0, 9e3}}, {60, 60}},
+                        {{{5000, 9e3}}, {{-9e3, 3e3}, {9e3, 3e3}, {0, 9e3}}, {60, -2040}}}) {
+    CanvasScript script;
+    for (const Point& at : c.straights)
+      addPiece(script.host.plan, cataloguePiece("8500"), {at.x, at.y, 0}, 1, 0);
+    addPiece(script.host.plan, cataloguePiece("8500"), {300, 300, 0}, 2, 0);
+    script.host.plan.ensureLevel(2);
+    script.host.plan.editSettings().levels.back().visible = false;
+    script.host.plan.edit().shapes.emplace_back().points = c.area;
+    script.canvas.resetViewForSmall();
+    EXPECT_EQ(script.canvas.view().zoom(), 1.0);
+    EXPECT_NEAR(script.canvas.view().origin().x, c.origin.x, 1e-9)
+        << testing::PrintToString(c.origin);
+    EXPECT_NEAR(script.canvas.view().origin().y, c.origin.y, 1e-9)
+        << testing::PrintToString(c.origin);
+  }
 }
 
 TEST(CanvasView, CtrlDragPansBeyondThreePixelsOnly) {
@@ -210,13 +240,12 @@ TEST(CarryPiece, PickedUpByDoubleClickItWaitsForAClickOfItsOwn) {
   script.canvas.carryPiece("8500", script.at({600, 350}), false);
   script.release({600, 350}); // ends the double-click
   EXPECT_TRUE(script.canvas.carrying());
-  script.move({100, 100});
-  script.press({100, 100});
-  script.release({100, 100});
+  script.click({3000, 100});
   ASSERT_EQ(script.pieces().size(), 1u);
-  EXPECT_EQ(script.pieces()[0].x, 100);
-  EXPECT_EQ(script.canvas.view().zoom(), 1.0) << "the first small piece starts the view over";
-  script.canvas.doubleClick(script.at({100, 100}));
+  EXPECT_EQ(script.pieces()[0].x, 3000);
+  EXPECT_EQ(script.canvas.view(), ViewTransform::ofScale(1, {-1550, 60}))
+      << "the first small piece starts the view over, in view";
+  script.canvas.doubleClick(script.at({3000, 100}));
   EXPECT_EQ(script.pieces().size(), 1u) << "the click that dropped it is not half a double-click";
 }
 
