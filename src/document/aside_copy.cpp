@@ -45,7 +45,7 @@ fs::path unusedFile(const fs::path& folder, const std::string& stem) {
   fs::path unused = file(stem + ".txl");
   std::error_code ignored;
   for (int number = 2; fs::exists(unused, ignored); ++number)
-    unused = file(stem + " (" + std::to_string(number) + ").txl");
+    unused = file(std::string(stem).append(" (").append(std::to_string(number)).append(").txl"));
   return unused;
 }
 

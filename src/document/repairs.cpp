@@ -143,13 +143,13 @@ std::string describeRepairs(const Repairs& repairs) {
   if (repairs.opened == 1)
     text += " A joint at an end that its piece does not have was opened.";
   else if (repairs.opened > 1)
-    text += " " + std::to_string(repairs.opened) +
-            " joints at ends that their pieces do not have were opened.";
+    text.append(" ").append(std::to_string(repairs.opened)) +=
+        " joints at ends that their pieces do not have were opened.";
   if (repairs.renumbered == 1)
     text += " A record without a number of its own got a new one.";
   else if (repairs.renumbered > 1)
-    text += " " + std::to_string(repairs.renumbered) +
-            " records without numbers of their own got new ones.";
+    text.append(" ").append(std::to_string(repairs.renumbered)) +=
+        " records without numbers of their own got new ones.";
   return text;
 }
 

@@ -281,10 +281,10 @@ class UnreadSearch {
   void report(std::string_view element, std::string_view attribute = {}) {
     if (!unread_.empty())
       return;
-    unread_ = "line " + std::to_string(number_) + ", ";
+    unread_.append("line ").append(std::to_string(number_)).append(", ");
     if (!attribute.empty())
-      unread_ += excerpt(attribute) + " of ";
-    unread_ += "<" + excerpt(element) + ">";
+      unread_.append(excerpt(attribute)).append(" of ");
+    unread_.append("<").append(excerpt(element)).append(">");
   }
 
   std::string_view rest_;

@@ -114,9 +114,10 @@ int standOnLevels(Layout& layout, std::span<const std::int32_t> pieces) {
 
 Notice openedJoints(int count) {
   return {"Place Block",
-          count == 1 ? "One joint of the block was opened: it leads to a level of another height."
-                     : std::to_string(count) + " joints of the block were opened: they lead to "
-                                               "levels of another height."};
+          count == 1
+              ? "One joint of the block was opened: it leads to a level of another height."
+              : std::to_string(count).append(" joints of the block were opened: they lead to "
+                                             "levels of another height.")};
 }
 
 } // namespace

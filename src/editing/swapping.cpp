@@ -168,8 +168,7 @@ std::vector<SwapFit> swapFits(const Layout& layout, std::int32_t piece) {
     for (std::size_t k = 0; k < definition.connectors.size() && !definition.pair; ++k) {
       const Pose pose = AttachPose(definition, static_cast<std::int32_t>(k), facing);
       const auto fit = fitAt(definition, pose, ends, *presentDefinition, required);
-      if (fit && !looksTheSame(*fit, itself) &&
-          inLimits(exchanged(*present, *presentDefinition, *fit)) &&
+      if (fit && !looksTheSame(*fit, itself) && inLimits(exchanged(*present, *fit)) &&
           std::ranges::none_of(fits, [&fit](const SwapFit& f) { return looksTheSame(f, *fit); }))
         fits.push_back(*fit);
     }

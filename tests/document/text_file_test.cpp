@@ -184,7 +184,7 @@ TEST(TextFile, writesAndReadsUnderAnyName) {
     EXPECT_EQ(readTextFile(target, read), "");
     EXPECT_EQ(read, "one\r\ntwo\n");
   }
-  const fs::path longest = folder.path() / (std::string(250, 'n') + ".txl");
+  const fs::path longest = folder.path() / std::string(250, 'n').append(".txl");
   EXPECT_EQ(writeTextFile(longest, "text"), "");
 }
 
