@@ -1,6 +1,7 @@
 #include "document/repairs.h"
 
 #include "catalog/track_catalog.h"
+#include "document/piece_pairs.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -123,6 +124,8 @@ Repairs makeSound(Layout& layout) {
   Repairs repairs;
   repairs.renumbered = renumberRecords(layout) + renumberLevels(layout);
   repairs.opened = openBeyondEnds(layout.edit().pieces);
+  if (repairs.any())
+    layout.edit().pairs = pairsOfRuns(layout.pieces());
   return repairs;
 }
 
@@ -133,6 +136,8 @@ Repairs makeSound(Block& block) {
   Repairs repairs;
   repairs.renumbered = renumber(block.pieces, fresh) + renumber(block.scenery, fresh);
   repairs.opened = openBeyondEnds(block.pieces);
+  if (repairs.any())
+    block.pairs = pairsOfRuns(block.pieces);
   return repairs;
 }
 

@@ -23,7 +23,8 @@ struct Repairs {
 /// Of records of one collection with the same id the first keeps it, and with it all references;
 /// the others, and those with the id -1, get fresh ones. The joint table of a piece ends with the
 /// ends of its definition: a joint beyond is opened, on its other side too. One-sided joints stay,
-/// and so does the table of a piece whose article is unknown. Records no history.
+/// and so does the table of a piece whose article is unknown. Pairs are looked for again where
+/// anything was mended. Records no history.
 Repairs makeSound(Layout& layout);
 Repairs makeSound(Block& block);
 

@@ -19,6 +19,8 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
 namespace trassix {
 
@@ -27,7 +29,7 @@ namespace {
 struct ColumnLook {
   TallyColumn column;
   const char* heading; ///< shorter than in a file, to leave room for the names
-  int width;           ///< device independent; 0: what the others leave
+  int width;           ///< device independent; 0: by what is to be shown
   wxListColumnFormat align;
 };
 
@@ -36,8 +38,10 @@ constexpr std::array<ColumnLook, kTallyColumnCount> kColumns{
      {TallyColumn::Article, wxTRANSLATE("Article"), 58, wxLIST_FORMAT_LEFT},
      {TallyColumn::Name, wxTRANSLATE("Name"), 0, wxLIST_FORMAT_LEFT},
      {TallyColumn::Sold, wxTRANSLATE("Need"), 48, wxLIST_FORMAT_RIGHT},
-     {TallyColumn::System, wxTRANSLATE("System"), 62, wxLIST_FORMAT_LEFT}}};
+     {TallyColumn::System, wxTRANSLATE("System"), 0, wxLIST_FORMAT_LEFT}}};
 constexpr int kNarrowestName = 56;
+constexpr int kCellMargin = 16;
+constexpr int kWidestSystem = 96; ///< tells apart even what does not fit
 
 constexpr std::size_t placeOf(TallyColumn column) {
   return static_cast<std::size_t>(std::ranges::find(kColumns, column, &ColumnLook::column) -
@@ -119,10 +123,21 @@ class TallyList : public wxListCtrl {
     return *tallest;
   }
 
+  /// Wide enough for the names in the list, which begin alike.
+  int systemWidth() const {
+    int widest = 0;
+    std::optional<TrackSystem> measured;
+    for (const TallyRow& row : rows_) {
+      if (std::exchange(measured, row.system) != row.system)
+        widest = std::max(widest, GetTextExtent(cellText(row, TallyColumn::System)).x);
+    }
+    return std::min(widest + FromDIP(kCellMargin), FromDIP(kWidestSystem));
+  }
+
   /// The name takes what the others leave. Which system a piece is of matters only where there are
   /// several; the column goes last, so that it can be away.
   void fitColumns() {
-    const int system = FromDIP(severalSystems(rows_) ? kColumns.back().width : 0);
+    const int system = severalSystems(rows_) ? systemWidth() : 0;
     int left = rowsArea().GetClientSize().x - system;
     for (std::size_t i = 0; i + 1 < kColumns.size(); ++i)
       left -= FromDIP(kColumns.at(i).width);

@@ -239,6 +239,7 @@ TEST(LayoutFile, isMadeSoundAfterTheLoad) {
   layout.edit().pieces = damaged;
   layout.edit().pieces[4].level = -1;
   layout.edit().helices.resize(2);
+  layout.edit().pairs = {{-1, 6}};
   layout.editSettings().levels.resize(4);
   for (std::size_t i = 0; i < 4; ++i)
     layout.editSettings().levels[i].id = std::array{3, -1, 3, 1}[i];
@@ -248,6 +249,7 @@ TEST(LayoutFile, isMadeSoundAfterTheLoad) {
   EXPECT_EQ(layout.pieces()[4].level, 2);
   layout.edit().pieces[4].level = 1;
   EXPECT_EQ(layout.pieces(), sound);
+  EXPECT_TRUE(layout.content().pairs.empty());
   EXPECT_NE(layout.content().helices[0].id, layout.content().helices[1].id);
   EXPECT_EQ(layout.takeId(), 14);
   for (std::size_t i = 0; i < 4; ++i)

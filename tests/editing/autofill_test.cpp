@@ -140,7 +140,7 @@ TEST(Autofill, JoinsTheFarEndWhereItComesNearEnough) {
       {360, 0, 0, "Joins both ends."},
       {360.9, 0, 0, "Joins both ends, 0.9 mm apart."},
       {361.3, 0, 0, "Leaves the far end open, 1.3 mm apart."},
-      {360, 1, 0, "Joins both ends, 1.0 mm apart in height."},
+      {360, 0.5, 0, "Leaves the far end open, 0.5 mm apart in height."},
       {360, 1.1, 0, "Leaves the far end open, 1.1 mm apart in height."},
       {361, -100, 0, "Leaves the far end open, 1.0 mm apart, 100.0 mm apart in height."},
       {360, 188.3 / 2, 30, "Joins both ends."}, // so high is the end where the fill starts

@@ -260,7 +260,7 @@ TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
 }
 
 TEST(SelectTool, LikeTheOthersSaysWhatWouldLieBeyondThePlan) {
-  constexpr Point kBeyond{1'000'001, 0};
+  constexpr Point kBeyond{1'000'200, 0};
   CanvasScript script(row());
   script.drag(kOnFirst, kBeyond);
   script.takeFromMenu(kBeyond, "Add Label");
