@@ -87,8 +87,7 @@ Play largestPlay(const Layout& layout) {
       if (piece.joints[i].open())
         continue;
       const Play play = playOf(layout, piece, static_cast<std::int32_t>(i));
-      largest = {std::max(largest.distance, play.distance),
-                 std::max(largest.heading, play.heading),
+      largest = {std::max(largest.distance, play.distance), std::max(largest.heading, play.heading),
                  std::max(largest.step, std::abs(play.step))};
     }
   }
