@@ -6,9 +6,6 @@
 #include "ui/command_table.h"
 
 #include <gmock/gmock.h>
-#include <wx/dcmemory.h>
-#include <wx/dcscreen.h>
-#include <wx/image.h>
 #include <wx/menu.h>
 #include <wx/srchctrl.h>
 #include <wx/toolbar.h>
@@ -34,15 +31,6 @@ class Canceller : public wxModalDialogHook {
     return wxID_CANCEL;
   }
 };
-
-bool holdsDarkPixel(const wxRect& onScreen) {
-  wxBitmap bitmap(onScreen.GetSize(), 24);
-  wxScreenDC screen;
-  wxMemoryDC(bitmap).Blit({0, 0}, onScreen.GetSize(), &screen, onScreen.GetPosition());
-  const wxImage image = bitmap.ConvertToImage();
-  return std::any_of(image.GetData(), image.GetData() + 3 * onScreen.width * onScreen.height,
-                     [](unsigned char part) { return part < 100; });
-}
 
 const char* const kMenuRows[] = {
     "&File",
@@ -268,21 +256,12 @@ TEST_F(FrameTest, EscLeavesTheModesOfTheToolBar) {
   }
 }
 
-TEST_F(FrameTest, StandsInTheMiddleAndShowsTheToolBarsArrowAtItsEnd) {
+TEST_F(FrameTest, StandsInTheMiddle) {
   start();
   waitUntil("the window is in the middle", [this] {
     const wxPoint off = middleOf(frame()) - middleOf(wxGetClientDisplayRect());
     return frame().GetSize() == wxSize(1400, 900) && std::hypot(off.x, off.y) <= 4;
   });
-  for (const int width : {700, 1400, 1024}) {
-    frame().SetSize(width, 700);
-    waitUntil("the arrow is at the end, or there is room for all tools", [this, width] {
-      const wxRect whole = frame().GetScreenRect();
-      const wxRect end(whole.GetRight() - 50, frame().GetToolBar()->GetScreenPosition().y + 10, 40,
-                       20);
-      return whole.width == width && holdsDarkPixel(end) == (width < 1400);
-    });
-  }
 }
 
 } // namespace

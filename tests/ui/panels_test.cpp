@@ -148,12 +148,13 @@ TEST_F(PanelsTest, NamesShowAsTheyAre) {
   placePiece();
   plan().editSettings().levels[0].name = "Yard & Co";
   plan().edit().pieces[0].cat = "A & B";
+  frame().host().changed();
   select(&PlanContent::pieces);
   for (const char* shown : {"A & B", "Yard & Co"})
     EXPECT_NE(findLabelled(shown), nullptr) << shown;
   takeScreenshot("ampersands");
   openPurchaseList([&](wxDialog&) {
-    EXPECT_NE(findLabelled("of A & B"), nullptr);
+    waitUntil("the chosen row is named", [] { return findLabelled("of A & B") != nullptr; });
     pressKey(WXK_ESCAPE);
   });
   wxString row;
