@@ -118,14 +118,25 @@ std::size_t openBeyondEnds(std::vector<PlacedPiece>& pieces) {
   return opened;
 }
 
+/// A plan makes the levels that its records name, and no level can have the id -1.
+template <class Records>
+void putOnALevel(Records& records) {
+  for (auto& record : records)
+    record.level = record.level == -1 ? 1 : record.level;
+}
+
 } // namespace
 
 Repairs makeSound(Layout& layout) {
   Repairs repairs;
   repairs.renumbered = renumberRecords(layout) + renumberLevels(layout);
-  repairs.opened = openBeyondEnds(layout.edit().pieces);
+  PlanContent& content = layout.edit();
+  repairs.opened = openBeyondEnds(content.pieces);
+  putOnALevel(content.pieces);
+  putOnALevel(content.scenery);
+  putOnALevel(content.shapes);
   if (repairs.any())
-    layout.edit().pairs = pairsOfRuns(layout.pieces());
+    content.pairs = pairsOfRuns(layout.pieces());
   return repairs;
 }
 
@@ -136,6 +147,8 @@ Repairs makeSound(Block& block) {
   Repairs repairs;
   repairs.renumbered = renumber(block.pieces, fresh) + renumber(block.scenery, fresh);
   repairs.opened = openBeyondEnds(block.pieces);
+  putOnALevel(block.pieces);
+  putOnALevel(block.scenery);
   if (repairs.any())
     block.pairs = pairsOfRuns(block.pieces);
   return repairs;

@@ -24,7 +24,8 @@ struct Repairs {
 /// the others, and those with the id -1, get fresh ones. The joint table of a piece ends with the
 /// ends of its definition: a joint beyond is opened, on its other side too. One-sided joints stay,
 /// and so does the table of a piece whose article is unknown. Pairs are looked for again where
-/// anything was mended. Records no history.
+/// anything was mended. What stands on level -1, which cannot be, goes to level 1. Records no
+/// history.
 Repairs makeSound(Layout& layout);
 Repairs makeSound(Block& block);
 
