@@ -65,7 +65,9 @@ std::size_t renumberRecords(Layout& layout) {
   visitCollections(layout.content(), [&fresh](const auto& records) { fresh.useAll(records); });
   std::size_t count = 0;
   visitCollections(layout.edit(), [&](auto& records) { count += renumber(records, fresh); });
-  layout.setNextPieceId(std::max(layout.nextPieceId(), fresh.last() + 1));
+  // Once they have started over, ids in use are to be passed over by those to come as well.
+  const std::int32_t next = fresh.last() + 1;
+  layout.setNextPieceId(next < layout.nextPieceId() ? Layout::kLargestId + 1 : next);
   return count;
 }
 
