@@ -13,27 +13,15 @@
 #pragma GCC diagnostic pop
 #endif
 
+#include "document/color.h"
+#include "geometry/point.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 namespace trassix {
-
-struct Point {
-  double x = 0;
-  double y = 0;
-
-  bool operator==(const Point&) const = default;
-};
-
-struct Color {
-  std::uint8_t r = 0;
-  std::uint8_t g = 0;
-  std::uint8_t b = 0;
-
-  bool operator==(const Color&) const = default;
-};
 
 /// What is joined at one connector. Every joint is written on both pieces.
 struct Joint {

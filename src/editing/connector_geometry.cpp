@@ -7,13 +7,6 @@
 
 namespace trassix {
 
-namespace {
-
-/// Beyond this, stepping by 360 would take for ever (or never move at all).
-constexpr double kSteppedRange = 360.0 * 64;
-
-} // namespace
-
 const PieceDef* definitionOf(const PlacedPiece& piece) {
   return TrackCatalog::instance().find(piece.cat);
 }
@@ -25,31 +18,6 @@ PlacedPiece pieceAt(const Pose& pose) {
   piece.heading = pose.heading;
   return piece;
 }
-
-double normaliseHeading(double degrees) {
-  if (!std::isfinite(degrees))
-    return 0;
-  if (std::abs(degrees) > kSteppedRange)
-    degrees = std::fmod(degrees, 360.0);
-  while (degrees < 0)
-    degrees += 360.0;
-  while (degrees >= 360.0)
-    degrees -= 360.0;
-  return degrees;
-}
-
-double headingDifference(double a, double b) {
-  const double difference = std::fmod(std::abs(a - b), 360.0);
-  return difference > 180.0 ? 360.0 - difference : difference;
-}
-
-Point toWorld(const Pose& pose, Point local) {
-  return PoseFrame(pose)(local);
-}
-
-PoseFrame::PoseFrame(const Pose& pose)
-    : x_(pose.x), y_(pose.y), cos_(std::cos(toRadians(pose.heading))),
-      sin_(std::sin(toRadians(pose.heading))) {}
 
 WorldConnector ConnectorToWorld(const PlacedPiece& piece, const PieceDef& definition,
                                 std::int32_t index) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/layout.h"
-#include "editing/selection.h"
+#include "geometry/box.h"
 
 #include <optional>
 

@@ -3,7 +3,7 @@
 
 #include "catalog/piece_def.h"
 #include "editing/connector_geometry.h"
-#include "editing/selection.h"
+#include "geometry/box.h"
 
 #include <vector>
 

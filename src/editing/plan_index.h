@@ -3,7 +3,7 @@
 
 #include "catalog/piece_def.h"
 #include "document/layout.h"
-#include "editing/selection.h"
+#include "geometry/box.h"
 
 #include <cstdint>
 #include <memory>

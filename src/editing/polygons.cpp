@@ -54,10 +54,6 @@ bool edgeTouches(Point a, Point b, const Box& box) {
 
 } // namespace
 
-bool holds(const Box& box, Point p) {
-  return p.x >= box.minX && p.x <= box.maxX && p.y >= box.minY && p.y <= box.maxY;
-}
-
 bool inside(const Polygon& polygon, Point at) {
   bool in = false;
   anyEdge(polygon, [&](Point a, Point b) {

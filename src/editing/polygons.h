@@ -1,8 +1,7 @@
 // Points, boxes and areas of the plan, in mm.
 #pragma once
 
-#include "document/records.h"
-#include "editing/selection.h"
+#include "geometry/box.h"
 
 #include <string_view>
 #include <vector>
@@ -12,7 +11,6 @@ namespace trassix {
 /// Corners of a closed area; the last one is joined to the first.
 using Polygon = std::vector<Point>;
 
-bool holds(const Box& box, Point p);
 bool inside(const Polygon& polygon, Point at);
 Point nearestOnEdge(Point at, Point a, Point b);
 double distanceToEdge(Point at, Point a, Point b);

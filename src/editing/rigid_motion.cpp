@@ -38,12 +38,6 @@ bool staysInLimits(const PlanContent& content, const RigidMotion& motion, double
          all(content.shapes, [&](const Shape& s) { return std::ranges::all_of(s.points, lands); });
 }
 
-bool isStill(const Pose& from, const Pose& to) {
-  constexpr double kRounding = 1e-6; // mm and degrees
-  return std::hypot(to.x - from.x, to.y - from.y) <= kRounding &&
-         headingDifference(to.heading, from.heading) <= kRounding;
-}
-
 void moveSelectedBodies(PlanContent& content, const RigidMotion& motion) {
   movePoses(content.pieces, motion);
   movePoses(content.scenery, motion);

@@ -3,6 +3,7 @@
 
 #include "document/layout.h"
 #include "editing/edit_result.h"
+#include "geometry/box.h"
 
 #include <cstdint>
 #include <optional>
@@ -10,15 +11,6 @@
 #include <vector>
 
 namespace trassix {
-
-struct Box {
-  double minX = 0;
-  double minY = 0;
-  double maxX = 0;
-  double maxY = 0;
-
-  bool operator==(const Box&) const = default;
-};
 
 bool hasSelection(const Layout& layout);                        ///< any record at all
 std::vector<std::int32_t> selectedPieces(const Layout& layout); ///< ids, sorted

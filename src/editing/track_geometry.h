@@ -2,7 +2,7 @@
 #pragma once
 
 #include "catalog/piece_def.h"
-#include "document/records.h"
+#include "geometry/point.h"
 
 #include <utility>
 #include <vector>

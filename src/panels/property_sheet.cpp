@@ -8,6 +8,7 @@
 #include "editing/property_edits.h"
 #include "editing/routes.h"
 #include "editing/scenery_footprint.h"
+#include "editing/selection.h"
 #include "panels/measure_input.h"
 #include "panels/tally.h"
 

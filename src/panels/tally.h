@@ -3,7 +3,7 @@
 
 #include "catalog/track_system.h"
 #include "document/layout.h"
-#include "editing/selection.h"
+#include "geometry/box.h"
 
 #include <array>
 #include <cstdint>

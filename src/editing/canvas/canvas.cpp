@@ -10,6 +10,7 @@
 #include "editing/canvas/select_tool.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/content_box.h"
+#include "editing/selection.h"
 
 #include <bit>
 #include <cmath>

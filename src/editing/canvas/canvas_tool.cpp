@@ -1,6 +1,7 @@
 #include "editing/canvas/canvas_tool.h"
 
 #include "editing/content_box.h"
+#include "editing/selection.h"
 
 namespace trassix {
 

@@ -5,7 +5,7 @@
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
 #include "editing/plan_index.h"
-#include "editing/selection.h"
+#include "geometry/box.h"
 
 #include <cstdint>
 #include <optional>

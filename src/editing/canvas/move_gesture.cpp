@@ -5,6 +5,7 @@
 #include "editing/canvas/selection_commands.h"
 #include "editing/picking.h"
 #include "editing/scenery_footprint.h"
+#include "editing/selection.h"
 
 #include <algorithm>
 #include <cmath>

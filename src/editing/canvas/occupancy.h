@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/records.h"
+#include "geometry/point.h"
 #include "editing/canvas/surface.h"
 
 #include <vector>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "document/records.h"
+#include "document/color.h"
+#include "geometry/point.h"
 
 #include <cstdint>
 #include <optional>

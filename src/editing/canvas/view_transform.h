@@ -1,7 +1,6 @@
 #pragma once
 
-#include "document/records.h"
-#include "editing/selection.h"
+#include "geometry/box.h"
 
 #include <span>
 #include <vector>
