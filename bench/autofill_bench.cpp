@@ -1,7 +1,7 @@
 // Filling straight gaps from 2 mm to 10 m in each system: the slowest of them, and all of them
 // against the listing of all combinations that is written down most plainly.
 #include "catalog/plain_track.h"
-#include "editing/straight_fill.h"
+#include "editing/autofill/straight_fill.h"
 #include "ratio.h"
 
 #include <cmath>

@@ -2,11 +2,11 @@
 // piece has an id. Against plain loops over all pieces, on plans of very different sizes and with
 // ids in another order.
 #include "catalog/track_catalog.h"
-#include "editing/joining.h"
-#include "editing/piece_outline.h"
-#include "editing/placing.h"
-#include "editing/plan_index.h"
-#include "editing/snapping.h"
+#include "editing/joining/joining.h"
+#include "editing/joining/snapping.h"
+#include "editing/placing/placing.h"
+#include "editing/selection/plan_index.h"
+#include "editing/track/piece_outline.h"
 #include "ratio.h"
 
 #include <cmath>

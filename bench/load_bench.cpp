@@ -2,7 +2,7 @@
 // conversion of the same attributes from its tree. The parser's side does not even build records.
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
-#include "document/number_text.h"
+#include "measures/number_text.h"
 #include "ratio.h"
 #include "support/random_plan.h"
 

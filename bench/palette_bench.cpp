@@ -1,5 +1,5 @@
 // Filling the palette with the largest system, drawings included, as when a system is chosen.
-#include "editing/track_geometry.h"
+#include "editing/track/track_geometry.h"
 #include "panels/palette_model.h"
 #include "ratio.h"
 

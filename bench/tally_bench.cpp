@@ -1,6 +1,6 @@
 // The tally of a large plan, recomputed after each change.
 #include "catalog/track_catalog.h"
-#include "editing/selection.h"
+#include "editing/selection/selection.h"
 #include "panels/property_sheet.h"
 #include "panels/tally.h"
 #include "ratio.h"

@@ -2,9 +2,9 @@
 
 #include "document/block_file.h"
 #include "document/layout_writer.h"
-#include "editing/annotations.h"
-#include "editing/placing.h"
-#include "editing/selection.h"
+#include "editing/placing/placing.h"
+#include "editing/scenery/annotations.h"
+#include "editing/selection/selection.h"
 
 #include <vector>
 

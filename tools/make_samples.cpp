@@ -1,8 +1,8 @@
 // Writes the sample plans: make_samples FOLDER. Each is built piece by piece with the functions
 // that also serve the mouse, so that every joint is what the program itself would have made.
 #include "document/layout_writer.h"
-#include "editing/annotations.h"
-#include "editing/placing.h"
+#include "editing/placing/placing.h"
+#include "editing/scenery/annotations.h"
 #include "support/plan.h"
 
 #include <cstdio>
@@ -433,10 +433,10 @@ Sample cTrackTwoTowns() {
   s.scenery("house.two", 1380, -260);
   s.scenery("farm.barn", 1560, -240, 15);
   s.scenery("farm.house", 1720, -270, 350);
-  s.trees({{90, 390}, {120, 500}, {1320, -350}, {1480, -340}, {1650, -350},
-           {1800, -220}, {1840, -350}, {1260, 760}, {1340, 740}, {1100, 770}, {1840, 60},
-           {1860, 420}, {1850, 760}, {1820, 1000}, {1650, 1030}, {300, 1030}, {620, 1030},
-           {940, 1035}, {1240, 1030}, {1840, -560}, {1700, -620}, {1590, -540}});
+  s.trees({{90, 390},    {120, 500},   {1320, -350}, {1480, -340}, {1650, -350}, {1800, -220},
+           {1840, -350}, {1260, 760},  {1340, 740},  {1100, 770},  {1840, 60},   {1860, 420},
+           {1850, 760},  {1820, 1000}, {1650, 1030}, {300, 1030},  {620, 1030},  {940, 1035},
+           {1240, 1030}, {1840, -560}, {1700, -620}, {1590, -540}});
   s.label(650, -290, "Lindenau");
   s.label(1010, 745, "Engine yard");
 
@@ -446,8 +446,8 @@ Sample cTrackTwoTowns() {
   hill.height = 150;
   hill.trackcolor = true;
   hill.color = {186, 142, 96};
-  hill.outline = {{-680, -700}, {1500, -700}, {1500, -440}, {260, -420}, {20, -250},
-                  {-20, 200}, {-20, 1060}, {-680, 1060}};
+  hill.outline = {{-680, -700}, {1500, -700}, {1500, -440}, {260, -420},
+                  {20, -250},   {-20, 200},   {-20, 1060},  {-680, 1060}};
   s.layout.editSettings().levels.push_back(hill);
   s.layout.editSettings().activeLevel = 2;
   s.place("24630", {-200, 250, 90});
@@ -464,9 +464,23 @@ Sample cTrackTwoTowns() {
   s.scenery("house.two", -560, 420, 350);
   s.scenery("castle.ruin", 60, -590);
   s.scenery("inn", 1050, -640);
-  s.trees({{-620, -600}, {-540, -520}, {-600, -420}, {-500, -300}, {-600, -160}, {-420, -640},
-           {-620, 60}, {-560, 220}, {-620, 860}, {-540, 1000}, {-440, 1010}, {-80, 980},
-           {420, -660}, {800, -660}, {1250, -650}, {1420, -500}, {1440, -640}});
+  s.trees({{-620, -600},
+           {-540, -520},
+           {-600, -420},
+           {-500, -300},
+           {-600, -160},
+           {-420, -640},
+           {-620, 60},
+           {-560, 220},
+           {-620, 860},
+           {-540, 1000},
+           {-440, 1010},
+           {-80, 980},
+           {420, -660},
+           {800, -660},
+           {1250, -650},
+           {1420, -500},
+           {1440, -640}});
   s.label(-200, 1010, "Hochfels");
 
   s.layout.editSettings().activeLevel = 1;

@@ -5,11 +5,11 @@
 #include "catalog/track_catalog.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/layout_painter.h"
-#include "editing/joining.h"
-#include "editing/picking.h"
-#include "editing/placing.h"
+#include "editing/joining/joining.h"
+#include "editing/placing/placing.h"
+#include "editing/selection/picking.h"
 #include "ratio.h"
-#include "ui/gc_surface.h"
+#include "ui/canvas/gc_surface.h"
 
 #include <wx/app.h>
 #include <wx/bitmap.h>

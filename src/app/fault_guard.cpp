@@ -1,11 +1,11 @@
 #include "app/fault_guard.h"
 
+#include "app/desktop/path_text.h"
 #include "app/services/diagnostic_log.h"
-#include "app/services/path_text.h"
 #include "document/text_file.h"
-#include "ui/canvas_panel.h"
-#include "ui/main_frame.h"
-#include "ui/utf8.h"
+#include "ui/canvas/canvas_panel.h"
+#include "ui/frame/main_frame.h"
+#include "ui/widgets/utf8.h"
 
 #include <wx/msgdlg.h>
 

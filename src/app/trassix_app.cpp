@@ -1,14 +1,14 @@
 #include "app/trassix_app.h"
 
+#include "app/desktop/standard_folders.h"
+#include "app/desktop/user_paths.h"
 #include "app/fault_guard.h"
 #include "app/services/app_prefs.h"
 #include "app/services/diagnostic_log.h"
-#include "app/services/standard_folders.h"
-#include "app/services/user_paths.h"
 #include "catalog/track_catalog.h"
 #include "document/text_file.h"
-#include "ui/main_frame.h"
-#include "ui/splash_dialog.h"
+#include "ui/dialogs/splash_dialog.h"
+#include "ui/frame/main_frame.h"
 
 #include <wx/evtloop.h>
 #include <wx/image.h>

@@ -2,7 +2,7 @@
 
 #include "document/layout.h"
 #include "document/limits.h"
-#include "document/number_text.h"
+#include "measures/number_text.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/number_text.h"
+#include "measures/number_text.h"
 
 #include <cmath>
 #include <cstdint>

@@ -1,16 +1,6 @@
 #include "document/limits.h"
 
-#include <algorithm>
-
 namespace trassix {
-
-bool inLimits(Point p) {
-  return isLength(p.x) && isLength(p.y);
-}
-
-bool inLimits(const std::vector<Point>& points) {
-  return std::ranges::all_of(points, [](Point p) { return inLimits(p); });
-}
 
 bool inLimits(const PlacedPiece& piece) {
   return isLength(piece.x) && isLength(piece.y) && isLength(piece.z);

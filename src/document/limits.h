@@ -3,24 +3,17 @@
 #pragma once
 
 #include "document/records.h"
-
-#include <cmath>
+#include "geometry/lengths.h"
 
 namespace trassix {
 
-inline constexpr double kFarthest = 1'000'000; ///< mm from the origin, also up and down
 inline constexpr double kSmallestScale = 0.001;
 inline constexpr double kLargestScale = 1000;
 
-inline bool isLength(double mm) {
-  return std::abs(mm) <= kFarthest; // false for NaN
-}
 inline bool isScale(double scale) {
   return scale >= kSmallestScale && scale <= kLargestScale;
 }
 
-bool inLimits(Point p);
-bool inLimits(const std::vector<Point>& points);
 bool inLimits(const PlacedPiece& piece);
 bool inLimits(const SceneryItem& item);
 bool inLimits(const Label& label);

@@ -4,7 +4,7 @@
 
 #include "document/element_reader.h"
 #include "document/layout_reader.h"
-#include "document/number_text.h"
+#include "measures/number_text.h"
 
 #include <algorithm>
 #include <cstdint>

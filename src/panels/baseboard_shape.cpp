@@ -1,6 +1,6 @@
 #include "panels/baseboard_shape.h"
 
-#include "editing/measure_format.h"
+#include "measures/measure_format.h"
 
 #include <cmath>
 

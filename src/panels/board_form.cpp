@@ -1,10 +1,10 @@
 #include "panels/board_form.h"
 
 #include "document/limits.h"
-#include "editing/content_box.h"
-#include "editing/level_edits.h"
-#include "editing/measure_format.h"
-#include "editing/polygons.h"
+#include "editing/levels/level_edits.h"
+#include "editing/selection/content_box.h"
+#include "geometry/polygons.h"
+#include "measures/measure_format.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "panels/length_entry.h"
 
-#include "editing/measure_format.h"
-#include "panels/measure_input.h"
+#include "measures/measure_format.h"
+#include "measures/measure_input.h"
 
 namespace trassix {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/layout.h"
-#include "editing/level_edits.h"
+#include "editing/levels/level_edits.h"
 #include "panels/length_entry.h"
 
 #include <cstddef>

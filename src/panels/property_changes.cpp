@@ -1,13 +1,13 @@
 #include "panels/property_changes.h"
 
 #include "document/limits.h"
-#include "editing/annotations.h"
-#include "editing/joining.h"
-#include "editing/measure_format.h"
-#include "editing/property_edits.h"
-#include "editing/scenery_footprint.h"
-#include "editing/selection.h"
-#include "panels/measure_input.h"
+#include "editing/joining/joining.h"
+#include "editing/scenery/annotations.h"
+#include "editing/scenery/scenery_footprint.h"
+#include "editing/selection/property_edits.h"
+#include "editing/selection/selection.h"
+#include "measures/measure_format.h"
+#include "measures/measure_input.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 #include "panels/shape_form.h"
 
-#include "editing/annotations.h"
-#include "editing/measure_format.h"
-#include "editing/polygons.h"
+#include "editing/scenery/annotations.h"
+#include "geometry/polygons.h"
+#include "measures/measure_format.h"
 
 #include <algorithm>
 #include <cmath>

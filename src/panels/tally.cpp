@@ -1,9 +1,9 @@
 #include "panels/tally.h"
 
 #include "catalog/track_catalog.h"
-#include "editing/connector_geometry.h"
-#include "editing/routes.h"
-#include "editing/track_geometry.h"
+#include "editing/track/connector_geometry.h"
+#include "editing/track/routes.h"
+#include "editing/track/track_geometry.h"
 #include "panels/palette_model.h"
 
 #include <algorithm>

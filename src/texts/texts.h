@@ -28,8 +28,8 @@ class TextPart {
   TextPart(std::string_view words) : words_(words) {}   // NOLINT(google-explicit-constructor)
   TextPart(const std::string& words) : words_(words) {} // NOLINT(google-explicit-constructor)
   template <std::integral Number>
-    requires(!std::same_as<Number, bool> && !std::same_as<Number, char>)
-  TextPart(Number number) // NOLINT(google-explicit-constructor)
+  requires(!std::same_as<Number, bool> && !std::same_as<Number, char>)
+      TextPart(Number number) // NOLINT(google-explicit-constructor)
       : words_(std::to_string(number)) {}
 
   const std::string& words() const { return words_; }

@@ -1,9 +1,9 @@
 #include "support/plan.h"
 
 #include "catalog/track_catalog.h"
-#include "editing/joining.h"
-#include "editing/placing.h"
-#include "editing/snapping.h"
+#include "editing/joining/joining.h"
+#include "editing/joining/snapping.h"
+#include "editing/placing/placing.h"
 
 #include <algorithm>
 #include <cmath>

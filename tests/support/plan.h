@@ -2,7 +2,7 @@
 #pragma once
 
 #include "document/layout.h"
-#include "editing/connector_geometry.h"
+#include "editing/track/connector_geometry.h"
 
 #include <cstdint>
 #include <functional>

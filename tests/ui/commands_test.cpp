@@ -1,9 +1,9 @@
 #include "driver.h"
-#include "editing/selection.h"
+#include "editing/selection/selection.h"
 #include "frame_test.h"
-#include "ui/canvas_panel.h"
-#include "ui/command_ids.h"
-#include "ui/command_table.h"
+#include "host/command_ids.h"
+#include "ui/canvas/canvas_panel.h"
+#include "ui/commands/command_table.h"
 
 #include <gmock/gmock.h>
 #include <wx/menu.h>

@@ -2,8 +2,8 @@
 
 #include "driver.h"
 #include "frame_test.h"
-#include "ui/canvas_panel.h"
-#include "ui/command_ids.h"
+#include "host/command_ids.h"
+#include "ui/canvas/canvas_panel.h"
 
 #include <gtest/gtest.h>
 #include <wx/button.h>

@@ -1,10 +1,10 @@
 #include "document/layout_writer.h"
 #include "driver.h"
-#include "editing/annotations.h"
+#include "editing/scenery/annotations.h"
 #include "frame_test.h"
+#include "host/command_ids.h"
 #include "support/plain_user.h"
-#include "ui/canvas_panel.h"
-#include "ui/command_ids.h"
+#include "ui/canvas/canvas_panel.h"
 
 #include <wx/button.h>
 #include <wx/menu.h>

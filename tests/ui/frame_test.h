@@ -1,7 +1,7 @@
 #pragma once
 
-#include "editing/placing.h"
-#include "ui/main_frame.h"
+#include "editing/placing/placing.h"
+#include "ui/frame/main_frame.h"
 #include "ui_test.h"
 
 #include <wx/listbox.h>

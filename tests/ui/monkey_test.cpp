@@ -6,8 +6,8 @@
 #include "driver.h"
 #include "frame_test.h"
 #include "support/plan.h"
-#include "ui/canvas_panel.h"
-#include "ui/command_table.h"
+#include "ui/canvas/canvas_panel.h"
+#include "ui/commands/command_table.h"
 
 #include <wx/menu.h>
 #include <wx/msgdlg.h>

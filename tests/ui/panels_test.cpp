@@ -1,12 +1,12 @@
 // The right-hand side: properties, tally and purchase list, with real keys where a user types.
 #include "driver.h"
-#include "editing/annotations.h"
-#include "editing/selection.h"
+#include "editing/scenery/annotations.h"
+#include "editing/selection/selection.h"
 #include "frame_test.h"
+#include "host/command_ids.h"
 #include "panels/owned_stock.h"
 #include "support/print_records.h"
-#include "ui/command_ids.h"
-#include "ui/tally_panel.h"
+#include "ui/properties/tally_panel.h"
 
 #include <gmock/gmock.h>
 #include <wx/checkbox.h>

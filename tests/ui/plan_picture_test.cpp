@@ -2,7 +2,7 @@
 #include "document/layout_reader.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/canvas/plan_colors.h"
-#include "ui/gc_surface.h"
+#include "ui/canvas/gc_surface.h"
 #include "ui_test.h"
 
 #include <wx/dcmemory.h>

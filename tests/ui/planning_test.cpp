@@ -3,9 +3,9 @@
 #include "driver.h"
 #include "support/plan.h"
 #include "support/print_records.h"
-#include "ui/canvas_panel.h"
-#include "ui/catalog_list.h"
-#include "ui/main_frame.h"
+#include "ui/canvas/canvas_panel.h"
+#include "ui/frame/main_frame.h"
+#include "ui/palette/catalog_list.h"
 #include "ui_test.h"
 
 #include <wx/listbox.h>

@@ -1,5 +1,5 @@
 #include "driver.h"
-#include "ui/main_frame.h"
+#include "ui/frame/main_frame.h"
 #include "ui_test.h"
 
 #include <wx/app.h>

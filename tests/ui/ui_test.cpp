@@ -2,8 +2,8 @@
 
 #include "app/trassix_app.h"
 #include "driver.h"
-#include "ui/canvas_panel.h"
-#include "ui/main_frame.h"
+#include "ui/canvas/canvas_panel.h"
+#include "ui/frame/main_frame.h"
 
 #include <gmock/gmock.h>
 #include <wx/evtloop.h>

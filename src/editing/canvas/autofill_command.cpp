@@ -1,8 +1,8 @@
 #include "editing/canvas/autofill_command.h"
 
-#include "editing/autofill.h"
-#include "editing/autofill_messages.h"
-#include "editing/selection.h"
+#include "editing/autofill/autofill.h"
+#include "editing/autofill/autofill_messages.h"
+#include "editing/selection/selection.h"
 
 namespace trassix {
 

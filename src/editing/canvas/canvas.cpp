@@ -9,8 +9,8 @@
 #include "editing/canvas/polygon_tool.h"
 #include "editing/canvas/select_tool.h"
 #include "editing/canvas/selection_commands.h"
-#include "editing/content_box.h"
-#include "editing/selection.h"
+#include "editing/selection/content_box.h"
+#include "editing/selection/selection.h"
 
 #include <bit>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "editing/canvas/canvas_tool.h"
 
-#include "editing/content_box.h"
-#include "editing/selection.h"
+#include "editing/selection/content_box.h"
+#include "editing/selection/selection.h"
 
 namespace trassix {
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "document/records.h"
-#include "editing/canvas/layout_host.h"
 #include "editing/canvas/plan_clipboard.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
-#include "editing/plan_index.h"
-#include "editing/snapping.h"
+#include "editing/joining/snapping.h"
+#include "editing/selection/plan_index.h"
+#include "host/layout_host.h"
 
 #include <cstdint>
 #include <functional>

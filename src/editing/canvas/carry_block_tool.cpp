@@ -1,10 +1,10 @@
 #include "editing/canvas/carry_block_tool.h"
 
 #include "catalog/track_catalog.h"
-#include "editing/block_placing.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
-#include "editing/scenery_footprint.h"
+#include "editing/placing/block_placing.h"
+#include "editing/scenery/scenery_footprint.h"
 
 namespace trassix {
 

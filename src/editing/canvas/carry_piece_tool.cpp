@@ -2,7 +2,7 @@
 
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
-#include "editing/placing.h"
+#include "editing/placing/placing.h"
 
 namespace trassix {
 

@@ -2,7 +2,7 @@
 
 #include "catalog/piece_def.h"
 #include "editing/canvas/carry_tool.h"
-#include "editing/inserting.h"
+#include "editing/placing/inserting.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "editing/canvas/carry_scenery_tool.h"
 
 #include "editing/canvas/plan_colors.h"
-#include "editing/placing.h"
-#include "editing/scenery_footprint.h"
+#include "editing/placing/placing.h"
+#include "editing/scenery/scenery_footprint.h"
 
 namespace trassix {
 

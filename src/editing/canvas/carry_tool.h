@@ -1,7 +1,7 @@
 #pragma once
 
 #include "editing/canvas/canvas_tool.h"
-#include "editing/connector_geometry.h"
+#include "editing/track/connector_geometry.h"
 
 #include <set>
 #include <string>

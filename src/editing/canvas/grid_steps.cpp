@@ -1,6 +1,6 @@
 #include "editing/canvas/grid_steps.h"
 
-#include "editing/measure_format.h"
+#include "measures/measure_format.h"
 
 #include <algorithm>
 #include <array>

@@ -4,9 +4,9 @@
 #include "catalog/track_catalog.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
-#include "editing/measure_format.h"
 #include "editing/records_by_id.h"
-#include "editing/scenery_footprint.h"
+#include "editing/scenery/scenery_footprint.h"
+#include "measures/measure_format.h"
 
 #include <array>
 #include <cmath>

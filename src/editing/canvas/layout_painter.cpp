@@ -5,11 +5,11 @@
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
-#include "editing/connector_geometry.h"
-#include "editing/measure_format.h"
-#include "editing/picking.h"
-#include "editing/scenery_footprint.h"
-#include "editing/track_geometry.h"
+#include "editing/scenery/scenery_footprint.h"
+#include "editing/selection/picking.h"
+#include "editing/track/connector_geometry.h"
+#include "editing/track/track_geometry.h"
+#include "measures/measure_format.h"
 
 #include <algorithm>
 #include <cmath>

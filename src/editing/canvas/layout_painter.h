@@ -4,7 +4,7 @@
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
-#include "editing/plan_index.h"
+#include "editing/selection/plan_index.h"
 #include "geometry/box.h"
 
 #include <cstdint>

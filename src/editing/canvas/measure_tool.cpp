@@ -1,8 +1,8 @@
 #include "editing/canvas/measure_tool.h"
 
-#include "editing/annotations.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/scenery/annotations.h"
 
 #include <cmath>
 

@@ -3,9 +3,9 @@
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/selection_commands.h"
-#include "editing/picking.h"
-#include "editing/scenery_footprint.h"
-#include "editing/selection.h"
+#include "editing/scenery/scenery_footprint.h"
+#include "editing/selection/picking.h"
+#include "editing/selection/selection.h"
 
 #include <algorithm>
 #include <cmath>

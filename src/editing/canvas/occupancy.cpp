@@ -1,6 +1,6 @@
 #include "editing/canvas/occupancy.h"
 
-#include "editing/connector_geometry.h"
+#include "editing/track/connector_geometry.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "geometry/point.h"
 #include "editing/canvas/surface.h"
+#include "geometry/point.h"
 
 #include <vector>
 

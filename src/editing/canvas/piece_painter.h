@@ -3,8 +3,8 @@
 #include "catalog/piece_def.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
-#include "editing/connector_geometry.h"
-#include "editing/track_geometry.h"
+#include "editing/track/connector_geometry.h"
+#include "editing/track/track_geometry.h"
 
 #include <optional>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/block_file.h"
-#include "editing/canvas/layout_host.h"
+#include "host/layout_host.h"
 
 #include <string>
 

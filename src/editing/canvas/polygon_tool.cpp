@@ -1,10 +1,10 @@
 #include "editing/canvas/polygon_tool.h"
 
 #include "document/limits.h"
-#include "editing/annotations.h"
 #include "editing/canvas/plan_colors.h"
-#include "editing/level_edits.h"
-#include "editing/polygons.h"
+#include "editing/levels/level_edits.h"
+#include "editing/scenery/annotations.h"
+#include "geometry/polygons.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "editing/canvas/gesture.h"
 #include "editing/canvas/plan_colors.h"
-#include "editing/picking.h"
+#include "editing/selection/picking.h"
 
 #include <algorithm>
 #include <array>

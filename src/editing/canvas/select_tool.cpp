@@ -3,8 +3,8 @@
 #include "editing/canvas/hover.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/canvas/selection_menu.h"
-#include "editing/placing.h"
-#include "editing/selection.h"
+#include "editing/placing/placing.h"
+#include "editing/selection/selection.h"
 
 #include <algorithm>
 

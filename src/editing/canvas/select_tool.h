@@ -2,7 +2,7 @@
 
 #include "editing/canvas/canvas_tool.h"
 #include "editing/canvas/gesture.h"
-#include "editing/picking.h"
+#include "editing/selection/picking.h"
 
 #include <memory>
 #include <optional>

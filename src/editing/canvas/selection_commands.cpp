@@ -1,10 +1,10 @@
 #include "editing/canvas/selection_commands.h"
 
-#include "editing/annotations.h"
-#include "editing/block_placing.h"
-#include "editing/picking.h"
+#include "editing/placing/block_placing.h"
 #include "editing/records_by_id.h"
-#include "editing/selection.h"
+#include "editing/scenery/annotations.h"
+#include "editing/selection/picking.h"
+#include "editing/selection/selection.h"
 
 namespace trassix {
 

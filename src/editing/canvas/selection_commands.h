@@ -2,7 +2,7 @@
 #pragma once
 
 #include "editing/canvas/canvas_tool.h"
-#include "editing/moving.h"
+#include "editing/selection/moving.h"
 
 #include <cstdint>
 

@@ -1,13 +1,13 @@
 #include "editing/canvas/selection_menu.h"
 
 #include "document/limits.h"
-#include "editing/annotations.h"
-#include "editing/autofill.h"
+#include "editing/autofill/autofill.h"
 #include "editing/canvas/autofill_command.h"
 #include "editing/canvas/selection_commands.h"
-#include "editing/placing.h"
-#include "editing/selection.h"
-#include "editing/swapping.h"
+#include "editing/placing/placing.h"
+#include "editing/placing/swapping.h"
+#include "editing/scenery/annotations.h"
+#include "editing/selection/selection.h"
 
 namespace trassix {
 

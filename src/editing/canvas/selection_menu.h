@@ -1,7 +1,7 @@
 #pragma once
 
 #include "editing/canvas/canvas_tool.h"
-#include "editing/picking.h"
+#include "editing/selection/picking.h"
 
 #include <vector>
 

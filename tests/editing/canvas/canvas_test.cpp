@@ -1,7 +1,7 @@
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/recording_surface.h"
-#include "editing/placing.h"
+#include "editing/placing/placing.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "editing/canvas/layout_host.h"
-#include "editing/selection.h"
+#include "editing/selection/selection.h"
+#include "host/layout_host.h"
 
 #include <deque>
 

@@ -1,5 +1,5 @@
 #include "editing/canvas/canvas_script.h"
-#include "editing/placing.h"
+#include "editing/placing/placing.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 

@@ -1,0 +1,218 @@
+#include "editing/levels/level_edits.h"
+
+#include "document/limits.h"
+#include "document/undo_scope.h"
+#include "editing/joining/joining.h"
+#include "editing/selection/selection.h"
+#include "geometry/polygons.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+
+namespace trassix {
+
+namespace {
+
+constexpr std::size_t kFewestCorners = 3;
+constexpr double kStep = 1e-6; // mm: anything less is rounding
+
+/// What becomes of a level and what stands there.
+struct Fate {
+  std::optional<std::int32_t> level; ///< none: it is deleted
+  double rise = 0;                   ///< mm
+};
+
+using Fates = std::map<std::int32_t, Fate>;
+
+Fates fatesOf(const Layout& layout, const LevelChange& wanted) {
+  std::map<std::int32_t, double> heights;
+  for (const Level& level : wanted.levels)
+    heights[level.id] = level.height;
+  Fates fates;
+  for (const auto& [level, height] : heights)
+    fates[level] = {level, height - deckHeight(layout, level)};
+  for (const auto& [level, heir] : wanted.heirs) {
+    Fate& fate = fates[level];
+    fate = {heir, 0};
+    if (heir && heights.contains(*heir))
+      fate.rise = heights[*heir] - deckHeight(layout, level);
+  }
+  return fates;
+}
+
+bool staysInLimits(const Layout& layout, const LevelChange& wanted, const Fates& fates) {
+  return std::ranges::all_of(wanted.levels, [](const Level& level) { return inLimits(level); }) &&
+         std::ranges::all_of(layout.pieces(), [&fates](const PlacedPiece& piece) {
+           const auto fate = fates.find(piece.level);
+           return fate == fates.end() || isLength(piece.z + fate->second.rise);
+         });
+}
+
+void removeDoomed(PlanContent& content, const Fates& fates) {
+  const auto doomed = [&fates](const auto& record) {
+    const auto fate = fates.find(record.level);
+    return fate != fates.end() && !fate->second.level;
+  };
+  std::vector<std::int32_t> pieces;
+  for (const PlacedPiece& piece : content.pieces)
+    if (doomed(piece))
+      pieces.push_back(piece.id);
+  std::ranges::sort(pieces);
+  if (!pieces.empty())
+    removePieces(content, pieces);
+  std::erase_if(content.scenery, doomed);
+  std::erase_if(content.shapes, doomed);
+}
+
+/// Pieces that rise, by id.
+using Rises = std::unordered_map<std::int32_t, double>;
+
+Rises moveToFates(PlanContent& content, const Fates& fates) {
+  Rises rises;
+  const auto move = [&fates](auto& record) {
+    const auto fate = fates.find(record.level);
+    if (fate == fates.end())
+      return 0.0;
+    record.level = *fate->second.level;
+    return fate->second.rise;
+  };
+  for (PlacedPiece& piece : content.pieces) {
+    const double rise = move(piece);
+    if (rise == 0)
+      continue;
+    piece.z += rise;
+    rises[piece.id] = rise;
+  }
+  std::ranges::for_each(content.scenery, move);
+  std::ranges::for_each(content.shapes, move);
+  return rises;
+}
+
+void openSteps(Layout& layout, const Rises& rises) {
+  const auto riseOf = [&rises](std::int32_t piece) {
+    const auto found = rises.find(piece);
+    return found == rises.end() ? 0.0 : found->second;
+  };
+  std::vector<std::int32_t> risen;
+  for (const auto& [id, rise] : rises) {
+    risen.push_back(id);
+    const JointTable joints = layout.findPiece(id)->joints;
+    for (std::size_t i = 0; i < joints.size(); ++i)
+      if (!joints[i].open() && std::abs(rise - riseOf(joints[i].target)) > kStep)
+        openJoint(layout, id, static_cast<std::int32_t>(i));
+  }
+  std::ranges::sort(risen);
+  closeMeetingEnds(layout, risen, MeetingPlay::none());
+}
+
+void removeShape(Layout& layout, std::int32_t id) {
+  std::erase_if(layout.edit().shapes, [id](const Shape& shape) { return shape.id == id; });
+}
+
+} // namespace
+
+std::size_t countOnLevel(const Layout& layout, std::int32_t level) {
+  const auto count = [level](const auto& records) {
+    return static_cast<std::size_t>(std::ranges::count_if(
+        records, [level](const auto& record) { return record.level == level; }));
+  };
+  const PlanContent& content = layout.content();
+  return count(content.pieces) + count(content.scenery) + count(content.shapes);
+}
+
+double deckHeight(const Layout& layout, std::int32_t level) {
+  if (layout.findLevel(level) != nullptr)
+    return layout.levelHeight(level);
+  std::optional<double> lowest;
+  for (const PlacedPiece& piece : layout.pieces())
+    if (piece.level == level)
+      lowest = std::min(piece.z, lowest.value_or(piece.z));
+  return lowest.value_or(0);
+}
+
+std::string levelLock(const Layout& layout, std::int32_t level) {
+  std::vector<std::int32_t> ids;
+  for (const PlacedPiece& piece : layout.pieces()) {
+    if (piece.level != level)
+      continue;
+    ids.push_back(piece.id);
+    if (piece.helix != -1)
+      return "Track of a helix stands on this level.";
+  }
+  for (const SceneryItem& item : layout.content().scenery)
+    if (item.level == level)
+      ids.push_back(item.id);
+  std::ranges::sort(ids);
+  for (const Tunnel& tunnel : layout.content().tunnels)
+    if (containsId(ids, tunnel.portalA) || containsId(ids, tunnel.portalB) ||
+        std::ranges::any_of(tunnel.covers, [&ids](std::int32_t id) { return containsId(ids, id); }))
+      return "A tunnel runs over this level.";
+  return {};
+}
+
+ChangeResult setLevels(Layout& layout, const LevelChange& wanted) {
+  const PlanSettings& present = layout.settings();
+  if (wanted.levels.empty() ||
+      (present.levels == wanted.levels && present.activeLevel == wanted.activeLevel &&
+       wanted.heirs.empty() && !wanted.usedShape))
+    return false;
+  const Fates fates = fatesOf(layout, wanted);
+  if (!staysInLimits(layout, wanted, fates))
+    return beyondPlan();
+  UndoScope step(layout);
+  removeDoomed(layout.edit(), fates);
+  openSteps(layout, moveToFates(layout.edit(), fates));
+  if (wanted.usedShape)
+    removeShape(layout, *wanted.usedShape);
+  PlanSettings& settings = layout.editSettings();
+  settings.levels = wanted.levels;
+  settings.activeLevel = wanted.activeLevel;
+  deselectHidden(layout);
+  return step.keep();
+}
+
+bool setLevelOutline(Layout& layout, std::int32_t level, const std::vector<Point>& outline) {
+  const Level* present = layout.findLevel(level);
+  if (present == nullptr || !outlineProblem(outline).empty() || present->outline == outline)
+    return false;
+  UndoScope step(layout);
+  std::ranges::find(layout.editSettings().levels, level, &Level::id)->outline = outline;
+  return step.keep();
+}
+
+bool setBaseboard(Layout& layout, const std::vector<Point>& outline, const LastShape& shape) {
+  const std::vector<Point> wanted =
+      outline.size() < kFewestCorners ? std::vector<Point>{} : outline;
+  const PlanSettings& present = layout.settings();
+  if ((present.baseboard == wanted && present.lastShape == shape) ||
+      (!wanted.empty() && !outlineProblem(wanted).empty()))
+    return false;
+  UndoScope step(layout);
+  PlanSettings& settings = layout.editSettings();
+  settings.baseboard = wanted;
+  settings.lastShape = shape;
+  return step.keep();
+}
+
+bool useAsBaseboard(Layout& layout, std::int32_t shape) {
+  const auto& shapes = layout.content().shapes;
+  const auto found = std::ranges::find(shapes, shape, &Shape::id);
+  if (found == shapes.end() || !outlineProblem(found->points).empty())
+    return false;
+  UndoScope step(layout);
+  layout.editSettings().baseboard = found->points;
+  removeShape(layout, shape);
+  return step.keep();
+}
+
+const Shape* selectedShape(const Layout& layout) {
+  const auto& shapes = layout.content().shapes;
+  const auto found = std::ranges::find(shapes, true, &Shape::sel);
+  if (found == shapes.end() || !outlineProblem(found->points).empty() ||
+      std::ranges::count(shapes, true, &Shape::sel) > 1)
+    return nullptr;
+  return &*found;
+}
+
+} // namespace trassix

@@ -1,0 +1,124 @@
+#include "editing/selection/plan_index.h"
+
+#include "editing/track/piece_outline.h"
+
+#include <boost/geometry/geometries/box.hpp>
+#include <boost/geometry/geometries/point_xy.hpp>
+#include <boost/geometry/index/rtree.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <utility>
+
+namespace trassix {
+
+namespace {
+
+namespace bg = boost::geometry;
+
+using TreePoint = bg::model::d2::point_xy<double>;
+using TreeBox = bg::model::box<TreePoint>;
+using TreeEntry = std::pair<TreeBox, std::uint32_t>;
+
+TreeBox treeBox(const Box& box, double margin = 0) {
+  return {{box.minX - margin, box.minY - margin}, {box.maxX + margin, box.maxY + margin}};
+}
+
+constexpr double kRounding = 1e-6; // mm, more than the boxes' corners are off
+
+/// True when a piece with these bounds certainly lies in the box.
+bool encloses(const Box& box, const TreeBox& bounds) {
+  return bounds.min_corner().x() >= box.minX + kRounding &&
+         bounds.max_corner().x() <= box.maxX - kRounding &&
+         bounds.min_corner().y() >= box.minY + kRounding &&
+         bounds.max_corner().y() <= box.maxY - kRounding;
+}
+
+} // namespace
+
+struct PlanIndex::Data {
+  struct Entry {
+    const PieceDef* definition = nullptr;
+    const PieceOutline* outline = nullptr;
+    Pose pose;
+    std::uint32_t order = 0; ///< place in drawing order
+  };
+
+  std::uint64_t revision = 0;
+  std::vector<Entry> entries; // by position in the document
+  bg::index::rtree<TreeEntry, bg::index::rstar<16>> tree;
+
+  /// Positions whose box meets `box` and that pass `test(entry, its box)`, in drawing order.
+  template <class Test>
+  std::vector<std::size_t> find(const TreeBox& box, Test test) const {
+    std::vector<std::size_t> found;
+    for (auto it = tree.qbegin(bg::index::intersects(box)); it != tree.qend(); ++it)
+      if (test(entries[it->second], it->first))
+        found.push_back(it->second);
+    std::sort(found.begin(), found.end(),
+              [this](std::size_t a, std::size_t b) { return entries[a].order < entries[b].order; });
+    return found;
+  }
+};
+
+PlanIndex::PlanIndex() : data_(std::make_unique<Data>()) {}
+PlanIndex::~PlanIndex() = default;
+PlanIndex::PlanIndex(PlanIndex&&) noexcept = default;
+PlanIndex& PlanIndex::operator=(PlanIndex&&) noexcept = default;
+
+PlanIndex::PlanIndex(const Layout& layout) : data_(std::make_unique<Data>()) {
+  const std::vector<PlacedPiece>& pieces = layout.pieces();
+  data_->revision = layout.revision();
+  data_->entries.resize(pieces.size());
+  std::vector<TreeEntry> boxes;
+  boxes.reserve(pieces.size());
+  std::vector<double> heights(pieces.size());
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    const PlacedPiece& piece = pieces[i];
+    const PieceDef* definition = definitionOf(piece);
+    data_->entries[i] = {definition, &outlineOf(definition), poseOf(piece), 0};
+    heights[i] = layout.levelHeight(piece.level);
+    if (!layout.levelVisible(piece.level) || !std::isfinite(piece.x) || !std::isfinite(piece.y) ||
+        !std::isfinite(piece.heading))
+      continue;
+    boxes.emplace_back(treeBox(boundsOf(*data_->entries[i].outline, poseOf(piece))),
+                       static_cast<std::uint32_t>(i));
+  }
+  std::vector<std::uint32_t> drawn(pieces.size());
+  std::iota(drawn.begin(), drawn.end(), 0U);
+  std::stable_sort(drawn.begin(), drawn.end(),
+                   [&](std::uint32_t a, std::uint32_t b) { return heights[a] < heights[b]; });
+  for (std::uint32_t order = 0; order < drawn.size(); ++order)
+    data_->entries[drawn[order]].order = order;
+  data_->tree = decltype(data_->tree)(boxes);
+}
+
+std::uint64_t PlanIndex::revision() const {
+  return data_->revision;
+}
+
+std::vector<std::size_t> PlanIndex::hits(Point at, double tolerance) const {
+  std::vector<std::size_t> found =
+      data_->find(treeBox({at.x, at.y, at.x, at.y}, tolerance + kRounding),
+                  [&](const Data::Entry& entry, const TreeBox&) {
+                    return covers(*entry.outline, entry.pose, at, tolerance);
+                  });
+  std::reverse(found.begin(), found.end());
+  return found;
+}
+
+std::vector<std::size_t> PlanIndex::inBox(const Box& box, bool whole) const {
+  return data_->find(treeBox(box, kRounding), [&](const Data::Entry& entry, const TreeBox& bounds) {
+    if (encloses(box, bounds))
+      return true;
+    return whole ? liesIn(*entry.outline, entry.pose, box)
+                 : touches(*entry.outline, entry.pose, box);
+  });
+}
+
+const PieceDef* PlanIndex::definition(std::size_t position) const {
+  return position < data_->entries.size() ? data_->entries[position].definition : nullptr;
+}
+
+} // namespace trassix

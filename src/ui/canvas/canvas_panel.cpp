@@ -1,0 +1,290 @@
+#include "ui/canvas/canvas_panel.h"
+
+#include "host/command_ids.h"
+#include "ui/canvas/gc_surface.h"
+
+#include <wx/dcbuffer.h>
+#include <wx/dcmemory.h>
+#include <wx/graphics.h>
+
+#include <algorithm>
+
+namespace trassix {
+
+namespace {
+
+/// Where a piece appears that was picked up without pointing at the plan.
+constexpr Point kPickUpPoint{300, 200};
+
+wxStockCursor stockCursor(CursorShape shape) {
+  switch (shape) {
+  case CursorShape::Cross:
+    return wxCURSOR_CROSS;
+  case CursorShape::Hand:
+    return wxCURSOR_HAND;
+  case CursorShape::Move:
+    return wxCURSOR_SIZING;
+  case CursorShape::Rotate:
+    return wxCURSOR_SIZENWSE;
+  case CursorShape::Arrow:
+    break;
+  }
+  return wxCURSOR_ARROW;
+}
+
+Key keyOf(const wxKeyEvent& event) {
+  if (event.ControlDown()) {
+    switch (event.GetKeyCode()) {
+    case 'C':
+      return Key::Copy;
+    case 'X':
+      return Key::Cut;
+    case 'V':
+      return Key::Paste;
+    case 'D':
+      return Key::Duplicate;
+    default:
+      return Key::Other;
+    }
+  }
+  switch (event.GetKeyCode()) {
+  case WXK_ESCAPE:
+    return Key::Escape;
+  case WXK_RETURN:
+  case WXK_NUMPAD_ENTER:
+    return Key::Enter;
+  case WXK_BACK:
+    return Key::Backspace;
+  case WXK_LEFT:
+  case WXK_NUMPAD_LEFT:
+    return Key::Left;
+  case WXK_RIGHT:
+  case WXK_NUMPAD_RIGHT:
+    return Key::Right;
+  case WXK_UP:
+  case WXK_NUMPAD_UP:
+    return Key::Up;
+  case WXK_DOWN:
+  case WXK_NUMPAD_DOWN:
+    return Key::Down;
+  case 'R':
+    return Key::R;
+  default:
+    return Key::Other;
+  }
+}
+
+} // namespace
+
+CanvasPanel::CanvasPanel(wxWindow* parent, LayoutHost& host)
+    : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+              wxWANTS_CHARS | wxFULL_REPAINT_ON_RESIZE, "canvas"),
+      canvas_(host) {
+  SetBackgroundStyle(wxBG_STYLE_PAINT);
+  Bind(wxEVT_PAINT, &CanvasPanel::onPaint, this);
+  for (const auto& type :
+       {wxEVT_LEFT_DOWN, wxEVT_LEFT_UP, wxEVT_LEFT_DCLICK, wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_UP,
+        wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_UP, wxEVT_RIGHT_DCLICK, wxEVT_MOTION})
+    Bind(type, &CanvasPanel::onMouse, this);
+  Bind(wxEVT_LEAVE_WINDOW, [this](wxMouseEvent& event) {
+    canvas_.leave();
+    event.Skip();
+  });
+  Bind(wxEVT_MOUSEWHEEL, &CanvasPanel::onWheel, this);
+  Bind(wxEVT_KEY_DOWN, &CanvasPanel::onKeyDown, this);
+  Bind(wxEVT_KEY_UP, &CanvasPanel::onKeyUp, this);
+  Bind(wxEVT_MOUSE_CAPTURE_LOST, &CanvasPanel::onCaptureLost, this);
+  Bind(wxEVT_SIZE, &CanvasPanel::onSize, this);
+  wxAcceleratorEntry entries[] = {{wxACCEL_NORMAL, WXK_DELETE, kDeleteSelection},
+                                  {wxACCEL_NORMAL, WXK_NUMPAD_DELETE, kDeleteSelection},
+                                  {wxACCEL_NORMAL, WXK_BACK, kDeleteSelection}};
+  SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(std::size(entries)), entries));
+  Bind(
+      wxEVT_MENU,
+      [this](wxCommandEvent& event) {
+        // A polygon under way takes its last point back instead.
+        event.Skip(!canvas_.key({Key::Backspace}));
+      },
+      kDeleteSelection);
+  Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
+    holdSpace(false);
+    event.Skip();
+  });
+  wxGetTopLevelParent(this)->Bind(wxEVT_ACTIVATE, &CanvasPanel::onActivate, this);
+}
+
+double CanvasPanel::pixelScale() const {
+  return FromDIP(1000) / 1000.0;
+}
+
+Point CanvasPanel::onCanvas(wxPoint px) const {
+  return {px.x / pixelScale(), px.y / pixelScale()};
+}
+
+PointerInput CanvasPanel::inputAt(Point px) const {
+  PointerInput input;
+  input.px = px;
+  input.world = canvas_.view().toWorld(input.px);
+  input.ctrl = wxGetKeyState(WXK_CONTROL);
+  input.shift = wxGetKeyState(WXK_SHIFT);
+  input.alt = wxGetKeyState(WXK_ALT);
+  return input;
+}
+
+PointerInput CanvasPanel::inputOf(const wxMouseEvent& event) const {
+  PointerInput input = inputAt(onCanvas(event.GetPosition()));
+  input.ctrl = event.ControlDown();
+  input.shift = event.ShiftDown();
+  input.alt = event.AltDown();
+  return input;
+}
+
+void CanvasPanel::update() {
+  syncCapture();
+  if (const CursorShape wanted = canvas_.cursor(); wanted != cursorShown_) {
+    cursorShown_ = wanted;
+    SetCursor(wxCursor(stockCursor(wanted)));
+  }
+  Refresh(false);
+}
+
+void CanvasPanel::syncCapture() {
+  const bool wanted = canvas_.wantsCapture();
+  if (wanted && !HasCapture())
+    CaptureMouse();
+  else if (!wanted && HasCapture())
+    ReleaseMouse();
+}
+
+PointerInput CanvasPanel::inputAtPointer() const {
+  return inputAt(onCanvas(ScreenToClient(wxGetMousePosition())));
+}
+
+void CanvasPanel::dragPiece(std::string_view article) {
+  canvas_.carryPiece(article, inputAtPointer(), true);
+  tookUp();
+}
+
+void CanvasPanel::dragScenery(std::string_view key) {
+  canvas_.carryScenery(key, inputAtPointer(), true);
+  tookUp();
+}
+
+void CanvasPanel::pickUpPiece(std::string_view article) {
+  canvas_.carryPiece(article, inputAt(kPickUpPoint), false);
+  tookUp();
+}
+
+void CanvasPanel::pickUpScenery(std::string_view key) {
+  canvas_.carryScenery(key, inputAt(kPickUpPoint), false);
+  tookUp();
+}
+
+void CanvasPanel::pickUpBlock(Block block) {
+  canvas_.carryBlock(std::move(block), inputAt(kPickUpPoint), false);
+  tookUp();
+}
+
+void CanvasPanel::tookUp() {
+  SetFocus();
+  update();
+}
+
+void CanvasPanel::onMouse(wxMouseEvent& event) {
+  const PointerInput input = inputOf(event);
+  const auto button = event.GetButton() == wxMOUSE_BTN_RIGHT    ? Canvas::Button::Right
+                      : event.GetButton() == wxMOUSE_BTN_MIDDLE ? Canvas::Button::Middle
+                                                                : Canvas::Button::Left;
+  if (event.LeftDClick())
+    canvas_.doubleClick(input);
+  else if (event.ButtonDown() || event.ButtonDClick()) {
+    SetFocus();
+    canvas_.press(button, input);
+  } else if (event.ButtonUp()) {
+    // Let go first: a drop may put a question, whose window needs the mouse.
+    if (HasCapture())
+      ReleaseMouse();
+    canvas_.release(button, input);
+  } else
+    canvas_.move(input);
+  syncCapture();
+  if (canvas_.cursor() != cursorShown_)
+    update();
+}
+
+void CanvasPanel::onWheel(wxMouseEvent& event) {
+  if (event.GetWheelAxis() == wxMOUSE_WHEEL_VERTICAL)
+    canvas_.wheel(inputOf(event), static_cast<double>(event.GetWheelRotation()) /
+                                      std::max(event.GetWheelDelta(), 1));
+}
+
+void CanvasPanel::holdSpace(bool down) {
+  canvas_.setSpace(down);
+  if (canvas_.cursor() != cursorShown_)
+    update();
+}
+
+void CanvasPanel::onKeyDown(wxKeyEvent& event) {
+  if (event.GetKeyCode() == WXK_SPACE)
+    return holdSpace(true);
+  if (!canvas_.key({keyOf(event), event.ShiftDown()}))
+    event.Skip();
+  syncCapture();
+}
+
+void CanvasPanel::onKeyUp(wxKeyEvent& event) {
+  if (event.GetKeyCode() == WXK_SPACE)
+    holdSpace(false);
+  else
+    event.Skip();
+}
+
+void CanvasPanel::onCaptureLost(wxMouseCaptureLostEvent&) {
+  canvas_.cancel();
+}
+
+void CanvasPanel::onActivate(wxActivateEvent& event) {
+  // Something on the pointer would keep the mouse from the window that the user went to.
+  if (!event.GetActive() && canvas_.wantsCapture())
+    canvas_.cancel();
+  event.Skip();
+}
+
+void CanvasPanel::onSize(wxSizeEvent& event) {
+  const wxSize size = GetClientSize();
+  canvas_.resize({size.x / pixelScale(), size.y / pixelScale()});
+  Refresh(false);
+  event.Skip();
+}
+
+void CanvasPanel::renewPicture() {
+  const wxSize size = GetClientSize();
+  const double scale = GetContentScaleFactor();
+  const std::uint64_t stamp = canvas_.planStamp();
+  const wxSize pixels(static_cast<int>(size.x * scale), static_cast<int>(size.y * scale));
+  if (picture_.IsOk() && picture_.GetSize() == pixels && stamp == pictureStamp_)
+    return;
+  if (!picture_.IsOk() || picture_.GetSize() != pixels)
+    picture_.CreateScaled(size.x, size.y, wxBITMAP_SCREEN_DEPTH, scale);
+  pictureStamp_ = stamp;
+  wxMemoryDC memory(picture_);
+  const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(memory));
+  context->Scale(pixelScale(), pixelScale());
+  GcSurface surface(*context, pixelScale() * GetContentScaleFactor());
+  canvas_.paintPlan(surface);
+}
+
+void CanvasPanel::onPaint(wxPaintEvent&) {
+  wxAutoBufferedPaintDC dc(this);
+  const wxSize size = GetClientSize();
+  if (size.x <= 0 || size.y <= 0)
+    return;
+  renewPicture();
+  dc.DrawBitmap(picture_, 0, 0);
+  const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
+  context->Scale(pixelScale(), pixelScale());
+  GcSurface surface(*context, pixelScale() * GetContentScaleFactor());
+  canvas_.paintOverlay(surface);
+}
+
+} // namespace trassix

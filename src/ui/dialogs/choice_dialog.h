@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/layout_host.h"
+
+#include <wx/dialog.h>
+
+class wxListBox;
+class wxStaticText;
+
+namespace trassix {
+
+/// One of several rows, the first one highlighted at the start; tells which row is highlighted so
+/// that the plan can show it, and shows that row's note.
+class ChoiceDialog : public wxDialog {
+ public:
+  ChoiceDialog(wxWindow* parent, const Choice& choice);
+
+  /// Goes out of the way of a place on the screen that the user wants to see meanwhile.
+  void leaveFree(wxPoint spot);
+
+  std::size_t chosen() const;
+
+ private:
+  void highlight();
+
+  Choice choice_;
+  wxListBox* rows_;
+  wxStaticText* note_;
+};
+
+} // namespace trassix

@@ -1,0 +1,172 @@
+#include "ui/help/help_pages.h"
+
+#include <wx/translation.h>
+
+namespace trassix {
+
+namespace {
+
+constexpr const char* kPlan[] = {
+    wxTRANSLATE("Choose a track system at the top of the palette on the left. Drag a piece from "
+                "the list onto the plan; where its end comes near an open end of other track, it "
+                "snaps on and is joined."),
+    wxTRANSLATE("# The quick way"),
+    wxTRANSLATE("Drop one piece, then double-click pieces on the plan to go on with the same "
+                "article, or double-click an article in the palette to put it at the open end of "
+                "the selected piece. The new piece is selected, so a whole line grows click by "
+                "click."),
+    wxTRANSLATE("# Left and right"),
+    wxTRANSLATE("While you carry a piece, the wheel or R turns it. A curve carried to an open end "
+                "joins with the end that faces it: turn it round for a curve to the other side."),
+    wxTRANSLATE("# Closing a loop"),
+    wxTRANSLATE("When the last piece of a loop lies where its end meets another open end, both are "
+                "joined by themselves. Small dots show joined ends; open ends stay marked."),
+    wxTRANSLATE("# Exact values"),
+    wxTRANSLATE("The panel on the right shows what is selected. Type a position, a heading or a "
+                "height and press Enter; Esc brings the old value back. A length may name its "
+                "unit, such as \"12.5 cm\". A piece that is given another place leaves its "
+                "neighbours unless their ends still meet; a height lifts all track joined to the "
+                "piece. Right-click an empty spot to put a label there, double-click the label to "
+                "change its text."),
+    wxTRANSLATE("# What to buy"),
+    wxTRANSLATE("Below it the pieces on the plan are counted, article by article. Copy or save the "
+                "list for a spreadsheet. \"Purchase List...\" takes off what you have at home "
+                "already, which you enter once and which is remembered for all layouts, and opens "
+                "the shop with the rest."),
+    wxTRANSLATE("# Nothing gets lost"),
+    wxTRANSLATE("Every step can be taken back with Ctrl+Z and done again with Ctrl+Y. An asterisk "
+                "in the window's title tells that there are changes that are not saved."),
+};
+
+constexpr const char* kMouseAndKeys[] = {
+    wxTRANSLATE("# Looking around"),
+    wxTRANSLATE("Wheel|Zoom at the pointer"),
+    wxTRANSLATE("+ and -|Zoom at the middle of the plan"),
+    wxTRANSLATE("Ctrl+0|Show the whole plan"),
+    wxTRANSLATE("Ctrl+drag|Move the view"),
+    wxTRANSLATE("Space+drag|Move the view"),
+    wxTRANSLATE("# Selecting"),
+    wxTRANSLATE("Click|Select what is there; click again for what lies below"),
+    wxTRANSLATE("Ctrl+click|Add to the selection or take out of it"),
+    wxTRANSLATE("Drag on empty plan|Select everything inside the frame"),
+    wxTRANSLATE("Alt+double-click|Select all track that is joined"),
+    wxTRANSLATE("Ctrl+A|Select all"),
+    wxTRANSLATE("Esc|Select nothing; break off what is under way"),
+    wxTRANSLATE("# Changing"),
+    wxTRANSLATE("Double-click|Add another piece of the same article"),
+    wxTRANSLATE("Drag|Move the selection"),
+    wxTRANSLATE("Alt+drag|Turn the selection freely"),
+    wxTRANSLATE("Ctrl+wheel|Turn it by 15°, with Shift by 5°"),
+    wxTRANSLATE("Arrow keys|Move it by 10 mm, with Shift by 1 mm"),
+    wxTRANSLATE("Del, Backspace|Delete it"),
+    wxTRANSLATE("Ctrl+Z, Ctrl+Y|Undo, redo"),
+    wxTRANSLATE("Right-click|More of what can be done here"),
+    wxTRANSLATE("# Carrying something from the palette"),
+    wxTRANSLATE("Wheel, R|Turn it by 30°, the wheel with Shift by 15°"),
+    wxTRANSLATE("Arrow keys|Move it, with Shift by 1 mm"),
+    wxTRANSLATE("Enter|Let it go where it is"),
+    wxTRANSLATE("Esc, right-click|Put it back"),
+    wxTRANSLATE("# Files"),
+    wxTRANSLATE("Ctrl+N, Ctrl+W|New layout, close layout"),
+    wxTRANSLATE("Ctrl+O|Open a layout"),
+    wxTRANSLATE("Ctrl+S, Ctrl+Shift+S|Save, save under another name"),
+    wxTRANSLATE("# Switches"),
+    wxTRANSLATE("Ctrl+G|Grid"),
+    wxTRANSLATE("Ctrl+Shift+G|Snapping of track ends"),
+    wxTRANSLATE("F1|This window"),
+    wxTRANSLATE("All commands are in the menus: Alt and the underlined letter opens a menu, Tab "
+                "goes on from the list of systems to the search field, the pieces, the plan and "
+                "the panel on the right."),
+};
+
+constexpr const char* kAutofill[] = {
+    wxTRANSLATE("Autofill closes the gap between two open ends with pieces from the catalogue."),
+    wxTRANSLATE("# How to use it"),
+    wxTRANSLATE("Select the two pieces on either side of the gap: click the one, Ctrl+click the "
+                "other. Right-click one of them and choose \"Autofill Gap...\". Choose one of the "
+                "offered fills; the plan shows each while it is highlighted."),
+    wxTRANSLATE("# What it can fill"),
+    wxTRANSLATE("A straight gap is filled with a run of straights, a gap along one arc with equal "
+                "curves: a corner, a semicircle or the rest of a circle. It does not try S-curves "
+                "or mixtures of curves and straights. When nothing fits, move one side of the gap "
+                "a little, or change the pieces next to it."),
+};
+
+constexpr const char* kLevelsAndBaseboard[] = {
+    wxTRANSLATE("# Levels"),
+    wxTRANSLATE("A layout can have several decks, each with a name, a height, and a colour for its "
+                "track. \"Levels\" in the tool bar lists them. A hidden level is neither drawn nor "
+                "can it be changed by mistake. A new piece takes the level of the track it snaps "
+                "to, and the highest visible level where it snaps to nothing."),
+    wxTRANSLATE("Track rides with its level: change the height of a level, and its track is lifted "
+                "or lowered with it. Where it is joined to track of another level it comes apart, "
+                "as the ends no longer meet. A level that is deleted hands what stands on it to "
+                "another one, or takes it along, as you like."),
+    wxTRANSLATE("A level can have an outline of its own: that of the baseboard, that of a shape "
+                "you selected before, or one that you draw. Undo brings back track that was "
+                "deleted with its level, but not the level itself."),
+    wxTRANSLATE("# Baseboard"),
+    wxTRANSLATE("Layout > Layout Shape gives the plan its table: a rectangle, an L, a U or a T of "
+                "exact measures, or a free outline that you draw corner by corner or take from a "
+                "shape selected before. It lies behind the track, never in the way of a click. A "
+                "table that is changed keeps its top left corner; the first one is put under what "
+                "is on the plan."),
+    wxTRANSLATE("# Shapes"),
+    wxTRANSLATE(
+        "\"Polygon\" in the tool bar draws any outline corner by corner: an access hatch, "
+        "a lake, a road. Click the first corner again, or double-click the last one, to close "
+        "it; an edge that would cross the others is shown in red and not taken. \"Rectangle\" "
+        "places one of an exact size in the middle of the "
+        "view, selected, so that it can be moved to its place. Double-click a shape to give "
+        "it a label, colour, opacity, height and level, or to make it the baseboard."),
+    wxTRANSLATE("Lengths can be typed in any unit: 120, 12 cm or 4.75 in."),
+    wxTRANSLATE("# Measures"),
+    wxTRANSLATE("Layout > Units of Measure changes how lengths are shown. The plan itself stays "
+                "exact to a fraction of a millimetre, whichever unit you choose."),
+};
+
+constexpr const char* kFiles[] = {
+    wxTRANSLATE("Layouts are kept in the folder \"Trassix\" among your documents. Save writes the "
+                "open layout there under the name you gave it; until the new file is complete, the "
+                "old one stays as it was."),
+    wxTRANSLATE("# From and to other places"),
+    wxTRANSLATE("File > Import Layout copies a layout from any folder to yours, for example one "
+                "that you downloaded. File > Export Layout copies one of yours to a folder of your "
+                "choice, to pass it on or to keep it safe."),
+    wxTRANSLATE("# Library blocks"),
+    wxTRANSLATE("Track that you want to use again, such as a station throat, can be kept in the "
+                "library: select it and choose File > Save as Library Block."),
+    wxTRANSLATE("# Deleting"),
+    wxTRANSLATE("File > Open Layout has a button for it. A layout that is open while its file is "
+                "deleted stays open, and Save asks for a name again."),
+};
+
+constexpr const char* kWizards[] = {
+    wxTRANSLATE("This version plans track on the flat or on levels of a fixed height. These are "
+                "not available in it, and their menu items and tools are greyed out:"),
+    wxTRANSLATE("Layout Wizard|A whole loop of track that follows a table outline"),
+    wxTRANSLATE("Bridge Wizard|Bridges with their ramps and pillars"),
+    wxTRANSLATE("Elevation|Grades and inclines along the track"),
+    wxTRANSLATE("Tunnel|Portals on a chain of track"),
+    wxTRANSLATE("3D View|The layout seen from any side"),
+    wxTRANSLATE("Print|Plans to scale on paper, and their preview"),
+    wxTRANSLATE("Layouts that hold grades, tunnels or helices keep them when they are opened and "
+                "saved."),
+};
+
+constexpr HelpPage kPages[] = {
+    {HelpTopic::Plan, wxTRANSLATE("Planning Track"), kPlan},
+    {HelpTopic::MouseAndKeys, wxTRANSLATE("Mouse and Keys"), kMouseAndKeys},
+    {HelpTopic::Autofill, wxTRANSLATE("Autofill"), kAutofill},
+    {HelpTopic::LevelsAndBaseboard, wxTRANSLATE("Levels and Baseboard"), kLevelsAndBaseboard},
+    {HelpTopic::Files, wxTRANSLATE("Files and Library"), kFiles},
+    {HelpTopic::Wizards, wxTRANSLATE("Wizards"), kWizards},
+};
+
+} // namespace
+
+std::span<const HelpPage> helpPages() {
+  return kPages;
+}
+
+} // namespace trassix

@@ -1,0 +1,367 @@
+#include "ui/palette/palette_panel.h"
+
+#include "app/desktop/path_text.h"
+#include "app/desktop/user_paths.h"
+#include "measures/measure_format.h"
+#include "panels/piece_names.h"
+#include "ui/palette/catalog_list.h"
+#include "ui/palette/palette_drawings.h"
+#include "ui/widgets/file_boxes.h"
+#include "ui/widgets/utf8.h"
+
+#include <wx/choice.h>
+#include <wx/menu.h>
+#include <wx/msgdlg.h>
+#include <wx/sizer.h>
+#include <wx/srchctrl.h>
+#include <wx/tglbtn.h>
+
+#include <algorithm>
+#include <system_error>
+
+namespace trassix {
+
+namespace {
+
+wxString headingOf(const PaletteGroup& group, std::int32_t units) {
+  const wxString name = wxGetTranslation(fromUtf8(groupName(group.group)));
+  if (group.group != PieceGroup::Curves)
+    return name;
+  return wxString::Format(_("%s, radius %s"), name, fromUtf8(formatLength(group.radius, units)));
+}
+
+wxString sizeText(const Footprint& size, std::int32_t units) {
+  return wxString::Format(wxS("%s \u00d7 %s"),
+                          fromUtf8(formatLength(size.width, units)).BeforeFirst(' '),
+                          fromUtf8(formatLength(size.depth, units)));
+}
+
+CatalogRow heading(const wxString& title) {
+  CatalogRow row;
+  row.heading = true;
+  row.title = title;
+  return row;
+}
+
+} // namespace
+
+PalettePanel::PalettePanel(wxWindow* parent, Actions actions)
+    : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, "palette"),
+      actions_(std::move(actions)) {
+  Bind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
+}
+
+void PalettePanel::onFirstPaint(wxPaintEvent& event) {
+  event.Skip();
+  Unbind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
+  CallAfter(&PalettePanel::build);
+}
+
+void PalettePanel::build() {
+  choice_ = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
+                         wxDefaultValidator, "systems");
+  choice_->SetToolTip(_("Track system"));
+  for (const TrackSystem system : systems_)
+    choice_->Append(fromUtf8(systemName(system)));
+  search_ = new wxSearchCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                             wxTE_PROCESS_ENTER, wxDefaultValidator, "search");
+  search_->SetDescriptiveText(_("Article, name or number"));
+  search_->ShowCancelButton(true);
+  auto* tabRow = new wxBoxSizer(wxHORIZONTAL);
+  const wxString titles[] = {_("Track"), _("Scenery"), _("Library")};
+  for (const Tab tab : {kTrackTab, kSceneryTab, kLibraryTab}) {
+    auto* button = new wxToggleButton(this, wxID_ANY, titles[tab], wxDefaultPosition, wxDefaultSize,
+                                      wxBU_EXACTFIT);
+    button->SetMinSize({1, -1});
+    button->Bind(wxEVT_TOGGLEBUTTON, [this, tab](wxCommandEvent&) { showTab(tab); });
+    tabRow->Add(button, wxSizerFlags(1).Expand());
+    tabs_.at(tab) = button;
+  }
+  pages_ = new wxPanel(this);
+  pages_->SetSizer(new wxBoxSizer(wxVERTICAL));
+
+  auto* sizer = new wxBoxSizer(wxVERTICAL);
+  sizer->Add(choice_, wxSizerFlags().Expand().Border(wxALL, FromDIP(4)));
+  sizer->Add(search_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(4)));
+  sizer->Add(tabRow, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(4)));
+  sizer->Add(pages_, wxSizerFlags(1).Expand());
+  SetSizer(sizer);
+
+  choice_->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
+    showSystem(systems_[static_cast<std::size_t>(event.GetSelection())]);
+  });
+  search_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { searchFor(search_->GetValue()); });
+  search_->Bind(wxEVT_SEARCHCTRL_CANCEL_BTN, [this](wxCommandEvent&) { search_->Clear(); });
+  search_->Bind(wxEVT_CHAR_HOOK, &PalettePanel::onSearchKey, this);
+  markSystem();
+  showTab(kTrackTab);
+  Layout();
+}
+
+CatalogList* PalettePanel::makeList(Tab tab) {
+  const auto typed = [this](const wxString& text) {
+    search_->SetFocus();
+    search_->SetValue(search_->GetValue() + text);
+    search_->SetInsertionPointEnd();
+  };
+  switch (tab) {
+  case kTrackTab:
+    return new CatalogList(pages_, "pieces",
+                           {[this](std::size_t row) {
+                              const std::string article = pieces_[row]->article;
+                              actions_.dragPiece(article);
+                              model_.noteUse(article);
+                              CallAfter([this] { fillTrack(); });
+                            },
+                            [this](std::size_t row) { usePiece(row); },
+                            {},
+                            {},
+                            typed});
+  case kSceneryTab:
+    return new CatalogList(pages_, "scenery",
+                           {[this](std::size_t row) { actions_.dragScenery(scenery_[row]->key); },
+                            [this](std::size_t row) { actions_.useScenery(scenery_[row]->key); },
+                            {},
+                            {},
+                            typed});
+  case kLibraryTab:
+    break;
+  }
+  return new CatalogList(pages_, "library",
+                         {{},
+                          [this](std::size_t row) { loadEntry(*blocks_[row]); },
+                          [this](std::size_t row) { showEntryMenu(*blocks_[row]); },
+                          [this](std::size_t row) { deleteEntry(*blocks_[row]); },
+                          typed});
+}
+
+CatalogList& PalettePanel::listOf(Tab tab) {
+  CatalogList*& list = lists_.at(tab);
+  if (!list) {
+    list = makeList(tab);
+    pages_->GetSizer()->Add(list, wxSizerFlags(1).Expand());
+    fill(tab);
+  }
+  return *list;
+}
+
+void PalettePanel::fill(Tab tab) {
+  if (!lists_.at(tab))
+    return;
+  switch (tab) {
+  case kTrackTab:
+    return fillTrack();
+  case kSceneryTab:
+    return fillScenery();
+  case kLibraryTab:
+    return fillLibrary();
+  }
+}
+
+void PalettePanel::populate() {
+  systems_ = paletteSystems();
+  showSystem(systems_.front());
+}
+
+void PalettePanel::followLayout(const trassix::Layout& layout) {
+  if (const std::optional<TrackSystem> system = chiefSystem(layout))
+    showSystem(*system);
+}
+
+void PalettePanel::showSystem(TrackSystem system) {
+  if (std::find(systems_.begin(), systems_.end(), system) == systems_.end())
+    return;
+  model_.setSystem(system);
+  markSystem();
+  fill(kTrackTab);
+  fill(kSceneryTab);
+  reloadLibrary();
+}
+
+void PalettePanel::markSystem() {
+  const auto shown = std::find(systems_.begin(), systems_.end(), system());
+  if (choice_)
+    choice_->SetSelection(static_cast<int>(shown - systems_.begin()));
+}
+
+void PalettePanel::showTab(Tab tab) {
+  shownTab_ = tab;
+  listOf(tab);
+  for (const Tab other : {kTrackTab, kSceneryTab, kLibraryTab}) {
+    tabs_.at(other)->SetValue(other == tab);
+    if (CatalogList* list = lists_.at(other))
+      list->Show(other == tab);
+  }
+  pages_->Layout();
+}
+
+void PalettePanel::unitsChanged() {
+  // To fill the lists anew is to lose their place.
+  if (actions_.units() == units_)
+    return;
+  units_ = actions_.units();
+  fill(kTrackTab);
+  fill(kSceneryTab);
+}
+
+std::filesystem::path PalettePanel::libraryFolder() const {
+  return UserPaths::libraryFolder(systemName(system()));
+}
+
+void PalettePanel::reloadLibrary() {
+  blocks_.clear();
+  library_ = libraryBlocks(libraryFolder());
+  fill(kLibraryTab);
+}
+
+void PalettePanel::searchFor(const wxString& text) {
+  model_.setSearch(toUtf8(text));
+  for (const Tab tab : {kTrackTab, kSceneryTab, kLibraryTab})
+    fill(tab);
+}
+
+void PalettePanel::onSearchKey(wxKeyEvent& event) {
+  switch (event.GetKeyCode()) {
+  case WXK_UP:
+  case WXK_NUMPAD_UP:
+    return listOf(shownTab_).moveSelection(-1);
+  case WXK_DOWN:
+  case WXK_NUMPAD_DOWN:
+    return listOf(shownTab_).moveSelection(1);
+  case WXK_RETURN:
+  case WXK_NUMPAD_ENTER:
+    return listOf(shownTab_).activateSelected();
+  case WXK_ESCAPE:
+    search_->Clear();
+    return listOf(shownTab_).SetFocus();
+  default:
+    event.Skip();
+  }
+}
+
+void PalettePanel::fillTrack() {
+  const std::int32_t units = actions_.units();
+  std::vector<CatalogRow> rows;
+  pieces_.clear();
+  const double widest = widestToScale(model_.system());
+  for (const PaletteGroup& group : model_.groups()) {
+    rows.push_back(heading(headingOf(group, units)));
+    pieces_.push_back(nullptr);
+    for (const PieceDef* piece : group.pieces) {
+      rows.push_back({false, true, fromUtf8(piece->article),
+                      fromUtf8(nameAfterArticle(piece->name, piece->article)),
+                      fromUtf8(piece->name),
+                      [piece, widest](Surface& surface, const PictureRoom& room) {
+                        drawPiece(surface, room, *piece, widest);
+                      }});
+      pieces_.push_back(piece);
+    }
+  }
+  lists_[kTrackTab]->setRows(std::move(rows), _("No track of this system\nfits the search."));
+}
+
+void PalettePanel::fillScenery() {
+  const std::int32_t units = actions_.units();
+  const TrackSystem shown = model_.system();
+  std::vector<CatalogRow> rows;
+  scenery_.clear();
+  for (const SceneryGroup& group : model_.scenery()) {
+    rows.push_back(heading(wxGetTranslation(fromUtf8(categoryName(group.category)))));
+    scenery_.push_back(nullptr);
+    double widest = 0;
+    for (const SceneryDef* item : group.items)
+      widest = std::max(widest, item->footprint(shown).width);
+    for (const SceneryDef* item : group.items) {
+      const Footprint size = item->footprint(shown);
+      wxString name = fromUtf8(item->name);
+      if (!name.empty())
+        name[0] = wxToupper(name[0]);
+      const wxString measures = sizeText(size, units);
+      rows.push_back({false, false, name, measures, name + "\n" + measures,
+                      [item, size, widest](Surface& surface, const PictureRoom& room) {
+                        drawScenery(surface, room, *item, size, widest);
+                      }});
+      scenery_.push_back(item);
+    }
+  }
+  lists_[kSceneryTab]->setRows(std::move(rows), _("No scenery of this gauge\nfits the search."));
+}
+
+void PalettePanel::fillLibrary() {
+  const wxString wanted = search_->GetValue().Lower();
+  std::vector<CatalogRow> rows;
+  blocks_.clear();
+  for (const LibraryEntry& entry : library_) {
+    const wxString name = fromUtf8(entry.name);
+    if (!name.Lower().Contains(wanted))
+      continue;
+    const wxString content =
+        !entry.problem.empty()
+            ? _("Cannot be read")
+            : wxString::Format(wxPLURAL("%zu piece", "%zu pieces",
+                                        static_cast<unsigned>(entry.block.pieces.size())),
+                               entry.block.pieces.size());
+    rows.push_back({false, false, name, content,
+                    entry.problem.empty() ? name : fromUtf8(entry.problem),
+                    [&entry](Surface& surface, const PictureRoom& room) {
+                      drawBlock(surface, room, entry.block);
+                    }});
+    blocks_.push_back(&entry);
+  }
+  lists_[kLibraryTab]->setRows(
+      std::move(rows),
+      library_.empty() ? _("No blocks of this system yet.\n\nSelect track on the plan and choose\n"
+                           "File > Save as Library Block.")
+                       : _("No block fits the search."));
+}
+
+void PalettePanel::usePiece(std::size_t row) {
+  noteUse(*pieces_[row]);
+  actions_.usePiece(pieces_[row]->article);
+}
+
+void PalettePanel::noteUse(const PieceDef& piece) {
+  // Later: the list is still at work on the click or key that used the piece.
+  CallAfter([this, &piece] {
+    const int above = lists_[kTrackTab]->rowsAboveSelection();
+    model_.noteUse(piece.article);
+    fillTrack();
+    const auto last = std::find(pieces_.rbegin(), pieces_.rend(), &piece);
+    if (last != pieces_.rend())
+      lists_[kTrackTab]->select(static_cast<std::size_t>(pieces_.rend() - last - 1), above);
+  });
+}
+
+void PalettePanel::loadEntry(const LibraryEntry& entry) {
+  Block block;
+  const FileResult opened = openBlock(entry.file, block);
+  if (opened.failed()) {
+    showFailure(this, _("Load Block Failed"), fromUtf8(opened.message), opened.reason);
+    return;
+  }
+  showNotices(this, _("Load Block"), opened.notices);
+  if (!block.empty())
+    actions_.useBlock(block);
+}
+
+void PalettePanel::showEntryMenu(const LibraryEntry& entry) {
+  wxMenu menu;
+  menu.Append(wxID_DELETE, _("Delete...\tDel"));
+  if (lists_[kLibraryTab]->GetPopupMenuSelectionFromUser(menu) == wxID_DELETE)
+    deleteEntry(entry);
+}
+
+void PalettePanel::deleteEntry(const LibraryEntry& entry) {
+  const wxString question = wxString::Format(
+      _("Delete library block \"%s\"?\n\nThis cannot be undone."), fromUtf8(entry.name));
+  if (wxMessageBox(question, _("Delete Library Block"), wxYES_NO | wxNO_DEFAULT | wxICON_WARNING,
+                   this) != wxYES)
+    return;
+  const std::filesystem::path file = entry.file;
+  std::error_code error;
+  if (!std::filesystem::remove(file, error))
+    showFailure(this, _("Delete Failed"), _("Could not delete:\n") + toText(file), error);
+  reloadLibrary();
+}
+
+} // namespace trassix
