@@ -60,7 +60,7 @@ void FaultGuard::keepPlan(MainFrame& frame, const std::string& what) {
     try {
       // What was broken off may have changed the plan and be shown nowhere yet.
       frame.canvasPanel().canvas().cancel();
-      frame.host().changed();
+      frame.workspace().changed();
     } catch (...) {
       caught(&frame);
     }

@@ -1,7 +1,7 @@
 // What the user enters in the properties panel becomes an edit of the plan.
 #pragma once
 
-#include "host/layout_host.h"
+#include "host/questions.h"
 #include "panels/property_sheet.h"
 
 #include <functional>

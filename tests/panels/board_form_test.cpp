@@ -146,7 +146,7 @@ TEST(Baseboard, goesWhereTheOldOneWasOrUnderTheTrack) {
 TEST(Baseboard, aShapeOrADrawnPolygonBecomesIt) {
   test::CanvasScript script;
   Layout& layout = script.host.plan;
-  script.host.state.mode = ToolMode::Polygon;
+  script.host.workspace.setToolMode(ToolMode::Polygon);
   script.canvas.modeChanged();
   for (const Point corner : {Point{0, 0}, {500, 0}, {500, 300}})
     script.click(corner);
@@ -164,14 +164,14 @@ TEST(Baseboard, aShapeOrADrawnPolygonBecomesIt) {
   EXPECT_EQ(layout.content().shapes.size(), 1u);
   layout.undo();
 
-  script.host.state.polygonUse = {PolygonUse::Kind::Baseboard, -1};
+  script.host.workspace.setToolMode(ToolMode::Polygon, {PolygonUse::Kind::Baseboard, -1});
   for (const Point corner : {Point{0, 0}, {900, 0}, {900, 300}})
     script.click(corner);
-  EXPECT_THAT(script.host.hint, HasSubstr("Baseboard")) << script.canvas.hint();
+  EXPECT_THAT(script.host.seen.hint, HasSubstr("Baseboard")) << script.canvas.hint();
   script.key(Key::Enter);
   EXPECT_EQ(layout.settings().baseboard[1].x, 900);
   EXPECT_TRUE(layout.content().shapes.empty());
-  EXPECT_EQ(script.host.state.mode, ToolMode::Select);
+  EXPECT_EQ(script.host.workspace.switches().mode, ToolMode::Select);
 }
 
 TEST(ShapeForms, showWithoutChanging) {

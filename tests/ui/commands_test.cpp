@@ -149,7 +149,7 @@ TEST_F(FrameTest, MenusAndToolsAreAsAgreed) {
       continue;
     }
     wxString tip = tool.GetShortHelp();
-    if (const Command* command = findCommand(tool.GetId()); command->action == nullptr) {
+    if (const Command* command = findCommand(tool.GetId()); command->run == nullptr) {
       EXPECT_TRUE(tip.EndsWith("Not available in this version"));
       EXPECT_FALSE(tool.IsEnabled());
       tip = tip.BeforeLast('\n');
@@ -166,7 +166,7 @@ TEST_F(FrameTest, MenusAndToolsAreAsAgreed) {
 std::string traceOf(MainFrame& frame, const Canceller& dialogs) {
   std::ostringstream trace;
   const ViewTransform& view = frame.canvasPanel().canvas().view();
-  const EditorSwitches& switches = frame.host().switches();
+  const EditorSwitches& switches = frame.workspace().switches();
   trace << frame.layout().revision() << frame.GetTitle() << view.zoom() << view.origin().x
         << switches.grid << switches.snap << switches.labels << switches.rails
         << static_cast<int>(switches.mode) << frame.layout().settings().units
@@ -179,7 +179,8 @@ TEST_F(FrameTest, EveryCommandDoesSomething) {
   const Canceller canceller;
   std::set<int> ids;
   std::map<wxString, int> keys;
-  for (const Command& command : commands()) {
+  for (const Command* row : commands()) {
+    const Command& command = *row;
     SCOPED_TRACE(command.id);
     EXPECT_TRUE(ids.insert(command.id).second);
     if (command.menuText != nullptr && wxString(command.menuText).Contains("\t")) {
@@ -249,9 +250,9 @@ TEST_F(FrameTest, EscLeavesTheModesOfTheToolBar) {
   for (const int tool : {+kMeasure, +kPolygon}) {
     frame().GetToolBar()->ToggleTool(tool, true);
     put(tool);
-    EXPECT_NE(frame().host().switches().mode, ToolMode::Select);
+    EXPECT_NE(frame().workspace().switches().mode, ToolMode::Select);
     EXPECT_TRUE(frame().canvasPanel().canvas().key({Key::Escape}));
-    EXPECT_EQ(frame().host().switches().mode, ToolMode::Select);
+    EXPECT_EQ(frame().workspace().switches().mode, ToolMode::Select);
     EXPECT_FALSE(frame().GetToolBar()->GetToolState(tool));
   }
 }

@@ -258,7 +258,7 @@ TEST_F(FrameTest, UnitsAndThePointersPlaceFollowThePlan) {
   expectPlace("x: %.2f  y: %.2f in", 25.4);
   ASSERT_TRUE(frame().loadLayout(home() / "mm.txl"));
   expectPlace("x: %.0f  y: %.0f mm", 1);
-  frame().host().changed();
+  frame().workspace().changed();
   EXPECT_EQ(frame().GetTitle().length(), 200U) << "a longer one is cut";
   EXPECT_TRUE(frame().GetTitle().EndsWith(L"\u00fc\u2026 *"));
   dialogs.answer("Unsaved Changes", wxID_NO);

@@ -21,7 +21,7 @@ class FrameTest : public UiTest {
   }
   void placePiece(double x = 0) {
     dropPiece(frame().layout(), "24188", {x, 0, 0}, {}, false);
-    frame().host().changed();
+    frame().workspace().changed();
   }
   std::size_t pieces() const { return frame().layout().pieces().size(); }
   std::string title() const { return frame().GetTitle().utf8_string(); }

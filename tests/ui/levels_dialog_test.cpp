@@ -91,13 +91,13 @@ TEST_F(LevelsTest, AnOutlineIsDrawnOnThePlan) {
   startLaidOut();
   dialogs.drive("Levels", [&](wxDialog& dialog) { click(in(dialog, "outlineDraw")); });
   put(kLevels);
-  ASSERT_EQ(frame().host().switches().mode, ToolMode::Polygon);
+  ASSERT_EQ(frame().workspace().switches().mode, ToolMode::Polygon);
   for (const Point corner : {Point{100, 500}, {600, 500}, {600, 900}})
     click(onPlan(corner));
   pressKey(WXK_RETURN);
   EXPECT_EQ(plan().settings().levels[0].outline.size(), 3u);
   EXPECT_TRUE(plan().content().shapes.empty());
-  EXPECT_EQ(frame().host().switches().mode, ToolMode::Select);
+  EXPECT_EQ(frame().workspace().switches().mode, ToolMode::Select);
   EXPECT_TRUE(frame().dirty());
 }
 

@@ -77,9 +77,9 @@ int numberFrom(const char* variable, int usual) {
 class MonkeyTest : public FrameTest {
  protected:
   void command(Dice& dice) {
-    const auto all = commands();
+    const auto& all = commands();
     const Command& command =
-        all[static_cast<std::size_t>(dice.upTo(static_cast<int>(all.size()) - 1))];
+        *all[static_cast<std::size_t>(dice.upTo(static_cast<int>(all.size()) - 1))];
     // Printing asks the system, and the exit would end the game.
     if (command.id == wxID_EXIT || command.id == wxID_PAGE_SETUP ||
         !commandEnabled(command, frame().layout()))

@@ -3,7 +3,9 @@
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
 #include "frame_test.h"
+#include "host/clipboard.h"
 #include "host/command_ids.h"
+#include "host/questions.h"
 #include "panels/owned_stock.h"
 #include "support/print_records.h"
 #include "ui/properties/tally_panel.h"
@@ -52,7 +54,7 @@ class PanelsTest : public FrameTest {
   void select(std::vector<Record> PlanContent::*records) {
     plan().clearSelection();
     (plan().edit().*records).front().sel = true;
-    frame().host().selectionChanged();
+    frame().workspace().selectionChanged();
     settle();
   }
 
@@ -87,9 +89,9 @@ class PanelsTest : public FrameTest {
   void expectOneStep(const std::string& what, const std::function<bool()>& holds) {
     EXPECT_TRUE(waitUntil(what, holds));
     EXPECT_TRUE(frame().dirty());
-    frame().undo();
+    put(kUndo);
     EXPECT_FALSE(holds()) << what << " is one undo step";
-    frame().redo();
+    put(kRedo);
     settle();
   }
 };
@@ -148,7 +150,7 @@ TEST_F(PanelsTest, NamesShowAsTheyAre) {
   placePiece();
   plan().editSettings().levels[0].name = "Yard & Co";
   plan().edit().pieces[0].cat = "A & B";
-  frame().host().changed();
+  frame().workspace().changed();
   select(&PlanContent::pieces);
   for (const char* shown : {"A & B", "Yard & Co"})
     EXPECT_NE(findLabelled(shown), nullptr) << shown;
@@ -162,7 +164,7 @@ TEST_F(PanelsTest, NamesShowAsTheyAre) {
     row = event.GetMenu()->FindItemByPosition(0)->GetItemLabelText();
     event.GetMenu()->GetInvokingWindow()->CallAfter([] { pressKey(WXK_ESCAPE); });
   });
-  frame().host().popupMenu({{"Yard & Co", "", true, [] {}}});
+  frame().workspace().questions().popupMenu({{"Yard & Co", "", true, [] {}}});
   EXPECT_EQ(row, "Yard & Co");
 }
 
@@ -170,7 +172,7 @@ TEST_F(PanelsTest, RefusedInputSaysWhyInPlaceAndEscTakesItBack) {
   start();
   placePiece();
   plan().clearSelection();
-  frame().host().changed();
+  frame().workspace().changed();
   select(&PlanContent::pieces);
   const std::uint64_t revision = plan().revision();
   auto& field = control<wxTextCtrl>("property.x");
@@ -193,10 +195,10 @@ TEST_F(PanelsTest, RefusedInputSaysWhyInPlaceAndEscTakesItBack) {
   typeInto("property.y", "3");
   put(kShowGrid);
   EXPECT_EQ(content().pieces[0].y, 3) << "a command counts what is typed so far";
-  frame().undo();
+  put(kUndo);
 
   // The piece goes while one of its fields has the focus: the keys go on working.
-  frame().undo();
+  put(kUndo);
   pressKey('Z', wxMOD_CONTROL);
   waitUntil("the piece is undone", [this] { return pieces() == 0; });
   settle();
@@ -215,7 +217,8 @@ TEST_F(PanelsTest, ThePanesKeepTheirSizesAndShowTheTally) {
   EXPECT_EQ(tally.GetItemText(0, 2), "188.3mm");
   const std::string row = "24188\t24188 - 188.3mm\t3\t3\n";
   click(control<wxWindow>("tally.copy"));
-  EXPECT_EQ(frame().host().clipboard(), "System\tArticle\tName\tPlaced\tNeeded\nMärklin C\t" + row);
+  EXPECT_EQ(frame().workspace().clipboard().text(),
+            "System\tArticle\tName\tPlaced\tNeeded\nMärklin C\t" + row);
   dialogs.answer("", wxID_CANCEL); // the desktop's own dialog keeps its title to itself
   click(control<wxWindow>("tally.save"));
   waitUntil("the dialog came", [this] { return dialogs.finished(); });

@@ -1,4 +1,5 @@
 #include "dialog_test.h"
+#include "editing/canvas/selection_commands.h"
 
 #include <wx/radiobut.h>
 #include <wx/spinctrl.h>
@@ -100,10 +101,10 @@ TEST_F(ShapesTest, ARectangleIsPlacedMovedAndBecomesTheBaseboard) {
     enter(dialog, "shapeLabel", "Lake");
     pressKey(WXK_ESCAPE);
   });
-  frame().host().editShape(plan().content().shapes[0].id);
+  editShape(frame().canvasPanel().canvas().site(), plan().content().shapes[0].id);
   EXPECT_EQ(plan().revision(), before);
   dialogs.drive("Shape", [&](wxDialog&) { pressKey('b', wxMOD_ALT); });
-  frame().host().editShape(plan().content().shapes[0].id);
+  editShape(frame().canvasPanel().canvas().site(), plan().content().shapes[0].id);
   EXPECT_EQ(plan().settings().baseboard.size(), 4u);
   EXPECT_TRUE(plan().content().shapes.empty());
 }

@@ -10,9 +10,9 @@ namespace {
 
 void endUnfilled(ToolSite& site, const std::optional<Notice>& notice) {
   if (notice)
-    site.host.show(*notice);
+    site.questions().show(*notice);
   site.layout().clearSelection();
-  site.host.selectionChanged();
+  site.workspace.selectionChanged();
 }
 
 } // namespace
@@ -43,11 +43,11 @@ void runAutofill(ToolSite& site) {
     site.preview.clear();
     for (const FillPiece& piece : fillPieces(*fills->gap, fills->candidates[row]))
       site.preview.push_back({piece.definition, piece.pose});
-    site.host.repaint();
+    site.workspace.repaint();
   };
-  const std::optional<std::size_t> chosen = site.host.choose(choice);
+  const std::optional<std::size_t> chosen = site.questions().choose(choice);
   site.preview.clear();
-  site.host.repaint();
+  site.workspace.repaint();
   if (!chosen)
     return;
   const EditResult result = placeFill(site.layout(), *fills->gap, fills->candidates[*chosen]);

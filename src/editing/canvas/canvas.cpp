@@ -45,7 +45,7 @@ std::unique_ptr<CanvasTool> makeTool(ToolMode mode, ToolSite& site) {
 
 } // namespace
 
-Canvas::Canvas(LayoutHost& host) : site_(host), base_(makeTool(ToolMode::Select, site_)) {
+Canvas::Canvas(Workspace& workspace) : site_(workspace), base_(makeTool(ToolMode::Select, site_)) {
   site_.carryBlock = [this](Block block) { carryBlock(std::move(block), last_, false); };
 }
 
@@ -108,7 +108,7 @@ void Canvas::move(const PointerInput& input) {
     viewChanged();
     break;
   }
-  site_.host.setPointer(pointer());
+  site_.workspace.setPointer(pointer());
   afterInput();
 }
 
@@ -228,7 +228,7 @@ void Canvas::cancel() {
   gesture_ = Gesture::None;
   tool().cancel();
   retire(std::move(carry_));
-  site_.host.repaint();
+  site_.workspace.repaint();
   afterInput();
 }
 
@@ -273,20 +273,20 @@ void Canvas::viewChanged() {
   // The plan moved below the pointer.
   if (pointed_)
     last_.world = site_.view.toWorld(last_.px);
-  site_.host.setPointer(pointer());
-  site_.host.repaint();
+  site_.workspace.setPointer(pointer());
+  site_.workspace.repaint();
 }
 
 void Canvas::afterInput() {
   if (carry_ && carry_->finished()) {
     retire(std::move(carry_));
-    site_.host.repaint();
+    site_.workspace.repaint();
   }
   renewHint();
 }
 
 void Canvas::modeChanged() {
-  const ToolMode mode = site_.host.switches().mode;
+  const ToolMode mode = site_.workspace.switches().mode;
   if (mode == mode_)
     return;
   cancel();
@@ -294,7 +294,7 @@ void Canvas::modeChanged() {
   retire(std::move(base_));
   base_ = makeTool(mode, site_);
   afterInput();
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void Canvas::documentReplaced() {
@@ -329,7 +329,7 @@ void Canvas::resetViewForSmall() {
 }
 
 PaintOptions Canvas::paintOptions() const {
-  const EditorSwitches& switches = site_.host.switches();
+  const EditorSwitches& switches = site_.workspace.switches();
   PaintOptions options;
   options.grid = switches.grid;
   options.labels = switches.labels;
@@ -353,7 +353,7 @@ void Canvas::paintOverlay(Surface& surface) {
 std::uint64_t Canvas::planStamp() {
   std::uint64_t stamp = 1469598103934665603u; // FNV-1a over everything paintPlan depends on
   const auto mix = [&stamp](std::uint64_t value) { stamp = (stamp ^ value) * 1099511628211u; };
-  const EditorSwitches& switches = site_.host.switches();
+  const EditorSwitches& switches = site_.workspace.switches();
   mix(site_.layout().revision());
   mix(std::bit_cast<std::uint64_t>(site_.view.zoom()));
   mix(std::bit_cast<std::uint64_t>(site_.view.origin().x));

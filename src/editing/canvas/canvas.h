@@ -17,7 +17,7 @@ namespace trassix {
 /// tool to which everything else goes. The window feeds it plain input and paints what it draws.
 class Canvas {
  public:
-  explicit Canvas(LayoutHost& host);
+  explicit Canvas(Workspace& workspace);
   ~Canvas();
 
   enum class Button : std::uint8_t { Left, Middle, Right };
@@ -72,7 +72,7 @@ class Canvas {
 
   std::string hint() const;
   /// Tells the window the hint again, after something outside changed what the mouse would do.
-  void renewHint() { site_.host.setHint(hint()); }
+  void renewHint() { site_.workspace.setHint(hint()); }
   CursorShape cursor() const;
   ToolSite& site() { return site_; }
 

@@ -19,20 +19,20 @@ const SnapIndex& ToolSite::snapIndex() {
 
 void ToolSite::report(const EditResult& result) {
   if (result.refusal)
-    host.show(*result.refusal);
+    questions().show(*result.refusal);
   if (!result.changed())
     return;
-  host.selectionChanged();
-  host.changed();
+  workspace.selectionChanged();
+  workspace.changed();
   if (result.remark)
-    host.show(*result.remark);
+    questions().show(*result.remark);
 }
 
 void ToolSite::report(const ChangeResult& result) {
   if (result.refusal)
-    host.show(*result.refusal);
+    questions().show(*result.refusal);
   if (result.changed)
-    host.changed();
+    workspace.changed();
 }
 
 void ToolSite::reportExtension(const EditResult& result) {

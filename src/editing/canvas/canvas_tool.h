@@ -6,7 +6,8 @@
 #include "editing/canvas/view_transform.h"
 #include "editing/joining/snapping.h"
 #include "editing/selection/plan_index.h"
-#include "host/layout_host.h"
+#include "host/questions.h"
+#include "host/workspace.h"
 
 #include <cstdint>
 #include <functional>
@@ -48,24 +49,25 @@ struct KeyInput {
 
 enum class CursorShape : std::uint8_t { Arrow, Cross, Hand, Move, Rotate };
 
-/// What a tool works on: the window, the view, and the indices derived from the plan.
+/// What a tool works on: the open plan, the view, and the indices derived from the plan.
 class ToolSite {
  public:
-  explicit ToolSite(LayoutHost& window) : host(window) {}
+  explicit ToolSite(Workspace& shared) : workspace(shared) {}
 
   struct Preview {
     const PieceDef* definition; ///< the catalogue's own
     Pose pose;
   };
 
-  LayoutHost& host;
+  Workspace& workspace;
   ViewTransform view;
   std::vector<Preview> preview; ///< pieces shown on the plan that are not on it
   PlanClipboard clipboard;
   std::function<void(Block)> carryBlock; ///< hangs a block on the pointer
   SizePx size;                           ///< of the canvas, px
 
-  Layout& layout() const { return host.layout(); }
+  Layout& layout() const { return workspace.layout(); }
+  Questions& questions() const { return workspace.questions(); }
 
   /// Derived from the plan as it is now; rebuilt only when it has changed.
   const PlanIndex& planIndex();

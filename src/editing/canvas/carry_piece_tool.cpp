@@ -9,7 +9,7 @@ namespace trassix {
 void CarryPieceTool::posed() {
   snap_ = {};
   insert_.reset();
-  if (!site_.host.switches().snap)
+  if (!site_.workspace.switches().snap)
     return;
   snap_ = site_.snapIndex().findSnap(definition_, pose());
   if (!snap_.snapped)
@@ -19,8 +19,8 @@ void CarryPieceTool::posed() {
 EditResult CarryPieceTool::drop() {
   if (insert_)
     return insertPiece(site_.layout(), definition_.article, *insert_);
-  const EditResult result =
-      dropPiece(site_.layout(), definition_.article, pose(), snap_, site_.host.switches().snap);
+  const EditResult result = dropPiece(site_.layout(), definition_.article, pose(), snap_,
+                                      site_.workspace.switches().snap);
   if (result.changed() && wantsSmallTrackView(site_.layout()))
     site_.resetViewForSmall();
   return result;

@@ -15,7 +15,7 @@ void CarryTool::moveTo(Point world) {
   pose_.x = world.x;
   pose_.y = world.y;
   posed();
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void CarryTool::press(const PointerInput& input) {
@@ -45,7 +45,7 @@ void CarryTool::settle() {
 void CarryTool::turn(double degrees) {
   pose_.heading = normaliseHeading(pose_.heading + degrees);
   posed();
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void CarryTool::wheel(const PointerInput& input, int direction) {

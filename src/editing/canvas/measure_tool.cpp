@@ -37,7 +37,7 @@ Point MeasureTool::caught(Point world) {
 
 void MeasureTool::hover(const PointerInput& input) {
   to_ = caught(input.world);
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void MeasureTool::press(const PointerInput& input) {
@@ -60,10 +60,10 @@ void MeasureTool::release(const PointerInput& input, bool dragged) {
   if (std::hypot(to_.x - from_->x, to_.y - from_->y) <= (dragged ? site_.mm(kCatchPx) : 0))
     return;
   if (addMeasurement(site_.layout(), *from_, to_) == -1)
-    return site_.host.show(beyondPlan());
+    return site_.questions().show(beyondPlan());
   from_.reset();
-  site_.host.selectionChanged();
-  site_.host.changed();
+  site_.workspace.selectionChanged();
+  site_.workspace.changed();
 }
 
 bool MeasureTool::key(const KeyInput& input) {
@@ -72,13 +72,13 @@ bool MeasureTool::key(const KeyInput& input) {
   if (from_)
     cancel();
   else
-    site_.host.setToolMode(ToolMode::Select);
+    site_.workspace.setToolMode(ToolMode::Select);
   return true;
 }
 
 void MeasureTool::cancel() {
   from_.reset();
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void MeasureTool::paint(Surface& surface) const {

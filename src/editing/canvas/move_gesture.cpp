@@ -56,9 +56,9 @@ void MoveGesture::drag(const PointerInput& input) {
       turned_ = std::round(turned_ / 15) * 15;
     move_.turn(centre_, turned_);
   } else {
-    move_.update(input.world, site_.host.switches().snap, site_.snapIndex());
+    move_.update(input.world, site_.workspace.switches().snap, site_.snapIndex());
   }
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 bool MoveGesture::allowed() {
@@ -69,7 +69,7 @@ bool MoveGesture::allowed() {
 void MoveGesture::drop() {
   if (allowed())
     site_.report(move_.commit(site_.layout()));
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void MoveGesture::paint(Surface& surface) const {

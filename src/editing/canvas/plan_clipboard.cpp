@@ -10,8 +10,8 @@ Block copyOfSelection(const Layout& layout) {
   return block;
 }
 
-bool PlanClipboard::copy(LayoutHost& host) {
-  Block block = copyOfSelection(host.layout());
+bool PlanClipboard::copy(const Layout& layout, Clipboard& clipboard) {
+  Block block = copyOfSelection(layout);
   if (block.empty())
     return false;
   std::string text;
@@ -19,12 +19,12 @@ bool PlanClipboard::copy(LayoutHost& host) {
     return false;
   copied_ = std::move(block);
   text_ = std::move(text);
-  host.putClipboard(text_);
+  clipboard.put(text_);
   return true;
 }
 
-Block PlanClipboard::paste(LayoutHost& host) const {
-  const std::string text = host.clipboard();
+Block PlanClipboard::paste(Clipboard& clipboard) const {
+  const std::string text = clipboard.text();
   if (!text_.empty() && text == text_)
     return copied_;
   Block block;

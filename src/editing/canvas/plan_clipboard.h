@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/block_file.h"
-#include "host/layout_host.h"
+#include "host/clipboard.h"
 
 #include <string>
 
@@ -16,10 +16,10 @@ Block copyOfSelection(const Layout& layout);
 class PlanClipboard {
  public:
   /// False when nothing is selected.
-  bool copy(LayoutHost& host);
+  bool copy(const Layout& layout, Clipboard& clipboard);
 
   /// Centred on its origin; empty when the clipboard holds no block.
-  Block paste(LayoutHost& host) const;
+  Block paste(Clipboard& clipboard) const;
 
  private:
   Block copied_;

@@ -45,7 +45,7 @@ std::string subject(const Layout& layout, const PolygonUse& use) {
 
 void PolygonTool::hover(const PointerInput& input) {
   pointer_ = input.world;
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void PolygonTool::release(const PointerInput& input, bool) {
@@ -57,10 +57,10 @@ void PolygonTool::release(const PointerInput& input, bool) {
     return;
   }
   if (!inLimits(input.world))
-    return site_.host.show(beyondPlan());
+    return site_.questions().show(beyondPlan());
   if (points_.empty() || points_.back() != input.world)
     points_.push_back(input.world);
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void PolygonTool::doubleClick(const PointerInput&) {
@@ -85,12 +85,13 @@ bool PolygonTool::blocked() const {
 }
 
 void PolygonTool::close() {
-  const PolygonUse use = site_.host.switches().polygonUse;
+  const PolygonUse use = site_.workspace.switches().polygonUse;
   if (points_.size() >= 3 && !outlineProblem(points_).empty()) {
-    site_.host.show({"Polygon",
-                     "Closed here, the outline would cross itself. Add corners that lead around, "
-                     "or take the last one back with Backspace.",
-                     Notice::Icon::Information});
+    site_.questions().show(
+        {"Polygon",
+         "Closed here, the outline would cross itself. Add corners that lead around, "
+         "or take the last one back with Backspace.",
+         Notice::Icon::Information});
     return;
   }
   if (!usePolygon(site_.layout(), points_, use))
@@ -98,9 +99,9 @@ void PolygonTool::close() {
   points_.clear();
   // There is one outline to draw, but there may be more shapes.
   if (use.kind != PolygonUse::Kind::Shape)
-    site_.host.setToolMode(ToolMode::Select);
-  site_.host.selectionChanged();
-  site_.host.changed();
+    site_.workspace.setToolMode(ToolMode::Select);
+  site_.workspace.selectionChanged();
+  site_.workspace.changed();
 }
 
 bool PolygonTool::key(const KeyInput& input) {
@@ -112,11 +113,11 @@ bool PolygonTool::key(const KeyInput& input) {
     if (points_.empty())
       return false;
     points_.pop_back();
-    site_.host.repaint();
+    site_.workspace.repaint();
     return true;
   case Key::Escape:
     if (points_.empty())
-      site_.host.setToolMode(ToolMode::Select);
+      site_.workspace.setToolMode(ToolMode::Select);
     cancel();
     return true;
   default:
@@ -126,7 +127,7 @@ bool PolygonTool::key(const KeyInput& input) {
 
 void PolygonTool::cancel() {
   points_.clear();
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void PolygonTool::paint(Surface& surface) const {
@@ -146,7 +147,7 @@ void PolygonTool::paint(Surface& surface) const {
 }
 
 std::string PolygonTool::hint() const {
-  const std::string what = subject(site_.layout(), site_.host.switches().polygonUse);
+  const std::string what = subject(site_.layout(), site_.workspace.switches().polygonUse);
   if (points_.empty())
     return what.empty() ? "Polygon: click its corners    Esc: back to selecting"
                         : what + "click its corners    Esc: leave it as it is";

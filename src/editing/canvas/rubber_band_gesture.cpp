@@ -12,7 +12,7 @@ RubberBandGesture::RubberBandGesture(ToolSite& site, const PointerInput& from)
 
 void RubberBandGesture::drag(const PointerInput& input) {
   to_ = input;
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void RubberBandGesture::drop() {
@@ -21,7 +21,7 @@ void RubberBandGesture::drop() {
   if (!from_.shift && !to_.shift)
     site_.layout().clearSelection();
   selectInBox(site_.layout(), site_.planIndex(), box, encloses());
-  site_.host.selectionChanged();
+  site_.workspace.selectionChanged();
 }
 
 void RubberBandGesture::paint(Surface& surface) const {

@@ -35,7 +35,7 @@ void SelectTool::hover(const PointerInput& input) {
   if (picks == under_)
     return;
   under_ = std::move(picks);
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 void SelectTool::drag(const PointerInput& input) {
@@ -69,7 +69,7 @@ void SelectTool::release(const PointerInput& input, bool dragged) {
 void SelectTool::select(const Pick& pick) {
   site_.layout().clearSelection();
   setSelected(site_.layout(), pick, true);
-  site_.host.selectionChanged();
+  site_.workspace.selectionChanged();
 }
 
 void SelectTool::click(const PointerInput& input) {
@@ -79,14 +79,14 @@ void SelectTool::click(const PointerInput& input) {
     if (picks.empty())
       return;
     setSelected(layout, picks.front(), !isSelected(layout, picks.front()));
-    site_.host.selectionChanged();
+    site_.workspace.selectionChanged();
     return;
   }
   if (picks.empty()) {
     if (!hasSelection(layout))
       return;
     layout.clearSelection();
-    site_.host.selectionChanged();
+    site_.workspace.selectionChanged();
     return;
   }
   // A further click on the same spot goes on to what lies below.
@@ -117,7 +117,7 @@ void SelectTool::doubleClick(const PointerInput& input) {
     return;
   }
   if (const Pick* shape = first(RecordKind::Shape)) {
-    site_.host.editShape(shape->id);
+    editShape(site_, shape->id);
     return;
   }
   if (piece)
@@ -169,17 +169,17 @@ bool SelectTool::key(const KeyInput& input) {
     if (!hasSelection(site_.layout()))
       return false;
     site_.layout().clearSelection();
-    site_.host.selectionChanged();
+    site_.workspace.selectionChanged();
     return true;
   }
   switch (input.key) {
   case Key::Copy:
-    return site_.clipboard.copy(site_.host);
+    return copySelection(site_);
   case Key::Cut:
     cutSelection(site_);
     return true;
   case Key::Paste:
-    site_.carryBlock(site_.clipboard.paste(site_.host));
+    site_.carryBlock(pastedBlock(site_));
     return true;
   case Key::Duplicate:
     duplicateSelection(site_);
@@ -198,7 +198,7 @@ void SelectTool::leave() {
   if (under_.empty())
     return;
   under_.clear();
-  site_.host.repaint();
+  site_.workspace.repaint();
 }
 
 std::span<const std::int32_t> SelectTool::lifted() const {
@@ -209,7 +209,7 @@ void SelectTool::contextMenu(const PointerInput& input) {
   const std::vector<Pick> picks = picksAt(input.world);
   if (!picks.empty() && !anySelected(picks))
     select(picks.front());
-  site_.host.popupMenu(selectionMenu(site_, picks, input.world));
+  site_.questions().popupMenu(selectionMenu(site_, picks, input.world));
 }
 
 void SelectTool::paint(Surface& surface) const {

@@ -1,9 +1,11 @@
 #include "editing/canvas/selection_commands.h"
 
+#include "editing/levels/level_edits.h"
 #include "editing/placing/block_placing.h"
 #include "editing/records_by_id.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/picking.h"
+#include "editing/selection/property_edits.h"
 #include "editing/selection/selection.h"
 
 namespace trassix {
@@ -11,13 +13,13 @@ namespace trassix {
 bool refuseLocked(ToolSite& site, const char* verb) {
   const std::optional<Notice> refusal = lockGuard(site.layout(), verb);
   if (refusal)
-    site.host.show(*refusal);
+    site.questions().show(*refusal);
   return refusal.has_value();
 }
 
 bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const char* title) {
   return !move.opensGradedJoints() ||
-         site.host.confirm(
+         site.questions().confirm(
              {title, "This takes the selection apart from graded track. Go on?", true});
 }
 
@@ -28,10 +30,30 @@ void turnSelection(ToolSite& site, double degrees) {
     site.report(rotateSelection(site.layout(), degrees));
 }
 
+void deleteSelected(ToolSite& site) {
+  if (refuseLocked(site, "delete"))
+    return;
+  if (selectionHasGrades(site.layout()) &&
+      !site.questions().confirm({"Delete", "Selection includes graded pieces. Delete?"}))
+    return;
+  if (!deleteSelection(site.layout()))
+    return;
+  site.workspace.selectionChanged();
+  site.workspace.changed();
+}
+
+bool copySelection(ToolSite& site) {
+  return site.clipboard.copy(site.layout(), site.workspace.clipboard());
+}
+
+Block pastedBlock(const ToolSite& site) {
+  return site.clipboard.paste(site.workspace.clipboard());
+}
+
 void cutSelection(ToolSite& site) {
   selectPartners(site.layout());
-  if (site.clipboard.copy(site.host))
-    site.host.deleteSelection();
+  if (copySelection(site))
+    deleteSelected(site);
 }
 
 void duplicateSelection(ToolSite& site) {
@@ -40,9 +62,21 @@ void duplicateSelection(ToolSite& site) {
 
 void askLabelText(ToolSite& site, std::int32_t label) {
   const Label* record = recordWithId(site.layout().content().labels, label);
-  const auto text = site.host.askText("Edit Label", "Text:", record->text);
+  const auto text = site.questions().askText("Edit Label", "Text:", record->text);
   if (text && editLabelText(site.layout(), label, *text))
-    site.host.changed();
+    site.workspace.changed();
+}
+
+void editShape(ToolSite& site, std::int32_t shape) {
+  const Shape* record = recordWithId(site.layout().content().shapes, shape);
+  if (record == nullptr)
+    return;
+  const std::optional<ShapeAnswer> answer = site.questions().askShape(site.layout(), *record);
+  if (!answer || !(answer->asBaseboard ? useAsBaseboard(site.layout(), shape)
+                                       : replaceRecord(site.layout(), answer->wanted)))
+    return;
+  site.workspace.selectionChanged();
+  site.workspace.changed();
 }
 
 void selectChain(ToolSite& site, std::int32_t piece) {
@@ -50,7 +84,7 @@ void selectChain(ToolSite& site, std::int32_t piece) {
   layout.clearSelection();
   for (const std::int32_t id : chainOf(layout, piece))
     setSelected(layout, {RecordKind::Piece, id}, true);
-  site.host.selectionChanged();
+  site.workspace.selectionChanged();
 }
 
 } // namespace trassix

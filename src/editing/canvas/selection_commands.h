@@ -17,6 +17,13 @@ bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const char* title
 /// By degrees, clockwise; refused in words when the selection is locked, and asked for like a move.
 void turnSelection(ToolSite& site, double degrees);
 
+/// Asks before graded track goes; refused in words when the selection is locked.
+void deleteSelected(ToolSite& site);
+
+/// To the clipboard; false when nothing is selected that can be copied.
+bool copySelection(ToolSite& site);
+/// What the clipboard holds, centred on its origin; empty when that is no block.
+Block pastedBlock(const ToolSite& site);
 void cutSelection(ToolSite& site);
 
 /// Hangs a copy of the selection on the pointer.
@@ -24,6 +31,9 @@ void duplicateSelection(ToolSite& site);
 
 /// Asks for another text of the label with this id.
 void askLabelText(ToolSite& site, std::int32_t label);
+
+/// Asks for another form of the shape with this id.
+void editShape(ToolSite& site, std::int32_t shape);
 
 /// Selects all track that is joined to the piece, and nothing else.
 void selectChain(ToolSite& site, std::int32_t piece);

@@ -38,7 +38,7 @@ void addSwaps(std::vector<MenuRow>& rows, ToolSite& site, std::int32_t piece) {
     row.submenu = "Swap for";
     row.action = [&site, piece, fit] {
       if (!refuseLocked(site, "swap") && swapPiece(site.layout(), piece, fit))
-        site.host.changed();
+        site.workspace.changed();
     };
     rows.push_back(row);
   }
@@ -74,8 +74,7 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
                     [edit, id = under.front().id] { edit(id); }});
   };
   addEdit(RecordKind::Label, "Edit Label...", [&site](std::int32_t id) { askLabelText(site, id); });
-  addEdit(RecordKind::Shape, "Edit Shape...",
-          [&site](std::int32_t id) { site.host.editShape(id); });
+  addEdit(RecordKind::Shape, "Edit Shape...", [&site](std::int32_t id) { editShape(site, id); });
   if (hasSelection(layout)) {
     separator();
     if (selectionBox(layout)) {
@@ -88,26 +87,26 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
       rows.push_back({"Autofill Gap...", "", true, [&site] { runAutofill(site); }});
     const bool copyable = !blockFromSelection(layout).empty();
     rows.push_back({"Cut", "Ctrl+X", copyable, [&site] { cutSelection(site); }});
-    rows.push_back({"Copy", "Ctrl+C", copyable, [&site] { site.clipboard.copy(site.host); }});
+    rows.push_back({"Copy", "Ctrl+C", copyable, [&site] { copySelection(site); }});
     rows.push_back({"Duplicate", "Ctrl+D", copyable, [&site] { duplicateSelection(site); }});
-    rows.push_back({"Delete", "Del", true, [&site] { site.host.deleteSelection(); }});
+    rows.push_back({"Delete", "Del", true, [&site] { deleteSelected(site); }});
   }
   separator();
-  const Block pasted = site.clipboard.paste(site.host);
+  const Block pasted = pastedBlock(site);
   rows.push_back(
       {"Paste", "Ctrl+V", !pasted.empty(), [&site, pasted] { site.carryBlock(pasted); }});
   rows.push_back({"Select All", "Ctrl+A", true, [&site] {
                     selectAll(site.layout());
-                    site.host.selectionChanged();
+                    site.workspace.selectionChanged();
                   }});
   rows.push_back({"Add Label Here...", "", true, [&site, at] {
                     if (!inLimits(at))
-                      return site.host.show(beyondPlan());
-                    const auto text = site.host.askText("Add Label", "Text:", "");
+                      return site.questions().show(beyondPlan());
+                    const auto text = site.questions().askText("Add Label", "Text:", "");
                     if (!text || addLabel(site.layout(), at, *text) == -1)
                       return;
-                    site.host.selectionChanged();
-                    site.host.changed();
+                    site.workspace.selectionChanged();
+                    site.workspace.changed();
                   }});
   return rows;
 }

@@ -1,5 +1,7 @@
 #include "ui/canvas/canvas_panel.h"
 
+#include "editing/placing/placing.h"
+#include "editing/selection/selection.h"
 #include "host/command_ids.h"
 #include "ui/canvas/gc_surface.h"
 
@@ -76,10 +78,10 @@ Key keyOf(const wxKeyEvent& event) {
 
 } // namespace
 
-CanvasPanel::CanvasPanel(wxWindow* parent, LayoutHost& host)
+CanvasPanel::CanvasPanel(wxWindow* parent, Workspace& workspace)
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
               wxWANTS_CHARS | wxFULL_REPAINT_ON_RESIZE, "canvas"),
-      canvas_(host) {
+      PlanObserver(workspace), canvas_(workspace) {
   SetBackgroundStyle(wxBG_STYLE_PAINT);
   Bind(wxEVT_PAINT, &CanvasPanel::onPaint, this);
   for (const auto& type :
@@ -183,6 +185,36 @@ void CanvasPanel::pickUpScenery(std::string_view key) {
 void CanvasPanel::pickUpBlock(Block block) {
   canvas_.carryBlock(std::move(block), inputAt(kPickUpPoint), false);
   tookUp();
+}
+
+void CanvasPanel::usePiece(std::string_view article) {
+  ToolSite& site = canvas_.site();
+  if (selectedPieces(site.layout()).empty())
+    return pickUpPiece(article);
+  const EditResult result = extendSelected(site.layout(), article);
+  site.reportExtension(result);
+  if (!result.changed() && !result.refusal)
+    site.workspace.setHint("The selected piece has no free end to go on from");
+}
+
+wxPoint CanvasPanel::onScreen(Point world) const {
+  const Point px = canvas_.view().toScreen(world);
+  return ClientToScreen(wxPoint(static_cast<int>(px.x), static_cast<int>(px.y)));
+}
+
+void CanvasPanel::planReplaced() {
+  canvas_.documentReplaced();
+  update();
+}
+
+void CanvasPanel::selectionChanged() {
+  canvas_.renewHint();
+  update();
+}
+
+void CanvasPanel::switchesChanged() {
+  canvas_.modeChanged();
+  update();
 }
 
 void CanvasPanel::tookUp() {

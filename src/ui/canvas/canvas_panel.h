@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editing/canvas/canvas.h"
+#include "host/workspace.h"
 
 #include <wx/bitmap.h>
 #include <wx/panel.h>
@@ -10,9 +11,9 @@ namespace trassix {
 /// The plan in the middle of the main window: turns the toolkit's events into plain input for
 /// `Canvas` and shows what it draws. The plan itself is kept as a picture, so that carrying
 /// something over a large plan repaints only what moves.
-class CanvasPanel : public wxPanel {
+class CanvasPanel : public wxPanel, private PlanObserver {
  public:
-  CanvasPanel(wxWindow* parent, LayoutHost& host);
+  CanvasPanel(wxWindow* parent, Workspace& workspace);
 
   Canvas& canvas() { return canvas_; }
 
@@ -28,7 +29,20 @@ class CanvasPanel : public wxPanel {
   void pickUpScenery(std::string_view key);
   void pickUpBlock(Block block);
 
+  /// Goes on from what is selected with a piece; hangs it on the pointer when no track is.
+  void usePiece(std::string_view article);
+
+  /// Where a point of the plan (mm) is shown.
+  wxPoint onScreen(Point world) const;
+
  private:
+  void planChanged() override { update(); }
+  void planReplaced() override;
+  void selectionChanged() override;
+  void unitsChanged() override { update(); }
+  void switchesChanged() override;
+  void pictureChanged() override { update(); }
+
   PointerInput inputOf(const wxMouseEvent& event) const;
   /// Pixels of the window for one of the canvas, where the toolkit leaves a display's resolution to
   /// the program.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/layout_host.h"
+#include "host/questions.h"
 
 #include <wx/dialog.h>
 

@@ -5,11 +5,14 @@
 #include "app/desktop/user_paths.h"
 #include "app/services/app_prefs.h"
 #include "host/command_ids.h"
-#include "measures/measure_format.h"
 #include "ui/canvas/canvas_panel.h"
+#include "ui/commands/command_bars.h"
 #include "ui/commands/command_table.h"
+#include "ui/commands/desk.h"
 #include "ui/dialogs/experience_dialog.h"
 #include "ui/frame/program_icon.h"
+#include "ui/frame/status_line.h"
+#include "ui/frame/window_title.h"
 #include "ui/palette/palette_panel.h"
 #include "ui/properties/properties_panel.h"
 #include "ui/widgets/sash_rule.h"
@@ -17,14 +20,11 @@
 #include "ui/widgets/whole_window.h"
 
 #include <wx/display.h>
-#include <wx/menu.h>
 #include <wx/sizer.h>
 #include <wx/splitter.h>
-#include <wx/statusbr.h>
 #include <wx/toolbar.h>
 
 #include <algorithm>
-#include <utility>
 
 namespace trassix {
 
@@ -35,43 +35,36 @@ constexpr int kPaletteWidth = 235;
 constexpr int kPaletteMinWidth = 150;
 constexpr int kPropertiesWidth = 280;
 constexpr int kInnerMinWidth = 200;
-constexpr int kMarginMm = 15;
-constexpr std::size_t kLongestTitle = 200; ///< in characters
 
 wxSplitterWindow* makeSplitter(wxWindow* parent, const wxString& name) {
   return new wxSplitterWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                               wxSP_NOBORDER | wxSP_3DSASH | wxSP_LIVE_UPDATE, name);
 }
 
-/// The arrow for tools without room is laid out by the toolkit before it is shown, which is in
-/// vain, so it appears where it was the last time. A change of a label has the bar laid out once
-/// more.
-void layOutAgain(wxToolBarToolBase& tool) {
-  const wxString label = tool.GetLabel();
-  tool.SetLabel(label + " ");
-  tool.SetLabel(label);
-}
-
 } // namespace
 
-MainFrame::MainFrame() : wxFrame(nullptr, wxID_ANY, kBaseTitle, wxDefaultPosition, kSize) {
+MainFrame::MainFrame()
+    : wxFrame(nullptr, wxID_ANY, WindowTitle::kBase, wxDefaultPosition, kSize),
+      questions_(*this, [this](Point world) { return canvas_->onScreen(world); }),
+      workspace_(plan_, questions_, clipboard_) {
   SetSize(FromDIP(kSize)); // pixels grow with the display's resolution
   FrameTrace::write("A: wxFrame base constructed");
   SetIcons(programIcon());
-  buildMenuBar();
+  title_ = std::make_unique<WindowTitle>(*this, workspace_);
+  bars_ = std::make_unique<CommandBars>(*this, workspace_);
+  bars_->buildMenuBar();
   FrameTrace::write("B: MenuBar done");
-  buildToolBar();
+  bars_->buildToolBar();
   FrameTrace::write("C: ToolBar done");
   buildPanels();
   FrameTrace::write("D: Panels done");
-  buildStatusBar();
+  status_ = std::make_unique<StatusLine>(*this, workspace_);
   FrameTrace::write("E: StatusBar done");
   fitToDisplay();
   FrameTrace::write("F: MainFrame constructor complete");
 
-  pageSetup_.SetPrintData(printData_);
-  pageSetup_.SetMarginTopLeft({kMarginMm, kMarginMm});
-  pageSetup_.SetMarginBottomRight({kMarginMm, kMarginMm});
+  desk_ = std::make_unique<Desk>(
+      Desk{*this, workspace_, *canvas_, *palette_, PlanFiles(*this, workspace_, *canvas_)});
   bindCommands();
   // Tools that cannot be used yet look so from the start and are laid out once only.
   GetToolBar()->UpdateWindowUI();
@@ -80,41 +73,28 @@ MainFrame::MainFrame() : wxFrame(nullptr, wxID_ANY, kBaseTitle, wxDefaultPositio
   readPreferences();
 }
 
-MainFrame::~MainFrame() = default;
-
-void MainFrame::buildMenuBar() {
-  SetMenuBar(makeMenuBar());
-}
-
-void MainFrame::buildToolBar() {
-  wxToolBar* bar = CreateToolBar(wxTB_HORIZONTAL | wxTB_TEXT | wxTB_NOICONS);
-  fillToolBar(*bar);
-  Bind(wxEVT_SIZE, [this, bar, width = 0](wxSizeEvent& event) mutable {
-    event.Skip();
-    if (std::exchange(width, event.GetSize().x) != event.GetSize().x)
-      CallAfter([bar] { layOutAgain(*bar->GetToolByPos(0)); });
-  });
+MainFrame::~MainFrame() {
+  root_->Destroy(); // the panels follow the workspace, which goes before the toolkit's children
 }
 
 void MainFrame::buildPanels() {
   FrameTrace::write("BuildPanels: start");
-  auto* root = new wxPanel(this);
+  root_ = new wxPanel(this);
   FrameTrace::write("BuildPanels: root panel created");
-  auto* outer = makeSplitter(root, "outerSplitter");
-  palette_ =
-      new PalettePanel(outer, {[this](std::string_view article) { canvas_->dragPiece(article); },
-                               [this](std::string_view article) { placeFromPalette(article); },
+  auto* outer = makeSplitter(root_, "outerSplitter");
+  palette_ = new PalettePanel(outer, workspace_,
+                              {[this](std::string_view article) { canvas_->dragPiece(article); },
+                               [this](std::string_view article) { canvas_->usePiece(article); },
                                [this](std::string_view key) { canvas_->dragScenery(key); },
                                [this](std::string_view key) { canvas_->pickUpScenery(key); },
-                               [this](const Block& block) { canvas_->pickUpBlock(block); },
-                               [this] { return plan_.layout().settings().units; }});
+                               [this](const Block& block) { canvas_->pickUpBlock(block); }});
   palette_->SetMinSize(FromDIP(wxSize(kPaletteMinWidth, -1)));
   FrameTrace::write("BuildPanels: palette created");
   auto* inner = makeSplitter(outer, "innerSplitter");
   FrameTrace::write("BuildPanels: splitter created");
-  canvas_ = new CanvasPanel(inner, *this);
+  canvas_ = new CanvasPanel(inner, workspace_);
   FrameTrace::write("BuildPanels: canvas created");
-  properties_ = new PropertiesPanel(inner, *this);
+  properties_ = new PropertiesPanel(inner, workspace_);
   FrameTrace::write("BuildPanels: properties created");
   const int propertiesWidth = FromDIP(kPropertiesWidth);
   inner->SetMinimumPaneSize(FromDIP(kInnerMinWidth));
@@ -129,26 +109,14 @@ void MainFrame::buildPanels() {
   auto* sizer = new wxBoxSizer(wxHORIZONTAL);
   sizer->Add(outer, wxSizerFlags(1).Expand());
   FrameTrace::write("BuildPanels: outerSplit added");
-  root->SetSizer(sizer);
+  root_->SetSizer(sizer);
   FrameTrace::write("BuildPanels: sizer set");
-  root->Layout();
+  root_->Layout();
   FrameTrace::write("BuildPanels: layout done");
   MigrateLegacyUserFiles();
   palette_->populate();
   FrameTrace::write("BuildPanels: palette populated");
   refreshTitle();
-}
-
-void MainFrame::buildStatusBar() {
-  wxStatusBar* bar = CreateStatusBar(3);
-  const wxString widestCount = "Pieces: 000000";
-  const wxString widestPlace = "x: -00000.00  y: -00000.00 mm";
-  const int widths[] = {-1, bar->GetTextExtent(widestCount).x + 24,
-                        bar->GetTextExtent(widestPlace).x + 24};
-  bar->SetStatusWidths(3, widths);
-  SetStatusText(_("Ready"), kHintField);
-  SetStatusText(_("Pieces: 0"), kPiecesField);
-  SetStatusText("x: 0  y: 0 mm", kPointerField);
 }
 
 void MainFrame::fitToDisplay() {
@@ -179,23 +147,22 @@ void MainFrame::fitToDisplay() {
 
 void MainFrame::readPreferences() {
   readPrefsOrMigrate(appPrefs(), StandardFolders::prefsFile(), StandardFolders::legacyPrefsFile());
-  plan_.layout().editSettings().units = appPrefs().units;
-  showUnits();
+  workspace_.setUnits(appPrefs().units);
   if (!appPrefs().asked)
     askExperienceOnceRunning();
 }
 
 void MainFrame::bindCommands() {
-  for (const Command& command : commands()) {
-    if (command.action)
+  for (const Command* command : commands()) {
+    if (command->run)
       Bind(
-          wxEVT_MENU, [this, &command](wxCommandEvent&) { run(command); }, command.id);
+          wxEVT_MENU, [this, command](wxCommandEvent&) { run(*command); }, command->id);
     Bind(
         wxEVT_UPDATE_UI,
-        [this, &command](wxUpdateUIEvent& event) {
-          event.Enable(commandEnabled(command, plan_.layout()));
+        [this, command](wxUpdateUIEvent& event) {
+          event.Enable(commandEnabled(*command, plan_.layout()));
         },
-        command.id);
+        command->id);
   }
   Bind(wxEVT_CLOSE_WINDOW, &MainFrame::onClose, this);
   Bind(wxEVT_CHAR_HOOK, &MainFrame::onCharHook, this);
@@ -213,7 +180,7 @@ void MainFrame::run(const Command& command) {
   // What is typed but not entered yet is meant to be saved, exported or undone too.
   if (properties_)
     properties_->enterPending();
-  (this->*command.action)();
+  command.run(*desk_);
 }
 
 void MainFrame::onCharHook(wxKeyEvent& event) {
@@ -237,17 +204,25 @@ void MainFrame::onClose(wxCloseEvent& event) {
   Destroy();
 }
 
+void MainFrame::refreshProperties() {
+  if (properties_)
+    properties_->recompute();
+}
+
+bool MainFrame::loadLayout(const std::filesystem::path& path) {
+  return desk_->files.load(path);
+}
+
+bool MainFrame::promptUnsaved() {
+  return desk_->files.promptUnsaved();
+}
+
+AsideCopy MainFrame::writeAside() const {
+  return desk_->files.writeAside();
+}
+
 void MainFrame::refreshTitle() {
-  wxString name = fromUtf8(plan_.name());
-  if (name.empty() && !plan_.file().empty())
-    name = fromUtf8(plan_.file().stem().u8string());
-  wxString title = kBaseTitle;
-  const wxString mark = plan_.unsaved() ? " *" : "";
-  if (!name.empty()) {
-    title += " - ";
-    title += shortened(name, kLongestTitle - title.length() - mark.length());
-  }
-  SetTitle(title + mark);
+  title_->refresh();
 }
 
 } // namespace trassix

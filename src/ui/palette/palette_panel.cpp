@@ -45,9 +45,9 @@ CatalogRow heading(const wxString& title) {
 
 } // namespace
 
-PalettePanel::PalettePanel(wxWindow* parent, Actions actions)
+PalettePanel::PalettePanel(wxWindow* parent, Workspace& workspace, Actions actions)
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, "palette"),
-      actions_(std::move(actions)) {
+      PlanObserver(workspace), workspace_(workspace), actions_(std::move(actions)) {
   Bind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
 }
 
@@ -163,8 +163,8 @@ void PalettePanel::populate() {
   showSystem(systems_.front());
 }
 
-void PalettePanel::followLayout(const trassix::Layout& layout) {
-  if (const std::optional<TrackSystem> system = chiefSystem(layout))
+void PalettePanel::planReplaced() {
+  if (const std::optional<TrackSystem> system = chiefSystem(workspace_.layout()))
     showSystem(*system);
 }
 
@@ -197,9 +197,9 @@ void PalettePanel::showTab(Tab tab) {
 
 void PalettePanel::unitsChanged() {
   // To fill the lists anew is to lose their place.
-  if (actions_.units() == units_)
+  if (workspace_.layout().settings().units == units_)
     return;
-  units_ = actions_.units();
+  units_ = workspace_.layout().settings().units;
   fill(kTrackTab);
   fill(kSceneryTab);
 }
@@ -240,7 +240,7 @@ void PalettePanel::onSearchKey(wxKeyEvent& event) {
 }
 
 void PalettePanel::fillTrack() {
-  const std::int32_t units = actions_.units();
+  const std::int32_t units = workspace_.layout().settings().units;
   std::vector<CatalogRow> rows;
   pieces_.clear();
   const double widest = widestToScale(model_.system());
@@ -261,7 +261,7 @@ void PalettePanel::fillTrack() {
 }
 
 void PalettePanel::fillScenery() {
-  const std::int32_t units = actions_.units();
+  const std::int32_t units = workspace_.layout().settings().units;
   const TrackSystem shown = model_.system();
   std::vector<CatalogRow> rows;
   scenery_.clear();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/block_file.h"
+#include "host/workspace.h"
 #include "panels/block_library.h"
 #include "panels/palette_model.h"
 
@@ -22,7 +23,7 @@ namespace trassix {
 class CatalogList;
 
 /// What can be put on the plan: the track and scenery of one system and the user's own blocks.
-class PalettePanel : public wxPanel {
+class PalettePanel : public wxPanel, private PlanObserver {
  public:
   /// Dragging means that the mouse is leaving an entry with its button down; otherwise it was
   /// double-clicked or chosen with Enter.
@@ -32,17 +33,12 @@ class PalettePanel : public wxPanel {
     std::function<void(std::string_view key)> dragScenery;
     std::function<void(std::string_view key)> useScenery;
     std::function<void(const Block& block)> useBlock; ///< centred, never empty
-    std::function<std::int32_t()> units;
   };
 
-  PalettePanel(wxWindow* parent, Actions actions);
+  PalettePanel(wxWindow* parent, Workspace& workspace, Actions actions);
 
   /// Takes the systems up and shows the first one.
   void populate();
-  /// Shows the system that most of the plan is built in; a plan without track changes nothing.
-  void followLayout(const trassix::Layout& layout);
-  /// Shows the measures in the plan's units.
-  void unitsChanged();
   void reloadLibrary();
 
   TrackSystem system() const { return model_.system(); }
@@ -50,6 +46,11 @@ class PalettePanel : public wxPanel {
   std::filesystem::path libraryFolder() const;
 
  private:
+  /// Shows the system that most of the plan is built in; a plan without track changes nothing.
+  void planReplaced() override;
+  /// Shows the measures in the plan's units.
+  void unitsChanged() override;
+
   enum Tab { kTrackTab, kSceneryTab, kLibraryTab };
 
   void onFirstPaint(wxPaintEvent& event);
@@ -74,6 +75,7 @@ class PalettePanel : public wxPanel {
   void showEntryMenu(const LibraryEntry& entry);
   void deleteEntry(const LibraryEntry& entry);
 
+  const Workspace& workspace_;
   Actions actions_;
   PaletteModel model_;
   std::vector<TrackSystem> systems_;

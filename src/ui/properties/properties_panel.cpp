@@ -20,8 +20,8 @@ constexpr double kFieldsShare = 0.45; ///< where there is too little room for bo
 
 } // namespace
 
-PropertiesPanel::PropertiesPanel(wxWindow* parent, LayoutHost& host)
-    : wxPanel(parent), host_(host) {
+PropertiesPanel::PropertiesPanel(wxWindow* parent, Workspace& workspace)
+    : wxPanel(parent), PlanObserver(workspace), workspace_(workspace) {
   Bind(wxEVT_PAINT, &PropertiesPanel::onFirstPaint, this);
 }
 
@@ -37,7 +37,7 @@ void PropertiesPanel::build() {
                            wxSP_NOBORDER | wxSP_3DSASH | wxSP_LIVE_UPDATE, "propertiesSplitter");
   fields_ = new PropertyFields(
       splitter, [this](PropertyId id, const PropertyValue& value) { return enter(id, value); });
-  tally_ = new TallyPanel(splitter, host_);
+  tally_ = new TallyPanel(splitter, workspace_);
   splitter->SetMinimumPaneSize(FromDIP(kLeastHeight));
   splitter->SetSashGravity(0.5);
   splitter->SplitHorizontally(fields_, tally_);
@@ -59,7 +59,7 @@ void PropertiesPanel::recompute() {
 
 void PropertiesPanel::selectionChanged() {
   if (fields_)
-    fields_->show(propertySheetOf(host_.layout()));
+    fields_->show(propertySheetOf(workspace_.layout()));
 }
 
 void PropertiesPanel::enterPending() {
@@ -69,12 +69,13 @@ void PropertiesPanel::enterPending() {
 
 std::string PropertiesPanel::enter(PropertyId id, const PropertyValue& value) {
   const PropertyAnswer answer =
-      setProperty(host_.layout(), id, value,
-                  [this](const Question& question) { return host_.confirm(question); });
+      setProperty(workspace_.layout(), id, value, [this](const Question& question) {
+        return workspace_.questions().confirm(question);
+      });
   if (answer.refusal)
-    host_.show(*answer.refusal);
+    workspace_.questions().show(*answer.refusal);
   if (answer.changed)
-    host_.changed();
+    workspace_.changed();
   return answer.problem;
 }
 

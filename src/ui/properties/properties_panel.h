@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/workspace.h"
 #include "panels/property_changes.h"
 
 #include <wx/panel.h>
@@ -8,28 +9,31 @@
 
 namespace trassix {
 
-class LayoutHost;
 class PropertyFields;
 class TallyPanel;
 
 /// What is selected, with its values to edit, and below it what the plan consists of. Its many
 /// controls are made when it has been on the screen once, so that the start does not wait for them.
-class PropertiesPanel : public wxPanel {
+class PropertiesPanel : public wxPanel, private PlanObserver {
  public:
-  PropertiesPanel(wxWindow* parent, LayoutHost& host);
+  PropertiesPanel(wxWindow* parent, Workspace& workspace);
 
   /// The document changed.
   void recompute();
-  void selectionChanged();
+  void selectionChanged() override;
   /// What is being typed into a field counts from now on.
   void enterPending();
 
  private:
+  void planChanged() override { recompute(); }
+  void planReplaced() override { recompute(); }
+  void unitsChanged() override { recompute(); }
+
   void onFirstPaint(wxPaintEvent& event);
   void build();
   std::string enter(PropertyId id, const PropertyValue& value);
 
-  LayoutHost& host_;
+  Workspace& workspace_;
   PropertyFields* fields_ = nullptr; ///< none before it was painted
   TallyPanel* tally_ = nullptr;      ///< none before it was painted
 };

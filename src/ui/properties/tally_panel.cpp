@@ -3,7 +3,8 @@
 #include "app/desktop/path_text.h"
 #include "app/desktop/standard_folders.h"
 #include "document/text_file.h"
-#include "host/layout_host.h"
+#include "host/clipboard.h"
+#include "host/workspace.h"
 #include "measures/measure_format.h"
 #include "panels/piece_names.h"
 #include "ui/dialogs/purchase_list_dialog.h"
@@ -183,8 +184,8 @@ class TallyList : public wxListCtrl {
   long tipped_ = -1; ///< the row that the tool tip tells of
 };
 
-TallyPanel::TallyPanel(wxWindow* parent, LayoutHost& host)
-    : wxPanel(parent), host_(host), list_(new TallyList(this, tally_.rows)),
+TallyPanel::TallyPanel(wxWindow* parent, Workspace& workspace)
+    : wxPanel(parent), workspace_(workspace), list_(new TallyList(this, tally_.rows)),
       summary_(new wxStaticText(this, wxID_ANY, wxEmptyString)) {
   auto* title = new wxStaticText(this, wxID_ANY, _("Pieces on the plan"));
   title->SetFont(title->GetFont().Bold());
@@ -219,7 +220,7 @@ TallyPanel::TallyPanel(wxWindow* parent, LayoutHost& host)
 }
 
 void TallyPanel::recompute() {
-  tally_ = tallyOf(host_.layout());
+  tally_ = tallyOf(workspace_.layout());
   fill();
 }
 
@@ -239,7 +240,7 @@ void TallyPanel::fill() {
 }
 
 void TallyPanel::showSummary() {
-  const std::int32_t units = host_.layout().settings().units;
+  const std::int32_t units = workspace_.layout().settings().units;
   const Box box = tally_.extent.value_or(Box());
   summary_->SetLabel(
       wxString::Format(_("Pieces: %d, open ends: %d"), tally_.pieces, tally_.openEnds) + "\n" +
@@ -251,7 +252,7 @@ void TallyPanel::showSummary() {
 }
 
 void TallyPanel::copy() {
-  host_.putClipboard(tallyAsTable(tally_.rows, translatedHeadings()));
+  workspace_.clipboard().put(tallyAsTable(tally_.rows, translatedHeadings()));
 }
 
 void TallyPanel::saveAsCsv() {

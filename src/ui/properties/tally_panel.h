@@ -10,13 +10,13 @@ class wxStaticText;
 
 namespace trassix {
 
-class LayoutHost;
+class Workspace;
 class TallyList;
 
 /// What the plan is made of, article by article.
 class TallyPanel : public wxPanel {
  public:
-  TallyPanel(wxWindow* parent, LayoutHost& host);
+  TallyPanel(wxWindow* parent, Workspace& workspace);
 
   void recompute();
 
@@ -31,7 +31,7 @@ class TallyPanel : public wxPanel {
   void saveAsCsv();
   void openPurchaseList();
 
-  LayoutHost& host_;
+  Workspace& workspace_;
   Tally tally_;
   TallyColumn column_ = TallyColumn::System;
   bool ascending_ = true;

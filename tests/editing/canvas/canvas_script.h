@@ -15,7 +15,7 @@ enum Mod : unsigned { kNone = 0, kCtrl = 1, kShift = 2, kAlt = 4 };
 class CanvasScript {
  public:
   FakeHost host;
-  Canvas canvas{host};
+  Canvas canvas{host.workspace};
 
   explicit CanvasScript(Layout plan = {}) {
     host.plan = std::move(plan);
@@ -66,7 +66,7 @@ class CanvasScript {
   }
 
   void setMode(ToolMode mode) {
-    host.state.mode = mode;
+    host.workspace.setToolMode(mode);
     canvas.modeChanged();
   }
   /// Opens the menu there and takes a row of it: "Row" or "Submenu/Row", or how they begin.

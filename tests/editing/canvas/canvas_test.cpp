@@ -138,7 +138,7 @@ TEST(CanvasView, ThePointersPlaceFollowsEveryChangeOfTheView) {
   CanvasScript script;
   Canvas& canvas = script.canvas;
   canvas.fit();
-  EXPECT_EQ(script.host.pointer, Point{}) << "it has not come yet";
+  EXPECT_EQ(script.host.seen.pointer, Point{}) << "it has not come yet";
   const auto at = [&](double x) {
     return PointerInput{{x, 300}, canvas.view().toWorld({x, 300}), false, false, false};
   };
@@ -151,7 +151,7 @@ TEST(CanvasView, ThePointersPlaceFollowsEveryChangeOfTheView) {
     : change == 5 ? canvas.press(Canvas::Button::Middle, at(400))
     : change == 6 ? canvas.move(at(500))
                   : canvas.cancel();
-    EXPECT_NEAR(canvas.view().toScreen(script.host.pointer).x, change < 6 ? 400 : 500, 1e-6)
+    EXPECT_NEAR(canvas.view().toScreen(script.host.seen.pointer).x, change < 6 ? 400 : 500, 1e-6)
         << change;
   }
 }
@@ -168,11 +168,11 @@ TEST(CarryPiece, TurnsByWheelAndKeyAndJoinsWhereItSnaps) {
   EXPECT_EQ(script.selected(), std::vector<std::int32_t>{2});
 
   script.carry("24188", {195, 12});
-  EXPECT_THAT(script.host.hint, testing::StartsWith("Let go to join"));
+  EXPECT_THAT(script.host.seen.hint, testing::StartsWith("Let go to join"));
   script.release({195, 12});
   EXPECT_EQ(script.pieces()[2].joint(0), (Joint{1, 1}));
   EXPECT_EQ(script.pieces()[2].x, 188.3);
-  EXPECT_EQ(script.host.changes, 2);
+  EXPECT_EQ(script.host.seen.changes, 2);
 
   script.carry("24188", {380, 700});
   for (const Key key : {Key::Right, Key::Down, Key::Enter})
@@ -186,7 +186,7 @@ TEST(CarryPiece, DroppedOnAJointItGoesIntoTheTrack) {
   CanvasScript script(Plan().place("24188").extend("24188", 3).layout);
   // Its near end lies on the joint between the third and the fourth piece.
   script.carry("24094", {564.9 + 4, 3});
-  EXPECT_THAT(script.host.hint, testing::StartsWith("Let go to insert"));
+  EXPECT_THAT(script.host.seen.hint, testing::StartsWith("Let go to insert"));
   script.release({564.9 + 4, 3});
   ASSERT_EQ(script.pieces().size(), 5u);
   EXPECT_EQ(openEnds(script.host.plan), 2);
@@ -227,7 +227,7 @@ TEST(CarryPiece, NothingIsPlacedWhenItIsGivenUp) {
     EXPECT_FALSE(script.canvas.wantsCapture());
     EXPECT_EQ(script.content(), before);
     EXPECT_EQ(script.host.notices.size(), c.notices);
-    script.host.state.snap = false; // then nothing is refused, and nothing joined
+    script.host.setSnap(false); // then nothing is refused, and nothing joined
     script.carry("2200", {195, 12});
     script.release({195, 12});
     EXPECT_EQ(openEnds(script.host.plan), 4);
@@ -278,7 +278,7 @@ TEST(CarryTools, SayWhatLandsOutOfSightOrOnAnotherLevel) {
       script.canvas.carryScenery("stn.small", script.at(at), false);
     else
       script.canvas.carryPiece(carried, script.at(at), false);
-    const std::string hint = script.host.hint;
+    const std::string hint = script.host.seen.hint;
     const std::size_t from = std::min(hint.find("    Lands"), hint.find("    Wheel"));
     return hint.substr(from, hint.find("    Wheel") - from);
   };
@@ -331,7 +331,7 @@ TEST(MeasureTool, LaysATapeBetweenTwoClicksAndCatchesTrackEnds) {
   script.drag({300, 0}, {300, 90});
   EXPECT_EQ(script.content().measurements.at(0).to, (Point{300, 90})) << "by one drag";
   script.key(Key::Escape);
-  EXPECT_EQ(script.host.state.mode, ToolMode::Select);
+  EXPECT_EQ(script.host.workspace.switches().mode, ToolMode::Select);
 }
 
 TEST(PolygonTool, ShowsAndRefusesWhatCrossesAndClosesAtItsFirstCorner) {
@@ -347,7 +347,7 @@ TEST(PolygonTool, ShowsAndRefusesWhatCrossesAndClosesAtItsFirstCorner) {
   const std::size_t before = red();
   script.doubleClick({500, -200}); // neither a corner nor an end
   EXPECT_EQ(red(), before + 1);
-  EXPECT_THAT(script.host.hint, testing::HasSubstr("cross itself here"));
+  EXPECT_THAT(script.host.seen.hint, testing::HasSubstr("cross itself here"));
   for (const Point corner : {Point{300, 500}, {300, 900}, {1900, 200}})
     script.click(corner);
   EXPECT_EQ(red(), before);

@@ -1,39 +1,47 @@
 #pragma once
 
 #include "editing/selection/selection.h"
-#include "host/layout_host.h"
+#include "host/clipboard.h"
+#include "host/questions.h"
+#include "host/workspace.h"
 
 #include <deque>
 
 namespace trassix::test {
 
 /// The window as a tool sees it, without a window: answers are given beforehand, calls are kept.
-class FakeHost : public LayoutHost {
+class FakeHost : public Questions, public Clipboard {
  public:
-  Layout plan;
-  EditorSwitches state;
+  OpenPlan open;
+  Layout& plan = open.layout();
+  Workspace workspace{open, *this, *this};
   std::deque<bool> answers; ///< to the questions to come; a question without one fails the test
   std::optional<std::size_t> choice;
   std::optional<std::string> typed;
   std::string clipboardText;
 
-  int changes = 0;
+  struct Seen : PlanObserver {
+    using PlanObserver::PlanObserver;
+    int changes = 0;
+    std::string hint;
+    Point pointer;
+
+    void planChanged() override { ++changes; }
+    void hintChanged(const std::string& text) override { hint = text; }
+    void pointerMoved(Point world) override { pointer = world; }
+  } seen{workspace};
   std::vector<Notice> notices;
   std::vector<Question> questions;
   std::vector<MenuRow> menu;
   std::vector<std::string> offered;
   std::vector<std::string> notes;
-  std::string hint;
-  Point pointer;
 
-  Layout& layout() override { return plan; }
-  const EditorSwitches& switches() const override { return state; }
-  void changed() override { ++changes; }
-  void selectionChanged() override {}
-  void repaint() override {}
-  void setHint(const std::string& text) override { hint = text; }
-  void setPointer(Point world) override { pointer = world; }
-  void setToolMode(ToolMode mode) override { state.mode = mode; }
+  void setSnap(bool on) {
+    EditorSwitches switches = workspace.switches();
+    switches.snap = on;
+    workspace.setSwitches(switches);
+  }
+
   void show(const Notice& notice) override { notices.push_back(notice); }
   bool confirm(const Question& question) override {
     questions.push_back(question);
@@ -53,13 +61,9 @@ class FakeHost : public LayoutHost {
     return typed;
   }
   void popupMenu(const std::vector<MenuRow>& rows) override { menu = rows; }
-  void editShape(std::int32_t) override {}
-  void deleteSelection() override {
-    if (trassix::deleteSelection(plan))
-      changed();
-  }
-  void putClipboard(const std::string& text) override { clipboardText = text; }
-  std::string clipboard() override { return clipboardText; }
+  std::optional<ShapeAnswer> askShape(const Layout&, const Shape&) override { return {}; }
+  void put(const std::string& text) override { clipboardText = text; }
+  std::string text() override { return clipboardText; }
 };
 
 } // namespace trassix::test

@@ -1,4 +1,5 @@
 #include "editing/canvas/canvas_script.h"
+#include "editing/canvas/selection_commands.h"
 #include "editing/placing/placing.h"
 #include "support/plan.h"
 #include "support/print_records.h"
@@ -36,7 +37,7 @@ TEST(SelectTool, ClicksSelectToggleAndClear) {
   EXPECT_THAT(script.selected(), ElementsAre(3));
   script.click({90, 400});
   EXPECT_THAT(script.selected(), IsEmpty());
-  EXPECT_EQ(script.host.changes, 0) << "selecting is no change of the document";
+  EXPECT_EQ(script.host.seen.changes, 0) << "selecting is no change of the document";
 }
 
 TEST(SelectTool, RepeatedClicksGoThroughTheStack) {
@@ -77,7 +78,7 @@ TEST(SelectTool, MovingOpensTheJointAndBringingItBackJoinsAgain) {
   script.release({700, 300});
   EXPECT_TRUE(script.pieces()[1].joint(1).open()) << "another button does not disturb";
   EXPECT_NEAR(script.pieces()[2].y, 300, 1e-6);
-  EXPECT_EQ(script.host.changes, 1);
+  EXPECT_EQ(script.host.seen.changes, 1);
 
   // Let go 20 mm beside its old place it snaps home.
   script.drag({700, 300}, {480, 15});
@@ -150,7 +151,7 @@ TEST(SelectTool, GradedNeighboursAreAskedForAndNoLeavesThemJoined) {
       move(script);
       EXPECT_EQ(script.host.questions.size(), 1u);
       EXPECT_EQ(script.pieces()[2].joint(0).open(), yes);
-      EXPECT_EQ(script.host.changes, yes ? 1 : 0);
+      EXPECT_EQ(script.host.seen.changes, yes ? 1 : 0);
     }
   }
 }
@@ -203,7 +204,7 @@ TEST(SelectTool, LabelsArePlacedEditedMovedAndDeleted) {
   script.drag({90, 300}, {150, 320});
   EXPECT_NEAR(labels[0].x, 150, 1e-6);
   EXPECT_NEAR(labels[0].y, 320, 1e-6);
-  script.host.deleteSelection();
+  deleteSelected(script.canvas.site());
   ASSERT_EQ(labels.size(), 1u);
   EXPECT_EQ(labels[0].text, "On track");
   while (script.host.plan.undo())
@@ -239,7 +240,7 @@ TEST(SelectTool, TheMenuSwapsAPieceForOneThatFits) {
   script.takeFromMenu(kOnSecond, "Swap for/74620"); // the truss bridge is as long
   EXPECT_EQ(script.pieces()[1].cat, "74620");
   EXPECT_EQ(openEnds(script.host.plan), 2);
-  EXPECT_EQ(script.host.changes, 1);
+  EXPECT_EQ(script.host.seen.changes, 1);
 }
 
 TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
@@ -270,7 +271,7 @@ TEST(SelectTool, LikeTheOthersSaysWhatWouldLieBeyondThePlan) {
   script.setMode(ToolMode::Polygon);
   script.click(kBeyond);
   EXPECT_EQ(script.host.notices, std::vector<Notice>(4, beyondPlan()));
-  EXPECT_EQ(script.host.changes, 0);
+  EXPECT_EQ(script.host.seen.changes, 0);
 }
 
 } // namespace

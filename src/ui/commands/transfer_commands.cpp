@@ -1,4 +1,3 @@
-// The frame's commands that copy plans in and out of the user's folder and blocks into the library.
 #include "app/desktop/path_text.h"
 #include "app/desktop/standard_folders.h"
 #include "app/desktop/user_paths.h"
@@ -6,15 +5,19 @@
 #include "document/block_file.h"
 #include "document/text_file.h"
 #include "editing/selection/selection.h"
+#include "host/command_ids.h"
+#include "host/workspace.h"
+#include "ui/commands/command.h"
+#include "ui/commands/desk.h"
 #include "ui/dialogs/export_dialog.h"
 #include "ui/dialogs/import_dialog.h"
 #include "ui/dialogs/name_dialog.h"
 #include "ui/dialogs/saved_layouts.h"
-#include "ui/frame/main_frame.h"
 #include "ui/palette/palette_panel.h"
 #include "ui/widgets/file_boxes.h"
 #include "ui/widgets/utf8.h"
 
+#include <wx/frame.h>
 #include <wx/msgdlg.h>
 
 namespace trassix {
@@ -38,20 +41,18 @@ NameAdvice adviseOnBlock(const std::filesystem::path& folder, const wxString& ty
   return advice;
 }
 
-} // namespace
-
-void MainFrame::importLayout() {
-  ImportDialog dialog(this, StandardFolders::downloads());
+void importLayout(Desk& desk) {
+  ImportDialog dialog(&desk.window, StandardFolders::downloads());
   if (dialog.ShowModal() != wxID_OK)
     return;
   const std::filesystem::path source = dialog.source();
   const wxString name = dialog.layoutName();
   const std::filesystem::path target = layoutFile(UserPaths::layoutsFolder(), toUtf8(name));
-  if (!confirmReplace(target, name))
+  if (!desk.files.confirmReplace(target, name))
     return;
   const ImportResult imported = importPlan(source, target, toUtf8(name));
   if (imported.failed()) {
-    showFailure(this, _("Import Failed"),
+    showFailure(&desk.window, _("Import Failed"),
                 imported.step == ImportResult::Step::Read
                     ? _("This file does not appear to be a Trassix layout:\n\n") +
                           fromUtf8(imported.message)
@@ -59,55 +60,57 @@ void MainFrame::importLayout() {
                 imported.reason);
     return;
   }
-  showNotices(this, _("Import"), imported.notices);
-  tellWay(imported.way, target);
+  showNotices(&desk.window, _("Import"), imported.notices);
+  desk.files.tellWay(imported.way, target);
   if (wxMessageBox(wxString::Format(_("Imported successfully.\n\nOpen \"%s\" now?"), name),
-                   _("Import"), wxYES_NO | wxICON_QUESTION, this) == wxYES &&
-      promptUnsaved())
-    loadLayout(target);
+                   _("Import"), wxYES_NO | wxICON_QUESTION, &desk.window) == wxYES &&
+      desk.files.promptUnsaved())
+    desk.files.load(target);
 }
 
-void MainFrame::exportLayout() {
+void exportLayout(Desk& desk) {
   const SavedLayouts saved(UserPaths::layoutsFolder());
   if (saved.empty()) {
     wxMessageBox(_("No layouts to export. Save a layout first."), _("Export Layout"),
-                 wxOK | wxICON_INFORMATION, this);
+                 wxOK | wxICON_INFORMATION, &desk.window);
     return;
   }
-  ExportDialog dialog(this, saved, StandardFolders::downloads());
+  ExportDialog dialog(&desk.window, saved, StandardFolders::downloads());
   if (dialog.ShowModal() != wxID_OK)
     return;
   const std::filesystem::path folder = dialog.destination();
   std::error_code none;
   if (!std::filesystem::is_directory(folder, none)) {
     wxMessageBox(_("Destination folder does not exist:\n") + toText(folder), _("Export Failed"),
-                 wxOK | wxICON_ERROR, this);
+                 wxOK | wxICON_ERROR, &desk.window);
     return;
   }
   const std::filesystem::path target = layoutFile(folder, toUtf8(dialog.fileName()));
   if (std::filesystem::exists(target, none) &&
       wxMessageBox(wxString::Format(_("\"%s\" already exists in that folder.\n\nReplace it?"),
                                     toText(target.filename())),
-                   _("Confirm Replace"), wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION, this) != wxYES)
+                   _("Confirm Replace"), wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION,
+                   &desk.window) != wxYES)
     return;
   FileReport report;
   if (!copyOver(dialog.source(), target, report)) {
-    showFailure(this, _("Export Failed"), _("Could not copy the file to:\n") + toText(target),
-                report.reason);
+    showFailure(&desk.window, _("Export Failed"),
+                _("Could not copy the file to:\n") + toText(target), report.reason);
     return;
   }
-  tellWay(report.way, target);
-  wxMessageBox(_("Exported to:\n") + toText(target), _("Export"), wxOK | wxICON_INFORMATION, this);
+  desk.files.tellWay(report.way, target);
+  wxMessageBox(_("Exported to:\n") + toText(target), _("Export"), wxOK | wxICON_INFORMATION,
+               &desk.window);
 }
 
-void MainFrame::saveBlock() {
-  if (blockFromSelection(plan_.layout()).empty()) {
+void saveSelectionAsBlock(Desk& desk) {
+  if (blockFromSelection(desk.workspace.layout()).empty()) {
     wxMessageBox(_("Select pieces first to save as library block."), _("Save Block"),
-                 wxOK | wxICON_INFORMATION, this);
+                 wxOK | wxICON_INFORMATION, &desk.window);
     return;
   }
-  const std::filesystem::path folder = palette_->libraryFolder();
-  NameDialog dialog(this, _("Block name:"), _("Save Library Block"), wxEmptyString,
+  const std::filesystem::path folder = desk.palette.libraryFolder();
+  NameDialog dialog(&desk.window, _("Block name:"), _("Save Library Block"), wxEmptyString,
                     [&folder](const wxString& typed) { return adviseOnBlock(folder, typed); });
   if (dialog.ShowModal() != wxID_OK || dialog.GetValue().empty())
     return;
@@ -117,14 +120,33 @@ void MainFrame::saveBlock() {
   std::filesystem::create_directories(folder, ignored);
   const std::filesystem::path target = layoutFile(folder, toUtf8(name));
   FileReport report;
-  const std::string message = trassix::saveBlock(plan_.layout(), target, toUtf8(name), &report);
+  const std::string message = saveBlock(desk.workspace.layout(), target, toUtf8(name), &report);
   if (!message.empty()) {
-    showFailure(this, _("Save Block Failed"), fromUtf8(message), report.reason);
+    showFailure(&desk.window, _("Save Block Failed"), fromUtf8(message), report.reason);
     return;
   }
-  palette_->reloadLibrary();
-  tellWay(report.way, target);
-  wxMessageBox(_("Block saved: ") + name, _("Save Block"), wxOK | wxICON_INFORMATION, this);
+  desk.palette.reloadLibrary();
+  desk.files.tellWay(report.way, target);
+  wxMessageBox(_("Block saved: ") + name, _("Save Block"), wxOK | wxICON_INFORMATION, &desk.window);
+}
+
+// clang-format off
+const Command kCommands[] = {
+    {.id = kImportLayout, .menuText = wxTRANSLATE("&Import Layout..."),
+     .menuHelp = wxTRANSLATE("Copy a plan from another folder to your plans"),
+     .run = importLayout},
+    {.id = kExportLayout, .menuText = wxTRANSLATE("&Export Layout..."),
+     .menuHelp = wxTRANSLATE("Copy one of your plans to another folder"), .run = exportLayout},
+    {.id = kSaveBlock, .menuText = wxTRANSLATE("Save as &Library Block..."),
+     .menuHelp = wxTRANSLATE("Keep the selected track for use in other plans"),
+     .run = saveSelectionAsBlock},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> transferCommands() {
+  return kCommands;
 }
 
 } // namespace trassix

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+
+namespace trassix {
+
+/// What the mouse does on the plan. The values are part of the window's contract.
+enum class ToolMode : std::int32_t { Select = 0, Measure = 3, Polygon = 4 };
+
+/// What becomes of the polygon that is drawn.
+struct PolygonUse {
+  enum class Kind : std::uint8_t { Shape, Baseboard, LevelOutline };
+
+  Kind kind = Kind::Shape;
+  std::int32_t level = -1; ///< whose outline it becomes
+
+  bool operator==(const PolygonUse&) const = default;
+};
+
+/// Switches that belong to the window, not to the document.
+struct EditorSwitches {
+  bool snap = true;
+  bool grid = true;
+  bool labels = true; ///< article labels and join dots
+  bool rails = true;
+  ToolMode mode = ToolMode::Select;
+  PolygonUse polygonUse;
+
+  bool operator==(const EditorSwitches&) const = default;
+};
+
+} // namespace trassix

@@ -1,0 +1,69 @@
+#include "host/workspace.h"
+
+namespace trassix {
+
+PlanObserver::PlanObserver(Workspace& workspace) : workspace_(workspace) {
+  workspace_.observers_.push_back(this);
+}
+
+PlanObserver::~PlanObserver() {
+  std::erase(workspace_.observers_, this);
+}
+
+template <class... Parameters, class... Arguments>
+void Workspace::tell(void (PlanObserver::*what)(Parameters...), const Arguments&... arguments) {
+  // By index: who is told may bring observers along, which know the present state.
+  for (std::size_t i = 0; i < observers_.size(); ++i)
+    (observers_[i]->*what)(arguments...);
+}
+
+void Workspace::changed() {
+  plan_.noteChange();
+  tell(&PlanObserver::planChanged);
+}
+
+void Workspace::selectionChanged() {
+  tell(&PlanObserver::selectionChanged);
+}
+
+void Workspace::planReplaced() {
+  // An outline that was going to be drawn belonged to the plan before.
+  if (switches_.polygonUse.kind != PolygonUse::Kind::Shape)
+    setToolMode(ToolMode::Select);
+  tell(&PlanObserver::planReplaced);
+  tell(&PlanObserver::unitsChanged);
+}
+
+void Workspace::fileChanged() {
+  tell(&PlanObserver::fileChanged);
+}
+
+void Workspace::setUnits(std::int32_t units) {
+  layout().editSettings().units = units;
+  tell(&PlanObserver::unitsChanged);
+}
+
+void Workspace::setSwitches(const EditorSwitches& switches) {
+  switches_ = switches;
+  tell(&PlanObserver::switchesChanged);
+}
+
+void Workspace::setToolMode(ToolMode mode, const PolygonUse& use) {
+  switches_.mode = mode;
+  switches_.polygonUse = use;
+  tell(&PlanObserver::switchesChanged);
+}
+
+void Workspace::repaint() {
+  tell(&PlanObserver::pictureChanged);
+}
+
+void Workspace::setHint(const std::string& hint) {
+  tell(&PlanObserver::hintChanged, hint);
+}
+
+void Workspace::setPointer(Point world) {
+  tell(&PlanObserver::pointerMoved, world);
+}
+
+} // namespace trassix

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "document/open_plan.h"
+#include "geometry/point.h"
+#include "host/editor_switches.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace trassix {
+
+class Clipboard;
+class Questions;
+class Workspace;
+
+/// A part of the window that follows what happens to the open plan, for as long as it lives.
+class PlanObserver {
+ public:
+  explicit PlanObserver(Workspace& workspace);
+  virtual ~PlanObserver();
+  PlanObserver(const PlanObserver&) = delete;
+  PlanObserver& operator=(const PlanObserver&) = delete;
+
+  /// The document was changed: done, undone or redone.
+  virtual void planChanged() {}
+  virtual void selectionChanged() {}
+  /// Another plan took the place of the one before; its file may follow.
+  virtual void planReplaced() {}
+  /// The plan's file, its name, or whether all of it is saved.
+  virtual void fileChanged() {}
+  virtual void unitsChanged() {}
+  virtual void switchesChanged() {}
+  /// Only the picture is out of date.
+  virtual void pictureChanged() {}
+  /// What the mouse and keys do now.
+  virtual void hintChanged(const std::string& /*hint*/) {}
+  /// Also when the plan moved below the pointer.
+  virtual void pointerMoved(Point /*world*/) {}
+
+ private:
+  Workspace& workspace_;
+};
+
+/// The open plan as all parts of the window share it: canvas, tools, panels, dialogs and commands.
+/// Every change of the document goes through `changed`, so that title, tally and pictures can never
+/// disagree.
+class Workspace {
+ public:
+  /// Of which nothing is owned.
+  Workspace(OpenPlan& plan, Questions& questions, Clipboard& clipboard)
+      : plan_(plan), questions_(questions), clipboard_(clipboard) {}
+
+  OpenPlan& plan() { return plan_; }
+  Layout& layout() { return plan_.layout(); }
+  const Layout& layout() const { return plan_.layout(); }
+  const EditorSwitches& switches() const { return switches_; }
+  Questions& questions() { return questions_; }
+  Clipboard& clipboard() { return clipboard_; }
+
+  /// Marks the plan unsaved and has everything follow.
+  void changed();
+  void selectionChanged();
+  void planReplaced();
+  void fileChanged();
+  void setUnits(std::int32_t units);
+  void setSwitches(const EditorSwitches& switches);
+  void setToolMode(ToolMode mode, const PolygonUse& use = {});
+  void repaint();
+  void setHint(const std::string& hint);
+  void setPointer(Point world);
+
+ private:
+  friend PlanObserver;
+  template <class... Parameters, class... Arguments>
+  void tell(void (PlanObserver::*what)(Parameters...), const Arguments&... arguments);
+
+  OpenPlan& plan_;
+  Questions& questions_;
+  Clipboard& clipboard_;
+  EditorSwitches switches_;
+  std::vector<PlanObserver*> observers_;
+};
+
+} // namespace trassix

@@ -1,0 +1,174 @@
+#include "ui/commands/command_bars.h"
+
+#include "host/command_ids.h"
+#include "ui/commands/command_table.h"
+
+#include <wx/frame.h>
+#include <wx/menu.h>
+#include <wx/toolbar.h>
+
+#include <utility>
+#include <vector>
+
+namespace trassix {
+
+namespace {
+
+using Kind = Command::Kind;
+
+constexpr int kSeparator = 0;
+constexpr int kUnitsSubmenu = -1;
+
+struct MenuRows {
+  Command::Menu menu;
+  const char* title;
+  std::vector<int> rows;
+};
+
+const std::vector<MenuRows>& menus() {
+  static const std::vector<MenuRows> rows{
+      {Command::Menu::File,
+       wxTRANSLATE("&File"),
+       {wxID_NEW, wxID_OPEN, kSeparator, wxID_SAVE, wxID_SAVEAS, kSeparator, kImportLayout,
+        kExportLayout, kSeparator, wxID_CLOSE, kSeparator, wxID_PAGE_SETUP, wxID_PREVIEW,
+        wxID_PRINT, kSeparator, kSaveBlock, kSeparator, wxID_EXIT}},
+      {Command::Menu::Edit,
+       wxTRANSLATE("&Edit"),
+       {kUndo, kRedo, kSeparator, kDeleteSelection, kSelectAll}},
+      {Command::Menu::View,
+       wxTRANSLATE("&View"),
+       {kZoomIn, kZoomOut, kZoomFit, kSeparator, kShowGrid, kSnap, kShowRails}},
+      {Command::Menu::Layout,
+       wxTRANSLATE("&Layout"),
+       {kUnitsSubmenu, kSeparator, kLayoutShape, kLayoutWizard, kBridgeWizard}},
+      {Command::Menu::Help, wxTRANSLATE("&Help"), {kHelp, kLayoutWizardHelp, kSeparator, kOptions}},
+  };
+  return rows;
+}
+
+constexpr int kToolRows[] = {kUndo,      kRedo,    kSeparator, kLevels,     kSeparator, kView3D,
+                             kSeparator, kZoomFit, kSeparator, kHideLabels, kSeparator, kTunnel,
+                             kMeasure,   kPolygon, kRectangle, kElevation,  kSeparator};
+
+wxItemKind itemKind(Kind kind) {
+  switch (kind) {
+  case Kind::Check:
+    return wxITEM_CHECK;
+  case Kind::Radio:
+    return wxITEM_RADIO;
+  case Kind::Normal:
+    break;
+  }
+  return wxITEM_NORMAL;
+}
+
+void append(wxMenu& menu, const Command& command) {
+  const wxString help = wxGetTranslation(command.menuHelp);
+  menu.Append(command.id, wxGetTranslation(command.menuText),
+              command.run ? help : _("Not available in this version") + ": " + help,
+              itemKind(command.kind));
+}
+
+wxMenu* unitsMenu() {
+  auto* menu = new wxMenu;
+  for (const int id : {kUnitsMm, kUnitsCm, kUnitsInch})
+    append(*menu, *findCommand(id));
+  return menu;
+}
+
+/// Ours stand behind the given rows, and apart from them.
+void appendOurs(wxMenu& menu, Command::Menu which) {
+  bool first = true;
+  for (const Command* command : commands()) {
+    if (command->menu != which)
+      continue;
+    if (std::exchange(first, false))
+      menu.AppendSeparator();
+    append(menu, *command);
+  }
+}
+
+wxString toolTipOf(const Command& command) {
+  wxString tip = command.toolTip ? wxGetTranslation(command.toolTip) : wxString();
+  if (!command.run)
+    tip += (tip.empty() ? "" : "\n") + _("Not available in this version");
+  return tip;
+}
+
+/// The arrow for tools without room is laid out by the toolkit before it is shown, which is in
+/// vain, so it appears where it was the last time. A change of a label has the bar laid out once
+/// more.
+void layOutAgain(wxToolBarToolBase& tool) {
+  const wxString label = tool.GetLabel();
+  tool.SetLabel(label + " ");
+  tool.SetLabel(label);
+}
+
+} // namespace
+
+CommandBars::CommandBars(wxFrame& window, Workspace& workspace)
+    : PlanObserver(workspace), window_(window), workspace_(workspace) {}
+
+void CommandBars::buildMenuBar() {
+  auto* bar = new wxMenuBar;
+  for (const MenuRows& rows : menus()) {
+    auto* menu = new wxMenu;
+    for (const int id : rows.rows) {
+      if (id == kSeparator)
+        menu->AppendSeparator();
+      else if (id == kUnitsSubmenu)
+        menu->AppendSubMenu(unitsMenu(), _("Units of Measure"));
+      else
+        append(*menu, *findCommand(id));
+    }
+    appendOurs(*menu, rows.menu);
+    bar->Append(menu, wxGetTranslation(rows.title));
+  }
+  window_.SetMenuBar(bar);
+  follow();
+}
+
+void CommandBars::buildToolBar() {
+  wxToolBar* bar = window_.CreateToolBar(wxTB_HORIZONTAL | wxTB_TEXT | wxTB_NOICONS);
+  for (const int id : kToolRows) {
+    if (id == kSeparator) {
+      bar->AddSeparator();
+      continue;
+    }
+    const Command& command = *findCommand(id);
+    bar->AddTool(id, wxGetTranslation(command.toolLabel), wxNullBitmap, toolTipOf(command),
+                 itemKind(command.kind));
+  }
+  bar->Realize();
+  window_.Bind(wxEVT_SIZE, [bar, width = 0](wxSizeEvent& event) mutable {
+    event.Skip();
+    if (std::exchange(width, event.GetSize().x) != event.GetSize().x)
+      bar->CallAfter([bar] { layOutAgain(*bar->GetToolByPos(0)); });
+  });
+}
+
+void CommandBars::follow() {
+  wxMenuBar* menus = window_.GetMenuBar();
+  wxToolBar* tools = window_.GetToolBar();
+  bool relabelled = false;
+  for (const Command* command : commands()) {
+    if (command->checked) {
+      const bool on = command->checked(workspace_);
+      if (command->menuText && menus && (on || command->kind == Kind::Check))
+        menus->Check(command->id, on);
+      if (command->toolLabel && tools)
+        tools->ToggleTool(command->id, on);
+    }
+    if (wxToolBarToolBase* tool =
+            command->labelNow && tools ? tools->FindById(command->id) : nullptr) {
+      const wxString label = wxGetTranslation(command->labelNow(workspace_));
+      relabelled = relabelled || tool->GetLabel() != label;
+      if (tool->GetLabel() != label)
+        tool->SetLabel(label);
+    }
+  }
+  if (relabelled)
+    tools->Realize();
+}
+
+} // namespace trassix

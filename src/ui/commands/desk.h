@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ui/commands/plan_files.h"
+
+#include <wx/cmndata.h>
+
+class wxFrame;
+
+namespace trassix {
+
+class CanvasPanel;
+class PalettePanel;
+class Workspace;
+
+/// Paper, margins and printer: kept while the window lives.
+struct PrintSettings {
+  PrintSettings();
+
+  wxPrintData data;
+  wxPageSetupDialogData page;
+};
+
+/// What commands have to hand. Windows belong to the toolkit.
+struct Desk {
+  wxFrame& window; ///< the parent of dialogs
+  Workspace& workspace;
+  CanvasPanel& canvasPanel;
+  PalettePanel& palette;
+  PlanFiles files;
+  PrintSettings print = {};
+};
+
+} // namespace trassix

@@ -1,0 +1,61 @@
+#include "editing/canvas/selection_commands.h"
+#include "editing/selection/selection.h"
+#include "host/command_ids.h"
+#include "host/workspace.h"
+#include "ui/canvas/canvas_panel.h"
+#include "ui/commands/command.h"
+#include "ui/commands/desk.h"
+
+#include <wx/intl.h>
+
+namespace trassix {
+
+namespace {
+
+void undo(Desk& desk) {
+  Layout& layout = desk.workspace.layout();
+  const PlanContent before = layout.content();
+  if (!layout.undo())
+    return;
+  const bool visible = layout.content() != before;
+  deselectHidden(layout);
+  desk.workspace.changed();
+  if (!visible)
+    desk.workspace.setHint("Nothing to be seen: levels and the baseboard are not undone");
+}
+
+void redo(Desk& desk) {
+  if (!desk.workspace.layout().redo())
+    return;
+  deselectHidden(desk.workspace.layout());
+  desk.workspace.changed();
+}
+
+void selectEverything(Desk& desk) {
+  selectAll(desk.workspace.layout());
+  desk.workspace.selectionChanged();
+}
+
+// clang-format off
+const Command kCommands[] = {
+    {.id = kUndo, .menuText = wxTRANSLATE("&Undo\tCtrl+Z"),
+     .menuHelp = wxTRANSLATE("Take the last change back"), .toolLabel = wxTRANSLATE("Undo"),
+     .enabled = [](const Layout& layout) { return layout.canUndo(); }, .run = undo},
+    {.id = kRedo, .menuText = wxTRANSLATE("&Redo\tCtrl+Y"),
+     .menuHelp = wxTRANSLATE("Do again what was taken back"), .toolLabel = wxTRANSLATE("Redo"),
+     .enabled = [](const Layout& layout) { return layout.canRedo(); }, .run = redo},
+    {.id = kDeleteSelection, .menuText = wxTRANSLATE("&Delete\tDel"),
+     .menuHelp = wxTRANSLATE("Remove what is selected"), .enabled = hasSelection,
+     .run = [](Desk& desk) { deleteSelected(desk.canvasPanel.canvas().site()); }},
+    {.id = kSelectAll, .menuText = wxTRANSLATE("Select &All\tCtrl+A"),
+     .menuHelp = wxTRANSLATE("Select everything that is visible"), .run = selectEverything},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> editCommands() {
+  return kCommands;
+}
+
+} // namespace trassix

@@ -1,0 +1,66 @@
+#include "host/command_ids.h"
+#include "host/workspace.h"
+#include "ui/canvas/canvas_panel.h"
+#include "ui/commands/command.h"
+#include "ui/commands/desk.h"
+#include "ui/dialogs/rectangle_dialog.h"
+
+#include <wx/frame.h>
+
+namespace trassix {
+
+namespace {
+
+using Kind = Command::Kind;
+
+template <ToolMode mode>
+bool isMode(const Workspace& workspace) {
+  return workspace.switches().mode == mode;
+}
+
+/// A second time leaves the mode again.
+template <ToolMode mode>
+void toggleMode(Desk& desk) {
+  Workspace& workspace = desk.workspace;
+  if (isMode<mode>(workspace))
+    return workspace.setToolMode(ToolMode::Select);
+  workspace.layout().clearSelection();
+  workspace.selectionChanged();
+  workspace.setToolMode(mode);
+}
+
+void placeRectangle(Desk& desk) {
+  Workspace& workspace = desk.workspace;
+  RectangleDialog dialog(&desk.window, workspace.layout(), desk.canvasPanel.canvas().centre());
+  if (dialog.ShowModal() != wxID_OK || !dialog.place())
+    return;
+  workspace.setToolMode(ToolMode::Select); // so that it can be moved
+  workspace.selectionChanged();
+  workspace.changed();
+}
+
+// clang-format off
+const Command kCommands[] = {
+    {.id = kTunnel, .toolLabel = wxTRANSLATE("Tunnel"),
+     .toolTip = wxTRANSLATE("Place tunnel portals on the selected chain (or remove if already in a tunnel)")},
+    {.id = kMeasure, .toolLabel = wxTRANSLATE("Measure"),
+     .toolTip = wxTRANSLATE("Measuring tape: click two points on the canvas to lay down a length annotation"),
+     .kind = Kind::Check, .checked = isMode<ToolMode::Measure>,
+     .run = toggleMode<ToolMode::Measure>},
+    {.id = kPolygon, .toolLabel = wxTRANSLATE("Polygon"),
+     .toolTip = wxTRANSLATE("Draw a free-form polygon (access hatch, river, mountain, etc.)"),
+     .kind = Kind::Check, .checked = isMode<ToolMode::Polygon>,
+     .run = toggleMode<ToolMode::Polygon>},
+    {.id = kRectangle, .toolLabel = wxTRANSLATE("Rectangle"),
+     .toolTip = wxTRANSLATE("Place a rectangle of an exact size -- easier than drawing one by hand"),
+     .run = placeRectangle},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> toolCommands() {
+  return kCommands;
+}
+
+} // namespace trassix

@@ -1,0 +1,71 @@
+#include "host/command_ids.h"
+#include "host/workspace.h"
+#include "ui/canvas/canvas_panel.h"
+#include "ui/commands/command.h"
+#include "ui/commands/desk.h"
+
+#include <wx/intl.h>
+
+namespace trassix {
+
+namespace {
+
+using Kind = Command::Kind;
+using Hand = Command::Hand;
+
+constexpr double kZoomInStep = 1.25;
+constexpr double kZoomOutStep = 0.8;
+
+template <bool EditorSwitches::*which>
+bool isOn(const Workspace& workspace) {
+  return workspace.switches().*which;
+}
+
+template <bool EditorSwitches::*which>
+void flip(Desk& desk) {
+  EditorSwitches switches = desk.workspace.switches();
+  switches.*which = !(switches.*which);
+  desk.workspace.setSwitches(switches);
+}
+
+// clang-format off
+const Command kCommands[] = {
+    {.id = kZoomIn, .menuText = wxTRANSLATE("Zoom &In\t+"),
+     .menuHelp = wxTRANSLATE("Show the plan larger"), .hand = Hand::Keeps,
+     .run = [](Desk& desk) { desk.canvasPanel.canvas().zoomAboutCentre(kZoomInStep); }},
+    {.id = kZoomOut, .menuText = wxTRANSLATE("Zoom &Out\t-"),
+     .menuHelp = wxTRANSLATE("Show the plan smaller"), .hand = Hand::Keeps,
+     .run = [](Desk& desk) { desk.canvasPanel.canvas().zoomAboutCentre(kZoomOutStep); }},
+    {.id = kZoomFit, .menuText = wxTRANSLATE("Zoom to &Fit\tCtrl+0"),
+     .menuHelp = wxTRANSLATE("Show the whole plan"), .toolLabel = wxTRANSLATE("Fit"),
+     .hand = Hand::Keeps, .run = [](Desk& desk) { desk.canvasPanel.canvas().fit(); }},
+    {.id = kShowGrid, .menuText = wxTRANSLATE("Show &Grid\tCtrl+G"),
+     .menuHelp = wxTRANSLATE("Grid lines behind the plan"), .kind = Kind::Check,
+     .hand = Hand::Keeps, .checked = isOn<&EditorSwitches::grid>,
+     .run = flip<&EditorSwitches::grid>},
+    {.id = kSnap, .menuText = wxTRANSLATE("&Snap\tCtrl+Shift+G"),
+     .menuHelp = wxTRANSLATE("Track ends snap to each other"), .kind = Kind::Check,
+     .hand = Hand::Keeps, .checked = isOn<&EditorSwitches::snap>,
+     .run = flip<&EditorSwitches::snap>},
+    {.id = kShowRails, .menuText = wxTRANSLATE("Show &Rails"),
+     .menuHelp = wxTRANSLATE("Draw rails and sleepers"), .kind = Kind::Check, .hand = Hand::Keeps,
+     .checked = isOn<&EditorSwitches::rails>, .run = flip<&EditorSwitches::rails>},
+    {.id = kHideLabels, .toolLabel = wxTRANSLATE("Hide Labels"),
+     .toolTip = wxTRANSLATE("Toggle track labels and join dots"), .kind = Kind::Check,
+     .hand = Hand::Keeps,
+     .checked = [](const Workspace& workspace) { return !workspace.switches().labels; },
+     .labelNow = [](const Workspace& workspace) {
+       return workspace.switches().labels ? wxTRANSLATE("Hide Labels") : wxTRANSLATE("Show Labels");
+     },
+     .run = flip<&EditorSwitches::labels>},
+    {.id = kView3D, .toolLabel = wxTRANSLATE("3D View")},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Command> viewCommands() {
+  return kCommands;
+}
+
+} // namespace trassix

@@ -1,0 +1,45 @@
+#include "ui/frame/status_line.h"
+
+#include "measures/measure_format.h"
+#include "ui/widgets/utf8.h"
+
+#include <wx/frame.h>
+#include <wx/statusbr.h>
+
+namespace trassix {
+
+StatusLine::StatusLine(wxFrame& window, Workspace& workspace)
+    : PlanObserver(workspace), window_(window), workspace_(workspace) {
+  wxStatusBar* bar = window_.CreateStatusBar(3);
+  const wxString widestCount = "Pieces: 000000";
+  const wxString widestPlace = "x: -00000.00  y: -00000.00 mm";
+  const int widths[] = {-1, bar->GetTextExtent(widestCount).x + 24,
+                        bar->GetTextExtent(widestPlace).x + 24};
+  bar->SetStatusWidths(3, widths);
+  window_.SetStatusText(_("Ready"), kHintField);
+  window_.SetStatusText(_("Pieces: 0"), kPiecesField);
+  window_.SetStatusText("x: 0  y: 0 mm", kPointerField);
+}
+
+void StatusLine::planChanged() {
+  window_.SetStatusText(wxString::Format(_("Pieces: %zu"), workspace_.layout().pieces().size()),
+                        kPiecesField);
+}
+
+void StatusLine::hintChanged(const std::string& hint) {
+  const wxString text = wxGetTranslation(fromUtf8(hint));
+  if (window_.GetStatusBar()->GetStatusText(kHintField) != text)
+    window_.SetStatusText(text, kHintField);
+}
+
+void StatusLine::pointerMoved(Point world) {
+  pointer_ = world;
+  const std::int32_t units = workspace_.layout().settings().units;
+  const double unit = millimetresPer(units);
+  const int decimals = units == kMillimetres ? 0 : units == kCentimetres ? 1 : 2;
+  window_.SetStatusText(wxString::Format("x: %.*f  y: %.*f %s", decimals, world.x / unit, decimals,
+                                         world.y / unit, unitName(units)),
+                        kPointerField);
+}
+
+} // namespace trassix
