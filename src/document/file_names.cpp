@@ -7,7 +7,6 @@ namespace trassix {
 namespace {
 
 constexpr std::string_view kSeparators = "/\\";
-constexpr std::string_view kExtension = ".txl";
 
 bool isLetter(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
@@ -44,7 +43,7 @@ bool namesDevice(std::string_view name) {
 } // namespace
 
 NameAdvice adviseOnName(std::string_view name) {
-  constexpr std::size_t kLongest = 200;
+  constexpr std::size_t kLongest = 200; // bytes
   if (name.find_first_of(kSeparators) != std::string_view::npos)
     return {"A name with / or \\ leads out of the folder.", true};
   if (name == ".." || beginsWithDrive(name))
@@ -55,7 +54,7 @@ NameAdvice adviseOnName(std::string_view name) {
     return {"Windows takes none of < > : \" | ? * in a name."};
   if (namesDevice(name))
     return {"Windows keeps this name for a device."};
-  if (name.size() + kExtension.size() > kLongest)
+  if (name.size() > kLongest)
     return {"The name is too long for some disks."};
   return {};
 }
