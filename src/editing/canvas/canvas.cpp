@@ -272,8 +272,19 @@ void Canvas::viewChanged() {
   // The plan moved below the pointer.
   if (pointed_)
     last_.world = site_.view.toWorld(last_.px);
+  told_ = site_.view;
   site_.host.setPointer(pointer());
   site_.host.repaint();
+}
+
+void Canvas::followView() {
+  if (told_ != site_.view)
+    viewChanged();
+}
+
+void Canvas::renewHint() {
+  followView();
+  site_.host.setHint(hint());
 }
 
 void Canvas::afterInput() {

@@ -245,6 +245,7 @@ TEST(CarryPiece, PickedUpByDoubleClickItWaitsForAClickOfItsOwn) {
   EXPECT_EQ(script.pieces()[0].x, 3000);
   EXPECT_EQ(script.canvas.view(), ViewTransform::ofScale(1, {-1550, 60}))
       << "the first small piece starts the view over, in view";
+  EXPECT_NEAR(script.host.pointer.x, 1550 + 60 + 0.4 * 3000, 1e-6) << "below the pointer";
   script.canvas.doubleClick(script.at({3000, 100}));
   EXPECT_EQ(script.pieces().size(), 1u) << "the click that dropped it is not half a double-click";
 }
