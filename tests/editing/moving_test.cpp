@@ -56,6 +56,11 @@ TEST(Moving, AGroupSnapsAsARigidBodyAndIsJoined) {
   back.update({8, 5}, true, SnapIndex(layout));
   EXPECT_TRUE(back.snap() && !back.opensJoints());
   EXPECT_FALSE(back.commit(layout));
+
+  layout.editPiece(4)->joints[0] = {3, 1}; // of which 3 knows nothing
+  SelectionMove blocked(layout, endOf(layout, 3, 1));
+  blocked.update({target.x + 9, target.y - 12}, true, SnapIndex(layout));
+  EXPECT_FALSE(blocked.snap());
 }
 
 TEST(Moving, GradedNeighboursAreAskedForAndFreeTurnsOpenJoints) {
