@@ -17,6 +17,20 @@ bool beginsWithDrive(std::string_view name) {
          (name.size() == 2 || name[2] != ' ');
 }
 
+/// Whether the file of this name would not lie in its folder nor in one of that. Where it begins
+/// with a separator, that was meant, though it is put behind the folder.
+bool leadsOut(std::string_view name) {
+  if (beginsWithDrive(name) || name.find_first_of(kSeparators) == 0)
+    return true;
+  while (!name.empty()) {
+    const std::size_t length = std::min(name.find_first_of(kSeparators), name.size());
+    if (name.substr(0, length) == "..")
+      return true;
+    name.remove_prefix(std::min(length + 1, name.size()));
+  }
+  return false;
+}
+
 bool hasControlCharacters(std::string_view name) {
   for (std::size_t i = 0; i < name.size(); ++i) {
     const auto byte = static_cast<unsigned char>(name[i]);
@@ -44,10 +58,10 @@ bool namesDevice(std::string_view name) {
 
 NameAdvice adviseOnName(std::string_view name) {
   constexpr std::size_t kLongest = 200; // bytes
-  if (name.find_first_of(kSeparators) != std::string_view::npos)
-    return {"A name with / or \\ leads out of the folder.", true};
-  if (name == ".." || beginsWithDrive(name))
+  if (leadsOut(name))
     return {"This name leads out of the folder.", true};
+  if (name.find_first_of(kSeparators) != std::string_view::npos)
+    return {"A name with / or \\ means a folder inside this one."};
   if (hasControlCharacters(name))
     return {"The name holds characters that cannot be seen."};
   if (name.find_first_of("<>:\"|?*") != std::string_view::npos)
