@@ -7,7 +7,6 @@ namespace trassix {
 namespace {
 
 constexpr std::string_view kSeparators = "/\\";
-constexpr std::string_view kExtension = ".txl";
 
 bool isLetter(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
@@ -16,6 +15,20 @@ bool isLetter(char c) {
 bool beginsWithDrive(std::string_view name) {
   return name.size() > 1 && isLetter(name[0]) && name[1] == ':' &&
          (name.size() == 2 || name[2] != ' ');
+}
+
+/// Whether the file of this name would not lie in its folder nor in one of that. Where it begins
+/// with a separator, that was meant, though it is put behind the folder.
+bool leadsOut(std::string_view name) {
+  if (beginsWithDrive(name) || name.find_first_of(kSeparators) == 0)
+    return true;
+  while (!name.empty()) {
+    const std::size_t length = std::min(name.find_first_of(kSeparators), name.size());
+    if (name.substr(0, length) == "..")
+      return true;
+    name.remove_prefix(std::min(length + 1, name.size()));
+  }
+  return false;
 }
 
 bool hasControlCharacters(std::string_view name) {
@@ -44,18 +57,18 @@ bool namesDevice(std::string_view name) {
 } // namespace
 
 NameAdvice adviseOnName(std::string_view name) {
-  constexpr std::size_t kLongest = 200;
-  if (name.find_first_of(kSeparators) != std::string_view::npos)
-    return {"A name with / or \\ leads out of the folder.", true};
-  if (name == ".." || beginsWithDrive(name))
+  constexpr std::size_t kLongest = 200; // bytes
+  if (leadsOut(name))
     return {"This name leads out of the folder.", true};
+  if (name.find_first_of(kSeparators) != std::string_view::npos)
+    return {"A name with / or \\ means a folder inside this one."};
   if (hasControlCharacters(name))
     return {"The name holds characters that cannot be seen."};
   if (name.find_first_of("<>:\"|?*") != std::string_view::npos)
     return {"Windows takes none of < > : \" | ? * in a name."};
   if (namesDevice(name))
     return {"Windows keeps this name for a device."};
-  if (name.size() + kExtension.size() > kLongest)
+  if (name.size() > kLongest)
     return {"The name is too long for some disks."};
   return {};
 }

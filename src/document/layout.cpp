@@ -4,6 +4,7 @@
 #include <atomic>
 #include <set>
 #include <string>
+#include <unordered_set>
 
 namespace trassix {
 
@@ -22,16 +23,33 @@ void deselect(Records& records) {
     record.sel = false;
 }
 
-template <class Records>
-bool holdsId(const Records& records, std::int32_t id) {
-  return std::any_of(records.begin(), records.end(),
-                     [id](const auto& record) { return record.id == id; });
+/// Calls `visit` with each collection whose records have ids that are handed out.
+template <class Visit>
+void visitNumbered(const PlanContent& content, const Visit& visit) {
+  visit(content.pieces);
+  visit(content.scenery);
+  visit(content.labels);
+  visit(content.shapes);
+  visit(content.tunnels);
+  visit(content.helices);
 }
 
 bool inUse(const PlanContent& content, std::int32_t id) {
-  return holdsId(content.pieces, id) || holdsId(content.scenery, id) ||
-         holdsId(content.labels, id) || holdsId(content.shapes, id) ||
-         holdsId(content.tunnels, id) || holdsId(content.helices, id);
+  bool used = false;
+  visitNumbered(content, [&used, id](const auto& records) {
+    used = used || std::any_of(records.begin(), records.end(),
+                               [id](const auto& record) { return record.id == id; });
+  });
+  return used;
+}
+
+std::unordered_set<std::int32_t> usedIds(const PlanContent& content) {
+  std::unordered_set<std::int32_t> used;
+  visitNumbered(content, [&used](const auto& records) {
+    for (const auto& record : records)
+      used.insert(record.id);
+  });
+  return used;
 }
 
 } // namespace
@@ -123,8 +141,10 @@ std::int32_t Layout::takeId() {
     nextPieceId_ = 1;
     reusingIds_ = true;
   }
-  while (reusingIds_ && inUse(content_, nextPieceId_))
-    ++nextPieceId_;
+  // The first ids in use are mostly followed by many more.
+  if (reusingIds_ && inUse(content_, nextPieceId_))
+    for (const auto used = usedIds(content_); used.contains(nextPieceId_);)
+      ++nextPieceId_;
   return nextPieceId_++;
 }
 

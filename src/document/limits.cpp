@@ -3,11 +3,13 @@
 namespace trassix {
 
 bool inLimits(const PlacedPiece& piece) {
-  return isLength(piece.x) && isLength(piece.y) && isLength(piece.z);
+  return isLength(piece.x) && isLength(piece.y) && isLength(piece.z) &&
+         std::isfinite(piece.heading) && std::isfinite(piece.grade);
 }
 
 bool inLimits(const SceneryItem& item) {
-  return isLength(item.x) && isLength(item.y) && isScale(item.scalex) && isScale(item.scaley);
+  return isLength(item.x) && isLength(item.y) && std::isfinite(item.heading) &&
+         isScale(item.scalex) && isScale(item.scaley);
 }
 
 bool inLimits(const Label& label) {

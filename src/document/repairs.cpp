@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace trassix {
 
@@ -121,10 +122,16 @@ std::size_t openBeyondEnds(std::vector<PlacedPiece>& pieces) {
 }
 
 /// A plan makes the levels that its records name, and no level can have the id -1.
+std::size_t replaceLevel(std::int32_t& level, std::int32_t instead = 1) {
+  return std::exchange(level, level == -1 ? instead : level) == -1 ? 1 : 0;
+}
+
 template <class Records>
-void putOnALevel(Records& records) {
+std::size_t putOnALevel(Records& records) {
+  std::size_t count = 0;
   for (auto& record : records)
-    record.level = record.level == -1 ? 1 : record.level;
+    count += replaceLevel(record.level);
+  return count;
 }
 
 } // namespace
@@ -134,9 +141,11 @@ Repairs makeSound(Layout& layout) {
   repairs.renumbered = renumberRecords(layout) + renumberLevels(layout);
   PlanContent& content = layout.edit();
   repairs.opened = openBeyondEnds(content.pieces);
-  putOnALevel(content.pieces);
-  putOnALevel(content.scenery);
-  putOnALevel(content.shapes);
+  repairs.relevelled =
+      putOnALevel(content.pieces) + putOnALevel(content.scenery) + putOnALevel(content.shapes);
+  PlanSettings& settings = layout.editSettings();
+  repairs.relevelled +=
+      replaceLevel(settings.activeLevel, settings.levels.empty() ? 1 : settings.levels.front().id);
   if (repairs.any())
     content.pairs = pairsOfRuns(layout.pieces());
   return repairs;
@@ -149,8 +158,7 @@ Repairs makeSound(Block& block) {
   Repairs repairs;
   repairs.renumbered = renumber(block.pieces, fresh) + renumber(block.scenery, fresh);
   repairs.opened = openBeyondEnds(block.pieces);
-  putOnALevel(block.pieces);
-  putOnALevel(block.scenery);
+  repairs.relevelled = putOnALevel(block.pieces) + putOnALevel(block.scenery);
   if (repairs.any())
     block.pairs = pairsOfRuns(block.pieces);
   return repairs;
@@ -170,6 +178,8 @@ std::string describeRepairs(const Repairs& repairs) {
   else if (repairs.renumbered > 1)
     text.append(" ").append(std::to_string(repairs.renumbered)) +=
         " records without numbers of their own got new ones.";
+  if (repairs.relevelled != 0)
+    text += " What stood on a level that cannot be was put on another.";
   return text;
 }
 

@@ -13,8 +13,9 @@ namespace trassix {
 struct Repairs {
   std::size_t opened = 0;     ///< joints at ends that the piece does not have
   std::size_t renumbered = 0; ///< records and levels without an id of their own
+  std::size_t relevelled = 0; ///< uses of the level -1, which cannot be
 
-  bool any() const { return opened + renumbered != 0; }
+  bool any() const { return opened + renumbered + relevelled != 0; }
   bool operator==(const Repairs&) const = default;
 };
 
@@ -24,8 +25,8 @@ struct Repairs {
 /// the others, and those with the id -1, get fresh ones. The joint table of a piece ends with the
 /// ends of its definition: a joint beyond is opened, on its other side too. One-sided joints stay,
 /// and so does the table of a piece whose article is unknown. Pairs are looked for again where
-/// anything was mended. What stands on level -1, which cannot be, goes to level 1. Records no
-/// history.
+/// anything was mended. What stands on level -1, which cannot be, goes to level 1; where it is the
+/// active one, the first level becomes that. Records no history.
 Repairs makeSound(Layout& layout);
 Repairs makeSound(Block& block);
 

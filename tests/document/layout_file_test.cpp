@@ -256,13 +256,18 @@ TEST(LayoutFile, isMadeSoundAfterTheLoad) {
     EXPECT_EQ(layout.settings().levels[i].id, (std::array{3, 2, 4, 1}[i]));
   EXPECT_EQ(layout.settings().activeLevel, 2);
   EXPECT_EQ(describeRepairs(makeSound(layout)), "");
+  layout.editSettings().activeLevel = -1;
+  EXPECT_EQ(makeSound(layout), (Repairs{0, 0, 1}));
+  EXPECT_EQ(layout.settings().activeLevel, 3);
 
   Block block{"", damaged, std::vector<SceneryItem>(2)};
   block.scenery[1].id = block.scenery[0].id = 5;
+  block.scenery[1].level = -1;
   EXPECT_EQ(
       describeRepairs(makeSound(block)),
       "This file was damaged in places, which were mended. 2 joints at ends that their pieces "
-      "do not have were opened. 3 records without numbers of their own got new ones.");
+      "do not have were opened. 3 records without numbers of their own got new ones. What stood on "
+      "a level that cannot be was put on another.");
   EXPECT_FALSE(makeSound(block).any());
 }
 

@@ -1,10 +1,10 @@
 #include "document/layout_writer.h"
-#include "driver.h"
 #include "editing/scenery/annotations.h"
-#include "frame_test.h"
 #include "host/command_ids.h"
 #include "support/plain_user.h"
 #include "ui/canvas/canvas_panel.h"
+#include "ui/driver.h"
+#include "ui/frame_test.h"
 
 #include <wx/button.h>
 #include <wx/menu.h>
@@ -405,7 +405,7 @@ TEST_F(FileTest, WhatWasNotUnderstoodIsNotWrittenOver) {
 TEST_F(FileTest, NamesAreJudgedWhileTheyAreTyped) {
   start();
   placePiece();
-  const std::string leadsOut = "[A name with / or \\ leads out of the folder.]";
+  const std::string leadsOut = "[This name leads out of the folder.]";
   const std::string device = "Windows keeps this name for a device.";
   dialogs.drive("Save Layout", [&](wxDialog& dialog) {
     pressKey('A', wxMOD_CONTROL);
@@ -430,6 +430,8 @@ TEST_F(FileTest, NamesAreJudgedWhileTheyAreTyped) {
       type(dialog, "name", "con.txl ");
       EXPECT_EQ(advice(dialog), device);
       type(dialog, "name", "a\\b");
+      EXPECT_EQ(advice(dialog), "A name with / or \\ means a folder inside this one.");
+      type(dialog, "name", "../b");
       EXPECT_EQ(advice(dialog), leadsOut);
       return wxID_CANCEL;
     });

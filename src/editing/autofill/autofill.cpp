@@ -207,12 +207,12 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
   const PlacedPiece* start = layout.findPiece(gap.startPiece);
   if (pieces.empty() || !openAt(layout, gap.startPiece, gap.start.index))
     return {};
-  if (!std::ranges::all_of(pieces,
-                           [](const FillPiece& p) { return fitsPlan(*p.definition, p.pose); }))
+  const double height = endHeight(*start, *definitionOf(*start), gap.start.index);
+  if (!std::ranges::all_of(
+          pieces, [height](const FillPiece& p) { return fitsPlan(*p.definition, p.pose, height); }))
     return {{}, beyondPlan()};
   UndoScope step(layout);
   const std::int32_t level = start->level;
-  const double height = endHeight(*start, *definitionOf(*start), gap.start.index);
   const std::int32_t enter = entry(candidate);
   std::vector<std::int32_t> placed;
   Joint before{gap.startPiece, gap.start.index};
@@ -225,7 +225,9 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
   }
   if (restOf(gap, candidate).joins() && openAt(layout, gap.endPiece, gap.end.index))
     join(layout, before.target, before.tconn, gap.endPiece, gap.end.index);
-  closeMeetingEnds(layout, placed);
+  std::vector<std::int32_t> sorted = placed; // ids may have started over
+  std::ranges::sort(sorted);
+  closeMeetingEnds(layout, sorted);
   selectOnly(layout, placed.front());
   step.keep();
   return {std::move(placed), std::nullopt};

@@ -273,8 +273,19 @@ void Canvas::viewChanged() {
   // The plan moved below the pointer.
   if (pointed_)
     last_.world = site_.view.toWorld(last_.px);
+  told_ = site_.view;
   site_.workspace.setPointer(pointer());
   site_.workspace.repaint();
+}
+
+void Canvas::followView() {
+  if (told_ != site_.view)
+    viewChanged();
+}
+
+void Canvas::renewHint() {
+  followView();
+  site_.workspace.setHint(hint());
 }
 
 void Canvas::afterInput() {

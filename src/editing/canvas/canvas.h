@@ -72,7 +72,7 @@ class Canvas {
 
   std::string hint() const;
   /// Tells the window the hint again, after something outside changed what the mouse would do.
-  void renewHint() { site_.workspace.setHint(hint()); }
+  void renewHint();
   CursorShape cursor() const;
   ToolSite& site() { return site_; }
 
@@ -84,6 +84,8 @@ class Canvas {
   void afterInput();
   void pointAt(const PointerInput& input);
   void viewChanged();
+  /// Tools move the view as well.
+  void followView();
   PaintOptions paintOptions() const;
 
   /// Around everything that lets a tool work.
@@ -106,6 +108,7 @@ class Canvas {
   enum class Gesture : std::uint8_t { None, Pending, Drag, PanPending, Pan };
 
   ToolSite site_;
+  ViewTransform told_; ///< the view for which the window knows the pointer's place
   std::unique_ptr<CanvasTool> base_;
   std::unique_ptr<CarryTool> carry_;
   /// Tools that were put away while one of their functions ran, until it is back.

@@ -57,4 +57,18 @@ void ToolSite::resetViewForSmall() {
     view.reveal(*content, size.width, size.height);
 }
 
+std::string ToolSite::landingHint(const std::set<std::int32_t>& levels) const {
+  std::string hint;
+  for (const std::int32_t id : levels) {
+    const bool visible = layout().levelVisible(id);
+    if (visible && id == layout().settings().activeLevel)
+      continue;
+    const Level* level = layout().findLevel(id);
+    hint += hint.empty() ? "    Lands on " : ", ";
+    hint += level != nullptr ? level->name : "Level " + std::to_string(id);
+    hint += visible ? " (not the active level)" : " (hidden)";
+  }
+  return hint;
+}
+
 } // namespace trassix

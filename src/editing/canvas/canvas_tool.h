@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <set>
 #include <span>
 #include <string>
 #include <vector>
@@ -88,6 +89,9 @@ class ToolSite {
   /// Starts the view over at the scale of small gauges. Where nothing of the plan would show, it
   /// pans as little as brings something in.
   void resetViewForSmall();
+
+  /// "Lands on ..." for a hint, for those of the levels that are hidden or not the active one.
+  std::string landingHint(const std::set<std::int32_t>& levels) const;
 
   /// Millimetres that `px` pixels cover.
   double mm(double px) const { return px / view.zoom(); }

@@ -39,7 +39,7 @@ std::string CarryBlockTool::hint() const {
   for (const SceneryItem& item : block_.scenery)
     levels.insert(item.level);
   return "Click to place " + (block_.name.empty() ? "the copy" : block_.name) +
-         landingHint(levels) + turningHint();
+         site_.landingHint(levels) + turningHint();
 }
 
 } // namespace trassix

@@ -51,7 +51,7 @@ std::string CarryPieceTool::hint() const {
   const Layout& layout = site_.layout();
   const PlacedPiece* joined = layout.findPiece(insert_ ? insert_->piece : snap_.target);
   const std::string landing =
-      landingHint({joined != nullptr ? joined->level : dropLevel(layout)}) + turningHint();
+      site_.landingHint({joined != nullptr ? joined->level : dropLevel(layout)}) + turningHint();
   if (insert_)
     return "Let go to insert " + definition_.article + " here: the shorter side makes room" +
            landing;

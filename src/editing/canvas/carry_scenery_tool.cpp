@@ -21,7 +21,7 @@ void CarrySceneryTool::paint(Surface& surface) const {
 
 std::string CarrySceneryTool::hint() const {
   return "Click or let go to place " + std::string(definition_.name) +
-         landingHint({dropLevel(site_.layout())}) + turningHint();
+         site_.landingHint({dropLevel(site_.layout())}) + turningHint();
 }
 
 } // namespace trassix

@@ -79,21 +79,6 @@ bool CarryTool::key(const KeyInput& input) {
   }
 }
 
-std::string CarryTool::landingHint(const std::set<std::int32_t>& levels) const {
-  const Layout& layout = site_.layout();
-  std::string hint;
-  for (const std::int32_t id : levels) {
-    const bool visible = layout.levelVisible(id);
-    if (visible && id == layout.settings().activeLevel)
-      continue;
-    const Level* level = layout.findLevel(id);
-    hint += hint.empty() ? "    Lands on " : ", ";
-    hint += level != nullptr ? level->name : "Level " + std::to_string(id);
-    hint += visible ? " (not the active level)" : " (hidden)";
-  }
-  return hint;
-}
-
 const char* CarryTool::turningHint() {
   return "    Wheel or R: turn 30\u00b0 (Shift: 15\u00b0)    Esc: put it back";
 }

@@ -3,7 +3,6 @@
 #include "editing/canvas/canvas_tool.h"
 #include "editing/track/connector_geometry.h"
 
-#include <set>
 #include <string>
 
 namespace trassix {
@@ -37,8 +36,6 @@ class CarryTool : public CanvasTool {
   const Pose& pose() const { return pose_; }
   /// "Wheel or R: ..." for the end of a hint.
   static const char* turningHint();
-  /// "Lands on ..." before that, for those of the levels that are hidden or not the active one.
-  std::string landingHint(const std::set<std::int32_t>& levels) const;
 
  private:
   void moveTo(Point world);

@@ -117,8 +117,13 @@ std::string MoveGesture::hint() const {
   if (turning_)
     return "Turned by " + std::to_string(static_cast<int>(std::lround(turned_))) +
            "\u00b0    Shift: steps of 15\u00b0    Let go to keep    Esc: as it was";
-  return move_.snap() ? "Let go to join    Esc: as it was"
-                      : "Let go to place the selection here    Esc: as it was";
+  if (!move_.snap())
+    return "Let go to place the selection here    Esc: as it was";
+  const Layout& layout = site_.layout();
+  const std::int32_t level = layout.findPiece(move_.snap()->target)->level;
+  const bool stays = layout.findPiece(move_.snappingPiece())->level == level;
+  return "Let go to join" + (stays ? std::string() : site_.landingHint({level})) +
+         "    Esc: as it was";
 }
 
 } // namespace trassix

@@ -147,6 +147,12 @@ void PolygonTool::paint(Surface& surface) const {
 }
 
 std::string PolygonTool::hint() const {
+  return site_.workspace.switches().polygonUse.kind == PolygonUse::Kind::Shape
+             ? nextStep() + site_.landingHint({site_.layout().settings().activeLevel})
+             : nextStep();
+}
+
+std::string PolygonTool::nextStep() const {
   const std::string what = subject(site_.layout(), site_.workspace.switches().polygonUse);
   if (points_.empty())
     return what.empty() ? "Polygon: click its corners    Esc: back to selecting"

@@ -24,6 +24,7 @@ class PolygonTool : public CanvasTool {
 
  private:
   void close();
+  std::string nextStep() const;
   bool atFirst() const;
   /// The edge to the pointer would cross those before it.
   bool blocked() const;

@@ -3,6 +3,7 @@
 #include "editing/joining/end_grid.h"
 #include "editing/joining/joining.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <tuple>
@@ -21,6 +22,13 @@ bool withinReach(double distance) {
 
 bool mayFace(double headingA, double headingB) {
   return headingDifference(headingA, headingB) >= kSnapFacing;
+}
+
+/// Whether one of the ends knows of the joint that the other end has with its piece.
+bool leaves(std::span<const PlacedEnd> ends, const PlacedEnd& other) {
+  return std::ranges::any_of(ends, [&other](const PlacedEnd& end) {
+    return end.piece == other.joinedTo && end.joinedTo == other.piece;
+  });
 }
 
 SnapResult snapOnto(const PieceDef& carried, std::int32_t connector, const PlacedEnd& target,
@@ -119,7 +127,7 @@ std::optional<EndContact> SnapIndex::findGroupSnap(std::span<const PlacedEnd> en
   for (const PlacedEnd& mine : ends) {
     data_->grid.visitNear(mine.at, kSnapDistance, [&](const PlacedEnd& end) {
       if (!end.visible || end.system != mine.system ||
-          (end.joinedTo != -1 && !containsId(group, end.joinedTo)))
+          (end.joinedTo != -1 && !(containsId(group, end.joinedTo) && leaves(ends, end))))
         return;
       const double distance = distanceBetween(end.at, mine.at);
       if (!withinReach(distance) || distance > best || !mayFace(end.heading, mine.heading) ||

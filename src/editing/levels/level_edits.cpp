@@ -106,6 +106,10 @@ void openSteps(Layout& layout, const Rises& rises) {
   closeMeetingEnds(layout, risen, MeetingPlay::none());
 }
 
+bool measuresInLimits(const LastShape& shape) {
+  return isLength(shape.w) && isLength(shape.h) && isLength(shape.w2) && isLength(shape.h2);
+}
+
 void removeShape(Layout& layout, std::int32_t id) {
   std::erase_if(layout.edit().shapes, [id](const Shape& shape) { return shape.id == id; });
 }
@@ -186,7 +190,7 @@ bool setBaseboard(Layout& layout, const std::vector<Point>& outline, const LastS
       outline.size() < kFewestCorners ? std::vector<Point>{} : outline;
   const PlanSettings& present = layout.settings();
   if ((present.baseboard == wanted && present.lastShape == shape) ||
-      (!wanted.empty() && !outlineProblem(wanted).empty()))
+      (!wanted.empty() && !outlineProblem(wanted).empty()) || !measuresInLimits(shape))
     return false;
   UndoScope step(layout);
   PlanSettings& settings = layout.editSettings();

@@ -25,8 +25,9 @@ void move(Record& record, const Pose& pose) {
 }
 
 bool fitsPlan(const Block& block, const Pose& pose) {
-  const auto fits = [&pose](const auto& record) {
-    return inLimits(toWorld(pose, {record.x, record.y}));
+  const auto fits = [&pose](auto record) {
+    move(record, pose);
+    return inLimits(record);
   };
   return std::ranges::all_of(block.pieces, fits) && std::ranges::all_of(block.scenery, fits);
 }

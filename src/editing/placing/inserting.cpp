@@ -150,7 +150,7 @@ EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpo
   const Pose pose = AttachPose(*definition, ownStays, endOf(layout, stays.target, stays.tconn));
   const RigidMotion motion = facing(endOf(layout, moves.target, moves.tconn),
                                     ConnectorToWorld(pieceAt(pose), *definition, ownMoves));
-  if (!fitsPlan(*definition, pose) || !staysInLimits(layout, moving, motion))
+  if (!fitsPlan(*definition, pose, height) || !staysInLimits(layout, moving, motion))
     return {{}, beyondPlan()};
 
   UndoScope step(layout);

@@ -176,8 +176,8 @@ std::int32_t dropLevel(const Layout& layout) {
   return level;
 }
 
-bool fitsPlan(const PieceDef& definition, const Pose& pose) {
-  return inLimits({pose.x, pose.y}) &&
+bool fitsPlan(const PieceDef& definition, const Pose& pose, double height) {
+  return inLimits({pose.x, pose.y}) && isLength(height) &&
          std::ranges::all_of(endsOfCarried(definition, pose),
                              [](const PlacedEnd& end) { return inLimits(end.at); });
 }
@@ -271,18 +271,18 @@ EditResult dropScenery(Layout& layout, std::string_view key, const Pose& pose) {
   const Pose at = key == kRoundhouse
                       ? seatedRoundhouse(layout, definition->footprint(planSystem(layout)), pose)
                       : pose;
-  if (!inLimits({at.x, at.y}))
-    return {{}, beyondPlan()};
-  UndoScope step(layout);
-  layout.ensureLevel();
   SceneryItem item;
-  item.id = layout.takeId();
   item.item = key;
   item.x = at.x;
   item.y = at.y;
   item.heading = at.heading;
-  item.level = dropLevel(layout);
   item.sel = true;
+  if (!inLimits(item))
+    return {{}, beyondPlan()};
+  UndoScope step(layout);
+  layout.ensureLevel();
+  item.id = layout.takeId();
+  item.level = dropLevel(layout);
   layout.clearSelection();
   layout.edit().scenery.push_back(item);
   step.keep();

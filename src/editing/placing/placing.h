@@ -18,9 +18,9 @@ namespace trassix {
 /// height (the first of equal heights), else the active one.
 std::int32_t dropLevel(const Layout& layout);
 
-/// Whether the piece and all its ends, to which others will be joined, lie within the limits of a
-/// plan. What does not is refused by the edits below.
-bool fitsPlan(const PieceDef& definition, const Pose& pose);
+/// Whether the piece at this height and all its ends, to which others will be joined, lie within
+/// the limits of a plan. What does not is refused by the edits below.
+bool fitsPlan(const PieceDef& definition, const Pose& pose, double height = 0);
 
 /// Appends a piece with all ends open and returns its id. A building block: pushes no history,
 /// joins and selects nothing.

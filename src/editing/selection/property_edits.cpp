@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace trassix {
 
@@ -44,7 +45,8 @@ bool anySelected(Content& content, const Change& change) {
 bool setPiecePose(Layout& layout, std::int32_t piece, const Pose& pose) {
   const PlacedPiece* present = layout.findPiece(piece);
   const Pose wanted{pose.x, pose.y, normaliseHeading(pose.heading)};
-  if (present == nullptr || isStill(poseOf(*present), wanted) || !inLimits({pose.x, pose.y}))
+  if (present == nullptr || isStill(poseOf(*present), wanted) || !inLimits({pose.x, pose.y}) ||
+      !std::isfinite(pose.heading))
     return false;
   UndoScope step(layout);
   const std::array<std::int32_t, 1> moved{piece};

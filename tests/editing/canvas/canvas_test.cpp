@@ -245,6 +245,7 @@ TEST(CarryPiece, PickedUpByDoubleClickItWaitsForAClickOfItsOwn) {
   EXPECT_EQ(script.pieces()[0].x, 3000);
   EXPECT_EQ(script.canvas.view(), ViewTransform::ofScale(1, {-1550, 60}))
       << "the first small piece starts the view over, in view";
+  EXPECT_NEAR(script.host.seen.pointer.x, 1550 + 60 + 0.4 * 3000, 1e-6) << "below the pointer";
   script.canvas.doubleClick(script.at({3000, 100}));
   EXPECT_EQ(script.pieces().size(), 1u) << "the click that dropped it is not half a double-click";
 }
@@ -293,6 +294,18 @@ TEST(CarryTools, SayWhatLandsOutOfSightOrOnAnotherLevel) {
             "    Lands on Cellar (hidden), Level 7 (not the active level)");
   levels[0].visible = levels[1].visible = false;
   EXPECT_EQ(landing("24188", {600, 500}), "    Lands on Level 1 (hidden)");
+  script.key(Key::Escape);
+  script.setMode(ToolMode::Polygon);
+  EXPECT_TRUE(script.canvas.hint().ends_with("    Lands on Level 1 (hidden)"));
+}
+
+TEST(SelectTool, SaysThatAMoveEndsOnAnotherLevel) {
+  CanvasScript script(Plan().place("24188").place("24188", {0, 300, 0}).layout);
+  script.host.plan.ensureLevel(2);
+  script.host.plan.editPiece(1)->level = 2;
+  script.dragTo({94, 300}, {290, 5});
+  EXPECT_EQ(script.canvas.hint(),
+            "Let go to join    Lands on Level 2 (not the active level)    Esc: as it was");
 }
 
 TEST(CanvasWheel, CtrlTurnsTheSelectionAndZoomsWithoutOne) {

@@ -1,5 +1,7 @@
+#include "editing/autofill/autofill.h"
 #include "editing/levels/level_edits.h"
 #include "editing/placing/block_placing.h"
+#include "editing/placing/inserting.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/moving.h"
@@ -10,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 
 namespace trassix {
@@ -53,6 +56,11 @@ TEST(Moving, AGroupSnapsAsARigidBodyAndIsJoined) {
   back.update({8, 5}, true, SnapIndex(layout));
   EXPECT_TRUE(back.snap() && !back.opensJoints());
   EXPECT_FALSE(back.commit(layout));
+
+  layout.editPiece(4)->joints[0] = {3, 1}; // of which 3 knows nothing
+  SelectionMove blocked(layout, endOf(layout, 3, 1));
+  blocked.update({target.x + 9, target.y - 12}, true, SnapIndex(layout));
+  EXPECT_FALSE(blocked.snap());
 }
 
 TEST(Moving, GradedNeighboursAreAskedForAndFreeTurnsOpenJoints) {
@@ -153,6 +161,27 @@ TEST(Edge, NothingGoesBeyondThePlan) {
          SceneryItem item = l.content().scenery[0];
          item.scalex = 1001;
          return refusedIf(!replaceRecord(l, item));
+       }},
+      {"headings, scales and measures",
+       [&](Layout& l) {
+         SceneryItem item = l.content().scenery[0];
+         item.heading = NAN;
+         Block block{"", {}, l.content().scenery};
+         block.scenery[0].scaley = 0;
+         return refusedIf(!replaceRecord(l, item) && !setPiecePose(l, 2, {0, 0, NAN}) &&
+                          dropScenery(l, "74861", {0, 0, NAN}).refusal &&
+                          placeBlock(l, block, {}).refusal &&
+                          !setBaseboard(l, {{0, 0}, {9, 0}, {0, 9}}, {0, 1e7, 1, 1, 1}));
+       }},
+      {"end of a climb",
+       [](Layout&) {
+         Layout l = Plan().place("24188").extend("24188").place("24188", {753.2, 0, 0}).layout;
+         for (PlacedPiece& piece : l.edit().pieces)
+           piece.z = 1e6;
+         l.editPiece(1)->grade = l.editPiece(2)->grade = 1;
+         const auto inserted = insertPiece(l, "24188", {1, 1, 0, 1, {}}).refusal;
+         const auto fills = solveAutofill(l, 2, 3);
+         return inserted ? placeFill(l, *fills->gap, fills->candidates.at(0)).refusal : inserted;
        }},
   };
   const std::uint64_t before = layout.revision();
