@@ -177,8 +177,8 @@ void carryPiece(test::CanvasScript& script) {
 void carryBlock(test::CanvasScript& script) {
   Block block;
   const std::vector<PlacedPiece>& pieces = script.pieces();
-  block.pieces.assign(pieces.begin(), pieces.begin() + 200);
-  script.canvas.carryBlock(std::move(block), script.at({900, 700}), true);
+  block.content.pieces.assign(pieces.begin(), pieces.begin() + 200);
+  script.canvas.carry(std::move(block), script.at({900, 700}), true);
 }
 
 void moveSelection(test::CanvasScript& script) {

@@ -4,6 +4,7 @@
 #include "document/element_writer.h"
 #include "document/piece_lines.h"
 #include "document/piece_pairs.h"
+#include "document/record_kinds.h"
 
 #include <algorithm>
 #include <exception>
@@ -24,13 +25,13 @@ struct Extent {
   double middle() const { return (min + max) * 0.5; }
 };
 
-template <class Function>
-void forEachRecord(Block& block, Function function) {
-  for (PlacedPiece& piece : block.pieces)
-    function(piece);
-  for (SceneryItem& item : block.scenery)
-    function(item);
-}
+/// Without turning, so that coordinates stay exact.
+struct Shift {
+  Point by;
+
+  Point operator()(Point p) const { return {p.x + by.x, p.y + by.y}; }
+  Pose operator()(const Pose& p) const { return {p.x + by.x, p.y + by.y, p.heading}; }
+};
 
 void readLines(ElementReader& reader, Block& block) {
   bool inScenery = false;
@@ -39,14 +40,14 @@ void readLines(ElementReader& reader, Block& block) {
       if (reader.has("</scenery>"))
         inScenery = false;
       else if (reader.has("<sceneryitem "))
-        block.scenery.push_back(readSceneryItem(reader));
+        block.content.scenery.push_back(readSceneryItem(reader));
     } else if (reader.has("<block ")) {
       block.name = reader.text("name");
     } else if (reader.has("<piece ")) {
-      block.pieces.push_back(readPiecePlace(reader));
+      block.content.pieces.push_back(readPiecePlace(reader));
     } else if (reader.has("<joint ")) {
-      if (!block.pieces.empty())
-        readJoint(reader, block.pieces.back());
+      if (!block.content.pieces.empty())
+        readJoint(reader, block.content.pieces.back());
     } else if (reader.has("<scenery>")) {
       inScenery = true;
     }
@@ -55,20 +56,26 @@ void readLines(ElementReader& reader, Block& block) {
 
 } // namespace
 
+bool Block::empty() const {
+  bool none = true;
+  forEachKind(content, [&none](const auto& records) { none = none && records.empty(); });
+  return none;
+}
+
 Block blockFromSelection(const Layout& layout) {
-  const auto selected = [](const auto& record) { return record.sel; };
   Block block;
-  std::copy_if(layout.pieces().begin(), layout.pieces().end(), std::back_inserter(block.pieces),
-               selected);
-  std::copy_if(layout.content().scenery.begin(), layout.content().scenery.end(),
-               std::back_inserter(block.scenery), selected);
+  forEachSelectable(layout.content(), [&block](const auto& records) {
+    using Records = std::remove_cvref_t<decltype(records)>;
+    std::ranges::copy_if(records, std::back_inserter(recordsOf<Records>(block.content)),
+                         [](const auto& record) { return record.sel; });
+  });
   const auto inBlock = [&layout](std::int32_t id) {
     const PlacedPiece* piece = layout.findPiece(id);
     return piece != nullptr && piece->sel;
   };
   for (const PiecePair& pair : layout.content().pairs)
     if (inBlock(pair.first) && inBlock(pair.second))
-      block.pairs.push_back(pair);
+      block.content.pairs.push_back(pair);
   return block;
 }
 
@@ -76,22 +83,30 @@ Point centreBlock(Block& block) {
   constexpr double kNothingBelow = 100000000.0;
   Extent x;
   Extent y;
-  forEachRecord(block, [&x, &y](const auto& record) {
-    x.add(record.x);
-    y.add(record.y);
+  const auto add = [&x, &y](Point p) {
+    x.add(p.x);
+    y.add(p.y);
+  };
+  forEachKind(block.content, [&](const auto& records) {
+    using Record = typename std::remove_cvref_t<decltype(records)>::value_type;
+    constexpr bool kInFiles =
+        Record::kKind == RecordKind::Piece || Record::kKind == RecordKind::Scenery;
+    if (kInFiles || !block.hasFilePart())
+      for (const auto& record : records)
+        forEachPosition(record, add);
   });
   if (x.min > kNothingBelow)
     return {}; // the box of nothing is at the origin
   const Point middle{x.middle(), y.middle()};
-  forEachRecord(block, [middle](auto& record) {
-    record.x -= middle.x;
-    record.y -= middle.y;
+  forEachKind(block.content, [middle](auto& records) {
+    for (auto& record : records)
+      moveRecord(record, Shift{{-middle.x, -middle.y}});
   });
   return middle;
 }
 
 std::string writeBlock(const Block& block, const TextSink& sink) {
-  if (block.empty())
+  if (!block.hasFilePart())
     return "No pieces or scenery selected";
   ElementWriter writer(sink);
   writer.line("", kXmlDeclaration);
@@ -99,9 +114,9 @@ std::string writeBlock(const Block& block, const TextSink& sink) {
   writer.text("name", block.name);
   writer.text("version", "1");
   writer.endParent();
-  for (const PlacedPiece& piece : block.pieces)
+  for (const PlacedPiece& piece : block.content.pieces)
     writePiece(writer, piece, "  ");
-  writeScenery(writer, block.scenery);
+  writeScenery(writer, block.content.scenery);
   writer.line("", "</block>");
   return writer.finish();
 }
@@ -115,7 +130,7 @@ std::string readBlock(std::string_view text, Block& block) {
   } catch (const std::exception& failure) {
     return failure.what();
   }
-  block.pairs = pairsOfRuns(block.pieces);
+  block.content.pairs = pairsOfRuns(block.content.pieces);
   return {};
 }
 

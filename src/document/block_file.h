@@ -1,4 +1,4 @@
-// Blocks: pieces of a plan kept on their own, in the user's library, on the clipboard, or carried
+// Blocks: parts of a plan kept on their own, in the user's library, on the clipboard, or carried
 // over the canvas. Placing one is in editing/block_placing.h.
 #pragma once
 
@@ -17,24 +17,25 @@ namespace trassix {
 /// the block.
 struct Block {
   std::string name;
-  std::vector<PlacedPiece> pieces;
-  std::vector<SceneryItem> scenery;
+  PlanContent content;   ///< of it the file has pieces and scenery, without their heights
   bool onLevels = false; ///< pieces have no height of their own, but that of their level
-  std::vector<PiecePair> pairs = {}; ///< not saved
 
-  bool empty() const { return pieces.empty() && scenery.empty(); }
+  bool empty() const;
+  /// Whether there is something in it that a block file can hold.
+  bool hasFilePart() const { return !content.pieces.empty() || !content.scenery.empty(); }
   bool operator==(const Block&) const = default;
 };
 
 /// Everything selected, in document order.
 Block blockFromSelection(const Layout& layout);
 
-/// Moves the block so that the middle of the box around the positions of its records (not their
-/// extents) becomes the origin. Returns where that middle was.
+/// Moves the block so that the middle of the box around the positions of its pieces and scenery
+/// (not their extents), else of its other records, becomes the origin. Returns where that middle
+/// was.
 Point centreBlock(Block& block);
 
-/// Gives the text of a block file to `sink`. Returns a message, empty on success; an empty block
-/// and numbers that are not finite are refused.
+/// Gives the text of a block file to `sink`. Returns a message, empty on success; a block
+/// without pieces and scenery and numbers that are not finite are refused.
 std::string writeBlock(const Block& block, const TextSink& sink);
 
 /// Fills `block` from the text of a block file. Heights, grades, colours, helices and flags stay in

@@ -19,10 +19,16 @@ void decode(std::string& text) {
     text = decodeEntities(text);
 }
 
-template <class Records, class Text>
-void decodeAll(Records& records, Text text) {
-  for (auto& record : records)
-    decode(record.*text);
+void decodeAll(PlanContent& content) {
+  const auto all = [](auto& records, auto text) {
+    for (auto& record : records)
+      decode(record.*text);
+  };
+  all(content.pieces, &PlacedPiece::cat);
+  all(content.scenery, &SceneryItem::item);
+  all(content.labels, &Label::text);
+  all(content.shapes, &Shape::label);
+  all(content.helices, &Helix::variant);
 }
 
 } // namespace
@@ -49,19 +55,14 @@ std::string decodeEntities(std::string_view text) {
 
 void decodeTexts(Layout& layout, std::string& name) {
   decode(name);
-  PlanContent& content = layout.edit();
-  decodeAll(content.pieces, &PlacedPiece::cat);
-  decodeAll(content.scenery, &SceneryItem::item);
-  decodeAll(content.labels, &Label::text);
-  decodeAll(content.shapes, &Shape::label);
-  decodeAll(content.helices, &Helix::variant);
-  decodeAll(layout.editSettings().levels, &Level::name);
+  decodeAll(layout.edit());
+  for (Level& level : layout.editSettings().levels)
+    decode(level.name);
 }
 
 void decodeTexts(Block& block) {
   decode(block.name);
-  decodeAll(block.pieces, &PlacedPiece::cat);
-  decodeAll(block.scenery, &SceneryItem::item);
+  decodeAll(block.content);
 }
 
 } // namespace trassix

@@ -1,5 +1,7 @@
 #include "document/layout.h"
 
+#include "document/record_kinds.h"
+
 #include <algorithm>
 #include <atomic>
 #include <set>
@@ -12,40 +14,17 @@ namespace {
 
 constexpr Color kFirstLevelColor{180, 200, 220};
 
-template <class Records>
-bool anySelected(const Records& records) {
-  return std::any_of(records.begin(), records.end(), [](const auto& record) { return record.sel; });
-}
-
-template <class Records>
-void deselect(Records& records) {
-  for (auto& record : records)
-    record.sel = false;
-}
-
-/// Calls `visit` with each collection whose records have ids that are handed out.
-template <class Visit>
-void visitNumbered(const PlanContent& content, const Visit& visit) {
-  visit(content.pieces);
-  visit(content.scenery);
-  visit(content.labels);
-  visit(content.shapes);
-  visit(content.tunnels);
-  visit(content.helices);
-}
-
 bool inUse(const PlanContent& content, std::int32_t id) {
-  bool used = false;
-  visitNumbered(content, [&used, id](const auto& records) {
-    used = used || std::any_of(records.begin(), records.end(),
-                               [id](const auto& record) { return record.id == id; });
+  bool found = false;
+  forEachKind(content, [&](const auto& records) {
+    found = found || std::ranges::any_of(records, [id](const auto& r) { return r.id == id; });
   });
-  return used;
+  return found;
 }
 
 std::unordered_set<std::int32_t> usedIds(const PlanContent& content) {
   std::unordered_set<std::int32_t> used;
-  visitNumbered(content, [&used](const auto& records) {
+  forEachKind(content, [&used](const auto& records) {
     for (const auto& record : records)
       used.insert(record.id);
   });
@@ -60,7 +39,7 @@ PlanContent& Layout::edit() {
 }
 
 PlanSettings& Layout::editSettings() {
-  stamp();
+  settingsStamp_ = newStamp();
   return settings_;
 }
 
@@ -72,7 +51,7 @@ PlacedPiece* Layout::editPiece(std::int32_t id) {
   const PlacedPiece* piece = findPiece(id);
   if (piece == nullptr)
     return nullptr;
-  stamp();
+  stampContent();
   return &content_.pieces[static_cast<std::size_t>(piece - content_.pieces.data())];
 }
 
@@ -165,22 +144,28 @@ void Layout::startGradeRun(std::int32_t anchor, std::int32_t connector, double d
   content.mirrorLastGradeRun();
 }
 
-void Layout::clearSelection() {
-  if (!anySelected(content_.pieces) && !anySelected(content_.scenery) &&
-      !anySelected(content_.labels) && !anySelected(content_.shapes) &&
-      !anySelected(content_.measurements))
+void Layout::select(RecordKind kind, std::int32_t id, bool selected) {
+  const auto set = [this, selected](auto& record) {
+    if (std::exchange(record.sel, selected) != selected)
+      selectionStamp_ = newStamp();
+  };
+  if (kind == RecordKind::Piece) { // of which there are many
+    if (const PlacedPiece* piece = findPiece(id))
+      set(content_.pieces[static_cast<std::size_t>(piece - content_.pieces.data())]);
     return;
-  stamp();
-  deselect(content_.pieces);
-  deselect(content_.scenery);
-  deselect(content_.labels);
-  deselect(content_.shapes);
-  deselect(content_.measurements);
+  }
+  forEachSelectable(content_, [&](auto& records) {
+    using Record = typename std::remove_cvref_t<decltype(records)>::value_type;
+    if (Record::kKind != kind)
+      return;
+    if (const auto found = std::ranges::find(records, id, &Record::id); found != records.end())
+      set(*found);
+  });
 }
 
 void Layout::clear() {
   content_ = {};
-  settings_ = {};
+  editSettings() = {};
   setNextPieceId(1);
   history_.clear();
   stampArrangement();
@@ -204,14 +189,18 @@ bool Layout::redo() {
   return true;
 }
 
-void Layout::stamp() {
-  static std::atomic<std::uint64_t> lastRevision{0};
-  revision_ = ++lastRevision;
+std::uint64_t Layout::newStamp() {
+  static std::atomic<std::uint64_t> last{0};
+  return ++last;
+}
+
+void Layout::stampContent() {
+  contentStamp_ = newStamp();
 }
 
 void Layout::stampArrangement() {
-  stamp();
-  arrangement_ = revision_;
+  stampContent();
+  arrangement_ = contentStamp_;
 }
 
 } // namespace trassix

@@ -3,10 +3,12 @@
 #include "document/history.h"
 #include "document/piece_index.h"
 #include "document/plan_content.h"
-#include "document/records.h"
+#include "document/record_kinds.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace trassix {
@@ -25,9 +27,10 @@ struct PlanSettings {
 /// The open document: what is on the plan, its settings, and its undo and redo history. Holds
 /// storage and invariants only; what edits it are the topic functions in `editing/`.
 ///
-/// Reading goes through the const accessors, writing through `edit()` and `editSettings()`, which
-/// stamp a new revision, so that anything derived from a plan knows when it is out of date.
-/// References from `edit()` must not be kept across other calls.
+/// Reading goes through the const accessors, writing through `edit()` and `editSettings()`,
+/// selecting through `reselect()` and `select()`. Each stamps what it may have changed, so that
+/// anything derived from a plan knows when it is out of date. References from `edit()` must not be
+/// kept across other calls.
 class Layout {
  public:
   const PlanContent& content() const { return content_; }
@@ -37,9 +40,22 @@ class Layout {
   PlanContent& edit();
   PlanSettings& editSettings();
 
-  /// Changes with every write access and is unique in the process: equal revisions mean equal
-  /// content, also between copies of a document.
-  std::uint64_t revision() const { return revision_; }
+  /// Selects the records of which `chosen` is true, and no others.
+  template <class Chosen>
+  void reselect(Chosen chosen);
+  /// Selects or deselects one record; nothing happens when there is none.
+  void select(RecordKind kind, std::int32_t id, bool selected);
+
+  /// Stamps change with every write access and are unique in the process: equal ones mean equal
+  /// things, also between copies of a document. Of the records, whatever is selected:
+  std::uint64_t contentStamp() const { return contentStamp_; }
+  std::uint64_t settingsStamp() const { return settingsStamp_; }
+  /// Of what is selected. Changes with the content as well, since what was selected may be gone.
+  std::uint64_t selectionStamp() const { return std::max(selectionStamp_, contentStamp_); }
+  /// Of content and settings.
+  std::uint64_t documentStamp() const { return std::max(contentStamp_, settingsStamp_); }
+  /// Of all of it.
+  std::uint64_t revision() const { return std::max(selectionStamp_, documentStamp()); }
 
   /// Null when no piece has this id. The pointer is good until the next edit. Never a scan, in
   /// whatever order the ids stand; not to be called by two threads at once.
@@ -80,7 +96,9 @@ class Layout {
   /// grade.
   void startGradeRun(std::int32_t anchor, std::int32_t connector, double degrees);
 
-  void clearSelection();
+  void clearSelection() {
+    reselect([](const auto&) { return false; });
+  }
 
   /// Empties everything and forgets the history; ids start at 1 again.
   void clear();
@@ -95,7 +113,8 @@ class Layout {
 
  private:
   friend class UndoScope;
-  void stamp();
+  static std::uint64_t newStamp();
+  void stampContent();
   void stampArrangement();
 
   PlanContent content_;
@@ -103,10 +122,26 @@ class Layout {
   std::int32_t nextPieceId_ = 1;
   bool reusingIds_ = false; ///< the counter has started over and must pass over ids in use
   History history_;
-  std::uint64_t revision_ = 0;
+  std::uint64_t contentStamp_ = 0;
+  std::uint64_t settingsStamp_ = 0;
+  std::uint64_t selectionStamp_ = 0;
   bool inEdit_ = false;           ///< an undo scope is open
-  std::uint64_t arrangement_ = 0; ///< the last revision in which pieces may have changed places
+  std::uint64_t arrangement_ = 0; ///< the stamp since which pieces kept their places in the list
   mutable PieceIndex index_;
 };
+
+template <class Chosen>
+void Layout::reselect(Chosen chosen) {
+  bool changed = false;
+  forEachSelectable(content_, [&](auto& records) {
+    for (auto& record : records) {
+      const bool wanted = chosen(std::as_const(record));
+      changed = changed || record.sel != wanted;
+      record.sel = wanted;
+    }
+  });
+  if (changed)
+    selectionStamp_ = newStamp();
+}
 
 } // namespace trassix

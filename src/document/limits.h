@@ -2,8 +2,10 @@
 // that arithmetic on a plan never overflows and what was saved can be loaded.
 #pragma once
 
-#include "document/records.h"
+#include "document/record_kinds.h"
 #include "geometry/lengths.h"
+
+#include <cmath>
 
 namespace trassix {
 
@@ -14,10 +16,27 @@ inline bool isScale(double scale) {
   return scale >= kSmallestScale && scale <= kLargestScale;
 }
 
-bool inLimits(const PlacedPiece& piece);
-bool inLimits(const SceneryItem& item);
-bool inLimits(const Label& label);
-bool inLimits(const Shape& shape);
-bool inLimits(const Level& level);
+/// Whatever the record has of positions, heights, headings, grades and scales.
+template <class Record>
+requires requires {
+  Record::kKind;
+}
+bool inLimits(const Record& record) {
+  bool in = true;
+  forEachPosition(record, [&in](Point p) { in = in && inLimits(p); });
+  if constexpr (requires { record.z; })
+    in = in && isLength(record.z) && std::isfinite(record.grade);
+  if constexpr (requires { record.height; })
+    in = in && isLength(record.height);
+  if constexpr (requires { record.heading; })
+    in = in && std::isfinite(record.heading);
+  if constexpr (requires { record.scalex; })
+    in = in && isScale(record.scalex) && isScale(record.scaley);
+  return in;
+}
+
+inline bool inLimits(const Level& level) {
+  return inLimits(level.outline) && isLength(level.height);
+}
 
 } // namespace trassix

@@ -17,6 +17,7 @@
 #include "geometry/point.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -36,7 +37,13 @@ struct Joint {
 /// four ends, which are kept in place so that copying a plan does not allocate for each piece.
 using JointTable = boost::container::small_vector<Joint, 4>;
 
+/// A kind of record that a plan has many of.
+enum class RecordKind : std::uint8_t { Shape, Helix, Tunnel, Scenery, Piece, Measurement, Label };
+inline constexpr std::size_t kRecordKinds = 7;
+
 struct PlacedPiece {
+  static constexpr RecordKind kKind = RecordKind::Piece;
+
   std::int32_t id = -1;
   std::string cat; ///< article of the piece's definition
   double x = 0;
@@ -72,6 +79,8 @@ struct PiecePair {
 };
 
 struct SceneryItem {
+  static constexpr RecordKind kKind = RecordKind::Scenery;
+
   std::int32_t id = -1;
   std::string item; ///< key in the scenery catalogue
   double x = 0;
@@ -86,6 +95,8 @@ struct SceneryItem {
 };
 
 struct Label {
+  static constexpr RecordKind kKind = RecordKind::Label;
+
   std::int32_t id = -1;
   std::string text;
   double x = 0;
@@ -97,6 +108,8 @@ struct Label {
 
 /// A length laid down with the measuring tape. Kept by undo and redo, not by the file.
 struct Measurement {
+  static constexpr RecordKind kKind = RecordKind::Measurement;
+
   std::int32_t id = -1;
   Point from;
   Point to;
@@ -107,6 +120,8 @@ struct Measurement {
 
 /// A coloured polygon.
 struct Shape {
+  static constexpr RecordKind kKind = RecordKind::Shape;
+
   std::int32_t id = -1;
   std::vector<Point> points;
   Color color;
@@ -121,6 +136,8 @@ struct Shape {
 };
 
 struct Tunnel {
+  static constexpr RecordKind kKind = RecordKind::Tunnel;
+
   std::int32_t id = -1;
   std::int32_t portalA = -1;
   std::int32_t portalB = -1;
@@ -133,6 +150,8 @@ struct Tunnel {
 
 /// A spiral of a helix kit, placed as a unit.
 struct Helix {
+  static constexpr RecordKind kKind = RecordKind::Helix;
+
   std::int32_t id = -1;
   double cx = 0;
   double cy = 0;

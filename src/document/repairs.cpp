@@ -50,22 +50,11 @@ std::size_t renumber(Records& records, FreshIds& fresh) {
   return count;
 }
 
-/// Calls `visit` with each collection whose records have ids and are kept by undo.
-template <class Content, class Visit>
-void visitCollections(Content& content, Visit visit) {
-  visit(content.pieces);
-  visit(content.scenery);
-  visit(content.labels);
-  visit(content.shapes);
-  visit(content.tunnels);
-  visit(content.helices);
-}
-
 std::size_t renumberRecords(Layout& layout) {
   FreshIds fresh(layout.nextPieceId() - 1);
-  visitCollections(layout.content(), [&fresh](const auto& records) { fresh.useAll(records); });
+  forEachKind(layout.content(), [&fresh](const auto& records) { fresh.useAll(records); });
   std::size_t count = 0;
-  visitCollections(layout.edit(), [&](auto& records) { count += renumber(records, fresh); });
+  forEachKind(layout.edit(), [&](auto& records) { count += renumber(records, fresh); });
   // Once they have started over, ids in use are to be passed over by those to come as well.
   const std::int32_t next = fresh.last() + 1;
   layout.setNextPieceId(next < layout.nextPieceId() ? Layout::kLargestId + 1 : next);
@@ -79,10 +68,7 @@ std::size_t renumberLevels(Layout& layout) {
       for (auto& record : records)
         visit(record.level);
     };
-    PlanContent& content = layout.edit();
-    visitAll(content.pieces);
-    visitAll(content.scenery);
-    visitAll(content.shapes);
+    forEachOnLevels(layout.edit(), visitAll);
     visit(settings.activeLevel);
   };
   FreshIds fresh;
@@ -126,11 +112,12 @@ std::size_t replaceLevel(std::int32_t& level, std::int32_t instead = 1) {
   return std::exchange(level, level == -1 ? instead : level) == -1 ? 1 : 0;
 }
 
-template <class Records>
-std::size_t putOnALevel(Records& records) {
+std::size_t putOnALevel(PlanContent& content) {
   std::size_t count = 0;
-  for (auto& record : records)
-    count += replaceLevel(record.level);
+  forEachOnLevels(content, [&count](auto& records) {
+    for (auto& record : records)
+      count += replaceLevel(record.level);
+  });
   return count;
 }
 
@@ -141,8 +128,7 @@ Repairs makeSound(Layout& layout) {
   repairs.renumbered = renumberRecords(layout) + renumberLevels(layout);
   PlanContent& content = layout.edit();
   repairs.opened = openBeyondEnds(content.pieces);
-  repairs.relevelled =
-      putOnALevel(content.pieces) + putOnALevel(content.scenery) + putOnALevel(content.shapes);
+  repairs.relevelled = putOnALevel(content);
   PlanSettings& settings = layout.editSettings();
   repairs.relevelled +=
       replaceLevel(settings.activeLevel, settings.levels.empty() ? 1 : settings.levels.front().id);
@@ -152,15 +138,15 @@ Repairs makeSound(Layout& layout) {
 }
 
 Repairs makeSound(Block& block) {
+  PlanContent& content = block.content;
   FreshIds fresh;
-  fresh.useAll(block.pieces);
-  fresh.useAll(block.scenery);
+  forEachKind(content, [&fresh](const auto& records) { fresh.useAll(records); });
   Repairs repairs;
-  repairs.renumbered = renumber(block.pieces, fresh) + renumber(block.scenery, fresh);
-  repairs.opened = openBeyondEnds(block.pieces);
-  repairs.relevelled = putOnALevel(block.pieces) + putOnALevel(block.scenery);
+  forEachKind(content, [&](auto& records) { repairs.renumbered += renumber(records, fresh); });
+  repairs.opened = openBeyondEnds(content.pieces);
+  repairs.relevelled = putOnALevel(content);
   if (repairs.any())
-    block.pairs = pairsOfRuns(block.pieces);
+    content.pairs = pairsOfRuns(content.pieces);
   return repairs;
 }
 

@@ -8,22 +8,14 @@ namespace trassix {
 
 namespace {
 
-template <class Record>
-bool sameButSelected(const std::vector<Record>& a, const std::vector<Record>& b) {
-  return std::ranges::equal(a, b, [](const Record& one, const Record& other) {
-    if (one.sel == other.sel)
-      return one == other;
-    Record likewise = other;
-    likewise.sel = one.sel;
-    return one == likewise;
+bool sameRecords(const PlanContent& a, const PlanContent& b) {
+  bool same = a.currentGrade == b.currentGrade && a.gradeRuns == b.gradeRuns && a.pairs == b.pairs;
+  forEachKindOfBoth(a, b, [&same](const auto& one, const auto& other) {
+    same = same && std::ranges::equal(one, other, [](const auto& before, const auto& after) {
+             return sameButSelected(before, after);
+           });
   });
-}
-
-bool sameButSelected(const PlanContent& a, const PlanContent& b) {
-  return sameButSelected(a.pieces, b.pieces) && sameButSelected(a.scenery, b.scenery) &&
-         sameButSelected(a.labels, b.labels) && sameButSelected(a.measurements, b.measurements) &&
-         sameButSelected(a.shapes, b.shapes) && a.tunnels == b.tunnels && a.helices == b.helices &&
-         a.currentGrade == b.currentGrade && a.gradeRuns == b.gradeRuns && a.pairs == b.pairs;
+  return same;
 }
 
 } // namespace
@@ -31,7 +23,7 @@ bool sameButSelected(const PlanContent& a, const PlanContent& b) {
 UndoScope::UndoScope(Layout& layout)
     : layout_(layout), content_(layout.history_.snapshot(layout.content_)),
       settings_(layout.settings_), nextPieceId_(layout.nextPieceId_),
-      reusingIds_(layout.reusingIds_), revision_(layout.revision_),
+      reusingIds_(layout.reusingIds_), revision_(layout.revision()),
       outermost_(!std::exchange(layout.inEdit_, true)) {}
 
 UndoScope::~UndoScope() {
@@ -53,12 +45,12 @@ bool UndoScope::keep() {
 }
 
 bool UndoScope::changed() const {
-  return layout_.revision_ != revision_ &&
-         !(layout_.settings_ == settings_ && sameButSelected(layout_.content_, content_));
+  return layout_.revision() != revision_ &&
+         !(layout_.settings_ == settings_ && sameRecords(layout_.content_, content_));
 }
 
 void UndoScope::putBack() {
-  if (layout_.revision_ != revision_) {
+  if (layout_.revision() != revision_) {
     layout_.edit() = std::move(content_);
     layout_.editSettings() = std::move(settings_);
   }

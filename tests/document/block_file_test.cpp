@@ -15,12 +15,13 @@ TEST(BlockFile, writesTheDocumentedExampleAsItIs) {
   Block block;
   ASSERT_EQ(readBlock(example, block), "");
   EXPECT_EQ(block.name, "Passing loop");
-  ASSERT_EQ(block.pieces.size(), 2U);
-  EXPECT_EQ(block.pieces[0].joints, (JointTable{{3, 1}, {13, 0}}));
-  EXPECT_FALSE(block.pieces[0].sel || block.scenery[0].sel) << "the file's flag is not read";
-  for (PlacedPiece& piece : block.pieces)
+  ASSERT_EQ(block.content.pieces.size(), 2U);
+  EXPECT_EQ(block.content.pieces[0].joints, (JointTable{{3, 1}, {13, 0}}));
+  EXPECT_FALSE(block.content.pieces[0].sel || block.content.scenery[0].sel)
+      << "the file's flag is not read";
+  for (PlacedPiece& piece : block.content.pieces)
     piece.sel = true;
-  block.scenery[0].sel = true;
+  block.content.scenery[0].sel = true;
   std::string text;
   EXPECT_EQ(writeBlock(block, [&text](std::string_view part) { text += part; }), "");
   EXPECT_EQ(text, example);
@@ -35,18 +36,18 @@ TEST(BlockFile, comesBackPlainAndLevel) {
   ASSERT_EQ(loadBlock(file, loaded), "");
 
   Block expected = blockFromSelection(plan);
-  ASSERT_GT(expected.pieces.size(), 0U);
-  ASSERT_GT(expected.scenery.size(), 0U);
-  for (PlacedPiece& piece : expected.pieces) {
+  ASSERT_GT(expected.content.pieces.size(), 0U);
+  ASSERT_GT(expected.content.scenery.size(), 0U);
+  for (PlacedPiece& piece : expected.content.pieces) {
     piece.z = piece.grade = 0;
     piece.rev = piece.free = piece.sel = piece.hasColor = false;
     piece.color = {};
     piece.helix = -1;
   }
-  for (SceneryItem& item : expected.scenery)
+  for (SceneryItem& item : expected.content.scenery)
     item.sel = false;
-  EXPECT_EQ(loaded.pieces, expected.pieces);
-  EXPECT_EQ(loaded.scenery, expected.scenery);
+  EXPECT_EQ(loaded.content.pieces, expected.content.pieces);
+  EXPECT_EQ(loaded.content.scenery, expected.content.scenery);
   EXPECT_EQ(loaded.name, "my block");
 }
 
@@ -76,7 +77,10 @@ TEST(BlockFile, refusesNothingAndNonsense) {
 
 TEST(BlockFile, centresOnTheBoxOfThePositions) {
   const auto blockAt = [](Point a, Point b, Point c) {
-    return Block{"", {test::loosePiece(1, "", a), test::loosePiece(2, "", b)}, {{3, "", c.x, c.y}}};
+    Block block;
+    block.content.pieces = {test::loosePiece(1, "", a), test::loosePiece(2, "", b)};
+    block.content.scenery = {{3, "", c.x, c.y}};
+    return block;
   };
   Block block = blockAt({100, 10}, {300, 20}, {150, 50});
   EXPECT_EQ(centreBlock(block), (Point{200, 30}));

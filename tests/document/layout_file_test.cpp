@@ -233,7 +233,7 @@ TEST(LayoutFile, isMadeSoundAfterTheLoad) {
       piece(9, "no such", {{}, {}, {6, 0}})};
   const std::vector<PlacedPiece> sound{
       piece(5, "24188", {{}, {7, 0}}), piece(6, "24188", {{}, {5, 9}}),
-      piece(10, "24188", {{6, 1}, {}}), piece(11, "24188", {{9, 47}}),
+      piece(12, "24188", {{6, 1}, {}}), piece(13, "24188", {{9, 47}}),
       piece(9, "no such", {{}, {}, {6, 0}})};
   Layout layout;
   layout.edit().pieces = damaged;
@@ -260,9 +260,11 @@ TEST(LayoutFile, isMadeSoundAfterTheLoad) {
   EXPECT_EQ(makeSound(layout), (Repairs{0, 0, 1}));
   EXPECT_EQ(layout.settings().activeLevel, 3);
 
-  Block block{"", damaged, std::vector<SceneryItem>(2)};
-  block.scenery[1].id = block.scenery[0].id = 5;
-  block.scenery[1].level = -1;
+  Block block;
+  block.content.pieces = damaged;
+  block.content.scenery.resize(2);
+  block.content.scenery[1].id = block.content.scenery[0].id = 5;
+  block.content.scenery[1].level = -1;
   EXPECT_EQ(
       describeRepairs(makeSound(block)),
       "This file was damaged in places, which were mended. 2 joints at ends that their pieces "

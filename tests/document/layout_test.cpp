@@ -1,4 +1,5 @@
 #include "document/layout.h"
+#include "document/plan_changes.h"
 #include "document/undo_scope.h"
 #include "support/loose_records.h"
 
@@ -88,11 +89,36 @@ TEST(Layout, stampsEveryChangeAndNothingElse) {
   layout.undo();
   EXPECT_NE(layout.revision(), revision);
 
-  layout.editPiece(1)->sel = true;
-  const std::uint64_t selected = layout.revision();
+  const std::uint64_t document = layout.documentStamp();
+  layout.select(RecordKind::Piece, 1, true);
+  const std::uint64_t selected = layout.selectionStamp();
+  layout.select(RecordKind::Piece, 1, true);
+  layout.select(RecordKind::Label, 1, true);
+  EXPECT_EQ(layout.selectionStamp(), selected);
   layout.clearSelection();
-  EXPECT_NE(layout.revision(), selected);
+  EXPECT_NE(layout.selectionStamp(), selected);
   EXPECT_FALSE(layout.pieces()[0].sel);
+  EXPECT_EQ(layout.documentStamp(), document);
+  layout.editSettings();
+  EXPECT_NE(layout.documentStamp(), document);
+  EXPECT_LT(layout.contentStamp(), layout.settingsStamp());
+}
+
+TEST(Layout, tellsWhichRecordsChangedAlsoAcrossUndo) {
+  Layout layout;
+  layout.edit().pieces = {pieceAt(1, 0), pieceAt(2, 0), pieceAt(3, 0)};
+  ChangeTracker tracker;
+  EXPECT_EQ(tracker.update(layout).of(RecordKind::Piece), (ChangedIds{{1, 2, 3}, {}, {}}));
+  layout.pushHistory();
+  layout.edit().pieces = {pieceAt(4, 0), pieceAt(1, 5), pieceAt(3, 0)};
+  layout.edit().labels = {{9, "", 0, 0, true}};
+  const PlanChanges changes = tracker.update(layout);
+  EXPECT_EQ(changes.of(RecordKind::Piece), (ChangedIds{{4}, {1}, {2}}));
+  EXPECT_EQ(changes.of(RecordKind::Label), (ChangedIds{{9}, {}, {}}));
+  layout.clearSelection();
+  EXPECT_FALSE(tracker.update(layout).any());
+  layout.undo();
+  EXPECT_EQ(tracker.update(layout).of(RecordKind::Piece), (ChangedIds{{2}, {1}, {4}}));
 }
 
 TEST(Layout, givesUnusedIdsWhenTheLargestIsTaken) {

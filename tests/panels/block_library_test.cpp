@@ -33,9 +33,9 @@ TEST(BlockLibrary, listsTheFilesOfAFolderByName) {
   EXPECT_EQ(entries[1].name, "Yard.v2");
   EXPECT_EQ(entries[2].name, "Züge");
   EXPECT_EQ(entries[2].problem, "");
-  ASSERT_EQ(entries[2].block.pieces.size(), 1U);
-  EXPECT_EQ(entries[2].block.pieces[0].x, 0);
-  EXPECT_EQ(entries[2].block.pieces[0].cat, "a & <b>");
+  ASSERT_EQ(entries[2].block.content.pieces.size(), 1U);
+  EXPECT_EQ(entries[2].block.content.pieces[0].x, 0);
+  EXPECT_EQ(entries[2].block.content.pieces[0].cat, "a & <b>");
 }
 
 } // namespace

@@ -205,6 +205,8 @@ TEST_F(FrameTest, EveryCommandDoesSomething) {
     }
     if (command.id == kUnitsMm)
       put(kUnitsInch);
+    if (command.id == kSelectAll)
+      frame().layout().clearSelection();
     const std::string before = traceOf(frame(), canceller);
     put(command.id);
     EXPECT_NE(traceOf(frame(), canceller), before);

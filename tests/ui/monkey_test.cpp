@@ -123,9 +123,9 @@ class MonkeyTest : public FrameTest {
     const TrackCatalog& catalog = TrackCatalog::instance();
     const std::string& article = catalog.at(dice.upTo(catalog.count() - 1))->article;
     if (dice.oneIn(2))
-      frame().canvasPanel().pickUpPiece(article);
+      frame().canvasPanel().pickUp(CarriedPiece{article});
     else
-      frame().canvasPanel().dragPiece(dice.oneIn(2) ? "24188" : "24130");
+      frame().canvasPanel().drag(CarriedPiece{dice.oneIn(2) ? "24188" : "24130"});
   }
 };
 

@@ -43,10 +43,39 @@ std::unique_ptr<CanvasTool> makeTool(ToolMode mode, ToolSite& site) {
   return std::make_unique<SelectTool>(site);
 }
 
+/// Null for what cannot be carried. `before` is what hangs on the pointer yet, if anything.
+struct CarryToolMaker {
+  ToolSite& site;
+  bool held;
+  const CarryTool* before;
+
+  std::unique_ptr<CarryTool> operator()(CarriedPiece piece) const {
+    const PieceDef* definition = TrackCatalog::instance().find(piece.article);
+    if (definition == nullptr)
+      return nullptr;
+    auto carry = std::make_unique<CarryPieceTool>(site, *definition, held);
+    // Another piece taken up in place of one that hangs on the pointer lies as that was turned.
+    if (dynamic_cast<const CarryPieceTool*>(before) != nullptr)
+      carry->keepHeading(*before);
+    return carry;
+  }
+  std::unique_ptr<CarryTool> operator()(CarriedScenery item) const {
+    const SceneryDef* definition = findScenery(item.key);
+    if (definition == nullptr)
+      return nullptr;
+    return std::make_unique<CarrySceneryTool>(site, *definition, held);
+  }
+  std::unique_ptr<CarryTool> operator()(Block block) const {
+    if (block.empty())
+      return nullptr;
+    return std::make_unique<CarryBlockTool>(site, std::move(block), held);
+  }
+};
+
 } // namespace
 
 Canvas::Canvas(Workspace& workspace) : site_(workspace), base_(makeTool(ToolMode::Select, site_)) {
-  site_.carryBlock = [this](Block block) { carryBlock(std::move(block), last_, false); };
+  site_.carry = [this](Carried what) { carry(std::move(what), last_, false); };
 }
 
 Canvas::~Canvas() = default;
@@ -243,25 +272,9 @@ void Canvas::startCarry(std::unique_ptr<CarryTool> carry, const PointerInput& at
   afterInput();
 }
 
-void Canvas::carryPiece(std::string_view article, const PointerInput& at, bool held) {
-  const PieceDef* definition = TrackCatalog::instance().find(article);
-  if (!definition)
-    return;
-  auto carry = std::make_unique<CarryPieceTool>(site_, *definition, held);
-  // Another piece taken up in place of one that hangs on the pointer lies as that was turned.
-  if (const auto* before = dynamic_cast<const CarryPieceTool*>(carry_.get()))
-    carry->keepHeading(*before);
-  startCarry(std::move(carry), at);
-}
-
-void Canvas::carryScenery(std::string_view key, const PointerInput& at, bool held) {
-  if (const SceneryDef* definition = findScenery(key))
-    startCarry(std::make_unique<CarrySceneryTool>(site_, *definition, held), at);
-}
-
-void Canvas::carryBlock(Block block, const PointerInput& at, bool held) {
-  if (!block.empty())
-    startCarry(std::make_unique<CarryBlockTool>(site_, std::move(block), held), at);
+void Canvas::carry(Carried what, const PointerInput& at, bool held) {
+  if (auto tool = std::visit(CarryToolMaker{site_, held, carry_.get()}, std::move(what)))
+    startCarry(std::move(tool), at);
 }
 
 void Canvas::pointAt(const PointerInput& input) {

@@ -47,12 +47,9 @@ class Canvas {
   /// True while a press, a pan or something carried needs the mouse captured.
   bool wantsCapture() const;
 
-  /// Hangs a catalogue piece, a scenery item or a block on the pointer; ends another carry first.
-  /// `held`: the mouse button is down and letting go drops it.
-  /// Unknown articles and keys, and empty blocks, are not carried.
-  void carryPiece(std::string_view article, const PointerInput& at, bool held);
-  void carryScenery(std::string_view key, const PointerInput& at, bool held);
-  void carryBlock(Block block, const PointerInput& at, bool held);
+  /// Hangs something on the pointer; ends another carry first. `held`: the mouse button is down and
+  /// letting go drops it. What the catalogues do not know and empty blocks are not carried.
+  void carry(Carried what, const PointerInput& at, bool held);
   bool carrying() const { return carry_ != nullptr; }
 
   /// Takes up the tool of the window's current mode.

@@ -6,13 +6,13 @@
 namespace trassix {
 
 const PlanIndex& ToolSite::planIndex() {
-  if (planIndex_.revision() != layout().revision())
+  if (planIndex_.stamp() != layout().documentStamp())
     planIndex_ = PlanIndex(layout());
   return planIndex_;
 }
 
 const SnapIndex& ToolSite::snapIndex() {
-  if (snapIndex_.revision() != layout().revision())
+  if (snapIndex_.stamp() != layout().documentStamp())
     snapIndex_ = SnapIndex(layout());
   return snapIndex_;
 }

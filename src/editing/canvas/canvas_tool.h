@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/records.h"
+#include "editing/canvas/carried.h"
 #include "editing/canvas/plan_clipboard.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
@@ -64,8 +65,8 @@ class ToolSite {
   ViewTransform view;
   std::vector<Preview> preview; ///< pieces shown on the plan that are not on it
   PlanClipboard clipboard;
-  std::function<void(Block)> carryBlock; ///< hangs a block on the pointer
-  SizePx size;                           ///< of the canvas, px
+  std::function<void(Carried)> carry; ///< hangs something on the pointer
+  SizePx size;                        ///< of the canvas, px
 
   Layout& layout() const { return workspace.layout(); }
   Questions& questions() const { return workspace.questions(); }

@@ -7,7 +7,7 @@
 
 namespace trassix {
 
-/// A block of track and scenery on its way to the plan: from the library, the clipboard, or a
+/// A block on its way to the plan: from the library, the clipboard, or a
 /// duplicate.
 class CarryBlockTool : public CarryTool {
  public:

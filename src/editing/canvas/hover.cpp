@@ -4,7 +4,6 @@
 #include "catalog/track_catalog.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
-#include "editing/records_by_id.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "measures/measure_format.h"
 
@@ -28,7 +27,7 @@ void mark(Surface& surface, const ToolSite& site, std::span<const Point> outline
   surface.polygon(site.view.toScreen(outline), kTint, Stroke{plan_colors::kHover, 1.5});
 }
 
-void markPiece(Surface& surface, const ToolSite& site, const PlacedPiece& piece) {
+void mark(Surface& surface, const ToolSite& site, const PlacedPiece& piece) {
   const PieceDef* definition = TrackCatalog::instance().find(piece.cat);
   if (!definition)
     return;
@@ -38,68 +37,51 @@ void markPiece(Surface& surface, const ToolSite& site, const PlacedPiece& piece)
                     Stroke{plan_colors::kHover, 1.5});
 }
 
+void mark(Surface& surface, const ToolSite& site, const SceneryItem& item) {
+  mark(surface, site, sceneryOutline(site.layout(), item));
+}
+void mark(Surface& surface, const ToolSite& site, const Shape& shape) {
+  mark(surface, site, shape.points);
+}
+void mark(Surface& surface, const ToolSite& site, const Measurement& tape) {
+  mark(surface, site, std::array{tape.from, tape.to});
+}
+void mark(Surface& surface, const ToolSite& site, const Label& label) {
+  const Box box = labelBox(label, site.mm(1));
+  mark(surface, site,
+       std::array{Point{box.minX, box.minY}, Point{box.maxX, box.minY}, Point{box.maxX, box.maxY},
+                  Point{box.minX, box.maxY}});
+}
+
+std::string nameOf(const Layout&, const PlacedPiece& piece) {
+  // The catalogue's names begin with the article.
+  const PieceDef* definition = definitionOf(piece);
+  return definition ? definition->name : piece.cat;
+}
+std::string nameOf(const Layout&, const SceneryItem& item) {
+  return sceneryName(item);
+}
+std::string nameOf(const Layout&, const Shape& shape) {
+  return shape.label.empty() ? "Shape" : shape.label;
+}
+std::string nameOf(const Layout&, const Label& label) {
+  return label.text;
+}
+std::string nameOf(const Layout& layout, const Measurement& tape) {
+  return formatLength(std::hypot(tape.to.x - tape.from.x, tape.to.y - tape.from.y),
+                      layout.settings().units);
+}
+
 } // namespace
 
 std::string nameOf(const Layout& layout, const Pick& pick) {
-  const PlanContent& content = layout.content();
-  switch (pick.kind) {
-  case RecordKind::Piece:
-    if (const PlacedPiece* piece = layout.findPiece(pick.id)) {
-      // The catalogue's names begin with the article.
-      const PieceDef* definition = TrackCatalog::instance().find(piece->cat);
-      return definition ? definition->name : piece->cat;
-    }
-    break;
-  case RecordKind::Scenery:
-    if (const auto* item = recordWithId(content.scenery, pick.id))
-      return sceneryName(*item);
-    break;
-  case RecordKind::Shape:
-    if (const auto* shape = recordWithId(content.shapes, pick.id))
-      return shape->label.empty() ? "Shape" : shape->label;
-    break;
-  case RecordKind::Label:
-    if (const auto* label = recordWithId(content.labels, pick.id))
-      return label->text;
-    break;
-  case RecordKind::Measurement:
-    if (const auto* tape = recordWithId(content.measurements, pick.id))
-      return formatLength(std::hypot(tape->to.x - tape->from.x, tape->to.y - tape->from.y),
-                          layout.settings().units);
-    break;
-  }
-  return {};
+  std::string name;
+  withRecord(layout, pick, [&](const auto& record) { name = nameOf(layout, record); });
+  return name;
 }
 
 void paintHover(Surface& surface, const ToolSite& site, const Pick& pick) {
-  const Layout& layout = site.layout();
-  const PlanContent& content = layout.content();
-  switch (pick.kind) {
-  case RecordKind::Piece:
-    if (const PlacedPiece* piece = layout.findPiece(pick.id))
-      markPiece(surface, site, *piece);
-    break;
-  case RecordKind::Scenery:
-    if (const auto* item = recordWithId(content.scenery, pick.id))
-      mark(surface, site, sceneryOutline(layout, *item));
-    break;
-  case RecordKind::Shape:
-    if (const auto* shape = recordWithId(content.shapes, pick.id))
-      mark(surface, site, shape->points);
-    break;
-  case RecordKind::Measurement:
-    if (const auto* tape = recordWithId(content.measurements, pick.id))
-      mark(surface, site, std::array{tape->from, tape->to});
-    break;
-  case RecordKind::Label:
-    if (const auto* label = recordWithId(content.labels, pick.id)) {
-      const Box box = labelBox(*label, site.mm(1));
-      mark(surface, site,
-           std::array{Point{box.minX, box.minY}, Point{box.maxX, box.minY},
-                      Point{box.maxX, box.maxY}, Point{box.minX, box.maxY}});
-    }
-    break;
-  }
+  withRecord(site.layout(), pick, [&](const auto& record) { mark(surface, site, record); });
 }
 
 } // namespace trassix

@@ -87,11 +87,7 @@ void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
   paintBoard(layout);
   if (options_.grid)
     paintGrid(layout.settings().units);
-  paintShapes(layout);
-  paintHelices(layout);
-  paintLevels(layout, index);
-  paintMeasurements(layout);
-  paintLabels(layout);
+  forEachKind(layout.content(), [&](const auto& records) { paintKind(layout, index, records); });
   if (options_.scaleBar)
     paintScaleBar(layout.settings().units);
 }
@@ -158,8 +154,9 @@ void LayoutPainter::paintScaleBar(std::int32_t units) {
   surface_.text(bar.text, {left + width / 2, base - 11}, 0, {colors::kRuler, 11, false});
 }
 
-void LayoutPainter::paintShapes(const Layout& layout) {
-  for (const Shape& shape : layout.content().shapes) {
+void LayoutPainter::paintKind(const Layout& layout, const PlanIndex&,
+                              const std::vector<Shape>& shapes) {
+  for (const Shape& shape : shapes) {
     if (shape.points.size() < 2 || !layout.levelVisible(shape.level))
       continue;
     const std::vector<Point> px = view_.toScreen(shape.points);
@@ -202,8 +199,8 @@ void LayoutPainter::paintSceneryItem(const Layout& layout, const SceneryItem& it
   surface_.polygon(px, fill, item.sel ? Stroke{colors::kSelected, 2.5} : Stroke{color, 1.2});
 }
 
-void LayoutPainter::paintHelices(const Layout& layout) {
-  for (const Helix& helix : layout.content().helices) {
+void LayoutPainter::paintKind(const Layout&, const PlanIndex&, const std::vector<Helix>& helices) {
+  for (const Helix& helix : helices) {
     const Point centre = view_.toScreen({helix.cx, helix.cy});
     const double radius = helixHalfSize(helix.variant) * view_.zoom();
     if (isBeside({&centre, 1}, radius + kStrokeReachPx))
@@ -246,7 +243,8 @@ std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& la
   return shown;
 }
 
-void LayoutPainter::paintLevels(const Layout& layout, const PlanIndex& index) {
+void LayoutPainter::paintKind(const Layout& layout, const PlanIndex& index,
+                              const std::vector<PlacedPiece>&) {
   const std::vector<Visible> track = visibleTrack(layout, index);
   const std::vector<const SceneryItem*> scenery = visibleScenery(layout);
   std::size_t items = 0;
@@ -346,16 +344,17 @@ void LayoutPainter::paintArticles(std::span<const Visible> pieces) {
   }
 }
 
-void LayoutPainter::paintMeasurements(const Layout& layout) {
-  for (const Measurement& tape : layout.content().measurements) {
+void LayoutPainter::paintKind(const Layout& layout, const PlanIndex&,
+                              const std::vector<Measurement>& tapes) {
+  for (const Measurement& tape : tapes) {
     const std::array<Point, 2> ends{view_.toScreen(tape.from), view_.toScreen(tape.to)};
     if (!isBeside(ends, kTapeReachPx))
       paintTape(surface_, view_, tape.from, tape.to, layout.settings().units, tape.sel);
   }
 }
 
-void LayoutPainter::paintLabels(const Layout& layout) {
-  for (const Label& label : layout.content().labels) {
+void LayoutPainter::paintKind(const Layout&, const PlanIndex&, const std::vector<Label>& labels) {
+  for (const Label& label : labels) {
     const Point at = view_.toScreen({label.x, label.y});
     const TextStyle style{colors::kLabel, labelTextSize(1 / view_.zoom()), true};
     if (isBeside({&at, 1}, longest(label.text, style.size)))

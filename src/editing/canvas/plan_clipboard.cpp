@@ -1,6 +1,8 @@
 #include "editing/canvas/plan_clipboard.h"
 
 #include "document/entities.h"
+#include "document/layout_reader.h"
+#include "document/layout_writer.h"
 
 namespace trassix {
 
@@ -10,12 +12,36 @@ Block copyOfSelection(const Layout& layout) {
   return block;
 }
 
+namespace {
+
+/// From another running program, or the text of a block file.
+Block blockFromText(const std::string& text) {
+  Block block;
+  if (!isWholeLayout(text)) {
+    if (!readBlock(text, block).empty())
+      return {};
+    decodeTexts(block);
+    return block;
+  }
+  Layout whole;
+  std::string name;
+  if (!readLayout(text, whole, name).empty())
+    return {};
+  decodeTexts(whole, name);
+  block.content = whole.content();
+  return block;
+}
+
+} // namespace
+
 bool PlanClipboard::copy(const Layout& layout, Clipboard& clipboard) {
   Block block = copyOfSelection(layout);
   if (block.empty())
     return false;
   std::string text;
-  if (!writeBlock(block, [&text](std::string_view part) { text += part; }).empty())
+  Layout whole;
+  whole.edit() = block.content;
+  if (!writeLayout(whole, "", text).empty())
     return false;
   copied_ = std::move(block);
   text_ = std::move(text);
@@ -27,10 +53,7 @@ Block PlanClipboard::paste(Clipboard& clipboard) const {
   const std::string text = clipboard.text();
   if (!text_.empty() && text == text_)
     return copied_;
-  Block block;
-  if (!readBlock(text, block).empty())
-    return {};
-  decodeTexts(block);
+  Block block = blockFromText(text);
   centreBlock(block);
   return block;
 }

@@ -10,15 +10,15 @@ namespace trassix {
 /// What is selected, as a block that is centred on its origin.
 Block copyOfSelection(const Layout& layout);
 
-/// Copies of the selection by way of the system's clipboard, as the text of a block file, so that
-/// track can be carried from one running program to another. What this program copied itself comes
-/// back complete, with heights, grades and colours.
+/// Copies of the selection by way of the system's clipboard, as the text of a plan file, so that
+/// they can be carried from one running program to another. What this program copied itself comes
+/// back complete, with what files do not hold.
 class PlanClipboard {
  public:
   /// False when nothing is selected.
   bool copy(const Layout& layout, Clipboard& clipboard);
 
-  /// Centred on its origin; empty when the clipboard holds no block.
+  /// Centred on its origin; empty when the clipboard holds neither plan nor block.
   Block paste(Clipboard& clipboard) const;
 
  private:

@@ -179,7 +179,7 @@ bool SelectTool::key(const KeyInput& input) {
     cutSelection(site_);
     return true;
   case Key::Paste:
-    site_.carryBlock(pastedBlock(site_));
+    site_.carry(pastedBlock(site_));
     return true;
   case Key::Duplicate:
     duplicateSelection(site_);

@@ -57,7 +57,7 @@ void cutSelection(ToolSite& site) {
 }
 
 void duplicateSelection(ToolSite& site) {
-  site.carryBlock(copyOfSelection(site.layout()));
+  site.carry(copyOfSelection(site.layout()));
 }
 
 void askLabelText(ToolSite& site, std::int32_t label) {

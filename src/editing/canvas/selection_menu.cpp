@@ -85,16 +85,14 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
     }
     if (canAutofill(layout))
       rows.push_back({"Autofill Gap...", "", true, [&site] { runAutofill(site); }});
-    const bool copyable = !blockFromSelection(layout).empty();
-    rows.push_back({"Cut", "Ctrl+X", copyable, [&site] { cutSelection(site); }});
-    rows.push_back({"Copy", "Ctrl+C", copyable, [&site] { copySelection(site); }});
-    rows.push_back({"Duplicate", "Ctrl+D", copyable, [&site] { duplicateSelection(site); }});
+    rows.push_back({"Cut", "Ctrl+X", true, [&site] { cutSelection(site); }});
+    rows.push_back({"Copy", "Ctrl+C", true, [&site] { copySelection(site); }});
+    rows.push_back({"Duplicate", "Ctrl+D", true, [&site] { duplicateSelection(site); }});
     rows.push_back({"Delete", "Del", true, [&site] { deleteSelected(site); }});
   }
   separator();
   const Block pasted = pastedBlock(site);
-  rows.push_back(
-      {"Paste", "Ctrl+V", !pasted.empty(), [&site, pasted] { site.carryBlock(pasted); }});
+  rows.push_back({"Paste", "Ctrl+V", !pasted.empty(), [&site, pasted] { site.carry(pasted); }});
   rows.push_back({"Select All", "Ctrl+A", true, [&site] {
                     selectAll(site.layout());
                     site.workspace.selectionChanged();

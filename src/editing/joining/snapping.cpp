@@ -95,21 +95,21 @@ std::vector<PlacedEnd> endsOfCarried(const PieceDef& carried, const Pose& pose) 
 }
 
 struct SnapIndex::Data {
-  std::uint64_t revision = 0;
+  std::uint64_t stamp = 0;
   EndGrid grid;
 };
 
 SnapIndex::SnapIndex() : data_(std::make_unique<Data>()) {}
 
 SnapIndex::SnapIndex(const Layout& layout)
-    : data_(std::make_unique<Data>(Data{layout.revision(), EndGrid(endsOf(layout))})) {}
+    : data_(std::make_unique<Data>(Data{layout.documentStamp(), EndGrid(endsOf(layout))})) {}
 
 SnapIndex::~SnapIndex() = default;
 SnapIndex::SnapIndex(SnapIndex&&) noexcept = default;
 SnapIndex& SnapIndex::operator=(SnapIndex&&) noexcept = default;
 
-std::uint64_t SnapIndex::revision() const {
-  return data_->revision;
+std::uint64_t SnapIndex::stamp() const {
+  return data_->stamp;
 }
 
 SnapResult SnapIndex::findSnap(const PieceDef& carried, const Pose& pose) const {

@@ -57,8 +57,8 @@ std::optional<IncompatibleContact> FindIncompatibleContact(const PieceDef& carri
                                                            std::span<const PlacedPiece> pieces);
 
 /// The same searches over a whole plan through a grid of connectors: the same results, ties
-/// included, at a cost that does not depend on the plan's size. Valid for the revision it was built
-/// from; pieces on hidden levels attract no snap.
+/// included, at a cost that does not depend on the plan's size. Valid for the document stamp it was
+/// built at; pieces on hidden levels attract no snap.
 class SnapIndex {
  public:
   SnapIndex();
@@ -67,7 +67,7 @@ class SnapIndex {
   SnapIndex(SnapIndex&&) noexcept;
   SnapIndex& operator=(SnapIndex&&) noexcept;
 
-  std::uint64_t revision() const;
+  std::uint64_t stamp() const;
 
   SnapResult findSnap(const PieceDef& carried, const Pose& pose) const;
 

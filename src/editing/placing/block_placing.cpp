@@ -16,32 +16,31 @@ namespace trassix {
 
 namespace {
 
+bool fitsPlan(const Block& block, const RigidMotion& motion) {
+  bool fits = true;
+  forEachSelectable(block.content, [&](const auto& records) {
+    for (auto record : records) {
+      moveRecord(record, motion);
+      fits = fits && inLimits(record);
+    }
+  });
+  return fits;
+}
+
+/// Copies of the records of a kind with new ids, selected, and put where they belong; joints are
+/// still those of the block.
 template <class Record>
-void move(Record& record, const Pose& pose) {
-  const Point at = toWorld(pose, {record.x, record.y});
-  record.x = at.x;
-  record.y = at.y;
-  record.heading = normaliseHeading(record.heading + pose.heading);
-}
-
-bool fitsPlan(const Block& block, const Pose& pose) {
-  const auto fits = [&pose](auto record) {
-    move(record, pose);
-    return inLimits(record);
-  };
-  return std::ranges::all_of(block.pieces, fits) && std::ranges::all_of(block.scenery, fits);
-}
-
-/// Copies of the block's pieces with new ids, their joints still those of the block.
-std::vector<PlacedPiece> freshPieces(Layout& layout, const Block& block, const Pose& pose) {
-  std::vector<PlacedPiece> pieces = block.pieces;
-  for (PlacedPiece& piece : pieces) {
-    piece.id = layout.takeId();
-    move(piece, pose);
-    piece.sel = true;
-    piece.helix = -1;
+std::vector<Record> freshCopies(Layout& layout, const std::vector<Record>& records,
+                                const RigidMotion& motion) {
+  std::vector<Record> copies = records;
+  for (Record& record : copies) {
+    record.id = layout.takeId();
+    moveRecord(record, motion);
+    record.sel = true;
+    if constexpr (requires { record.helix; })
+      record.helix = -1;
   }
-  return pieces;
+  return copies;
 }
 
 /// Where the block's pieces stand, by the ids they have there.
@@ -59,13 +58,13 @@ Positions positionsOf(const std::vector<PlacedPiece>& pieces) {
 /// these.
 void remapJoints(std::vector<PlacedPiece>& pieces, const Block& block, const Positions& positions) {
   for (std::size_t i = 0; i < pieces.size(); ++i) {
-    const std::int32_t oldId = block.pieces[i].id;
+    const std::int32_t oldId = block.content.pieces[i].id;
     for (std::size_t slot = 0; slot < pieces[i].joints.size(); ++slot) {
       Joint& joint = pieces[i].joints[slot];
       const auto target = positions.find(joint.target);
       const Joint back{oldId, static_cast<std::int32_t>(slot)};
       if (target == positions.end() || target->second == i || positions.at(oldId) != i ||
-          block.pieces[target->second].joint(static_cast<std::size_t>(joint.tconn)) != back)
+          block.content.pieces[target->second].joint(static_cast<std::size_t>(joint.tconn)) != back)
         joint = {};
       else
         joint.target = pieces[target->second].id;
@@ -76,7 +75,7 @@ void remapJoints(std::vector<PlacedPiece>& pieces, const Block& block, const Pos
 /// Copies of both pieces of a pair are a pair again.
 void copyPairs(const Block& block, const std::vector<PlacedPiece>& pieces,
                const Positions& positions, std::vector<PiecePair>& pairs) {
-  for (const PiecePair& pair : block.pairs) {
+  for (const PiecePair& pair : block.content.pairs) {
     const auto first = positions.find(pair.first);
     const auto second = positions.find(pair.second);
     if (first != positions.end() && second != positions.end())
@@ -129,30 +128,32 @@ EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose) {
     return result;
   Block block = placed; // which may come straight from the clipboard
   makeSound(block);
-  if (!fitsPlan(block, pose))
+  const RigidMotion motion{{}, pose};
+  if (!fitsPlan(block, motion))
     return {{}, beyondPlan()};
   UndoScope step(layout);
   layout.clearSelection();
 
-  std::vector<PlacedPiece> pieces = freshPieces(layout, block, pose);
-  const Positions positions = positionsOf(block.pieces);
+  std::vector<PlacedPiece> pieces = freshCopies(layout, block.content.pieces, motion);
+  const Positions positions = positionsOf(block.content.pieces);
   remapJoints(pieces, block, positions);
   PlanContent& content = layout.edit();
   copyPairs(block, pieces, positions, content.pairs);
-  for (PlacedPiece& piece : pieces) {
-    result.placed.push_back(piece.id);
-    content.pieces.push_back(std::move(piece));
-  }
+  const auto add = [&result](auto& to, auto&& records) {
+    for (auto& record : records) {
+      result.placed.push_back(record.id);
+      to.push_back(std::move(record));
+    }
+  };
+  add(content.pieces, std::move(pieces));
   std::vector<std::int32_t> placedPieces = result.placed;
   std::sort(placedPieces.begin(), placedPieces.end());
-  for (SceneryItem item : block.scenery) {
-    item.id = layout.takeId();
-    move(item, pose);
-    item.sel = true;
-    result.placed.push_back(item.id);
-    content.scenery.push_back(std::move(item));
-  }
-  createLevels(layout, block.pieces);
+  forEachSelectable(block.content, [&](const auto& records) {
+    using Records = std::remove_cvref_t<decltype(records)>;
+    if (Records::value_type::kKind != RecordKind::Piece)
+      add(recordsOf<Records>(content), freshCopies(layout, records, motion));
+  });
+  createLevels(layout, block.content.pieces);
   if (const int opened = block.onLevels ? standOnLevels(layout, placedPieces) : 0; opened != 0)
     result.remark = openedJoints(opened);
   closeMeetingEnds(layout, placedPieces);

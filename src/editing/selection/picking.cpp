@@ -1,7 +1,7 @@
 #include "editing/selection/picking.h"
 
-#include "editing/records_by_id.h"
 #include "editing/scenery/scenery_footprint.h"
+#include "editing/selection/selection.h"
 #include "geometry/polygons.h"
 
 #include <algorithm>
@@ -19,27 +19,6 @@ constexpr double kLabelHalfHeight = 0.85;
 
 bool inBox(const Box& box, const Polygon& polygon, bool whole) {
   return !polygon.empty() && (whole ? liesIn(polygon, box) : touches(polygon, box));
-}
-
-/// Calls `visit` with the record, if there is one. `piece` is the one with the pick's id.
-template <typename Content, typename Piece, typename Visit>
-void withRecord(Content& content, Piece* piece, const Pick& pick, Visit visit) {
-  const auto call = [&visit](auto* record) {
-    if (record)
-      visit(*record);
-  };
-  switch (pick.kind) {
-  case RecordKind::Label:
-    return call(recordWithId(content.labels, pick.id));
-  case RecordKind::Measurement:
-    return call(recordWithId(content.measurements, pick.id));
-  case RecordKind::Piece:
-    return call(piece);
-  case RecordKind::Scenery:
-    return call(recordWithId(content.scenery, pick.id));
-  case RecordKind::Shape:
-    return call(recordWithId(content.shapes, pick.id));
-  }
 }
 
 /// Of a text in UTF-8, whose letters may take several bytes.
@@ -64,60 +43,96 @@ Box labelBox(const Label& label, double mmPerPx) {
   return {label.x - halfWidth, label.y - halfHeight, label.x + halfWidth, label.y + halfHeight};
 }
 
+namespace {
+
+/// What lies under a point, kind by kind and the topmost of each first.
+class PicksAt {
+ public:
+  PicksAt(const Layout& layout, const PlanIndex& index, Point at, double mmPerPx)
+      : layout_(layout), index_(index), at_(at), mmPerPx_(mmPerPx),
+        tolerance_(kTolerancePx * mmPerPx) {}
+
+  template <class Record>
+  std::vector<Pick> of(const std::vector<Record>& records) const {
+    std::vector<Pick> picks;
+    for (auto record = records.rbegin(); record != records.rend(); ++record)
+      if (isVisible(layout_, *record) && hits(*record))
+        picks.push_back({Record::kKind, record->id});
+    return picks;
+  }
+  /// Of which there are many, found by the index.
+  std::vector<Pick> of(const std::vector<PlacedPiece>& pieces) const {
+    std::vector<Pick> picks;
+    for (const std::size_t position : index_.hits(at_, tolerance_))
+      picks.push_back({RecordKind::Piece, pieces[position].id});
+    return picks;
+  }
+
+ private:
+  bool hits(const Label& label) const { return holds(labelBox(label, mmPerPx_), at_); }
+  bool hits(const Measurement& tape) const {
+    return distanceToEdge(at_, tape.from, tape.to) <= tolerance_;
+  }
+  bool hits(const SceneryItem& item) const { return inside(sceneryOutline(layout_, item), at_); }
+  bool hits(const Shape& shape) const {
+    return shape.points.size() >= 2 && (nearOutline(shape.points, at_, tolerance_) ||
+                                        (!shape.outline && inside(shape.points, at_)));
+  }
+
+  const Layout& layout_;
+  const PlanIndex& index_;
+  Point at_;
+  double mmPerPx_;
+  double tolerance_;
+};
+
+} // namespace
+
 std::vector<Pick> picksAt(const Layout& layout, const PlanIndex& index, Point at, double mmPerPx) {
+  const PicksAt found(layout, index, at, mmPerPx);
   std::vector<Pick> picks;
-  const PlanContent& content = layout.content();
-  const double tolerance = kTolerancePx * mmPerPx;
-  for (auto label = content.labels.rbegin(); label != content.labels.rend(); ++label) {
-    if (holds(labelBox(*label, mmPerPx), at))
-      picks.push_back({RecordKind::Label, label->id});
-  }
-  for (const Measurement& tape : content.measurements)
-    if (distanceToEdge(at, tape.from, tape.to) <= tolerance)
-      picks.push_back({RecordKind::Measurement, tape.id});
-  for (const std::size_t position : index.hits(at, tolerance))
-    picks.push_back({RecordKind::Piece, layout.pieces()[position].id});
-  for (auto item = content.scenery.rbegin(); item != content.scenery.rend(); ++item)
-    if (layout.levelVisible(item->level) && inside(sceneryOutline(layout, *item), at))
-      picks.push_back({RecordKind::Scenery, item->id});
-  for (auto shape = content.shapes.rbegin(); shape != content.shapes.rend(); ++shape) {
-    if (!layout.levelVisible(shape->level) || shape->points.size() < 2)
-      continue;
-    if (nearOutline(shape->points, at, tolerance) || (!shape->outline && inside(shape->points, at)))
-      picks.push_back({RecordKind::Shape, shape->id});
-  }
+  forEachSelectable(layout.content(), [&](const auto& records) {
+    const std::vector<Pick> above = found.of(records);
+    picks.insert(picks.begin(), above.begin(), above.end());
+  });
   return picks;
 }
 
 bool isSelected(const Layout& layout, const Pick& pick) {
   bool selected = false;
-  withRecord(layout.content(), layout.findPiece(pick.id), pick,
-             [&](const auto& record) { selected = record.sel; });
+  withRecord(layout, pick, [&selected](const auto& record) { selected = record.sel; });
   return selected;
 }
 
-void setSelected(Layout& layout, const Pick& pick, bool selected) {
-  withRecord(layout.edit(), layout.editPiece(pick.id), pick,
-             [selected](auto& record) { record.sel = selected; });
+namespace {
+
+/// What a record covers, to be caught with a box.
+Polygon areaOf(const Layout& layout, const SceneryItem& item) {
+  return sceneryOutline(layout, item);
+}
+Polygon areaOf(const Layout&, const Shape& shape) {
+  return shape.points;
+}
+Polygon areaOf(const Layout&, const Measurement& tape) {
+  return {tape.from, tape.to};
 }
 
+} // namespace
+
 void selectInBox(Layout& layout, const PlanIndex& index, const Box& box, bool whole) {
-  const std::vector<std::size_t> pieces = index.inBox(box, whole);
-  PlanContent& content = layout.edit();
-  for (const std::size_t position : pieces)
-    content.pieces[position].sel = true;
-  for (SceneryItem& item : content.scenery)
-    if (layout.levelVisible(item.level) && inBox(box, sceneryOutline(layout, item), whole))
-      item.sel = true;
-  for (Shape& shape : content.shapes)
-    if (layout.levelVisible(shape.level) && inBox(box, shape.points, whole))
-      shape.sel = true;
-  for (Label& label : content.labels)
-    if (holds(box, {label.x, label.y}))
-      label.sel = true;
-  for (Measurement& tape : content.measurements)
-    if (inBox(box, {tape.from, tape.to}, whole))
-      tape.sel = true;
+  std::vector<std::size_t> caught = index.inBox(box, whole);
+  std::ranges::sort(caught);
+  const auto catches = [&](const auto& record) {
+    using Record = std::remove_cvref_t<decltype(record)>;
+    if constexpr (std::is_same_v<Record, PlacedPiece>)
+      return std::ranges::binary_search(caught,
+                                        static_cast<std::size_t>(&record - layout.pieces().data()));
+    else if constexpr (std::is_same_v<Record, Label>)
+      return holds(box, {record.x, record.y});
+    else
+      return isVisible(layout, record) && inBox(box, areaOf(layout, record), whole);
+  };
+  layout.reselect([&](const auto& record) { return record.sel || catches(record); });
 }
 
 } // namespace trassix

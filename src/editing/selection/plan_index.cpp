@@ -45,7 +45,7 @@ struct PlanIndex::Data {
     std::uint32_t order = 0; ///< place in drawing order
   };
 
-  std::uint64_t revision = 0;
+  std::uint64_t stamp = 0;
   std::vector<Entry> entries; // by position in the document
   bg::index::rtree<TreeEntry, bg::index::rstar<16>> tree;
 
@@ -69,7 +69,7 @@ PlanIndex& PlanIndex::operator=(PlanIndex&&) noexcept = default;
 
 PlanIndex::PlanIndex(const Layout& layout) : data_(std::make_unique<Data>()) {
   const std::vector<PlacedPiece>& pieces = layout.pieces();
-  data_->revision = layout.revision();
+  data_->stamp = layout.documentStamp();
   data_->entries.resize(pieces.size());
   std::vector<TreeEntry> boxes;
   boxes.reserve(pieces.size());
@@ -94,8 +94,8 @@ PlanIndex::PlanIndex(const Layout& layout) : data_(std::make_unique<Data>()) {
   data_->tree = decltype(data_->tree)(boxes);
 }
 
-std::uint64_t PlanIndex::revision() const {
-  return data_->revision;
+std::uint64_t PlanIndex::stamp() const {
+  return data_->stamp;
 }
 
 std::vector<std::size_t> PlanIndex::hits(Point at, double tolerance) const {

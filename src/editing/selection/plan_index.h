@@ -11,9 +11,9 @@
 
 namespace trassix {
 
-/// Derived from one revision of a plan. Results are positions in `Layout::pieces()`, in drawing
-/// order (document order, lower levels first) unless said otherwise. Pieces on hidden levels are
-/// left out.
+/// Derived from a plan as it was at one `Layout::documentStamp`. Results are positions in
+/// `Layout::pieces()`, in drawing order (document order, lower levels first) unless said otherwise.
+/// Pieces on hidden levels are left out.
 class PlanIndex {
  public:
   PlanIndex();
@@ -22,7 +22,7 @@ class PlanIndex {
   PlanIndex(PlanIndex&&) noexcept;
   PlanIndex& operator=(PlanIndex&&) noexcept;
 
-  std::uint64_t revision() const;
+  std::uint64_t stamp() const;
 
   /// Pieces whose track bed, widened by `tolerance` mm, holds the point; topmost first.
   std::vector<std::size_t> hits(Point at, double tolerance) const;

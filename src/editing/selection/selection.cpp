@@ -15,11 +15,6 @@ namespace trassix {
 
 namespace {
 
-template <class Records>
-bool anySelected(const Records& records) {
-  return std::any_of(records.begin(), records.end(), [](const auto& record) { return record.sel; });
-}
-
 class BoxBuilder {
  public:
   void add(Point p) {
@@ -106,10 +101,7 @@ std::vector<std::int32_t> doomedPieces(const Layout& layout) {
 } // namespace
 
 bool hasSelection(const Layout& layout) {
-  const PlanContent& content = layout.content();
-  return anySelected(content.pieces) || anySelected(content.scenery) ||
-         anySelected(content.labels) || anySelected(content.shapes) ||
-         anySelected(content.measurements);
+  return anySelectable(layout.content(), [](const auto& record) { return record.sel; });
 }
 
 std::vector<std::int32_t> selectedPieces(const Layout& layout) {
@@ -123,40 +115,16 @@ std::vector<std::int32_t> selectedPieces(const Layout& layout) {
 
 void selectOnly(Layout& layout, std::int32_t piece) {
   layout.clearSelection();
-  if (PlacedPiece* chosen = layout.editPiece(piece))
-    chosen->sel = true;
+  layout.select(RecordKind::Piece, piece, true);
 }
 
 void selectAll(Layout& layout) {
-  PlanContent& content = layout.edit();
-  for (PlacedPiece& piece : content.pieces)
-    piece.sel = layout.levelVisible(piece.level);
-  for (SceneryItem& item : content.scenery)
-    item.sel = layout.levelVisible(item.level);
-  for (Shape& shape : content.shapes)
-    shape.sel = layout.levelVisible(shape.level);
-  for (Label& label : content.labels)
-    label.sel = true;
-  for (Measurement& measurement : content.measurements)
-    measurement.sel = true;
+  layout.reselect([&layout](const auto& record) { return isVisible(layout, record); });
 }
 
 void deselectHidden(Layout& layout) {
-  const auto unseen = [&layout](const auto& record) {
-    return record.sel && !layout.levelVisible(record.level);
-  };
-  const PlanContent& present = layout.content();
-  if (std::ranges::none_of(present.pieces, unseen) &&
-      std::ranges::none_of(present.scenery, unseen) && std::ranges::none_of(present.shapes, unseen))
-    return;
-  const auto deselect = [&unseen](auto& records) {
-    for (auto& record : records)
-      record.sel = record.sel && !unseen(record);
-  };
-  PlanContent& content = layout.edit();
-  deselect(content.pieces);
-  deselect(content.scenery);
-  deselect(content.shapes);
+  layout.reselect(
+      [&layout](const auto& record) { return record.sel && isVisible(layout, record); });
 }
 
 std::vector<std::int32_t> chainOf(const Layout& layout, std::int32_t piece) {
@@ -227,7 +195,7 @@ bool selectionHasGrades(const Layout& layout) {
 
 void selectPartners(Layout& layout) {
   for (const std::int32_t id : doomedPieces(layout))
-    layout.editPiece(id)->sel = true;
+    layout.select(RecordKind::Piece, id, true);
 }
 
 void removePieces(PlanContent& content, std::span<const std::int32_t> ids) {
@@ -254,11 +222,9 @@ bool deleteSelection(Layout& layout) {
   const std::vector<std::int32_t> doomed = doomedPieces(layout);
   PlanContent& content = layout.edit();
   removePieces(content, doomed);
-  const auto selected = [](const auto& record) { return record.sel; };
-  std::erase_if(content.scenery, selected);
-  std::erase_if(content.labels, selected);
-  std::erase_if(content.shapes, selected);
-  std::erase_if(content.measurements, selected);
+  forEachSelectable(content, [](auto& records) {
+    std::erase_if(records, [](const auto& record) { return record.sel; });
+  });
   return step.keep();
 }
 

@@ -162,36 +162,22 @@ PointerInput CanvasPanel::inputAtPointer() const {
   return inputAt(onCanvas(ScreenToClient(wxGetMousePosition())));
 }
 
-void CanvasPanel::dragPiece(std::string_view article) {
-  canvas_.carryPiece(article, inputAtPointer(), true);
+void CanvasPanel::drag(Carried what) {
+  canvas_.carry(std::move(what), inputAtPointer(), true);
   tookUp();
 }
 
-void CanvasPanel::dragScenery(std::string_view key) {
-  canvas_.carryScenery(key, inputAtPointer(), true);
+void CanvasPanel::pickUp(Carried what) {
+  canvas_.carry(std::move(what), inputAt(kPickUpPoint), false);
   tookUp();
 }
 
-void CanvasPanel::pickUpPiece(std::string_view article) {
-  canvas_.carryPiece(article, inputAt(kPickUpPoint), false);
-  tookUp();
-}
-
-void CanvasPanel::pickUpScenery(std::string_view key) {
-  canvas_.carryScenery(key, inputAt(kPickUpPoint), false);
-  tookUp();
-}
-
-void CanvasPanel::pickUpBlock(Block block) {
-  canvas_.carryBlock(std::move(block), inputAt(kPickUpPoint), false);
-  tookUp();
-}
-
-void CanvasPanel::usePiece(std::string_view article) {
+void CanvasPanel::use(Carried what) {
   ToolSite& site = canvas_.site();
-  if (selectedPieces(site.layout()).empty())
-    return pickUpPiece(article);
-  const EditResult result = extendSelected(site.layout(), article);
+  const auto* piece = std::get_if<CarriedPiece>(&what);
+  if (piece == nullptr || selectedPieces(site.layout()).empty())
+    return pickUp(std::move(what));
+  const EditResult result = extendSelected(site.layout(), piece->article);
   site.reportExtension(result);
   if (!result.changed() && !result.refusal)
     site.workspace.setHint("The selected piece has no free end to go on from");

@@ -21,16 +21,11 @@ class CanvasPanel : public wxPanel, private PlanObserver {
   void update();
 
   /// Takes something from another window whose mouse button is down.
-  void dragPiece(std::string_view article);
-  void dragScenery(std::string_view key);
-
+  void drag(Carried what);
   /// Hangs something on the pointer, to be dropped by a click.
-  void pickUpPiece(std::string_view article);
-  void pickUpScenery(std::string_view key);
-  void pickUpBlock(Block block);
-
-  /// Goes on from what is selected with a piece; hangs it on the pointer when no track is.
-  void usePiece(std::string_view article);
+  void pickUp(Carried what);
+  /// The same, but goes on from what is selected with a piece, if there is track.
+  void use(Carried what);
 
   /// Where a point of the plan (mm) is shown.
   wxPoint onScreen(Point world) const;

@@ -104,7 +104,7 @@ void exportLayout(Desk& desk) {
 }
 
 void saveSelectionAsBlock(Desk& desk) {
-  if (blockFromSelection(desk.workspace.layout()).empty()) {
+  if (!blockFromSelection(desk.workspace.layout()).hasFilePart()) {
     wxMessageBox(_("Select pieces first to save as library block."), _("Save Block"),
                  wxOK | wxICON_INFORMATION, &desk.window);
     return;

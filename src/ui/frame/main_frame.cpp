@@ -83,11 +83,8 @@ void MainFrame::buildPanels() {
   FrameTrace::write("BuildPanels: root panel created");
   auto* outer = makeSplitter(root_, "outerSplitter");
   palette_ = new PalettePanel(outer, workspace_,
-                              {[this](std::string_view article) { canvas_->dragPiece(article); },
-                               [this](std::string_view article) { canvas_->usePiece(article); },
-                               [this](std::string_view key) { canvas_->dragScenery(key); },
-                               [this](std::string_view key) { canvas_->pickUpScenery(key); },
-                               [this](const Block& block) { canvas_->pickUpBlock(block); }});
+                              {[this](const Carried& what) { canvas_->drag(what); },
+                               [this](const Carried& what) { canvas_->use(what); }});
   palette_->SetMinSize(FromDIP(wxSize(kPaletteMinWidth, -1)));
   FrameTrace::write("BuildPanels: palette created");
   auto* inner = makeSplitter(outer, "innerSplitter");

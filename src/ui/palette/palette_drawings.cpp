@@ -74,21 +74,20 @@ void drawScenery(Surface& surface, const PictureRoom& room, const SceneryDef& it
 
 void drawBlock(Surface& surface, const PictureRoom& room, const Block& block) {
   Layout layout;
-  layout.edit().pieces = block.pieces;
-  layout.edit().scenery = block.scenery;
+  layout.edit() = block.content;
   const std::optional<Box> box = contentBox(layout);
   if (!box) {
     return;
   }
   const ViewTransform view = centred(*box, room, std::numeric_limits<double>::max());
-  for (const SceneryItem& item : block.scenery) {
+  for (const SceneryItem& item : block.content.scenery) {
     const Rgba ink = plan_colors::sceneryColor(findScenery(item.item));
     std::vector<Point> outline = sceneryOutline(layout, item);
     std::ranges::transform(outline, outline.begin(), [&view](Point p) { return view.toScreen(p); });
     surface.polygon(outline, Rgba{ink.r, ink.g, ink.b, 90}, Stroke{ink, 1});
   }
   PiecePainter painter(surface, view);
-  for (const PlacedPiece& piece : block.pieces) {
+  for (const PlacedPiece& piece : block.content.pieces) {
     if (const PieceDef* definition = definitionOf(piece)) {
       painter.paint(trackGeometryOf(*definition), poseOf(piece), lookOf(*definition));
     }

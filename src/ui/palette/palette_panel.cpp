@@ -109,7 +109,7 @@ CatalogList* PalettePanel::makeList(Tab tab) {
     return new CatalogList(pages_, "pieces",
                            {[this](std::size_t row) {
                               const std::string article = pieces_[row]->article;
-                              actions_.dragPiece(article);
+                              actions_.drag(CarriedPiece{article});
                               model_.noteUse(article);
                               CallAfter([this] { fillTrack(); });
                             },
@@ -118,12 +118,15 @@ CatalogList* PalettePanel::makeList(Tab tab) {
                             {},
                             typed});
   case kSceneryTab:
-    return new CatalogList(pages_, "scenery",
-                           {[this](std::size_t row) { actions_.dragScenery(scenery_[row]->key); },
-                            [this](std::size_t row) { actions_.useScenery(scenery_[row]->key); },
-                            {},
-                            {},
-                            typed});
+    return new CatalogList(
+        pages_, "scenery",
+        {[this](std::size_t row) {
+           actions_.drag(CarriedScenery{std::string(scenery_[row]->key)});
+         },
+         [this](std::size_t row) { actions_.use(CarriedScenery{std::string(scenery_[row]->key)}); },
+         {},
+         {},
+         typed});
   case kLibraryTab:
     break;
   }
@@ -299,8 +302,8 @@ void PalettePanel::fillLibrary() {
         !entry.problem.empty()
             ? _("Cannot be read")
             : wxString::Format(wxPLURAL("%zu piece", "%zu pieces",
-                                        static_cast<unsigned>(entry.block.pieces.size())),
-                               entry.block.pieces.size());
+                                        static_cast<unsigned>(entry.block.content.pieces.size())),
+                               entry.block.content.pieces.size());
     rows.push_back({false, false, name, content,
                     entry.problem.empty() ? name : fromUtf8(entry.problem),
                     [&entry](Surface& surface, const PictureRoom& room) {
@@ -317,7 +320,7 @@ void PalettePanel::fillLibrary() {
 
 void PalettePanel::usePiece(std::size_t row) {
   noteUse(*pieces_[row]);
-  actions_.usePiece(pieces_[row]->article);
+  actions_.use(CarriedPiece{pieces_[row]->article});
 }
 
 void PalettePanel::noteUse(const PieceDef& piece) {
@@ -341,7 +344,7 @@ void PalettePanel::loadEntry(const LibraryEntry& entry) {
   }
   showNotices(this, _("Load Block"), opened.notices);
   if (!block.empty())
-    actions_.useBlock(block);
+    actions_.use(block);
 }
 
 void PalettePanel::showEntryMenu(const LibraryEntry& entry) {

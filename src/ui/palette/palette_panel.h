@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/block_file.h"
+#include "editing/canvas/carried.h"
 #include "host/workspace.h"
 #include "panels/block_library.h"
 #include "panels/palette_model.h"
@@ -28,11 +29,8 @@ class PalettePanel : public wxPanel, private PlanObserver {
   /// Dragging means that the mouse is leaving an entry with its button down; otherwise it was
   /// double-clicked or chosen with Enter.
   struct Actions {
-    std::function<void(std::string_view article)> dragPiece;
-    std::function<void(std::string_view article)> usePiece;
-    std::function<void(std::string_view key)> dragScenery;
-    std::function<void(std::string_view key)> useScenery;
-    std::function<void(const Block& block)> useBlock; ///< centred, never empty
+    std::function<void(const Carried& what)> drag;
+    std::function<void(const Carried& what)> use; ///< blocks are centred and never empty
   };
 
   PalettePanel(wxWindow* parent, Workspace& workspace, Actions actions);

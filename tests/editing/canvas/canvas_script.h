@@ -61,7 +61,7 @@ class CanvasScript {
   }
   /// Carries a catalogue piece from the palette to this point.
   void carry(std::string_view article, Point world) {
-    canvas.carryPiece(article, at({world.x - 300, world.y}), true);
+    canvas.carry(CarriedPiece{std::string(article)}, at({world.x - 300, world.y}), true);
     move(world);
   }
 

@@ -237,7 +237,7 @@ TEST(CarryPiece, NothingIsPlacedWhenItIsGivenUp) {
 
 TEST(CarryPiece, PickedUpByDoubleClickItWaitsForAClickOfItsOwn) {
   CanvasScript script;
-  script.canvas.carryPiece("8500", script.at({600, 350}), false);
+  script.canvas.carry(CarriedPiece{"8500"}, script.at({600, 350}), false);
   script.release({600, 350}); // ends the double-click
   EXPECT_TRUE(script.canvas.carrying());
   script.click({3000, 100});
@@ -259,7 +259,7 @@ TEST(CarryPiece, ASecondCarryEndsTheFirst) {
   EXPECT_EQ(script.pieces().at(0).heading, 30) << "taken up in place of one that was turned";
   script.host.plan.undo();
   script.carry("24188", {100, 100});
-  script.canvas.carryScenery("stn.small", script.at({300, 300}), true);
+  script.canvas.carry(CarriedScenery{"stn.small"}, script.at({300, 300}), true);
   script.release({300, 300});
   EXPECT_TRUE(script.pieces().empty());
   ASSERT_EQ(script.content().scenery.size(), 1u);
@@ -272,13 +272,15 @@ TEST(CarryTools, SayWhatLandsOutOfSightOrOnAnotherLevel) {
   levels.push_back({2, "Upper", true, 90, false, {}, {}});
   levels.push_back({3, "Cellar", false, 0, false, {}, {}});
   const auto landing = [&script](std::string_view carried, Point at) {
+    Block block;
+    block.content.pieces = script.pieces();
+    block.content.scenery = {{9, "", 0, 0, 0, 1, 1, 3}};
     if (carried == "block")
-      script.canvas.carryBlock({"", script.pieces(), {{9, "", 0, 0, 0, 1, 1, 3}}}, script.at(at),
-                               false);
+      script.canvas.carry(block, script.at(at), false);
     else if (carried == "scenery")
-      script.canvas.carryScenery("stn.small", script.at(at), false);
+      script.canvas.carry(CarriedScenery{"stn.small"}, script.at(at), false);
     else
-      script.canvas.carryPiece(carried, script.at(at), false);
+      script.canvas.carry(CarriedPiece{std::string(carried)}, script.at(at), false);
     const std::string hint = script.host.seen.hint;
     const std::size_t from = std::min(hint.find("    Lands"), hint.find("    Wheel"));
     return hint.substr(from, hint.find("    Wheel") - from);

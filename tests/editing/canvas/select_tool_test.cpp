@@ -1,6 +1,7 @@
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/placing/placing.h"
+#include "editing/scenery/annotations.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 
@@ -233,6 +234,30 @@ TEST(SelectTool, CopiesKeepHeightAndComeBackByPasteAndDuplicate) {
   script.host.clipboardText = "shopping list";
   script.key(Key::Paste);
   EXPECT_FALSE(script.canvas.carrying());
+}
+
+TEST(SelectTool, WhatIsCutComesBackWhateverItIs) {
+  for (const bool elsewhere : {false, true}) {
+    CanvasScript script(row());
+    addLabel(script.host.plan, {300, 200}, "Yard & Co");
+    addShape(script.host.plan, {{0, 200}, {200, 200}, {200, 400}});
+    addMeasurement(script.host.plan, {0, 100}, {100, 100});
+    selectAll(script.host.plan);
+    script.key(Key::Cut);
+    EXPECT_FALSE(anySelectable(script.content(), [](const auto&) { return true; }));
+    // Another running program has only the text, and files hold no measurements.
+    CanvasScript other;
+    other.host.clipboardText = script.host.clipboardText;
+    CanvasScript& target = elsewhere ? other : script;
+    target.key(Key::Paste);
+    target.move({500, 500});
+    target.click({500, 500});
+    EXPECT_EQ(target.content().pieces.size(), 3u);
+    EXPECT_EQ(target.content().shapes.size(), 1u);
+    ASSERT_EQ(target.content().labels.size(), 1u);
+    EXPECT_EQ(target.content().labels[0].text, "Yard & Co");
+    EXPECT_EQ(target.content().measurements.size(), elsewhere ? 0u : 1u);
+  }
 }
 
 TEST(SelectTool, TheMenuSwapsAPieceForOneThatFits) {

@@ -16,12 +16,12 @@ TEST(BlockPlacing, turnsMovesAndRenumbersAsOneStep) {
   layout.ensureLevel();
   const PlanContent before = layout.content();
   Block block;
-  block.pieces = {loosePiece(40, "24188", {}, {{99, 1}, {7, 0}}),
-                  loosePiece(7, "24188", {188.3, 0}, {{40, 1}, {}})};
-  block.pieces[0].heading = 350;
-  block.pieces[1].level = 5;
-  block.pieces[1].helix = 3;
-  block.scenery = {{40, "house", 10, 20, 300, 1, 1, 8, false}};
+  block.content.pieces = {loosePiece(40, "24188", {}, {{99, 1}, {7, 0}}),
+                          loosePiece(7, "24188", {188.3, 0}, {{40, 1}, {}})};
+  block.content.pieces[0].heading = 350;
+  block.content.pieces[1].level = 5;
+  block.content.pieces[1].helix = 3;
+  block.content.scenery = {{40, "house", 10, 20, 300, 1, 1, 8, false}};
 
   const EditResult result = placeBlock(layout, block, {100, 50, 90});
   EXPECT_EQ(result.placed, (std::vector<std::int32_t>{2, 3, 4}));
@@ -92,9 +92,9 @@ TEST(BlockPlacing, aBlockFromTheLibraryStandsOnItsLevels) {
 
 TEST(BlockPlacing, opensTheJointsOfADamagedBlock) {
   Block block;
-  block.pieces = {loosePiece(1, "24188", {}, {{2, 0}, {1, 1}, {2, -1}}),
-                  loosePiece(2, "24188", {1000, 0}, {{1, 1}, {1, 40}}),
-                  loosePiece(2, "24188", {2000, 0}, {{2, 1}})};
+  block.content.pieces = {loosePiece(1, "24188", {}, {{2, 0}, {1, 1}, {2, -1}}),
+                          loosePiece(2, "24188", {1000, 0}, {{1, 1}, {1, 40}}),
+                          loosePiece(2, "24188", {2000, 0}, {{2, 1}})};
   Layout layout;
   placeBlock(layout, block, {});
   for (const PlacedPiece& piece : layout.pieces())

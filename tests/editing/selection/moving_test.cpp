@@ -166,8 +166,9 @@ TEST(Edge, NothingGoesBeyondThePlan) {
        [&](Layout& l) {
          SceneryItem item = l.content().scenery[0];
          item.heading = NAN;
-         Block block{"", {}, l.content().scenery};
-         block.scenery[0].scaley = 0;
+         Block block;
+         block.content.scenery = l.content().scenery;
+         block.content.scenery[0].scaley = 0;
          return refusedIf(!replaceRecord(l, item) && !setPiecePose(l, 2, {0, 0, NAN}) &&
                           dropScenery(l, "74861", {0, 0, NAN}).refusal &&
                           placeBlock(l, block, {}).refusal &&

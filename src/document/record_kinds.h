@@ -1,0 +1,139 @@
+// The kinds of records that a plan has, in one list, and what they have in common. Whoever treats
+// all records alike walks the list, and asks of a kind what it has, not which one it is.
+#pragma once
+
+#include "document/plan_content.h"
+#include "geometry/pose.h"
+
+#include <algorithm>
+#include <type_traits>
+
+namespace trassix {
+
+/// Calls `visit` with the collection of each kind, from the bottom of the picture to its top.
+template <class Content, class Visit>
+void forEachKind(Content& content, Visit visit) {
+  visit(content.shapes);
+  visit(content.helices);
+  visit(content.tunnels);
+  visit(content.scenery);
+  visit(content.pieces);
+  visit(content.measurements);
+  visit(content.labels);
+}
+
+/// The collection of this type.
+template <class Records, class Content>
+auto& recordsOf(Content& content) {
+  std::conditional_t<std::is_const_v<Content>, const Records, Records>* found = nullptr;
+  forEachKind(content, [&found](auto& records) {
+    if constexpr (std::is_same_v<std::remove_cvref_t<decltype(records)>, Records>)
+      found = &records;
+  });
+  return *found;
+}
+
+/// Calls `visit` with the collections of both contents, kind by kind.
+template <class Visit>
+void forEachKindOfBoth(const PlanContent& a, const PlanContent& b, Visit visit) {
+  forEachKind(a, [&](const auto& records) {
+    visit(records, recordsOf<std::remove_cvref_t<decltype(records)>>(b));
+  });
+}
+
+template <class Record>
+concept Selectable = requires(Record& record) {
+  record.sel = true;
+};
+template <class Record>
+concept OnLevel = requires(Record& record) {
+  record.level = 1;
+};
+/// Lies turned; others only lie somewhere.
+template <class Record>
+concept Posed = requires(Record& record) {
+  record.x = record.y = record.heading;
+};
+
+/// Whether two records are the same but for being selected.
+template <class Record>
+bool sameButSelected(const Record& a, const Record& b) {
+  if constexpr (Selectable<Record>) {
+    if (a.sel != b.sel) {
+      Record likewise = a;
+      likewise.sel = b.sel;
+      return likewise == b;
+    }
+  }
+  return a == b;
+}
+
+/// The records of those kinds that can be selected, likewise.
+template <class Content, class Visit>
+void forEachSelectable(Content& content, Visit visit) {
+  forEachKind(content, [&visit](auto& records) {
+    if constexpr (Selectable<typename std::remove_cvref_t<decltype(records)>::value_type>)
+      visit(records);
+  });
+}
+
+/// The same of those that stand on levels.
+template <class Content, class Visit>
+void forEachOnLevels(Content& content, Visit visit) {
+  forEachKind(content, [&visit](auto& records) {
+    if constexpr (OnLevel<typename std::remove_cvref_t<decltype(records)>::value_type>)
+      visit(records);
+  });
+}
+
+/// Whether `holds` is true of any record that can be selected.
+template <class Predicate>
+bool anySelectable(const PlanContent& content, Predicate holds) {
+  bool found = false;
+  forEachSelectable(
+      content, [&](const auto& records) { found = found || std::ranges::any_of(records, holds); });
+  return found;
+}
+
+/// Every point of the plan that the record is made of: where it lies, its vertices, its ends. In
+/// mm; none of a record that lies where others do.
+template <class Record, class Visit>
+void forEachPosition(const Record& record, Visit visit) {
+  if constexpr (requires { record.points; })
+    std::ranges::for_each(record.points, visit);
+  else if constexpr (requires { record.from; }) {
+    visit(record.from);
+    visit(record.to);
+  } else if constexpr (requires { record.cx; })
+    visit(Point{record.cx, record.cy});
+  else if constexpr (requires { record.x; })
+    visit(Point{record.x, record.y});
+}
+
+/// Moves the record by a motion of points and poses, such as a `RigidMotion`.
+template <class Record, class Motion>
+void moveRecord(Record& record, const Motion& motion) {
+  if constexpr (Posed<Record>) {
+    const Pose pose = motion(Pose{record.x, record.y, record.heading});
+    record.x = pose.x;
+    record.y = pose.y;
+    record.heading = pose.heading;
+  } else if constexpr (requires { record.points; }) {
+    for (Point& point : record.points)
+      point = motion(point);
+  } else if constexpr (requires { record.from; }) {
+    record.from = motion(record.from);
+    record.to = motion(record.to);
+  } else if constexpr (requires { record.cx; }) {
+    const Pose pose = motion(Pose{record.cx, record.cy, record.heading});
+    record.cx = pose.x;
+    record.cy = pose.y;
+    record.heading = pose.heading;
+  } else if constexpr (requires { record.x; }) {
+    const Point at = motion(Point{record.x, record.y});
+    record.x = at.x;
+    record.y = at.y;
+  }
+}
+
+} // namespace trassix

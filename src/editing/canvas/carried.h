@@ -1,0 +1,21 @@
+#pragma once
+
+#include "document/block_file.h"
+
+#include <string>
+#include <variant>
+
+namespace trassix {
+
+struct CarriedPiece {
+  std::string article;
+};
+
+struct CarriedScenery {
+  std::string key; ///< in the scenery catalogue
+};
+
+/// What can hang on the pointer on its way to the plan. A block's origin hangs on it.
+using Carried = std::variant<CarriedPiece, CarriedScenery, Block>;
+
+} // namespace trassix
