@@ -7,8 +7,10 @@
 #include "app/services/diagnostic_log.h"
 #include "catalog/track_catalog.h"
 #include "document/text_file.h"
+#include "texts/texts.h"
 #include "ui/dialogs/splash_dialog.h"
 #include "ui/frame/main_frame.h"
+#include "ui/widgets/utf8.h"
 
 #include <wx/evtloop.h>
 #include <wx/image.h>
@@ -65,6 +67,11 @@ bool TrassixApp::OnInit() {
   if (!wxApp::OnInit()) {
     return false;
   }
+  setTranslator({[](const char* english) { return toUtf8(wxGetTranslation(fromUtf8(english))); },
+                 [](const char* one, const char* many, std::uint64_t count) {
+                   return toUtf8(wxGetTranslation(fromUtf8(one), fromUtf8(many),
+                                                  static_cast<unsigned>(count)));
+                 }});
   DiagnosticLog::open(StandardFolders::logs());
   DiagnosticLog::write("=== Trassix starting ===");
   wxInitAllImageHandlers();

@@ -1,5 +1,7 @@
 #include "document/file_names.h"
 
+#include "texts/texts.h"
+
 #include <algorithm>
 
 namespace trassix {
@@ -59,17 +61,17 @@ bool namesDevice(std::string_view name) {
 NameAdvice adviseOnName(std::string_view name) {
   constexpr std::size_t kLongest = 200; // bytes
   if (leadsOut(name))
-    return {"This name leads out of the folder.", true};
+    return {tr("This name leads out of the folder."), true};
   if (name.find_first_of(kSeparators) != std::string_view::npos)
-    return {"A name with / or \\ means a folder inside this one."};
+    return {tr("A name with / or \\ means a folder inside this one.")};
   if (hasControlCharacters(name))
-    return {"The name holds characters that cannot be seen."};
+    return {tr("The name holds characters that cannot be seen.")};
   if (name.find_first_of("<>:\"|?*") != std::string_view::npos)
-    return {"Windows takes none of < > : \" | ? * in a name."};
+    return {tr("Windows takes none of < > : \" | ? * in a name.")};
   if (namesDevice(name))
-    return {"Windows keeps this name for a device."};
+    return {tr("Windows keeps this name for a device.")};
   if (name.size() > kLongest)
-    return {"The name is too long for some disks."};
+    return {tr("The name is too long for some disks.")};
   return {};
 }
 

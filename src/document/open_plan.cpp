@@ -5,6 +5,7 @@
 #include "document/layout_writer.h"
 #include "document/repairs.h"
 #include "document/unread_part.h"
+#include "texts/texts.h"
 
 #include <utility>
 
@@ -62,10 +63,10 @@ FileResult OpenPlan::load(const fs::path& path) {
   file_ = plan.unread.empty() ? path : fs::path();
   unsaved_ = false;
   if (!plan.unread.empty())
-    plan.result.notices.push_back(
-        "Not all of this file was understood (" + plan.unread +
-        "): what could be read is shown, and saving will ask for a name, so that the file can stay "
-        "as it is.");
+    plan.result.notices.push_back(tr(
+        "Not all of this file was understood (%1%): what could be read is shown, and saving will "
+        "ask for a name, so that the file can stay as it is.",
+        {plan.unread}));
   if (!plan.repairs.empty())
     plan.result.notices.push_back(plan.repairs);
   return plan.result;
@@ -93,7 +94,7 @@ ImportResult importPlan(const fs::path& source, const fs::path& target, std::str
   const PlanFile plan = readPlanFile(source);
   ImportResult result{plan.result};
   if (!result.failed() && !isWholeLayout(plan.text))
-    result.message = "It does not hold a whole layout.";
+    result.message = tr("It does not hold a whole layout.");
   if (result.failed())
     return result;
   result.step = ImportResult::Step::Copy;
@@ -103,8 +104,9 @@ ImportResult importPlan(const fs::path& source, const fs::path& target, std::str
     return result;
   result.step = ImportResult::Step::Done;
   if (!plan.unread.empty()) {
-    result.notices = {"Not all of this file was understood (" + plan.unread +
-                      "): it was taken over as it is, with the name that is stored in it."};
+    result.notices = {tr("Not all of this file was understood (%1%): it was taken over as it "
+                         "is, with the name that is stored in it.",
+                         {plan.unread})};
     return result;
   }
   // Where this fails the copy is there all the same, as it came.

@@ -2,6 +2,7 @@
 
 #include "catalog/track_catalog.h"
 #include "document/piece_pairs.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -153,20 +154,21 @@ Repairs makeSound(Block& block) {
 std::string describeRepairs(const Repairs& repairs) {
   if (!repairs.any())
     return {};
-  std::string text = "This file was damaged in places, which were mended.";
-  if (repairs.opened == 1)
-    text += " A joint at an end that its piece does not have was opened.";
-  else if (repairs.opened > 1)
-    text.append(" ").append(std::to_string(repairs.opened)) +=
-        " joints at ends that their pieces do not have were opened.";
-  if (repairs.renumbered == 1)
-    text += " A record without a number of its own got a new one.";
-  else if (repairs.renumbered > 1)
-    text.append(" ").append(std::to_string(repairs.renumbered)) +=
-        " records without numbers of their own got new ones.";
-  if (repairs.relevelled != 0)
-    text += " What stood on a level that cannot be was put on another.";
-  return text;
+  const std::string none;
+  return joinTexts(
+      {tr("This file was damaged in places, which were mended."),
+       repairs.opened == 0
+           ? none
+           : trCount("A joint at an end that its piece does not have was opened.",
+                     "%1% joints at ends that their pieces do not have were opened.",
+                     repairs.opened),
+       repairs.renumbered == 0
+           ? none
+           : trCount("A record without a number of its own got a new one.",
+                     "%1% records without numbers of their own got new ones.", repairs.renumbered),
+       repairs.relevelled == 0 ? none
+                               : tr("What stood on a level that cannot be was put on another.")},
+      " ");
 }
 
 } // namespace trassix

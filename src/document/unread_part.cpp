@@ -5,6 +5,7 @@
 #include "document/element_reader.h"
 #include "document/layout_reader.h"
 #include "measures/number_text.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -222,7 +223,7 @@ class UnreadSearch {
   void checkVersion() {
     for (const Attribute& attribute : attributes_) {
       if (attribute.name() == "version" && aboveOne(attribute.value) && unread_.empty())
-        unread_ = "version " + excerpt(attribute.value);
+        unread_ = tr("version %1%", {excerpt(attribute.value)});
     }
   }
 
@@ -281,10 +282,9 @@ class UnreadSearch {
   void report(std::string_view element, std::string_view attribute = {}) {
     if (!unread_.empty())
       return;
-    unread_.append("line ").append(std::to_string(number_)).append(", ");
-    if (!attribute.empty())
-      unread_.append(excerpt(attribute)).append(" of ");
-    unread_.append("<").append(excerpt(element)).append(">");
+    unread_ = attribute.empty()
+                  ? tr("line %1%, <%2%>", {number_, excerpt(element)})
+                  : tr("line %1%, %2% of <%3%>", {number_, excerpt(attribute), excerpt(element)});
   }
 
   std::string_view rest_;
@@ -303,7 +303,7 @@ class UnreadSearch {
 
 std::string unreadPart(std::string_view text) {
   if (!isWholeLayout(text))
-    return "it does not hold a whole layout";
+    return tr("it does not hold a whole layout");
   return UnreadSearch(text).firstUnread();
 }
 

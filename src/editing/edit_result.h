@@ -1,5 +1,7 @@
 #pragma once
 
+#include "texts/texts.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -42,8 +44,9 @@ struct ChangeResult {
 
 /// The refusal of an edit that would take something out of the limits of a plan, see limits.h.
 inline Notice beyondPlan() {
-  return {"Edge of the Plan", "A plan ends 1,000,000 mm from its origin, to all sides as well as "
-                              "above and below. This would lie beyond."};
+  return {tr("Edge of the Plan"),
+          tr("A plan ends 1,000,000 mm from its origin, to all sides as well "
+             "as above and below. This would lie beyond.")};
 }
 
 } // namespace trassix

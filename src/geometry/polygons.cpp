@@ -1,6 +1,7 @@
 #include "geometry/polygons.h"
 
 #include "geometry/lengths.h"
+#include "texts/texts.h"
 
 #include <boost/geometry/algorithms/correct.hpp>
 #include <boost/geometry/algorithms/is_simple.hpp>
@@ -91,18 +92,18 @@ bool liesIn(const Polygon& polygon, const Box& box) {
   return std::all_of(polygon.begin(), polygon.end(), [&](Point p) { return holds(box, p); });
 }
 
-std::string_view outlineProblem(const Polygon& corners) {
+std::string outlineProblem(const Polygon& corners) {
   if (corners.size() < 3)
-    return "An outline needs at least three corners.";
+    return tr("An outline needs at least three corners.");
   if (!inLimits(corners))
-    return "The outline reaches beyond the plan, which ends 1,000,000 mm from its origin.";
+    return tr("The outline reaches beyond the plan, which ends 1,000,000 mm from its origin.");
   auto ring = lineOf<bg::model::ring<RingPoint, true, false>>(corners);
   bg::correct(ring); // either way round is as good
   bg::validity_failure_type failure = bg::no_failure;
   if (bg::is_valid(ring, failure)) // which minds no repeated corner
     return {};
-  return failure == bg::failure_self_intersections ? "The outline crosses or touches itself."
-                                                   : "The outline turns back on itself.";
+  return failure == bg::failure_self_intersections ? tr("The outline crosses or touches itself.")
+                                                   : tr("The outline turns back on itself.");
 }
 
 bool crossesItself(const std::vector<Point>& line) {

@@ -24,7 +24,7 @@ bool liesIn(const Polygon& polygon, const Box& box);
 
 /// Why these corners are no outline of an area, in one sentence; empty when they are. An outline
 /// has three corners within the limits of a plan and neither crosses nor touches itself.
-std::string_view outlineProblem(const Polygon& corners);
+std::string outlineProblem(const Polygon& corners);
 
 /// True when a line along these points crosses or touches itself or turns right back; its end may
 /// lie on its beginning.

@@ -2,6 +2,7 @@
 
 #include "geometry/pose.h"
 #include "measures/measure_format.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <array>
@@ -61,16 +62,16 @@ NumberInput readLength(std::string_view text, std::int32_t units, double least, 
   const auto number = leadingNumber(text);
   // A second comma or point means digits in groups, which nothing tells from decimals.
   if (!number || number->second.starts_with('.') || number->second.starts_with(','))
-    return refused("A length is expected here, for example " + formatLength(188.3, units) + ".");
+    return refused(tr("A length is expected here, for example %1%.", {formatLength(188.3, units)}));
   const auto& [value, name] = *number;
   const std::optional<double> unit = name.empty() ? millimetresPer(units) : unitNamed(name);
   if (!unit)
-    return refused("The unit can be mm, cm, m or in.");
+    return refused(tr("The unit can be mm, cm, m or in."));
   const double mm = value * *unit;
   if (mm < least)
-    return refused("At least " + formatLength(least, units) + " is needed here.");
+    return refused(tr("At least %1% is needed here.", {formatLength(least, units)}));
   if (mm > most)
-    return refused("At most " + formatLength(most, units) + " is possible here.");
+    return refused(tr("At most %1% is possible here.", {formatLength(most, units)}));
   return {mm, {}};
 }
 
@@ -78,7 +79,7 @@ NumberInput readHeading(std::string_view text) {
   const auto number = leadingNumber(text);
   if (!number || !(number->second.empty() || number->second == "\u00b0") ||
       std::abs(number->first) > kMostDegrees)
-    return refused("An angle in degrees is expected here, for example 22.5.");
+    return refused(tr("An angle in degrees is expected here, for example 22.5."));
   return {normaliseHeading(number->first), {}};
 }
 
@@ -86,7 +87,7 @@ NumberInput readPercent(std::string_view text) {
   const auto number = leadingNumber(text);
   if (!number || !(number->second.empty() || number->second == "%") || number->first < 0 ||
       number->first > 100)
-    return refused("A share from 0 to 100 % is expected here.");
+    return refused(tr("A share from 0 to 100 % is expected here."));
   return {number->first, {}};
 }
 

@@ -1,6 +1,7 @@
 #include "panels/baseboard_shape.h"
 
 #include "measures/measure_format.h"
+#include "texts/texts.h"
 
 #include <cmath>
 
@@ -17,24 +18,31 @@ BoardKind kindOf(const LastShape& shape) {
 
 } // namespace
 
-std::string_view boardKindName(BoardKind kind) {
-  constexpr std::array<std::string_view, kBoardKindCount> kNames{"Rectangle", "L shape", "U shape",
-                                                                 "T shape"};
-  return kNames.at(static_cast<std::size_t>(kind));
+std::string boardKindName(BoardKind kind) {
+  constexpr std::array<const char*, kBoardKindCount> kNames{
+      trLater("Rectangle"), trLater("L shape"), trLater("U shape"), trLater("T shape")};
+  return tr(kNames.at(static_cast<std::size_t>(kind)));
 }
 
-std::array<std::string_view, 4> boardMeasureNames(BoardKind kind) {
+std::array<std::string, 4> boardMeasureNames(BoardKind kind) {
+  std::array<std::string, 4> names{tr("Width"), tr("Depth")};
   switch (kind) {
   case BoardKind::L:
-    return {"Width", "Depth", "Width of the arm", "Depth of the foot"};
+    names[2] = tr("Width of the arm");
+    names[3] = tr("Depth of the foot");
+    break;
   case BoardKind::U:
-    return {"Width", "Depth", "Width of each arm", "Depth of the middle"};
+    names[2] = tr("Width of each arm");
+    names[3] = tr("Depth of the middle");
+    break;
   case BoardKind::T:
-    return {"Width", "Depth", "Width of the stem", "Depth of the bar"};
+    names[2] = tr("Width of the stem");
+    names[3] = tr("Depth of the bar");
+    break;
   case BoardKind::Rectangle:
     break;
   }
-  return {"Width", "Depth", "", ""};
+  return names;
 }
 
 LastShape usualBoard(BoardKind kind) {
@@ -46,27 +54,27 @@ LastShape usualBoard(BoardKind kind) {
 
 std::string boardProblem(const LastShape& shape, std::int32_t units) {
   if (shape.kind < 0 || shape.kind >= static_cast<std::int32_t>(kBoardKindCount))
-    return "There is no such kind of shape.";
+    return tr("There is no such kind of shape.");
   const BoardKind kind = kindOf(shape);
   const auto names = boardMeasureNames(kind);
   const std::array<double, 4> measures{shape.w, shape.h, shape.w2, shape.h2};
   for (std::size_t i = 0; i < measures.size(); ++i) {
     if (names.at(i).empty())
       continue;
-    const std::string name(names.at(i));
+    const std::string& name = names.at(i);
     if (!std::isfinite(measures.at(i)) || measures.at(i) < kLeast)
-      return name + ": at least " + formatLength(kLeast, units) + " is needed.";
+      return tr("%1%: at least %2% is needed.", {name, formatLength(kLeast, units)});
     if (measures.at(i) > kMost)
-      return name + ": at most " + formatLength(kMost, units) + " is possible.";
+      return tr("%1%: at most %2% is possible.", {name, formatLength(kMost, units)});
   }
   if (kind == BoardKind::Rectangle)
     return {};
   const double arms = kind == BoardKind::U ? 2 * shape.w2 : shape.w2;
   if (arms >= shape.w)
-    return kind == BoardKind::U ? "Two arms of this width leave no room between them."
-                                : std::string(names[2]) + " must be less than the whole width.";
+    return kind == BoardKind::U ? tr("Two arms of this width leave no room between them.")
+                                : tr("%1% must be less than the whole width.", {names[2]});
   if (shape.h2 >= shape.h)
-    return std::string(names[3]) + " must be less than the whole depth.";
+    return tr("%1% must be less than the whole depth.", {names[3]});
   return {};
 }
 
@@ -92,7 +100,7 @@ std::vector<BoardDimension> boardDimensions(const LastShape& shape, std::int32_t
   const BoardKind kind = kindOf(shape);
   const auto names = boardMeasureNames(kind);
   const auto text = [&](std::size_t measure, double length) {
-    return std::string(names.at(measure)).append(" ").append(formatLength(length, units));
+    return names.at(measure) + " " + formatLength(length, units);
   };
   constexpr Point kUp{0, -1};
   constexpr Point kDown{0, 1};

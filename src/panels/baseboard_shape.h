@@ -15,11 +15,11 @@ namespace trassix {
 enum class BoardKind : std::int32_t { Rectangle = 0, L = 1, U = 2, T = 3 };
 inline constexpr std::size_t kBoardKindCount = 4;
 
-std::string_view boardKindName(BoardKind kind);
+std::string boardKindName(BoardKind kind);
 
 /// What the four measures of a kind are called, in the order w, h, w2, h2; an empty name stands for
 /// a measure that the kind does not have.
-std::array<std::string_view, 4> boardMeasureNames(BoardKind kind);
+std::array<std::string, 4> boardMeasureNames(BoardKind kind);
 
 /// A shape to begin with where the plan has none or one that cannot be.
 LastShape usualBoard(BoardKind kind);

@@ -5,6 +5,7 @@
 #include "editing/selection/content_box.h"
 #include "geometry/polygons.h"
 #include "measures/measure_format.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -67,10 +68,10 @@ BoardForm::BoardForm(const Layout& layout) : layout_(layout), shape_(selectedSha
   }
 }
 
-std::string_view BoardForm::measureName(std::size_t measure) const {
+std::string BoardForm::measureName(std::size_t measure) const {
   const std::optional<LastShape> chosen = shape();
   return chosen ? boardMeasureNames(static_cast<BoardKind>(chosen->kind)).at(measure)
-                : std::string_view();
+                : std::string();
 }
 
 void BoardForm::takeShape() {
@@ -92,13 +93,13 @@ std::string BoardForm::problem() const {
   const std::optional<LastShape> chosen = shape();
   if (!chosen)
     return choice_ == Choice::Free && free_.empty()
-               ? "Draw the outline on the plan, or take that of a selected shape."
-               : "";
+               ? tr("Draw the outline on the plan, or take that of a selected shape.")
+               : std::string();
   for (std::size_t i = 0; i < kMeasures; ++i)
     if (!measureName(i).empty() && !measures_[i].problem().empty())
-      return std::string(measureName(i)).append(": ").append(measures_[i].problem());
+      return tr("%1%: %2%", {measureName(i), measures_[i].problem()});
   const std::string problem = boardProblem(*chosen, layout_.settings().units);
-  return problem.empty() ? std::string(outlineProblem(placed(*chosen))) : problem;
+  return problem.empty() ? outlineProblem(placed(*chosen)) : problem;
 }
 
 Point BoardForm::placeOf(const LastShape& shape) const {

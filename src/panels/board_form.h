@@ -29,7 +29,7 @@ class BoardForm {
   void choose(Choice choice) { choice_ = choice; }
 
   /// Measures in the order of `boardMeasureNames`; those without a name do not count.
-  std::string_view measureName(std::size_t measure) const;
+  std::string measureName(std::size_t measure) const;
   const LengthEntry& measure(std::size_t measure) const { return measures_.at(measure); }
   void enter(std::size_t measure, std::string_view text) { measures_.at(measure).enter(text); }
 

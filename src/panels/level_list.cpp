@@ -1,6 +1,7 @@
 #include "panels/level_list.h"
 
 #include "document/limits.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <set>
@@ -21,7 +22,7 @@ std::string trimmed(std::string_view text) {
 }
 
 std::string numbered(std::int32_t number) {
-  return std::string("Level ").append(std::to_string(number));
+  return tr("Level %1%", {number});
 }
 
 /// Levels that records stand on but the plan lacks.
@@ -74,7 +75,7 @@ std::string LevelList::setVisible(std::size_t place, bool visible) {
     const auto next = std::ranges::find_if(
         rows_, [&row](const Row& other) { return &other != &row && other.level.visible; });
     if (next == rows_.end())
-      return "One level always stays visible, for new track to go to.";
+      return tr("One level always stays visible, for new track to go to.");
     active_ = static_cast<std::size_t>(next - rows_.begin());
   }
   row.level.visible = visible;
@@ -190,9 +191,9 @@ std::string LevelList::problem(std::size_t place) const {
   // A plan from elsewhere may hold such names: only what was typed here is refused.
   const bool typed = row.name != row.level.name;
   if (typed && name.empty())
-    return "A level needs a name.";
+    return tr("A level needs a name.");
   if (typed && nameTaken(name, place))
-    return "Another level has this name.";
+    return tr("Another level has this name.");
   return row.height.problem();
 }
 

@@ -2,6 +2,7 @@
 
 #include "catalog/plain_track.h"
 #include "catalog/track_catalog.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <array>
@@ -92,8 +93,9 @@ std::string joined(std::string_view a, std::string_view b, std::string_view c) {
 
 std::string_view groupName(PieceGroup group) {
   constexpr std::array<std::string_view, 7> kNames{
-      "Recently used",       "Straights", "Curves",           "Turnouts",
-      "Crossings and slips", "Specials",  "Bridges and ramps"};
+      trLater("Recently used"),    trLater("Straights"),           trLater("Curves"),
+      trLater("Turnouts"),         trLater("Crossings and slips"), trLater("Specials"),
+      trLater("Bridges and ramps")};
   return kNames.at(static_cast<std::size_t>(group));
 }
 

@@ -3,6 +3,7 @@
 #include "editing/scenery/annotations.h"
 #include "geometry/polygons.h"
 #include "measures/measure_format.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,7 +18,7 @@ constexpr double kLargest = 100000;
 constexpr double kOpaque = 255;
 
 std::string named(const char* name, const std::string& problem) {
-  return problem.empty() ? problem : std::string(name).append(": ").append(problem);
+  return problem.empty() ? problem : tr("%1%: %2%", {tr(name), problem});
 }
 
 /// On a hidden level it would vanish at once.
@@ -43,7 +44,7 @@ ShapeForm::ShapeForm(const Layout& layout, const Shape& edited)
   if (std::ranges::find(levels_, shape.level, &Level::id) == levels_.end()) {
     Level& lost = levels_.emplace_back();
     lost.id = shape.level;
-    lost.name = std::string("Level ").append(std::to_string(shape.level));
+    lost.name = tr("Level %1%", {shape.level});
   }
 }
 
@@ -91,11 +92,11 @@ std::vector<Point> RectangleForm::corners() const {
 
 std::string RectangleForm::problem() const {
   for (const std::string& problem :
-       {named("Width", width_.problem()), named("Depth", depth_.problem()),
-        named("Height", height().problem())})
+       {named(trLater("Width"), width_.problem()), named(trLater("Depth"), depth_.problem()),
+        named(trLater("Height"), height().problem())})
     if (!problem.empty())
       return problem;
-  return std::string(outlineProblem(corners()));
+  return outlineProblem(corners());
 }
 
 bool RectangleForm::place(Layout& layout) const {

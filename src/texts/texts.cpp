@@ -48,4 +48,14 @@ std::string trCount(const char* one, const char* many, std::uint64_t count,
   return pattern.str();
 }
 
+std::string joinTexts(std::initializer_list<std::string> texts, std::string_view between) {
+  std::string joined;
+  for (const std::string& text : texts) {
+    if (!joined.empty() && !text.empty())
+      joined += between;
+    joined += text;
+  }
+  return joined;
+}
+
 } // namespace trassix

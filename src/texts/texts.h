@@ -53,4 +53,7 @@ std::string tr(const char* english, std::initializer_list<TextPart> parts);
 std::string trCount(const char* one, const char* many, std::uint64_t count,
                     std::initializer_list<TextPart> parts = {});
 
+/// Whole phrases one after the other; empty ones are left out.
+std::string joinTexts(std::initializer_list<std::string> texts, std::string_view between);
+
 } // namespace trassix

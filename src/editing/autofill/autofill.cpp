@@ -8,6 +8,7 @@
 #include "editing/joining/joining.h"
 #include "editing/placing/placing.h"
 #include "editing/selection/selection.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -202,8 +203,8 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
   const std::vector<FillPiece> pieces = fillPieces(gap, candidate);
   if (pieces.size() != candidate.articles.size())
     return {{},
-            Notice{"Autofill", "Internal error: a fill piece is missing or has too few connectors. "
-                               "Autofill aborted."}};
+            Notice{tr("Autofill"), tr("Internal error: a fill piece is missing or has too few "
+                                      "connectors. Autofill aborted.")}};
   const PlacedPiece* start = layout.findPiece(gap.startPiece);
   if (pieces.empty() || !openAt(layout, gap.startPiece, gap.start.index))
     return {};

@@ -1,6 +1,7 @@
 #include "editing/autofill/autofill_messages.h"
 
 #include "catalog/track_catalog.h"
+#include "texts/texts.h"
 
 #include <array>
 #include <charconv>
@@ -9,7 +10,7 @@ namespace trassix {
 
 namespace {
 
-constexpr const char* kNoSolution = "Autofill - No Solution";
+constexpr const char* kNoSolution = trLater("Autofill - No Solution");
 
 std::string oneDecimal(double value) {
   std::array<char, 340> text; // holds any double
@@ -38,29 +39,33 @@ std::optional<Notice> autofillNotice(const Layout& layout, std::int32_t a, std::
   if (result.success())
     return std::nullopt;
   if (result.mixedSystems)
-    return Notice{"Autofill - Mixed Track Systems",
-                  "Autofill can only run on pieces of the same track series.\n\nSelected pieces:" +
-                      describe(*layout.findPiece(a)) + describe(*layout.findPiece(b))};
+    return Notice{
+        tr("Autofill - Mixed Track Systems"),
+        tr("Autofill can only run on pieces of the same track series.\n\nSelected pieces:") +
+            describe(*layout.findPiece(a)) + describe(*layout.findPiece(b))};
   if (!result.gap)
-    return Notice{kNoSolution,
-                  "No combination of catalog track fills the gap between these two pieces.\n\n"
-                  "Autofill can bridge a straight gap, or a gap spanned by a single arc (a corner, "
-                  "a semicircle, or the rest of a circle). Gaps needing an S-curve, or a mix of "
-                  "curves and straights, are not supported."};
-  const std::string start = "Gap is " + oneDecimal(result.gap->distance) + "mm. ";
+    return Notice{
+        tr(kNoSolution),
+        tr("No combination of catalog track fills the gap between these two pieces.\n\n"
+           "Autofill can bridge a straight gap, or a gap spanned by a single arc (a corner, "
+           "a semicircle, or the rest of a circle). Gaps needing an S-curve, or a mix of "
+           "curves and straights, are not supported.")};
+  const std::string distance = oneDecimal(result.gap->distance);
   if (result.gap->kind == GapKind::Straight)
-    return Notice{kNoSolution,
-                  start + "No combination of catalog straights fills it within tolerance."};
+    return Notice{tr(kNoSolution), tr("Gap is %1%mm. No combination of catalog straights fills it "
+                                      "within tolerance.",
+                                      {distance})};
   // The two-character sequences are part of the text as users know it.
-  return Notice{kNoSolution,
-                start + "No single arc of catalog curves fills it within tolerance.\\n\\nAutofill "
-                        "can bridge a gap with one arc (a corner, a semicircle, or the rest of a "
-                        "circle). Gaps needing an S-curve, or a mix of curves and straights, are "
-                        "not supported."};
+  return Notice{
+      tr(kNoSolution),
+      tr("Gap is %1%mm. No single arc of catalog curves fills it within tolerance.\\n\\nAutofill "
+         "can bridge a gap with one arc (a corner, a semicircle, or the rest of a circle). Gaps "
+         "needing an S-curve, or a mix of curves and straights, are not supported.",
+         {distance})};
 }
 
 std::string autofillPrompt(const Gap& gap) {
-  return "Gap: " + oneDecimal(gap.distance) + " mm. Select fill:";
+  return tr("Gap: %1% mm. Select fill:", {oneDecimal(gap.distance)});
 }
 
 std::string autofillRow(GapKind kind, const FillCandidate& candidate) {
@@ -76,12 +81,14 @@ std::string autofillRow(GapKind kind, const FillCandidate& candidate) {
 
 std::string autofillRest(const Rest& rest) {
   constexpr double kShown = 0.05; // mm: less would read 0.0
-  std::string text = rest.joins() ? "Joins both ends" : "Leaves the far end open";
-  if (rest.distance >= kShown)
-    text += ", " + oneDecimal(rest.distance) + " mm apart";
-  if (rest.height >= kShown)
-    text += ", " + oneDecimal(rest.height) + " mm apart in height";
-  return text + ".";
+  const auto apart = [](double mm, const char* text) {
+    return mm < kShown ? std::string() : tr(text, {oneDecimal(mm)});
+  };
+  return joinTexts({rest.joins() ? tr("Joins both ends") : tr("Leaves the far end open"),
+                    apart(rest.distance, trLater("%1% mm apart")),
+                    apart(rest.height, trLater("%1% mm apart in height"))},
+                   ", ") +
+         ".";
 }
 
 } // namespace trassix

@@ -11,6 +11,7 @@
 #include "editing/canvas/selection_commands.h"
 #include "editing/selection/content_box.h"
 #include "editing/selection/selection.h"
+#include "texts/texts.h"
 
 #include <bit>
 #include <cmath>
@@ -392,9 +393,9 @@ std::uint64_t Canvas::planStamp() {
 
 std::string Canvas::hint() const {
   if (gesture_ == Gesture::Pan)
-    return "Panning: let go to stay here, Esc to go back";
+    return tr("Panning: let go to stay here, Esc to go back");
   if (space_ && !carry_ && gesture_ == Gesture::None)
-    return "Drag: pan    Wheel: zoom";
+    return hintOf({tr("Drag: pan"), tr("Wheel: zoom")});
   return tool().hint();
 }
 

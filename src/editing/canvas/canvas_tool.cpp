@@ -2,6 +2,7 @@
 
 #include "editing/selection/content_box.h"
 #include "editing/selection/selection.h"
+#include "texts/texts.h"
 
 namespace trassix {
 
@@ -58,17 +59,21 @@ void ToolSite::resetViewForSmall() {
 }
 
 std::string ToolSite::landingHint(const std::set<std::int32_t>& levels) const {
-  std::string hint;
+  std::string names;
   for (const std::int32_t id : levels) {
     const bool visible = layout().levelVisible(id);
     if (visible && id == layout().settings().activeLevel)
       continue;
     const Level* level = layout().findLevel(id);
-    hint += hint.empty() ? "    Lands on " : ", ";
-    hint += level != nullptr ? level->name : "Level " + std::to_string(id);
-    hint += visible ? " (not the active level)" : " (hidden)";
+    const std::string name = level != nullptr ? level->name : tr("Level %1%", {id});
+    names += names.empty() ? "" : ", ";
+    names += visible ? tr("%1% (not the active level)", {name}) : tr("%1% (hidden)", {name});
   }
-  return hint;
+  return names.empty() ? std::string() : tr("Lands on %1%", {names});
+}
+
+std::string hintOf(std::initializer_list<std::string> phrases) {
+  return joinTexts(phrases, "    ");
 }
 
 } // namespace trassix

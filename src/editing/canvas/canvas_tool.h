@@ -102,6 +102,9 @@ class ToolSite {
   SnapIndex snapIndex_;
 };
 
+/// A hint of several phrases, with room between them; empty ones are left out.
+std::string hintOf(std::initializer_list<std::string> phrases);
+
 /// What the mouse and keys do on the plan. The canvas holds one active tool and forwards to it; the
 /// drag threshold and panning are the canvas's own.
 class CanvasTool {

@@ -6,6 +6,7 @@
 #include "editing/placing/block_placing.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/picking.h"
+#include "texts/texts.h"
 
 namespace trassix {
 
@@ -70,8 +71,9 @@ std::string CarryBlockTool::hint() const {
     for (const auto& record : records)
       levels.insert(record.level);
   });
-  return "Click to place " + (block_.name.empty() ? "the copy" : block_.name) +
-         site_.landingHint(levels) + turningHint();
+  return hintOf({block_.name.empty() ? tr("Click to place the copy")
+                                     : tr("Click to place %1%", {block_.name}),
+                 site_.landingHint(levels), turningHint()});
 }
 
 } // namespace trassix

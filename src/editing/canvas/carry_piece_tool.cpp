@@ -3,6 +3,7 @@
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/placing/placing.h"
+#include "texts/texts.h"
 
 namespace trassix {
 
@@ -51,12 +52,11 @@ std::string CarryPieceTool::hint() const {
   const Layout& layout = site_.layout();
   const PlacedPiece* joined = layout.findPiece(insert_ ? insert_->piece : snap_.target);
   const std::string landing =
-      site_.landingHint({joined != nullptr ? joined->level : dropLevel(layout)}) + turningHint();
-  if (insert_)
-    return "Let go to insert " + definition_.article + " here: the shorter side makes room" +
-           landing;
-  return (snap_.snapped ? "Let go to join " : "Click or let go to place ") + definition_.article +
-         landing;
+      site_.landingHint({joined != nullptr ? joined->level : dropLevel(layout)});
+  const char* what = insert_ ? trLater("Let go to insert %1% here: the shorter side makes room")
+                     : snap_.snapped ? trLater("Let go to join %1%")
+                                     : trLater("Click or let go to place %1%");
+  return hintOf({tr(what, {definition_.article}), landing, turningHint()});
 }
 
 } // namespace trassix

@@ -3,6 +3,7 @@
 #include "editing/canvas/plan_colors.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/scenery_footprint.h"
+#include "texts/texts.h"
 
 namespace trassix {
 
@@ -20,8 +21,8 @@ void CarrySceneryTool::paint(Surface& surface) const {
 }
 
 std::string CarrySceneryTool::hint() const {
-  return "Click or let go to place " + std::string(definition_.name) +
-         site_.landingHint({dropLevel(site_.layout())}) + turningHint();
+  return hintOf({tr("Click or let go to place %1%", {definition_.name}),
+                 site_.landingHint({dropLevel(site_.layout())}), turningHint()});
 }
 
 } // namespace trassix

@@ -1,5 +1,7 @@
 #include "editing/canvas/carry_tool.h"
 
+#include "texts/texts.h"
+
 namespace trassix {
 
 namespace {
@@ -79,8 +81,8 @@ bool CarryTool::key(const KeyInput& input) {
   }
 }
 
-const char* CarryTool::turningHint() {
-  return "    Wheel or R: turn 30\u00b0 (Shift: 15\u00b0)    Esc: put it back";
+std::string CarryTool::turningHint() {
+  return hintOf({tr("Wheel or R: turn 30\u00b0 (Shift: 15\u00b0)"), tr("Esc: put it back")});
 }
 
 } // namespace trassix

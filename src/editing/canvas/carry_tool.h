@@ -35,7 +35,7 @@ class CarryTool : public CanvasTool {
 
   const Pose& pose() const { return pose_; }
   /// "Wheel or R: ..." for the end of a hint.
-  static const char* turningHint();
+  static std::string turningHint();
 
  private:
   void moveTo(Point world);

@@ -6,6 +6,7 @@
 #include "editing/canvas/plan_colors.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "measures/measure_format.h"
+#include "texts/texts.h"
 
 #include <array>
 #include <cmath>
@@ -62,7 +63,7 @@ std::string nameOf(const Layout&, const SceneryItem& item) {
   return sceneryName(item);
 }
 std::string nameOf(const Layout&, const Shape& shape) {
-  return shape.label.empty() ? "Shape" : shape.label;
+  return shape.label.empty() ? tr("Shape") : shape.label;
 }
 std::string nameOf(const Layout&, const Label& label) {
   return label.text;

@@ -3,6 +3,7 @@
 #include "editing/canvas/layout_painter.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/scenery/annotations.h"
+#include "texts/texts.h"
 
 #include <cmath>
 
@@ -88,9 +89,9 @@ void MeasureTool::paint(Surface& surface) const {
 }
 
 std::string MeasureTool::hint() const {
-  return from_ ? "Click the second point    Esc: start again"
-               : "Measuring tape: click the first point (track ends catch it)    Esc: back to "
-                 "selecting";
+  return from_ ? hintOf({tr("Click the second point"), tr("Esc: start again")})
+               : hintOf({tr("Measuring tape: click the first point (track ends catch it)"),
+                         tr("Esc: back to selecting")});
 }
 
 } // namespace trassix

@@ -6,6 +6,7 @@
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/picking.h"
 #include "editing/selection/selection.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,7 +64,7 @@ void MoveGesture::drag(const PointerInput& input) {
 
 bool MoveGesture::allowed() {
   return !refuseLocked(site_, turning_ ? "rotate" : "move") &&
-         mayLeaveGrades(site_, move_, turning_ ? "Rotate" : "Move");
+         mayLeaveGrades(site_, move_, turning_ ? tr("Rotate") : tr("Move"));
 }
 
 void MoveGesture::drop() {
@@ -115,15 +116,15 @@ void MoveGesture::paint(Surface& surface) const {
 
 std::string MoveGesture::hint() const {
   if (turning_)
-    return "Turned by " + std::to_string(static_cast<int>(std::lround(turned_))) +
-           "\u00b0    Shift: steps of 15\u00b0    Let go to keep    Esc: as it was";
+    return hintOf({tr("Turned by %1%\u00b0", {std::lround(turned_)}),
+                   tr("Shift: steps of 15\u00b0"), tr("Let go to keep"), tr("Esc: as it was")});
   if (!move_.snap())
-    return "Let go to place the selection here    Esc: as it was";
+    return hintOf({tr("Let go to place the selection here"), tr("Esc: as it was")});
   const Layout& layout = site_.layout();
   const std::int32_t level = layout.findPiece(move_.snap()->target)->level;
   const bool stays = layout.findPiece(move_.snappingPiece())->level == level;
-  return "Let go to join" + (stays ? std::string() : site_.landingHint({level})) +
-         "    Esc: as it was";
+  return hintOf({tr("Let go to join"), stays ? std::string() : site_.landingHint({level}),
+                 tr("Esc: as it was")});
 }
 
 } // namespace trassix

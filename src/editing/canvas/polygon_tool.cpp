@@ -5,6 +5,7 @@
 #include "editing/levels/level_edits.h"
 #include "editing/scenery/annotations.h"
 #include "geometry/polygons.h"
+#include "texts/texts.h"
 
 #include <cmath>
 
@@ -26,14 +27,14 @@ bool usePolygon(Layout& layout, const std::vector<Point>& points, const PolygonU
   return addShape(layout, points) != -1;
 }
 
-/// What is drawn, in front of what the mouse does now.
+/// What is drawn, where that is not a shape.
 std::string subject(const Layout& layout, const PolygonUse& use) {
   switch (use.kind) {
   case PolygonUse::Kind::Baseboard:
-    return "Baseboard: ";
+    return tr("Baseboard");
   case PolygonUse::Kind::LevelOutline: {
     const Level* level = layout.findLevel(use.level);
-    return level == nullptr ? std::string() : "Outline of " + level->name + ": ";
+    return level == nullptr ? std::string() : tr("Outline of %1%", {level->name});
   }
   case PolygonUse::Kind::Shape:
     break;
@@ -147,25 +148,26 @@ void PolygonTool::paint(Surface& surface) const {
 }
 
 std::string PolygonTool::hint() const {
+  const std::string what = subject(site_.layout(), site_.workspace.switches().polygonUse);
+  const std::string hint = what.empty() ? nextStep() : what + ": " + nextStep();
   return site_.workspace.switches().polygonUse.kind == PolygonUse::Kind::Shape
-             ? nextStep() + site_.landingHint({site_.layout().settings().activeLevel})
-             : nextStep();
+             ? hintOf({hint, site_.landingHint({site_.layout().settings().activeLevel})})
+             : hint;
 }
 
 std::string PolygonTool::nextStep() const {
-  const std::string what = subject(site_.layout(), site_.workspace.switches().polygonUse);
+  const bool shape = site_.workspace.switches().polygonUse.kind == PolygonUse::Kind::Shape;
   if (points_.empty())
-    return what.empty() ? "Polygon: click its corners    Esc: back to selecting"
-                        : what + "click its corners    Esc: leave it as it is";
+    return shape ? hintOf({tr("Polygon: click its corners"), tr("Esc: back to selecting")})
+                 : hintOf({tr("click its corners"), tr("Esc: leave it as it is")});
+  const std::string back = tr("Backspace: take the last one back");
+  const std::string again = tr("Esc: start again");
   if (blocked())
-    return what + "The outline would cross itself here    Backspace: take the last one back    "
-                  "Esc: start again";
-  const std::string next =
-      what.empty() ? "Click the next corner    " : what + "click the next corner    ";
+    return hintOf({tr("The outline would cross itself here"), back, again});
+  const std::string next = shape ? tr("Click the next corner") : tr("click the next corner");
   if (points_.size() < 3)
-    return next + "Backspace: take the last one back    Esc: start again";
-  return next + "Double-click, Enter or the first corner: close    Backspace: take the last one "
-                "back    Esc: start again";
+    return hintOf({next, back, again});
+  return hintOf({next, tr("Double-click, Enter or the first corner: close"), back, again});
 }
 
 } // namespace trassix

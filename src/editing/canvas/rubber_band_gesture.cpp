@@ -1,6 +1,7 @@
 #include "editing/canvas/gesture.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/selection/picking.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <array>
@@ -37,10 +38,11 @@ void RubberBandGesture::paint(Surface& surface) const {
 }
 
 std::string RubberBandGesture::hint() const {
-  return encloses() ? "Selects what lies in the box altogether    Drag to the left: whatever it "
-                      "touches    Shift: add    Esc: cancel"
-                    : "Selects whatever the box touches    Drag to the right: only what lies in it "
-                      "altogether    Shift: add    Esc: cancel";
+  return hintOf({encloses() ? tr("Selects what lies in the box altogether")
+                            : tr("Selects whatever the box touches"),
+                 encloses() ? tr("Drag to the left: whatever it touches")
+                            : tr("Drag to the right: only what lies in it altogether"),
+                 tr("Shift: add"), tr("Esc: cancel")});
 }
 
 } // namespace trassix

@@ -5,6 +5,7 @@
 #include "editing/canvas/selection_menu.h"
 #include "editing/placing/placing.h"
 #include "editing/selection/selection.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 
@@ -127,7 +128,7 @@ void SelectTool::doubleClick(const PointerInput& input) {
 bool SelectTool::mayLeave(Point step) {
   SelectionMove move(site_.layout(), {});
   move.update(step, false, site_.snapIndex());
-  return mayLeaveGrades(site_, move, "Move");
+  return mayLeaveGrades(site_, move, tr("Move"));
 }
 
 bool SelectTool::nudge(const KeyInput& input) {
@@ -226,25 +227,31 @@ std::string SelectTool::hint() const {
   const Pick* pick = hovered();
   const std::string name = pick ? nameOf(layout, *pick) : std::string();
   if (!name.empty()) {
-    std::string text = name;
-    if (!anySelected(under_))
-      text += "    Click: select";
-    else if (under_.size() > 1)
-      text += "    Click: what lies below";
-    text += "    Drag: move";
-    if (pick->kind == RecordKind::Piece)
-      text += "    Double-click: extend    Alt+double-click: all joined track";
-    else if (pick->kind == RecordKind::Label)
-      text += "    Double-click: edit the text";
-    else if (pick->kind == RecordKind::Shape)
-      text += "    Double-click: edit";
-    return text + "    Right-click: more";
+    const auto below = [this] {
+      return !anySelected(under_) ? tr("Click: select")
+             : under_.size() > 1  ? tr("Click: what lies below")
+                                  : std::string();
+    };
+    const auto doubleClick = [pick]() -> std::string {
+      switch (pick->kind) {
+      case RecordKind::Piece:
+        return hintOf({tr("Double-click: extend"), tr("Alt+double-click: all joined track")});
+      case RecordKind::Label:
+        return tr("Double-click: edit the text");
+      case RecordKind::Shape:
+        return tr("Double-click: edit");
+      default:
+        return {};
+      }
+    };
+    return hintOf({name, below(), tr("Drag: move"), doubleClick(), tr("Right-click: more")});
   }
   if (hasSelection(layout))
-    return "Drag: move    Alt+drag: turn    Ctrl+wheel: turn 15\u00b0 (Shift: 5\u00b0)    Arrows: "
-           "nudge (Shift: finer)    Del: delete    Esc: deselect";
-  return "Drag: select in a box    Wheel: zoom    Ctrl+drag or Space+drag: pan    Right-click: "
-         "menu";
+    return hintOf({tr("Drag: move"), tr("Alt+drag: turn"),
+                   tr("Ctrl+wheel: turn 15\u00b0 (Shift: 5\u00b0)"),
+                   tr("Arrows: nudge (Shift: finer)"), tr("Del: delete"), tr("Esc: deselect")});
+  return hintOf({tr("Drag: select in a box"), tr("Wheel: zoom"), tr("Ctrl+drag or Space+drag: pan"),
+                 tr("Right-click: menu")});
 }
 
 CursorShape SelectTool::cursor() const {

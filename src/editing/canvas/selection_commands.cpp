@@ -7,6 +7,7 @@
 #include "editing/selection/picking.h"
 #include "editing/selection/property_edits.h"
 #include "editing/selection/selection.h"
+#include "texts/texts.h"
 
 namespace trassix {
 
@@ -17,16 +18,16 @@ bool refuseLocked(ToolSite& site, const char* verb) {
   return refusal.has_value();
 }
 
-bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const char* title) {
+bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const std::string& title) {
   return !move.opensGradedJoints() ||
          site.questions().confirm(
-             {title, "This takes the selection apart from graded track. Go on?", true});
+             {title, tr("This takes the selection apart from graded track. Go on?"), true});
 }
 
 void turnSelection(ToolSite& site, double degrees) {
   SelectionMove turn(site.layout(), {});
   turn.turn({}, degrees);
-  if (!refuseLocked(site, "rotate") && mayLeaveGrades(site, turn, "Rotate"))
+  if (!refuseLocked(site, "rotate") && mayLeaveGrades(site, turn, tr("Rotate")))
     site.report(rotateSelection(site.layout(), degrees));
 }
 
@@ -34,7 +35,7 @@ void deleteSelected(ToolSite& site) {
   if (refuseLocked(site, "delete"))
     return;
   if (selectionHasGrades(site.layout()) &&
-      !site.questions().confirm({"Delete", "Selection includes graded pieces. Delete?"}))
+      !site.questions().confirm({tr("Delete"), tr("Selection includes graded pieces. Delete?")}))
     return;
   if (!deleteSelection(site.layout()))
     return;
@@ -62,7 +63,7 @@ void duplicateSelection(ToolSite& site) {
 
 void askLabelText(ToolSite& site, std::int32_t label) {
   const Label* record = recordWithId(site.layout().content().labels, label);
-  const auto text = site.questions().askText("Edit Label", "Text:", record->text);
+  const auto text = site.questions().askText(tr("Edit Label"), tr("Text:"), record->text);
   if (text && editLabelText(site.layout(), label, *text))
     site.workspace.changed();
 }

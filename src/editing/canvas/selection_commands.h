@@ -12,7 +12,7 @@ namespace trassix {
 bool refuseLocked(ToolSite& site, const char* verb);
 
 /// Asks before a move takes the selection apart from graded track.
-bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const char* title);
+bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const std::string& title);
 
 /// By degrees, clockwise; refused in words when the selection is locked, and asked for like a move.
 void turnSelection(ToolSite& site, double degrees);

@@ -8,6 +8,7 @@
 #include "editing/placing/swapping.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
+#include "texts/texts.h"
 
 namespace trassix {
 
@@ -16,14 +17,14 @@ namespace {
 /// Tells the ways apart in which one article fits: by its ends, numbered as in the properties, that
 /// meet the neighbours.
 std::string waysRound(const Layout& layout, std::int32_t piece, const SwapFit& fit) {
-  std::string joined;
+  std::string ends;
   for (std::size_t i = 0; i < fit.ends.size(); ++i) {
     if (fit.ends[i] == -1 || layout.findPiece(piece)->joint(i).open())
       continue;
-    joined += joined.empty() ? ", joined by end " : " and ";
-    joined += std::to_string(fit.ends[i] + 1);
+    const std::string end = std::to_string(fit.ends[i] + 1);
+    ends = ends.empty() ? end : tr("%1% and %2%", {ends, end});
   }
-  return joined;
+  return ends.empty() ? ends : tr(", joined by end %1%", {ends});
 }
 
 /// "Swap for ...": one row for each article that fits the ends of the piece.
@@ -35,7 +36,7 @@ void addSwaps(std::vector<MenuRow>& rows, ToolSite& site, std::int32_t piece) {
     if (std::ranges::count(fits, fit.definition, &SwapFit::definition) > 1 ||
         fit.definition->article == site.layout().findPiece(piece)->cat)
       row.text += waysRound(site.layout(), piece, fit);
-    row.submenu = "Swap for";
+    row.submenu = tr("Swap for");
     row.action = [&site, piece, fit] {
       if (!refuseLocked(site, "swap") && swapPiece(site.layout(), piece, fit))
         site.workspace.changed();
@@ -56,10 +57,10 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
   const bool onPiece = !under.empty() && under.front().kind == RecordKind::Piece;
   if (onPiece) {
     const std::int32_t piece = under.front().id;
-    rows.push_back({"Extend", "Double-click", true, [&site, piece] {
+    rows.push_back({tr("Extend"), tr("Double-click"), true, [&site, piece] {
                       site.reportExtension(cloneAndExtend(site.layout(), piece));
                     }});
-    rows.push_back({"Select Joined Track", "Alt+Double-click", true,
+    rows.push_back({tr("Select Joined Track"), tr("Alt+Double-click"), true,
                     [&site, piece] { selectChain(site, piece); }});
   }
   if (onPiece)
@@ -70,37 +71,40 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
     // With track under a label the double-click goes on from that.
     const bool byDoubleClick =
         std::ranges::find(under, RecordKind::Piece, &Pick::kind) == under.end();
-    rows.push_back({text, byDoubleClick ? "Double-click" : "", true,
+    rows.push_back({tr(text), byDoubleClick ? tr("Double-click") : std::string(), true,
                     [edit, id = under.front().id] { edit(id); }});
   };
-  addEdit(RecordKind::Label, "Edit Label...", [&site](std::int32_t id) { askLabelText(site, id); });
-  addEdit(RecordKind::Shape, "Edit Shape...", [&site](std::int32_t id) { editShape(site, id); });
+  addEdit(RecordKind::Label, trLater("Edit Label..."),
+          [&site](std::int32_t id) { askLabelText(site, id); });
+  addEdit(RecordKind::Shape, trLater("Edit Shape..."),
+          [&site](std::int32_t id) { editShape(site, id); });
   if (hasSelection(layout)) {
     separator();
     if (selectionBox(layout)) {
-      rows.push_back(
-          {"Turn Right 15\u00b0", "Ctrl+Wheel", true, [&site] { turnSelection(site, 15); }});
-      rows.push_back(
-          {"Turn Left 15\u00b0", "Ctrl+Wheel", true, [&site] { turnSelection(site, -15); }});
+      rows.push_back({tr("Turn Right 15\u00b0"), tr("Ctrl+Wheel"), true,
+                      [&site] { turnSelection(site, 15); }});
+      rows.push_back({tr("Turn Left 15\u00b0"), tr("Ctrl+Wheel"), true,
+                      [&site] { turnSelection(site, -15); }});
     }
     if (canAutofill(layout))
-      rows.push_back({"Autofill Gap...", "", true, [&site] { runAutofill(site); }});
-    rows.push_back({"Cut", "Ctrl+X", true, [&site] { cutSelection(site); }});
-    rows.push_back({"Copy", "Ctrl+C", true, [&site] { copySelection(site); }});
-    rows.push_back({"Duplicate", "Ctrl+D", true, [&site] { duplicateSelection(site); }});
-    rows.push_back({"Delete", "Del", true, [&site] { deleteSelected(site); }});
+      rows.push_back({tr("Autofill Gap..."), "", true, [&site] { runAutofill(site); }});
+    rows.push_back({tr("Cut"), tr("Ctrl+X"), true, [&site] { cutSelection(site); }});
+    rows.push_back({tr("Copy"), tr("Ctrl+C"), true, [&site] { copySelection(site); }});
+    rows.push_back({tr("Duplicate"), tr("Ctrl+D"), true, [&site] { duplicateSelection(site); }});
+    rows.push_back({tr("Delete"), tr("Del"), true, [&site] { deleteSelected(site); }});
   }
   separator();
   const Block pasted = pastedBlock(site);
-  rows.push_back({"Paste", "Ctrl+V", !pasted.empty(), [&site, pasted] { site.carry(pasted); }});
-  rows.push_back({"Select All", "Ctrl+A", true, [&site] {
+  rows.push_back(
+      {tr("Paste"), tr("Ctrl+V"), !pasted.empty(), [&site, pasted] { site.carry(pasted); }});
+  rows.push_back({tr("Select All"), tr("Ctrl+A"), true, [&site] {
                     selectAll(site.layout());
                     site.workspace.selectionChanged();
                   }});
-  rows.push_back({"Add Label Here...", "", true, [&site, at] {
+  rows.push_back({tr("Add Label Here..."), "", true, [&site, at] {
                     if (!inLimits(at))
                       return site.questions().show(beyondPlan());
-                    const auto text = site.questions().askText("Add Label", "Text:", "");
+                    const auto text = site.questions().askText(tr("Add Label"), tr("Text:"), "");
                     if (!text || addLabel(site.layout(), at, *text) == -1)
                       return;
                     site.workspace.selectionChanged();

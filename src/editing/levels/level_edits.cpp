@@ -5,6 +5,7 @@
 #include "editing/joining/joining.h"
 #include "editing/selection/selection.h"
 #include "geometry/polygons.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -142,7 +143,7 @@ std::string levelLock(const Layout& layout, std::int32_t level) {
       continue;
     ids.push_back(piece.id);
     if (piece.helix != -1)
-      return "Track of a helix stands on this level.";
+      return tr("Track of a helix stands on this level.");
   }
   for (const SceneryItem& item : layout.content().scenery)
     if (item.level == level)
@@ -151,7 +152,7 @@ std::string levelLock(const Layout& layout, std::int32_t level) {
   for (const Tunnel& tunnel : layout.content().tunnels)
     if (containsId(ids, tunnel.portalA) || containsId(ids, tunnel.portalB) ||
         std::ranges::any_of(tunnel.covers, [&ids](std::int32_t id) { return containsId(ids, id); }))
-      return "A tunnel runs over this level.";
+      return tr("A tunnel runs over this level.");
   return {};
 }
 

@@ -4,6 +4,7 @@
 #include "document/repairs.h"
 #include "document/undo_scope.h"
 #include "editing/joining/joining.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -113,11 +114,10 @@ int standOnLevels(Layout& layout, std::span<const std::int32_t> pieces) {
 }
 
 Notice openedJoints(int count) {
-  return {"Place Block",
-          count == 1
-              ? "One joint of the block was opened: it leads to a level of another height."
-              : std::to_string(count).append(" joints of the block were opened: they lead to "
-                                             "levels of another height.")};
+  return {tr("Place Block"),
+          trCount("One joint of the block was opened: it leads to a level of another height.",
+                  "%1% joints of the block were opened: they lead to levels of another height.",
+                  static_cast<std::uint64_t>(count))};
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "editing/selection/rigid_motion.h"
 #include "editing/selection/selection.h"
 #include "editing/track/routes.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -132,9 +133,10 @@ EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpo
   const Joint far = near->joint(static_cast<std::size_t>(spot.connector));
   const std::vector<std::int32_t> nearSide = sideOf(layout, spot.piece, spot.connector);
   if (containsId(nearSide, far.target))
-    return {{},
-            Notice{"Insert Piece", "The track on both sides hangs together elsewhere, so that "
-                                   "neither side can make room. Open the loop first."}};
+    return {
+        {},
+        Notice{tr("Insert Piece"), tr("The track on both sides hangs together elsewhere, so that "
+                                      "neither side can make room. Open the loop first.")}};
   const std::vector<std::int32_t> farSide = sideOf(layout, far.target, far.tconn);
   const bool farMoves = trackLength(layout, farSide) <= trackLength(layout, nearSide);
   const std::vector<std::int32_t>& moving = farMoves ? farSide : nearSide;

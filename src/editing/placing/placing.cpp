@@ -7,6 +7,7 @@
 #include "editing/joining/joining.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/selection.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <array>
@@ -43,7 +44,8 @@ bool claimed(const Layout& layout, Joint end) {
 }
 
 Notice incompatible(TrackSystem added, TrackSystem present) {
-  return {"Incompatible Track Systems", incompatibilityText(added, present), Notice::Icon::Warning};
+  return {tr("Incompatible Track Systems"), incompatibilityText(added, present),
+          Notice::Icon::Warning};
 }
 
 /// Appends a piece joined by its connector `own` to `connector` of `from`, on the same level and at

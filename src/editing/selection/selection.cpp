@@ -5,6 +5,7 @@
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/rigid_motion.h"
 #include "editing/track/connector_geometry.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -69,13 +70,15 @@ std::optional<Notice> guard(const Layout& layout, std::span<const std::int32_t> 
     return piece != nullptr && piece->helix != -1;
   });
   if (inHelix)
-    return Notice{"Helix track is locked",
-                  "Selection includes track that is part of a helix. Helix track cannot be " +
-                      verb + "ed individually."};
+    return Notice{tr("Helix track is locked"),
+                  tr("Selection includes track that is part of a helix. Helix track cannot be "
+                     "%1%ed individually.",
+                     {verb})};
   if (std::ranges::any_of(pieces, isLocked) || std::ranges::any_of(scenery, isLocked))
-    return Notice{"Tunnel is locked",
-                  "Selection includes tunnel track or portals. Remove the tunnel first, then " +
-                      verb + "."};
+    return Notice{tr("Tunnel is locked"),
+                  tr("Selection includes tunnel track or portals. Remove the tunnel first, then "
+                     "%1%.",
+                     {verb})};
   return std::nullopt;
 }
 

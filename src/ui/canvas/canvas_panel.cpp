@@ -3,6 +3,7 @@
 #include "editing/placing/placing.h"
 #include "editing/selection/selection.h"
 #include "host/command_ids.h"
+#include "texts/texts.h"
 #include "ui/canvas/gc_surface.h"
 
 #include <wx/dcbuffer.h>
@@ -180,7 +181,7 @@ void CanvasPanel::use(Carried what) {
   const EditResult result = extendSelected(site.layout(), piece->article);
   site.reportExtension(result);
   if (!result.changed() && !result.refusal)
-    site.workspace.setHint("The selected piece has no free end to go on from");
+    site.workspace.setHint(tr("The selected piece has no free end to go on from"));
 }
 
 wxPoint CanvasPanel::onScreen(Point world) const {

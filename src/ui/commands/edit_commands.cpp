@@ -2,6 +2,7 @@
 #include "editing/selection/selection.h"
 #include "host/command_ids.h"
 #include "host/workspace.h"
+#include "texts/texts.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/commands/command.h"
 #include "ui/commands/desk.h"
@@ -21,7 +22,7 @@ void undo(Desk& desk) {
   deselectHidden(layout);
   desk.workspace.changed();
   if (!visible)
-    desk.workspace.setHint("Nothing to be seen: levels and the baseboard are not undone");
+    desk.workspace.setHint(tr("Nothing to be seen: levels and the baseboard are not undone"));
 }
 
 void redo(Desk& desk) {

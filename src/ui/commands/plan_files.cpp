@@ -6,6 +6,7 @@
 #include "app/services/app_prefs.h"
 #include "catalog/track_catalog.h"
 #include "host/workspace.h"
+#include "texts/texts.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/dialogs/name_dialog.h"
 #include "ui/dialogs/saved_layouts.h"
@@ -32,7 +33,7 @@ bool holdsSmallTrack(const Layout& layout) {
 std::string openedHint(const Layout& layout) {
   const auto& runs = layout.content().gradeRuns;
   if (runs.empty())
-    return "Ready";
+    return tr("Ready");
   wxString hint = "[ELEV]";
   for (const GradeRun& run : runs)
     hint += wxString::Format(" %.1f deg", run.deg);
@@ -80,7 +81,7 @@ void PlanFiles::startNew() {
   workspace_.planReplaced();
   canvasPanel_.canvas().resetView();
   workspace_.selectionChanged();
-  workspace_.setHint("Ready");
+  workspace_.setHint(tr("Ready"));
 }
 
 bool PlanFiles::load(const std::filesystem::path& path) {
@@ -107,7 +108,7 @@ void PlanFiles::tellSaved(const FileResult& result) {
     return;
   }
   workspace_.fileChanged();
-  workspace_.setHint("Saved");
+  workspace_.setHint(tr("Saved"));
   tellWay(result.way, workspace_.plan().file());
 }
 

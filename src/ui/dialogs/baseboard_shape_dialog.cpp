@@ -125,8 +125,8 @@ wxSizer* BaseboardShapeDialog::makeFree() {
 void BaseboardShapeDialog::showChoice() {
   choices_.at(static_cast<std::size_t>(form_.choice()))->SetValue(true);
   for (std::size_t i = 0; i < fields_.size(); ++i) {
-    const std::string_view name = form_.measureName(i);
-    names_[i]->SetLabel(wxGetTranslation(fromUtf8(name)) + ":");
+    const std::string name = form_.measureName(i);
+    names_[i]->SetLabel(fromUtf8(name) + ":");
     names_[i]->Show(!name.empty());
     fields_[i]->Show(!name.empty());
   }

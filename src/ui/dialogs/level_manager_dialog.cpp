@@ -278,7 +278,7 @@ void LevelManagerDialog::refresh() {
   const std::string stays = level.visible ? trial.setVisible(place, false) : std::string();
   visible_->Enable(stays.empty());
   visible_->SetToolTip(stays.empty() ? _("A hidden level is neither drawn nor changed by mistake")
-                                     : wxGetTranslation(fromUtf8(stays)));
+                                     : fromUtf8(stays));
   remove_->Enable(levels_.canRemove());
   remove_->SetToolTip(levels_.canRemove() ? _("Asks what becomes of the things on the level")
                                           : _("A plan has at least one level"));
@@ -337,10 +337,7 @@ void LevelManagerDialog::remove() {
     if (lock.empty())
       choice.rows.push_back(toUtf8(_("Delete")));
     else
-      choice.line.append("\n")
-          .append(toUtf8(wxGetTranslation(fromUtf8(lock))))
-          .append(" ")
-          .append(toUtf8(_("It can be moved only.")));
+      choice.line.append("\n").append(lock).append(" ").append(toUtf8(_("It can be moved only.")));
     choice.accept = toUtf8(_("Delete Level"));
     ChoiceDialog question(this, choice);
     if (question.ShowModal() != wxID_OK)

@@ -26,7 +26,7 @@ ShapeDialog::ShapeDialog(wxWindow* parent, const trassix::Layout& layout, const 
   baseboard->Enable(problem.empty());
   baseboard->SetToolTip(
       problem.empty() ? _("The outline becomes the baseboard, and the shape is no shape any more")
-                      : wxGetTranslation(problem));
+                      : problem);
   auto* buttons = new wxStdDialogButtonSizer;
   buttons->AddButton(ok_);
   buttons->AddButton(new wxButton(this, wxID_CANCEL));

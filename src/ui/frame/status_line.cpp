@@ -27,7 +27,7 @@ void StatusLine::planChanged() {
 }
 
 void StatusLine::hintChanged(const std::string& hint) {
-  const wxString text = wxGetTranslation(fromUtf8(hint));
+  const wxString text = fromUtf8(hint);
   if (window_.GetStatusBar()->GetStatusText(kHintField) != text)
     window_.SetStatusText(text, kHintField);
 }

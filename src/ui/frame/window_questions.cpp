@@ -53,7 +53,7 @@ void WindowQuestions::popupMenu(const std::vector<MenuRow>& rows) {
   std::string submenuName;
   // Names of pieces and levels are among the texts, and shortcuts are not.
   const auto shown = [](const std::string& text) {
-    return wxControl::EscapeMnemonics(wxGetTranslation(fromUtf8(text)));
+    return wxControl::EscapeMnemonics(fromUtf8(text));
   };
   for (const MenuRow& row : rows) {
     if (row.text.empty()) {

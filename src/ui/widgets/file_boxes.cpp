@@ -16,7 +16,7 @@ void showFailure(wxWindow* parent, const wxString& title, const wxString& text,
 void showNotices(wxWindow* parent, const wxString& title, const std::vector<std::string>& notices) {
   wxString text;
   for (const std::string& notice : notices)
-    text += (text.empty() ? "" : "\n\n") + wxGetTranslation(fromUtf8(notice));
+    text += (text.empty() ? "" : "\n\n") + fromUtf8(notice);
   if (!text.empty())
     wxMessageBox(text, title, wxOK | wxICON_WARNING, parent);
 }

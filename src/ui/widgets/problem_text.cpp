@@ -21,7 +21,7 @@ ProblemText::ProblemText(wxWindow* parent, int width, int lines)
 }
 
 void ProblemText::show(const std::string& problem) {
-  showWrapped(*this, wxGetTranslation(fromUtf8(problem)), width_);
+  showWrapped(*this, fromUtf8(problem), width_);
 }
 
 } // namespace trassix
