@@ -96,19 +96,13 @@ void TrassixApp::openWindow() {
   RethrowStoredException(); // of a handler that ran meanwhile
   started_ = true;
   DiagnosticLog::write("MainFrame created OK");
-  // Some window managers put a dialog below a parent that came later, and the toolkit may delay
-  // the parent: the welcome waits for it.
-  frame->Bind(wxEVT_SHOW, [this](wxShowEvent& event) {
-    frameOnScreen_ = true;
-    event.Skip();
-  });
   frame->Show();
   DiagnosticLog::write("Show OK");
   frame->layout().ensureLevel();
   readPrefsOrMigrate(appPrefs(), StandardFolders::prefsFile(), StandardFolders::legacyPrefsFile());
   if (appPrefs().playful) {
-    dispatchUntil([this] { return frameOnScreen_; }, 2000);
-    dispatchUntil([frame] { return frame->inPlace(); }, 300);
+    // Some window managers put a dialog below a parent that came later.
+    dispatchUntil([frame] { return frame->IsActive(); }, 300);
     SplashDialog(frame).ShowModal();
   }
   frame->refreshProperties();

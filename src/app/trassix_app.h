@@ -34,7 +34,6 @@ class TrassixApp : public wxApp {
   void exceptionCaught() const;
 
   bool started_ = false; ///< the main window is there: the program goes on whatever happens
-  bool frameOnScreen_ = false;
   const std::unique_ptr<FaultGuard> faults_;
   std::future<void> fonts_; ///< on their way while the toolkit starts
 };

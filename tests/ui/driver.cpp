@@ -20,6 +20,14 @@ namespace {
 constexpr long kPatienceMs = 20'000;
 constexpr int kSteps = 8;
 
+/// Writes what the whole screen shows to "ui-screenshots/NAME.png" in the build folder.
+void takeScreenshot(const std::string& name) {
+  const std::filesystem::path folder = TRASSIX_SCREENSHOT_DIR;
+  std::filesystem::create_directories(folder);
+  const std::string file = (folder / (name + ".png")).string();
+  EXPECT_EQ(std::system(("import -window root '" + file + "'").c_str()), 0) << file;
+}
+
 void handleEvents() {
   wxEventLoopBase* loop = wxEventLoopBase::GetActive();
   if (loop == nullptr) { // waiting for another program
@@ -34,15 +42,12 @@ void handleEvents() {
 wxWindow* findIf(const wxWindowList& windows, const std::function<bool(const wxWindow&)>& fits) {
   for (auto node = windows.GetFirst(); node; node = node->GetNext()) {
     wxWindow* window = node->GetData();
-    if (!window->IsShownOnScreen()) {
+    if (!window->IsShownOnScreen())
       continue;
-    }
-    if (fits(*window)) {
+    if (fits(*window))
       return window;
-    }
-    if (wxWindow* child = findIf(window->GetChildren(), fits)) {
+    if (wxWindow* child = findIf(window->GetChildren(), fits))
       return child;
-    }
   }
   return nullptr;
 }
@@ -62,9 +67,8 @@ void movePointer(wxPoint to) {
 
 bool waitUntil(const std::string& what, const std::function<bool()>& condition) {
   for (const wxStopWatch watch; watch.Time() < kPatienceMs;) {
-    if (condition()) {
+    if (condition())
       return true;
-    }
     handleEvents();
   }
   takeScreenshot("gave-up");
@@ -77,9 +81,8 @@ void settle() {
   wxGetMousePosition();
   wxEventLoopBase* loop = wxEventLoopBase::GetActive();
   loop->YieldFor(wxEVT_CATEGORY_ALL);
-  while (wxTheApp->ProcessIdle()) {
+  while (wxTheApp->ProcessIdle())
     loop->YieldFor(wxEVT_CATEGORY_ALL);
-  }
 }
 
 Spot::Spot(wxWindow& inWindow)
@@ -124,9 +127,8 @@ void doubleClick(const Spot& at) {
 
 void drag(const Spot& from, const std::vector<Spot>& stops, int button) {
   pressMouse(from, button);
-  for (const Spot& stop : stops) {
+  for (const Spot& stop : stops)
     moveMouse(stop);
-  }
   releaseMouse(button);
 }
 
@@ -168,13 +170,6 @@ wxWindow* findLabelled(const std::string& label) {
   return findIf(wxTopLevelWindows, [&](const wxWindow& window) {
     return wxControl::RemoveMnemonics(window.GetLabel()) == label;
   });
-}
-
-void takeScreenshot(const std::string& name) {
-  const std::filesystem::path folder = TRASSIX_SCREENSHOT_DIR;
-  std::filesystem::create_directories(folder);
-  const std::string file = (folder / (name + ".png")).string();
-  EXPECT_EQ(std::system(("import -window root '" + file + "'").c_str()), 0) << file;
 }
 
 } // namespace trassix::test

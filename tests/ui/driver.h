@@ -58,7 +58,4 @@ void typeText(const std::string& text);
 wxWindow* findNamed(const std::string& name);
 wxWindow* findLabelled(const std::string& label);
 
-/// Writes what the whole screen shows to "ui-screenshots/NAME.png" in the build folder.
-void takeScreenshot(const std::string& name);
-
 } // namespace trassix::test

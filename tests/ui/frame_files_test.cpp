@@ -1,14 +1,12 @@
 #include "document/layout_writer.h"
 #include "editing/scenery/annotations.h"
+#include "frame_test.h"
 #include "host/command_ids.h"
 #include "support/plain_user.h"
-#include "ui/canvas/canvas_panel.h"
-#include "ui/driver.h"
-#include "ui/frame_test.h"
 
-#include <wx/button.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
+#include <wx/toolbar.h>
 
 #include <functional>
 #include <new>
@@ -25,8 +23,10 @@ constexpr const char* kBad =
 
 class FileTest : public FrameTest {
  protected:
+  using Boxes = std::initializer_list<std::pair<const char*, int>>;
+
   /// Opens a plan by its row in the Open dialog.
-  void open(const char* row) {
+  void open(const char* row, Boxes boxes = {}) {
     dialogs.answer("Open Layout", [row](wxDialog& dialog) {
       wxWindow* accept = dialog.FindWindow(wxID_OK);
       EXPECT_FALSE(accept->IsEnabled() || dialog.FindWindow(wxID_DELETE)->IsEnabled());
@@ -34,6 +34,7 @@ class FileTest : public FrameTest {
       EXPECT_TRUE(accept->IsEnabled() && dialog.FindWindow(wxID_DELETE)->IsEnabled());
       return wxID_OK;
     });
+    put(wxID_OPEN, boxes);
   }
   void import(const std::filesystem::path& folder, const char* row, const char* name) {
     dialogs.answer("Import Layout", [=](wxDialog& dialog) {
@@ -73,64 +74,67 @@ std::vector<std::size_t> piecesAside(const std::filesystem::path& home) {
   return pieces;
 }
 
-struct Leaving {
-  const char* name;
-  bool dirty;
-  bool saved; ///< the plan has a file
-  int answer;
-  const char* newName; ///< under which it is tried to save it; null: that is cancelled
-  std::size_t piecesAfter;
-  std::size_t piecesInFile; ///< of the two that were placed, the second one unsaved
-  std::vector<std::size_t> piecesAside;
-};
-
-void PrintTo(const Leaving& leaving, std::ostream* out) {
-  *out << leaving.name;
-}
-
-class UnsavedChanges : public FrameTest, public testing::WithParamInterface<Leaving> {};
-
-TEST_P(UnsavedChanges, AreAskedForAndNotLost) {
-  const Leaving& leaving = GetParam();
+TEST_F(FileTest, UnsavedChangesAreAskedForAndNotLost) {
   start();
-  placePiece();
-  if (leaving.saved)
-    saveAs("Yard");
-  if (leaving.dirty) {
-    placePiece(500);
-    dialogs.answer("Unsaved Changes", leaving.answer);
-  }
-  if (leaving.answer == wxID_YES && !leaving.saved && leaving.newName != nullptr) {
-    answerText("Save Layout", leaving.newName);
-    dialogs.answer("Save Failed", wxID_OK);
-  } else if (leaving.answer == wxID_YES && !leaving.saved)
-    dialogs.answer("Save Layout", wxID_CANCEL);
-  if (!leaving.piecesAside.empty())
-    dialogs.answer("Unsaved Changes", wxID_OK); // told where the plan is
-  put(wxID_NEW);
-  EXPECT_EQ(pieces(), leaving.piecesAfter);
-  EXPECT_EQ(frame().dirty(), leaving.piecesAfter > 0);
-  EXPECT_EQ(piecesIn(layoutsFolder() / "Yard.txl"), leaving.piecesInFile);
-  EXPECT_EQ(piecesAside(home()), leaving.piecesAside);
-  if (leaving.piecesAfter == 0) {
+  const auto leave = [this](int answer) {
+    dialogs.answer("Unsaved Changes", [answer](wxDialog& dialog) {
+      constexpr long kAsked = wxYES_NO | wxCANCEL | wxICON_QUESTION;
+      EXPECT_EQ(dynamic_cast<wxMessageDialogBase&>(dialog).GetMessageDialogStyle() & kAsked,
+                kAsked);
+      return answer;
+    });
+  };
+  struct Case {
+    int answer;          ///< about the second of two pieces; wxID_NONE: there is none
+    bool saved;          ///< the first has a file
+    const char* newName; ///< under which it is tried to save them; null: that is cancelled
+    std::size_t piecesAfter, piecesInFile;
+    std::vector<std::size_t> piecesAside;
+  };
+  for (const Case& c : {Case{wxID_NONE, true, nullptr, 0, 1, {}},
+                        {wxID_CANCEL, true, nullptr, 2, 1, {}},
+                        {wxID_NO, true, nullptr, 0, 1, {}},
+                        {wxID_YES, true, nullptr, 0, 2, {}},
+                        {wxID_YES, false, nullptr, 0, 0, {2}},
+                        {wxID_YES, false, "none/Yard", 0, 0, {2}}}) {
+    SCOPED_TRACE(c.answer);
+    std::filesystem::remove(layoutsFolder() / "Yard.txl");
+    placePiece();
+    if (c.saved)
+      saveAs("Yard");
+    if (c.answer != wxID_NONE) {
+      placePiece(500);
+      leave(c.answer);
+    }
+    if (c.newName) {
+      answerText("Save Layout", c.newName);
+      dialogs.answer("Save Failed", wxID_OK);
+    } else if (c.answer == wxID_YES && !c.saved)
+      dialogs.answer("Save Layout", wxID_CANCEL);
+    if (!c.piecesAside.empty())
+      dialogs.answer("Unsaved Changes", wxID_OK); // told where the plan is
+    put(wxID_NEW);
+    EXPECT_EQ(pieces(), c.piecesAfter);
+    EXPECT_EQ(piecesIn(layoutsFolder() / "Yard.txl"), c.piecesInFile);
+    EXPECT_EQ(piecesAside(home()), c.piecesAside);
+    std::filesystem::remove_all(home() / ".trassix" / "aside");
+    if (c.answer == wxID_CANCEL) {
+      leave(wxID_CANCEL);
+      EXPECT_FALSE(frame().Close());
+      EXPECT_EQ(dialogs.messages().back(), "You have unsaved changes. Save before continuing?");
+      EXPECT_TRUE(frame().dirty());
+      leave(wxID_NO);
+      put(wxID_NEW);
+    }
+    EXPECT_FALSE(frame().dirty());
     EXPECT_EQ(title(), kBase);
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Answers, UnsavedChanges,
-    testing::Values(Leaving{"NothingToAsk", false, true, wxID_NONE, nullptr, 0, 1, {}},
-                    Leaving{"Cancel", true, true, wxID_CANCEL, nullptr, 2, 1, {}},
-                    Leaving{"No", true, true, wxID_NO, nullptr, 0, 1, {}},
-                    Leaving{"Yes", true, true, wxID_YES, nullptr, 0, 2, {}},
-                    Leaving{"YesThenNoName", true, false, wxID_YES, nullptr, 0, 0, {2}},
-                    Leaving{"YesThenAFailure", true, false, wxID_YES, "none/Yard", 0, 0, {2}}),
-    [](const auto& test) { return std::string(test.param.name); });
-
 /// In every way in which the toolkit calls what the program does.
 TEST_F(FrameTest, AFaultIsToldOnceAndThePlanWrittenAside) {
   start();
-  CanvasPanel& canvas = frame().canvasPanel();
+  CanvasPanel& panel = frame().canvasPanel();
   const auto throwAt = [](wxWindow& window, const auto& type, auto thrown) {
     window.Bind(type, [thrown](wxEvent&) { throw thrown; });
   };
@@ -138,11 +142,11 @@ TEST_F(FrameTest, AFaultIsToldOnceAndThePlanWrittenAside) {
       {"posted", [&] { frame().CallAfter([] { throw std::runtime_error("posted"); }); }},
       {"chosen",
        [&] {
-         throwAt(frame(), wxEVT_TOOL_RCLICKED, std::logic_error("chosen"));
-         wxQueueEvent(&frame(), new wxCommandEvent(wxEVT_TOOL_RCLICKED));
+         throwAt(frame(), wxEVT_TOOL, std::logic_error("chosen"));
+         frame().GetToolBar()->OnLeftClick(kShowGrid, false);
        }},
-      {"unknown", [&] { throwAt(frame(), wxEVT_IDLE, 7); }},
-      {"memory", [&] { throwAt(canvas, wxEVT_PAINT, std::bad_alloc()); }}};
+      {"unknown", [&] { throwAt(frame(), wxEVT_UPDATE_UI, 7); }},
+      {"memory", [&] { throwAt(panel, wxEVT_PAINT, std::bad_alloc()); }}};
   dialogs.answer("Unexpected Error", wxID_OK);
   std::vector<std::size_t> copies;
   for (const auto& [logged, cause] : faults) {
@@ -150,7 +154,7 @@ TEST_F(FrameTest, AFaultIsToldOnceAndThePlanWrittenAside) {
     copies.push_back(pieces());
     cause();
     waitUntil("the fault is logged and the plan kept", [&, text = logged] {
-      canvas.Refresh();
+      panel.Refresh();
       return readText(logFile()).find(text) != std::string::npos &&
              std::ranges::is_permutation(piecesAside(home()), copies);
     });
@@ -159,20 +163,6 @@ TEST_F(FrameTest, AFaultIsToldOnceAndThePlanWrittenAside) {
   bool goesOn = false;
   frame().CallAfter([&] { goesOn = true; });
   waitUntil("the program goes on", [&] { return goesOn; });
-}
-
-TEST_F(FrameTest, CloseCanBeVetoed) {
-  start();
-  placePiece();
-  dialogs.answer("Unsaved Changes", [](wxDialog& dialog) {
-    EXPECT_EQ(dynamic_cast<wxMessageDialogBase&>(dialog).GetMessageDialogStyle() &
-                  (wxYES_NO | wxCANCEL | wxICON_QUESTION),
-              wxYES_NO | wxCANCEL | wxICON_QUESTION);
-    return wxID_CANCEL;
-  });
-  EXPECT_FALSE(frame().Close());
-  EXPECT_EQ(pieces(), 1u);
-  EXPECT_EQ(dialogs.messages().back(), "You have unsaved changes. Save before continuing?");
 }
 
 TEST_F(FrameTest, SaveAsksBeforeItReplaces) {
@@ -210,8 +200,7 @@ TEST_F(FrameTest, AFailedSaveKeepsTheChangesUnsaved) {
   start();
   placePiece();
   answerText("Save Layout", "no such folder/Yard");
-  dialogs.answer("Save Failed", wxID_OK);
-  put(wxID_SAVE);
+  put(wxID_SAVE, {{"Save Failed", wxID_OK}});
   const auto target = layoutsFolder() / "no such folder" / "Yard.txl";
   EXPECT_NE(dialogs.messages().back().find("No such file or directory"), std::string::npos);
   EXPECT_TRUE(frame().dirty());
@@ -241,30 +230,33 @@ TEST_F(FrameTest, AFolderWithoutRoomForNewFilesIsToldOnce) {
   EXPECT_EQ(pieces(), 3u);
 }
 
-TEST_F(FrameTest, UnitsAndThePointersPlaceFollowThePlan) {
+TEST_F(FrameTest, UnitsViewAndThePointersPlaceFollowThePlan) {
   startLaidOut();
-  const auto expectPlace = [this](const char* format, double unit) {
-    const Point at = frame().canvasPanel().canvas().view().toWorld({300, 200});
-    EXPECT_EQ(frame().GetStatusBar()->GetStatusText(2),
-              wxString::Format(format, at.x / unit, at.y / unit));
+  const char* const inches = "x: %.2f  y: %.2f in";
+  const auto place = [this](const char* format, double unit) {
+    const Point at = canvas().view().toWorld({300, 200});
+    return wxString::Format(format, at.x / unit, at.y / unit);
   };
-  placePiece(700);
+  const auto field = [this] { return frame().GetStatusBar()->GetStatusText(2); };
+  dropPiece(plan(), "8500", {9000, 0, 0}, {}, false);
   const wxString name(L'\u00fc', 300);
-  ASSERT_EQ(saveLayout(frame().layout(), home() / "mm.txl", name.utf8_string()), "");
+  ASSERT_EQ(saveLayout(plan(), home() / "mm.txl", name.utf8_string()), "");
   moveMouse({frame().canvasPanel(), {300, 200}});
+  waitUntil("the place is shown", [&] { return field() == place("x: %.0f  y: %.0f mm", 1); });
   put(kUnitsInch);
-  expectPlace("x: %.2f  y: %.2f in", 25.4);
+  EXPECT_EQ(field(), place(inches, 25.4));
   put(kZoomIn);
-  expectPlace("x: %.2f  y: %.2f in", 25.4);
+  EXPECT_EQ(field(), place(inches, 25.4));
   ASSERT_TRUE(frame().loadLayout(home() / "mm.txl"));
-  expectPlace("x: %.0f  y: %.0f mm", 1);
+  EXPECT_EQ(field(), place("x: %.0f  y: %.0f mm", 1));
+  EXPECT_TRUE(frame().canvasPanel().GetClientRect().Contains(onPlan({9055, 0}).client))
+      << "small track far out is brought into view";
   frame().workspace().changed();
   EXPECT_EQ(frame().GetTitle().length(), 200U) << "a longer one is cut";
   EXPECT_TRUE(frame().GetTitle().EndsWith(L"\u00fc\u2026 *"));
-  dialogs.answer("Unsaved Changes", wxID_NO);
-  put(wxID_NEW);
+  put(wxID_NEW, {{"Unsaved Changes", wxID_NO}});
   EXPECT_TRUE(frame().GetMenuBar()->IsChecked(kUnitsInch)) << "as the user prefers";
-  expectPlace("x: %.2f  y: %.2f in", 25.4);
+  EXPECT_EQ(field(), place(inches, 25.4));
 }
 
 TEST_F(FileTest, OpenListsDeletesAndSurvivesBadFiles) {
@@ -276,13 +268,10 @@ TEST_F(FileTest, OpenListsDeletesAndSurvivesBadFiles) {
   placePiece(500);
   saveAs("c");
 
-  open("b");
-  dialogs.answer("Open Failed", wxID_OK);
-  put(wxID_OPEN);
+  open("b", {{"Open Failed", wxID_OK}});
   EXPECT_EQ(pieces(), 2u); // nothing changed
   EXPECT_EQ(title(), std::string(kBase) + " - c");
   open("a");
-  put(wxID_OPEN);
   EXPECT_EQ(pieces(), 1u);
   EXPECT_EQ(title(), std::string(kBase) + " - a");
   EXPECT_EQ(frame().GetStatusBar()->GetStatusText(1), "Pieces: 1");
@@ -297,9 +286,7 @@ TEST_F(FileTest, OpenListsDeletesAndSurvivesBadFiles) {
     EXPECT_EQ(list(dialog, "layouts").GetCount(), 3u);
     return wxID_CANCEL;
   });
-  dialogs.answer("Delete Layout", wxID_NO);
-  dialogs.answer("Delete Layout", wxID_YES);
-  put(wxID_OPEN);
+  put(wxID_OPEN, {{"Delete Layout", wxID_NO}, {"Delete Layout", wxID_YES}});
   EXPECT_FALSE(std::filesystem::exists(layoutsFolder() / "a.txl"));
   EXPECT_EQ(title(), std::string(kBase) + " - a *");
   dialogs.answer("Save Layout", wxID_CANCEL); // the file is gone: Save asks again
@@ -315,34 +302,28 @@ TEST_F(FileTest, ImportReplacesOnlyWhenTold) {
   writeText(home() / "in" / "Station.txl", yard);
   writeText(home() / "in" / "bad.xml", kBad);
   import(home() / "in", "Station.txl", "Yard");
-  dialogs.answer("Confirm Replace", wxID_NO);
-  put(1900);
+  put(1900, {{"Confirm Replace", wxID_NO}});
   EXPECT_EQ(readText(layoutsFolder() / "Yard.txl"), yard);
 
   import(home() / "in", "bad.xml", "Yard");
-  dialogs.answer("Confirm Replace", wxID_YES);
-  dialogs.answer("Import Failed", wxID_OK);
-  put(1900);
+  put(1900, {{"Confirm Replace", wxID_YES}, {"Import Failed", wxID_OK}});
   EXPECT_EQ(dialogs.messages().back().find("This file does not appear to be a Trassix layout:\n\n"),
             0u);
   EXPECT_EQ(readText(layoutsFolder() / "Yard.txl"), yard);
 
   import(home() / "in", "Station.txl", " Station ");
-  dialogs.answer("Import", wxID_YES);
-  put(1900);
+  put(1900, {{"Import", wxID_YES}});
   EXPECT_EQ(dialogs.messages().back(), "Imported successfully.\n\nOpen \"Station\" now?");
   EXPECT_EQ(title(), std::string(kBase) + " - Station"); // the name went into the file
 
   // Onto itself: only the stored name is put right.
   writeText(layoutsFolder() / "Renamed.txl", yard);
   import(layoutsFolder(), "Renamed.txl", "Renamed");
-  dialogs.answer("Confirm Replace", wxID_YES);
-  dialogs.answer("Import", wxID_NO);
-  put(1900);
+  put(1900, {{"Confirm Replace", wxID_YES}, {"Import", wxID_NO}});
   EXPECT_EQ(readText(layoutsFolder() / "Renamed.txl").size(), yard.size() + 3);
 }
 
-TEST_F(FrameTest, ExportCopiesByteForByteAndAsks) {
+TEST_F(FileTest, ExportCopiesByteForByteAndAsks) {
   start();
   dialogs.answer("Export Layout", wxID_OK); // nothing there yet
   put(1901);
@@ -350,31 +331,25 @@ TEST_F(FrameTest, ExportCopiesByteForByteAndAsks) {
   placePiece();
   saveAs("Yard");
   const auto out = home() / "out";
-  const auto exportTo = [this](const std::filesystem::path& folder) {
-    dialogs.answer("Export Layout", [folder](wxDialog& dialog) {
+  const auto exportTo = [&](Boxes boxes) {
+    dialogs.answer("Export Layout", [out](wxDialog& dialog) {
       EXPECT_FALSE(dialog.FindWindow(wxID_OK)->IsEnabled());
       choose(dialog, "layouts", "Yard");
-      type(dialog, "destination", folder.string());
+      type(dialog, "destination", out.string());
       type(dialog, "name", "plan.xml");
       return wxID_OK;
     });
+    put(1901, boxes);
   };
-  exportTo(out);
-  dialogs.answer("Export Failed", wxID_OK);
-  put(1901);
+  exportTo({{"Export Failed", wxID_OK}});
   EXPECT_EQ(dialogs.messages().back(), "Destination folder does not exist:\n" + out.string());
 
   writeText(out / "plan.txl", "precious");
-  exportTo(out);
-  dialogs.answer("Confirm Replace", wxID_NO);
-  put(1901);
+  exportTo({{"Confirm Replace", wxID_NO}});
   EXPECT_EQ(dialogs.messages().back(),
             "\"plan.txl\" already exists in that folder.\n\nReplace it?");
   EXPECT_EQ(readText(out / "plan.txl"), "precious");
-  exportTo(out);
-  dialogs.answer("Confirm Replace", wxID_YES);
-  dialogs.answer("Export", wxID_OK);
-  put(1901);
+  exportTo({{"Confirm Replace", wxID_YES}, {"Export", wxID_OK}});
   EXPECT_EQ(readText(out / "plan.txl"), readText(layoutsFolder() / "Yard.txl"));
 }
 
@@ -386,19 +361,14 @@ TEST_F(FileTest, WhatWasNotUnderstoodIsNotWrittenOver) {
   std::string oneLine = readText(file);
   std::replace(oneLine.begin(), oneLine.end(), '\n', ' ');
   writeText(file, oneLine);
-  open("Odd");
-  dialogs.answer("Open Layout", wxID_OK);
-  put(wxID_OPEN);
+  open("Odd", {{"Open Layout", wxID_OK}});
   EXPECT_TRUE(dialogs.messages().back().starts_with("Not all of this file was understood ("));
   EXPECT_EQ(pieces(), 0u);
-  dialogs.answer("Save Layout", wxID_CANCEL);
-  put(wxID_SAVE);
+  put(wxID_SAVE, {{"Save Layout", wxID_CANCEL}});
   EXPECT_EQ(readText(file), oneLine);
 
   import(layoutsFolder(), "Odd.txl", "Copy");
-  dialogs.answer("Import", wxID_OK);
-  dialogs.answer("Import", wxID_NO);
-  put(1900);
+  put(1900, {{"Import", wxID_OK}, {"Import", wxID_NO}});
   EXPECT_EQ(readText(layoutsFolder() / "Copy.txl"), oneLine);
 }
 
@@ -448,7 +418,6 @@ TEST_F(FileTest, NamesInAnyBytesAndOutOfFilesAreTaken) {
   const auto file = layoutsFolder() / "K\xf6ln.txl"; // Latin-1
   writeText(file, stored);
   open("Köln");
-  put(wxID_OPEN);
   EXPECT_EQ(title(), std::string(kBase) + " - ../A & B");
   dialogs.answer("Save Layout", [](wxDialog& dialog) {
     EXPECT_EQ(dynamic_cast<wxTextEntryDialog&>(dialog).GetValue(), "..A & B");
@@ -459,16 +428,14 @@ TEST_F(FileTest, NamesInAnyBytesAndOutOfFilesAreTaken) {
   EXPECT_EQ(readText(file), stored);
 
   import(layoutsFolder(), "Köln.txl", "In");
-  dialogs.answer("Import", wxID_YES);
-  put(1900);
+  put(1900, {{"Import", wxID_YES}});
   EXPECT_EQ(title(), std::string(kBase) + " - In");
   dialogs.answer("Open Layout", [](wxDialog& dialog) {
     choose(dialog, "layouts", "Köln");
     press(dialog, wxID_DELETE);
     return wxID_CANCEL;
   });
-  dialogs.answer("Delete Layout", wxID_YES);
-  put(wxID_OPEN);
+  put(wxID_OPEN, {{"Delete Layout", wxID_YES}});
   EXPECT_FALSE(std::filesystem::exists(file));
 }
 
@@ -502,16 +469,13 @@ TEST_F(FrameTest, FileDialogsSortAlikeAndEscLeavesThem) {
 
 TEST_F(FileTest, ABlockGoesToTheLibraryOfTheShownSystem) {
   start();
-  dialogs.answer("Save Block", wxID_OK);
-  put(2001);
-  addLabel(frame().layout(), {0, 0}, "Yard"); // is no part of a block
-  dialogs.answer("Save Block", wxID_OK);
-  put(2001);
+  put(2001, {{"Save Block", wxID_OK}});
+  addLabel(plan(), {0, 0}, "Yard"); // is no part of a block
+  put(2001, {{"Save Block", wxID_OK}});
   EXPECT_EQ(dialogs.messages().back(), "Select pieces first to save as library block.");
   placePiece();
   answerText("Save Library Block", "Throat");
-  dialogs.answer("Save Block", wxID_OK);
-  put(2001);
+  put(2001, {{"Save Block", wxID_OK}});
   EXPECT_EQ(dialogs.messages().back(), "Block saved: Throat");
   EXPECT_TRUE(
       std::filesystem::exists(layoutsFolder() / "library" / "Marklin_C-Track" / "Throat.txl"));
@@ -526,8 +490,7 @@ TEST_F(FileTest, ABlockGoesToTheLibraryOfTheShownSystem) {
   });
   put(2001);
   answerText("Save Library Block", "no such folder/Throat");
-  dialogs.answer("Save Block Failed", wxID_OK);
-  put(2001);
+  put(2001, {{"Save Block Failed", wxID_OK}});
 }
 
 } // namespace

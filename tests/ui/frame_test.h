@@ -1,6 +1,8 @@
 #pragma once
 
+#include "driver.h"
 #include "editing/placing/placing.h"
+#include "ui/canvas/canvas_panel.h"
 #include "ui/frame/main_frame.h"
 #include "ui_test.h"
 
@@ -8,14 +10,19 @@
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
-#include <algorithm>
+#include <cmath>
+#include <initializer_list>
+#include <utility>
 
 namespace trassix::test {
 
 /// A test of the main window's commands.
 class FrameTest : public UiTest {
  protected:
-  void put(int command) {
+  /// Gives a command and these answers to the boxes that it shows.
+  void put(int command, std::initializer_list<std::pair<const char*, int>> boxes = {}) {
+    for (const auto& [title, answer] : boxes)
+      dialogs.answer(title, answer);
     wxCommandEvent event(wxEVT_MENU, command);
     frame().ProcessWindowEvent(event);
   }
@@ -23,7 +30,14 @@ class FrameTest : public UiTest {
     dropPiece(frame().layout(), "24188", {x, 0, 0}, {}, false);
     frame().workspace().changed();
   }
+  Layout& plan() { return frame().layout(); }
+  Canvas& canvas() { return frame().canvasPanel().canvas(); }
   std::size_t pieces() const { return frame().layout().pieces().size(); }
+  Spot onPlan(Point world) {
+    const Point px = canvas().view().toScreen(world);
+    return {frame().canvasPanel(),
+            wxPoint(static_cast<int>(std::lround(px.x)), static_cast<int>(std::lround(px.y)))};
+  }
   std::string title() const { return frame().GetTitle().utf8_string(); }
 
   static wxListBox& list(wxDialog& dialog, const char* name) {

@@ -20,9 +20,8 @@ namespace {
 void collectControls(wxWindow& parent, std::vector<wxWindow*>& controls) {
   for (auto node = parent.GetChildren().GetFirst(); node; node = node->GetNext()) {
     wxWindow* child = node->GetData();
-    if (!child->IsShown()) {
+    if (!child->IsShown())
       continue;
-    }
     controls.push_back(child);
     collectControls(*child, controls);
   }
@@ -51,9 +50,8 @@ void expectTidy(wxDialog& dialog) {
       EXPECT_GE(control->GetSize().x, control->GetBestSize().x) << what;
       EXPECT_TRUE(dialog.GetScreenRect().Contains(control->GetScreenRect())) << what;
     }
-    if (!control->AcceptsFocusFromKeyboard() || !control->GetChildren().empty()) {
+    if (!control->AcceptsFocusFromKeyboard() || !control->GetChildren().empty())
       continue;
-    }
     const wxRect rect = control->GetScreenRect();
     const bool sameRow = rect.y < last.GetBottom() && last.y < rect.GetBottom();
     EXPECT_TRUE(sameRow ? rect.x > last.x : rect.y >= last.y)
@@ -65,9 +63,8 @@ void expectTidy(wxDialog& dialog) {
 } // namespace
 
 ModalScript::~ModalScript() {
-  for (const Step& step : steps_) {
+  for (const Step& step : steps_)
     ADD_FAILURE() << "this dialog never came: " << step.title;
-  }
 }
 
 void ModalScript::answer(const std::string& title, int id) {
@@ -84,9 +81,8 @@ void ModalScript::drive(const std::string& title, std::function<void(wxDialog&)>
 
 int ModalScript::Enter(wxDialog* dialog) {
   const std::string title = dialog->GetTitle().utf8_string();
-  if (const auto* box = dynamic_cast<wxMessageDialogBase*>(dialog)) {
+  if (const auto* box = dynamic_cast<wxMessageDialogBase*>(dialog))
     messages_.push_back(box->GetMessage().utf8_string());
-  }
   if (steps_.empty() || steps_.front().title != title) {
     ADD_FAILURE() << "unexpected dialog: " << title
                   << (messages_.empty() ? "" : ", latest message: " + messages_.back());
@@ -94,9 +90,8 @@ int ModalScript::Enter(wxDialog* dialog) {
   }
   const Step step = steps_.front();
   steps_.pop_front();
-  if (step.respond) {
+  if (step.respond)
     return step.respond(*dialog);
-  }
   wxTheApp->CallAfter([dialog, step] {
     if (waitUntil(step.title + " is on the screen",
                   [dialog] { return dialog->IsActive() && laidOut(*dialog); })) {
@@ -106,9 +101,8 @@ int ModalScript::Enter(wxDialog* dialog) {
     if (dialog->IsModal()) {
       waitUntil(step.title + " closed", [dialog] { return !dialog->IsModal(); });
     }
-    if (dialog->IsModal()) {
+    if (dialog->IsModal())
       dialog->EndModal(wxID_CANCEL);
-    }
   });
   return wxID_NONE;
 }

@@ -3,10 +3,8 @@
 #include "catalog/track_catalog.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
-#include "driver.h"
 #include "frame_test.h"
 #include "support/plan.h"
-#include "ui/canvas/canvas_panel.h"
 #include "ui/commands/command_table.h"
 
 #include <wx/menu.h>

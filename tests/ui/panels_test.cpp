@@ -1,5 +1,4 @@
 // The right-hand side: properties, tally and purchase list, with real keys where a user types.
-#include "driver.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
 #include "frame_test.h"
@@ -11,10 +10,8 @@
 #include "ui/properties/tally_panel.h"
 
 #include <gmock/gmock.h>
-#include <wx/checkbox.h>
 #include <wx/choice.h>
 #include <wx/clrpicker.h>
-#include <wx/filedlg.h>
 #include <wx/listctrl.h>
 #include <wx/menu.h>
 #include <wx/spinctrl.h>
@@ -38,7 +35,6 @@ class PanelsTest : public FrameTest {
   static wxSplitterWindow& panes() { return control<wxSplitterWindow>("innerSplitter"); }
   static int panelWidth() { return panes().GetClientSize().x - panes().GetSashPosition(); }
 
-  Layout& plan() { return frame().layout(); }
   const PlanContent& content() { return plan().content(); }
 
   template <class Control>
@@ -154,7 +150,6 @@ TEST_F(PanelsTest, NamesShowAsTheyAre) {
   select(&PlanContent::pieces);
   for (const char* shown : {"A & B", "Yard & Co"})
     EXPECT_NE(findLabelled(shown), nullptr) << shown;
-  takeScreenshot("ampersands");
   openPurchaseList([&](wxDialog&) {
     waitUntil("the chosen row is named", [] { return findLabelled("of A & B") != nullptr; });
     pressKey(WXK_ESCAPE);
@@ -181,7 +176,6 @@ TEST_F(PanelsTest, RefusedInputSaysWhyInPlaceAndEscTakesItBack) {
   auto& problem = control<wxStaticText>("property.x.problem");
   EXPECT_THAT(problem.GetLabel().utf8_string(), StartsWith("A length is expected"));
   EXPECT_EQ(field.GetValue(), "far") << "to be mended";
-  takeScreenshot("refused");
   pressKey(WXK_ESCAPE);
   EXPECT_EQ(field.GetValue(), "0.0 mm");
   EXPECT_FALSE(problem.IsShown());
@@ -273,7 +267,6 @@ TEST_F(PanelsTest, ThePurchaseListRemembersWhatIsOwnedAndShowsWhereItGoes) {
   openPurchaseList([&](wxDialog&) {
     EXPECT_TRUE(findNamed("purchaseProblem"));
     EXPECT_FALSE(control<wxWindow>("owned").IsEnabled());
-    takeScreenshot("unreadable-stock");
     pressKey(WXK_ESCAPE);
   });
   EXPECT_TRUE(std::filesystem::is_directory(layoutsFolder() / kOwnedFileName));

@@ -1,36 +1,21 @@
 #include "catalog/track_catalog.h"
 #include "document/block_file.h"
-#include "driver.h"
+#include "frame_test.h"
 #include "support/plan.h"
 #include "support/print_records.h"
-#include "ui/canvas/canvas_panel.h"
-#include "ui/frame/main_frame.h"
 #include "ui/palette/catalog_list.h"
-#include "ui_test.h"
 
-#include <wx/listbox.h>
 #include <wx/statusbr.h>
-#include <wx/textdlg.h>
 
 #include <algorithm>
-#include <cmath>
 #include <stdexcept>
 
 namespace trassix::test {
 namespace {
 
 /// Plans with real mouse and keys.
-class PlanningTest : public UiTest {
+class PlanningTest : public FrameTest {
  protected:
-  Layout& plan() { return frame().layout(); }
-  Canvas& canvas() { return frame().canvasPanel().canvas(); }
-
-  Spot onPlan(Point world) {
-    const Point px = canvas().view().toScreen(world);
-    return {frame().canvasPanel(),
-            wxPoint(static_cast<int>(std::lround(px.x)), static_cast<int>(std::lround(px.y)))};
-  }
-
   /// The middle of an entry of the palette, scrolled into view.
   Spot inPalette(const wxString& title, const char* listName = "pieces") {
     waitUntil("the palette lists something", [&] { return findNamed(listName) != nullptr; });
@@ -51,19 +36,16 @@ class PlanningTest : public UiTest {
 
   /// Throws when they do not come, since nothing that follows makes sense then.
   void waitForPieces(std::size_t count) {
-    if (!waitUntil(std::to_string(count) + " pieces",
-                   [&] { return plan().pieces().size() == count; }))
-      throw std::runtime_error("the plan has " + std::to_string(plan().pieces().size()) +
-                               " pieces");
+    if (!waitUntil(std::to_string(count) + " pieces", [&] { return pieces() == count; }))
+      throw std::runtime_error("the plan has " + std::to_string(pieces()) + " pieces");
   }
 
   /// Goes on from the selected piece by Enter in the palette.
   void extendByEnter(const wxString& article, std::size_t times) {
     click(inPalette(article));
-    for (std::size_t i = 0; i < times; ++i) {
-      const std::size_t before = plan().pieces().size();
+    for (std::size_t count = pieces(), i = 0; i < times; ++i) {
       pressKey(WXK_RETURN);
-      waitForPieces(before + 1);
+      waitForPieces(++count);
     }
   }
 };
@@ -112,7 +94,6 @@ TEST_F(PlanningTest, AnOvalIsPlannedSavedAndFoundAgainAllJoined) {
     EXPECT_NEAR(plan().pieces()[i].x, saved.pieces[i].x, 1e-4);
   }
   EXPECT_EQ(frame().GetTitle(), "Trassix v1.7.1 by Quorrail - Evening oval");
-  takeScreenshot("oval");
   finish();
 }
 
@@ -129,7 +110,7 @@ TEST_F(PlanningTest, MouseAndKeysShapeThePlan) {
   pressKey(WXK_ESCAPE);
   ASSERT_TRUE(waitUntil("given up", [&] { return !canvas().carrying(); }));
   releaseMouse();
-  EXPECT_EQ(plan().pieces().size(), 1u);
+  EXPECT_EQ(pieces(), 1u);
 
   const Point origin = canvas().view().origin();
   moveMouse(onPlan({1000, 900}));

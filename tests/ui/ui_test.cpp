@@ -33,9 +33,8 @@ class TestedApp : public TrassixApp {
 
  protected:
   MainFrame* makeFrame() override {
-    if (beforeFrame) {
+    if (beforeFrame)
       beforeFrame();
-    }
     return TrassixApp::makeFrame();
   }
 };
@@ -54,9 +53,8 @@ TestedApp& app() {
 
 UiTest::UiTest() {
   setenv("HOME", home().c_str(), 1);
-  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
+  for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
     unsetenv(name);
-  }
   wxSetAssertHandler(failOnAssert);
   wxApp::SetInstance(new TestedApp);
   int count = 0;
@@ -106,9 +104,8 @@ bool UiTest::startAsIs() {
 }
 
 void UiTest::finish() {
-  if (frame_ == nullptr) {
+  if (frame_ == nullptr)
     return;
-  }
   frame_->Close(true);
   frame_ = nullptr;
   waitUntil("all windows are closed", [] { return wxTopLevelWindows.IsEmpty(); });

@@ -95,6 +95,7 @@ wxString toolTipOf(const Command& command) {
   return tip;
 }
 
+#ifdef __WXGTK__
 /// The arrow for tools without room is laid out by the toolkit before it is shown, which is in
 /// vain, so it appears where it was the last time. A change of a label has the bar laid out once
 /// more.
@@ -103,6 +104,7 @@ void layOutAgain(wxToolBarToolBase& tool) {
   tool.SetLabel(label + " ");
   tool.SetLabel(label);
 }
+#endif
 
 } // namespace
 
@@ -140,11 +142,12 @@ void CommandBars::buildToolBar() {
                  itemKind(command.kind));
   }
   bar->Realize();
-  window_.Bind(wxEVT_SIZE, [bar, width = 0](wxSizeEvent& event) mutable {
+#ifdef __WXGTK__
+  bar->Bind(wxEVT_SIZE, [bar](wxSizeEvent& event) {
     event.Skip();
-    if (std::exchange(width, event.GetSize().x) != event.GetSize().x)
-      bar->CallAfter([bar] { layOutAgain(*bar->GetToolByPos(0)); });
+    bar->CallAfter([bar] { layOutAgain(*bar->GetToolByPos(0)); });
   });
+#endif
 }
 
 void CommandBars::follow() {

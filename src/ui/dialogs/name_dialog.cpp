@@ -18,8 +18,7 @@ NameDialog::NameDialog(wxWindow* parent, const wxString& prompt, const wxString&
     : wxTextEntryDialog(parent, prompt, title, value, wxOK | wxCANCEL | wxCENTRE),
       advise_(std::move(advise)), line_(new ProblemText(this, FromDIP(360))) {
   constexpr std::size_t kBelowTheText = 2;
-  GetSizer()->Insert(kBelowTheText, line_,
-                     wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, FromDIP(15)));
+  GetSizer()->Insert(kBelowTheText, line_, wxSizerFlags().Expand().TripleBorder(wxLEFT | wxRIGHT));
   GetSizer()->SetSizeHints(this);
   Centre();
   m_textctrl->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {

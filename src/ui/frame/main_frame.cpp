@@ -126,19 +126,15 @@ void MainFrame::fitToDisplay() {
 #ifdef __WXGTK__
   // Its decorations come on top of its size and are taken off again.
   showWhole(*this);
-  inPlace_ = false;
-  Bind(wxEVT_SIZE, [this, place, client = GetClientSize()](wxSizeEvent& event) {
-    event.Skip();
-    if (inPlace_ || !IsShown() || GetSize() == place.GetSize())
-      return;
-    if (GetClientSize() != client)
-      inPlace_ = true; // the window manager has a size of its own for it
-    else
-      CallAfter([this, place] { // it cannot become smaller before this size has settled
-        SetSize(place);
-        inPlace_ = true;
-      });
-  });
+  Bind(wxEVT_SIZE,
+       [this, place, client = GetClientSize(), done = false](wxSizeEvent& event) mutable {
+         event.Skip();
+         if (done || !IsShown() || GetSize() == place.GetSize())
+           return;
+         done = true;
+         if (GetClientSize() == client) // else the window manager has a size of its own for it
+           CallAfter([this, place] { SetSize(place); }); // once the greater size has settled
+       });
 #endif
 }
 

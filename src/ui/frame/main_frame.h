@@ -33,8 +33,6 @@ class MainFrame : public wxFrame {
   CanvasPanel& canvasPanel() { return *canvas_; }
   PropertiesPanel* propertiesPanel() { return properties_; }
   bool dirty() const { return plan_.unsaved(); }
-  /// True once the window has the place and size that it starts with.
-  bool inPlace() const { return inPlace_; }
   void refreshProperties();
 
   /// Opens a plan file in place of the present one; false, after telling why, when it cannot be
@@ -67,7 +65,6 @@ class MainFrame : public wxFrame {
   std::unique_ptr<StatusLine> status_;
   std::unique_ptr<WindowTitle> title_;
   std::unique_ptr<Desk> desk_;
-  bool inPlace_ = true;
 };
 
 } // namespace trassix

@@ -5,10 +5,12 @@
 namespace trassix {
 
 void showWhole(wxTopLevelWindow& window) {
-  // As long as the toolkit does not know how wide the window manager's decorations are it puts the
-  // showing off to ask, and lays the window out as 2 by 1 pixels meanwhile: too narrow for a tool
-  // bar, and what is centred by that, or was to be placed itself, comes up in the corner of the
-  // screen. A window that was given a client size is shown at once; decorations add to it.
+  // As long as the toolkit does not know how wide the window manager's decorations are, at the
+  // start and after a dialog was hidden, it makes a window of 2 by 1 pixels to ask for them before
+  // it shows it. GTK takes that size for the window manager's wish and forgets the place that it
+  // was given; a tool bar has no room in it; and what is centred over it is wider, so that it is
+  // pushed onto the screen: to its corner. A window that was given a client size is shown at once,
+  // decorations added.
   window.SetClientSize(window.GetClientSize());
 }
 
