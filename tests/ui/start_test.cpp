@@ -115,9 +115,10 @@ TEST_F(UiTest, TheFirstStartTakesOverAnOlderReleasesFiles) {
   waitUntil("the program runs",
             [this] { return readText(logFile()).find("Show OK") != std::string::npos; });
   waitUntil("it tells of the copied file, over its window", [] {
-    const wxPoint off =
-        middleOf(foreignWindow("^Trassix Information$")) - middleOf(foreignWindow("^Trassix v"));
-    return off != wxPoint() && std::hypot(off.x, off.y) <= 40;
+    const wxRect notice = foreignWindow("^Trassix Information$");
+    const wxRect window = foreignWindow("^Trassix v");
+    const wxPoint off = middleOf(notice) - middleOf(window);
+    return !notice.IsEmpty() && !window.IsEmpty() && std::hypot(off.x, off.y) <= 40;
   });
   kill(program, SIGTERM);
   waitpid(program, nullptr, 0);
