@@ -1,6 +1,7 @@
 #include "host/command_ids.h"
 #include "host/questions.h"
 #include "host/workspace.h"
+#include "texts/texts.h"
 #include "ui/commands/command.h"
 #include "ui/commands/desk.h"
 #include "ui/dialogs/experience_dialog.h"
@@ -35,12 +36,13 @@ const Command kCommands[] = {
      .run = [](Desk& desk) { askExperience(&desk.window); }},
     {.id = kValidate,
      .run = [](Desk& desk) {
-       desk.workspace.questions().show({"Validate", "Validation not yet implemented."});
+       desk.workspace.questions().show(
+           {tr("Validate"), tr("Validation not yet implemented.")});
      }},
     {.id = kProperties,
      .run = [](Desk& desk) {
        desk.workspace.questions().show(
-           {"Properties", "Layout properties not yet implemented."});
+           {tr("Properties"), tr("Layout properties not yet implemented.")});
      }},
 };
 // clang-format on

@@ -7,6 +7,7 @@
 #include "editing/selection/selection.h"
 #include "host/command_ids.h"
 #include "host/workspace.h"
+#include "texts/texts.h"
 #include "ui/commands/command.h"
 #include "ui/commands/desk.h"
 #include "ui/dialogs/export_dialog.h"
@@ -37,7 +38,7 @@ NameAdvice adviseOnBlock(const std::filesystem::path& folder, const wxString& ty
   std::error_code none;
   if (advice.line.empty() && !typed.empty() &&
       std::filesystem::exists(layoutFile(folder, toUtf8(typed)), none))
-    advice.line = "Replaces the block of that name";
+    advice.line = tr("Replaces the block of that name");
   return advice;
 }
 
