@@ -98,7 +98,8 @@ TEST(OpenPlan, keepsTextsThroughSavesAndImports) {
   const auto copy = folder.path() / "copy.txl";
   const std::string typed = "Müller & Söhne <\"1\"> &amp; &lt; &quot &#38;";
   OpenPlan plan;
-  plan.startNew(0);
+  plan.startNew(2);
+  EXPECT_EQ(plan.layout().settings().units, 2);
   plan.layout().editSettings().levels.at(0).name = typed;
   PlanContent& content = plan.layout().edit();
   content.pieces = {test::loosePiece(1, typed, {})};
@@ -151,6 +152,13 @@ TEST(OpenPlan, belongsToAFileThatItMayReplace) {
   EXPECT_TRUE(plan.file().empty() && plan.name() == "A" && !plan.unsaved());
   EXPECT_EQ(importPlan(odd, file, "C").notices.size(), 1U);
   EXPECT_EQ(test::readText(file), test::readText(odd));
+  test::writeText(odd, replaced(test::readText(odd), "<new/>", ""));
+  test::writeText(
+      odd, std::regex_replace(test::readText(odd), std::regex("<piece id=\"."), "<piece id=\"7"));
+  EXPECT_EQ(plan.load(odd).notices.size(), 1U);
+  EXPECT_NE(plan.layout().pieces()[0].id, plan.layout().pieces()[1].id);
+  EXPECT_EQ(importPlan(odd, file, "C").notices.size(), 1U);
+  EXPECT_TRUE(plan.load(file).notices.empty());
   EXPECT_EQ(importPlan(odd, missing, "C").step, ImportResult::Step::Copy);
   EXPECT_EQ(importPlan(missing, file, "C").step, ImportResult::Step::Read);
 }

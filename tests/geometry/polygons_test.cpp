@@ -29,6 +29,7 @@ TEST(Outlines, NeitherCrossNorTouchThemselves) {
       {"arrow", {{0, 0}, {50, 80}, {100, 0}, {50, 200}}, true, false},
       {"corner on an edge", {{0, 0}, {100, 0}, {100, 100}, {50, 0}, {0, 100}}, false, true},
       {"beyond the plan", {{0, 0}, {1e19, 0}, {0, 1e19}}, false, false},
+      {"bow tie beyond", {{0, 0}, {1e19, 1e19}, {1e19, 0}, {0, 1e19}}, false, false},
       {"at its edge", {{-1e6, -1e6}, {1e6, -1e6}, {1e6, 1e6}}, true, false},
       {"star", {{0, 0}, {100, 60}, {0, 60}, {100, 0}, {50, 100}}, false, true},
   };

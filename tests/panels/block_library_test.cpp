@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <regex>
+
 namespace trassix {
 namespace {
 
@@ -15,7 +17,9 @@ TEST(BlockLibrary, listsTheFilesOfAFolderByName) {
   layout.edit().pieces.push_back(test::loosePiece(1, "24188", {500, 0}));
   layout.edit().pieces[0].sel = true;
   layout.edit().pieces[0].cat = "a & <b>";
-  ASSERT_EQ(saveBlock(layout, folder.path() / u8"Züge.txl", "another name"), "");
+  layout.edit().scenery = {{2, "c & d", 500, 0}};
+  layout.edit().scenery[0].sel = true;
+  ASSERT_EQ(saveBlock(layout, folder.path() / u8"Züge.txl", "e & f"), "");
   ASSERT_EQ(saveBlock(layout, folder.path() / "Yard.v2.txl", "Yard"), "");
   test::writeText(folder.path() / "Broken.txl", "<block name=\"x\">\n<piece id=\"a\" />\n");
   test::writeText(folder.path() / "notes.txt", "");
@@ -36,6 +40,15 @@ TEST(BlockLibrary, listsTheFilesOfAFolderByName) {
   ASSERT_EQ(entries[2].block.content.pieces.size(), 1U);
   EXPECT_EQ(entries[2].block.content.pieces[0].x, 0);
   EXPECT_EQ(entries[2].block.content.pieces[0].cat, "a & <b>");
+  EXPECT_EQ(entries[2].block.content.scenery.at(0).item, "c & d");
+  EXPECT_EQ(entries[2].block.name, "e & f");
+
+  Block mended;
+  test::writeText(folder.path() / "Yard.v2.txl",
+                  std::regex_replace(test::readText(entries[1].file), std::regex("item id=\"2"),
+                                     "item id=\"-1"));
+  EXPECT_EQ(openBlock(entries[1].file, mended).notices.size(), 1U);
+  EXPECT_GE(mended.content.scenery.at(0).id, 0);
 }
 
 } // namespace

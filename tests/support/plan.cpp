@@ -137,6 +137,10 @@ std::string brokenRule(const Layout& layout) {
         return who + "is joined to another system";
     }
   }
+  for (const PiecePair& pair : layout.content().pairs)
+    if (const auto* a = layout.findPiece(pair.first), *b = layout.findPiece(pair.second);
+        a == nullptr || b == nullptr || a->cat != b->cat)
+      return "piece " + std::to_string(pair.first) + " is paired with nothing like it";
   for (const SceneryItem& item : layout.content().scenery)
     if (!take(item.id))
       return "scenery item " + std::to_string(item.id) + " has no id of its own";

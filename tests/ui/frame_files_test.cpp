@@ -3,6 +3,7 @@
 #include "frame_test.h"
 #include "host/command_ids.h"
 #include "support/plain_user.h"
+#include "ui/dialogs/saved_layouts.h"
 
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
@@ -489,6 +490,7 @@ TEST_F(FileTest, ABlockGoesToTheLibraryOfTheShownSystem) {
     return wxID_CANCEL;
   });
   put(2001);
+  EXPECT_EQ(layoutFile(home(), "other/Throat").parent_path(), home() / "other");
   answerText("Save Library Block", "no such folder/Throat");
   put(2001, {{"Save Block Failed", wxID_OK}});
 }

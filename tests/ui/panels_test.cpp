@@ -14,6 +14,7 @@
 #include <wx/clrpicker.h>
 #include <wx/listctrl.h>
 #include <wx/menu.h>
+#include <wx/msgdlg.h>
 #include <wx/spinctrl.h>
 #include <wx/splitter.h>
 #include <wx/stattext.h>
@@ -154,6 +155,22 @@ TEST_F(PanelsTest, NamesShowAsTheyAre) {
     waitUntil("the chosen row is named", [] { return findLabelled("of A & B") != nullptr; });
     pressKey(WXK_ESCAPE);
   });
+  Choice choice;
+  choice.title = "Fill";
+  choice.line = "Gap & gap";
+  choice.rows = {"24188"};
+  choice.notes = {"Joins C & D"};
+  dialogs.drive("Fill", [](wxDialog&) {
+    waitUntil("the row is explained", [] { return findLabelled("Joins C & D") != nullptr; });
+    EXPECT_NE(findLabelled("Gap & gap"), nullptr);
+    pressKey(WXK_RETURN);
+  });
+  EXPECT_EQ(frame().workspace().questions().choose(choice), 0U);
+  dialogs.answer("Delete", [](wxDialog& box) {
+    EXPECT_TRUE(dynamic_cast<wxMessageDialogBase&>(box).GetMessageDialogStyle() & wxNO_DEFAULT);
+    return wxID_NO;
+  });
+  EXPECT_FALSE(frame().workspace().questions().confirm({"Delete", "Really?"}));
   wxString row;
   frame().Bind(wxEVT_MENU_OPEN, [&row](wxMenuEvent& event) {
     row = event.GetMenu()->FindItemByPosition(0)->GetItemLabelText();
@@ -209,6 +226,7 @@ TEST_F(PanelsTest, ThePanesKeepTheirSizesAndShowTheTally) {
   ASSERT_EQ(tally.GetItemCount(), 1);
   EXPECT_EQ(tally.GetItemText(0, 0), "3");
   EXPECT_EQ(tally.GetItemText(0, 2), "188.3mm");
+  EXPECT_EQ(tally.GetItemText(0, 4), wxString::FromUTF8("Märklin C"));
   const std::string row = "24188\t24188 - 188.3mm\t3\t3\n";
   click(control<wxWindow>("tally.copy"));
   EXPECT_EQ(frame().workspace().clipboard().text(),

@@ -99,7 +99,8 @@ TEST_F(DialogTest, CancelChangesNothingAndDeletingAsksWhatBecomesOfTheTrack) {
   EXPECT_EQ(plan().revision(), before);
 
   dialogs.drive("Levels", [&](wxDialog& dialog) {
-    pressKey('d', wxMOD_ALT);
+    in(dialog, "levelList").SetFocus();
+    pressKey(WXK_NUMPAD_DELETE);
     waitUntil("the level is gone", [&] { return !enabled(dialog, wxID_DELETE); });
     in(dialog, "levelList").SetFocus();
     pressKey(WXK_RETURN);

@@ -174,6 +174,10 @@ TEST_F(PlanningTest, SceneryAndBlocksAreCarriedToo) {
   }
   EXPECT_EQ(plan().pieces()[0].heading, 30);
   EXPECT_EQ(plan().pieces()[0].joint(1), (Joint{plan().pieces()[1].id, 0}));
+  click(inPalette("Throat", "library"));
+  dialogs.answer("Delete Library Block", wxID_YES);
+  pressKey(WXK_NUMPAD_DELETE);
+  waitUntil("the block is gone", [&] { return !std::filesystem::exists(library / "Throat.txl"); });
   finish();
 }
 

@@ -78,6 +78,7 @@ TEST(StraightFill, FindsAllRunsOfEachCountUntilThereAreSixteen) {
   const double lone[] = {100.0}; // at most 32 of them
   for (const double gap : {98.5, 101.5, 3201.5, 98.4, 101.6, 3301.6, 1e9, 0.0, -5.0})
     EXPECT_EQ(straightFills(lone, gap).size(), gap == 98.5 || gap == 101.5 || gap == 3201.5) << gap;
+  EXPECT_EQ(straightFills(lone, 101.5 + 1e-9).size(), 1U) << "as good as 101.5";
 }
 
 TEST(Autofill, TheGapLiesBetweenTheNearestOpenEnds) {
@@ -135,19 +136,21 @@ TEST(Autofill, PlacesAndJoinsAsOneStep) {
 }
 
 TEST(Autofill, JoinsTheFarEndWhereItComesNearEnough) {
-  // Gap, height of the end, grade of the start, what the line under the rows says.
-  const std::tuple<double, double, double, const char*> cases[] = {
-      {360, 0, 0, "Joins both ends."},
-      {360.9, 0, 0, "Joins both ends, 0.9 mm apart."},
-      {361.3, 0, 0, "Leaves the far end open, 1.3 mm apart."},
-      {360, 0.5, 0, "Leaves the far end open, 0.5 mm apart in height."},
-      {360, 1.1, 0, "Leaves the far end open, 1.1 mm apart in height."},
-      {361, -100, 0, "Leaves the far end open, 1.0 mm apart, 100.0 mm apart in height."},
-      {360, 188.3 / 2, 30, "Joins both ends."}, // so high is the end where the fill starts
+  // Gap, height of the end, grades of start and end, what the line under the rows says.
+  const std::tuple<double, double, double, double, const char*> cases[] = {
+      {360, 0, 0, 0, "Joins both ends."},
+      {360.9, 0, 0, 0, "Joins both ends, 0.9 mm apart."},
+      {361.3, 0, 0, 0, "Leaves the far end open, 1.3 mm apart."},
+      {360, 0.5, 0, 0, "Leaves the far end open, 0.5 mm apart in height."},
+      {360, 0.5, 0, 2, "Joins both ends, 0.5 mm apart in height."},
+      {360, 1.1, 0, 2, "Leaves the far end open, 1.1 mm apart in height."},
+      {361, -100, 0, 0, "Leaves the far end open, 1.0 mm apart, 100.0 mm apart in height."},
+      {360, 188.3 / 2, 30, 0, "Joins both ends."}, // so high is the end where the fill starts
   };
-  for (const auto& [gap, height, grade, line] : cases) {
+  for (const auto& [gap, height, grade, endGrade, line] : cases) {
     Layout layout = straightGap(gap);
     layout.editPiece(1)->grade = grade;
+    layout.editPiece(2)->grade = endGrade;
     layout.editPiece(2)->z = height;
     const Autofill fills = solve(layout);
     EXPECT_EQ(autofillRest(restOf(*fills.gap, fills.candidates[0])), line);
@@ -185,17 +188,17 @@ TEST(Autofill, ArcsCloseAnyCornerSemicircleOrRestOfACircle) {
     }
   }
   EXPECT_GT(closed, 500);
-  for (const int count : {1, 2, 5}) // the far piece is turned a little, but they arrive
-    for (const double off : {-0.4, 0.3}) {
-      Pose pose = AttachPose(cataloguePiece("24188"), 0,
-                             Plan().place("24188").extend("24330", count).front());
-      pose.heading += off;
-      const Plan near = Plan().place("24188").place("24188", pose);
-      EXPECT_THAT(
-          solve(near.layout).candidates,
-          testing::Contains(testing::Field(&FillCandidate::articles, testing::SizeIs(count))))
-          << off;
-    }
+  // The far piece is turned or moved a little.
+  for (const auto& [count, off] :
+       {std::pair{1, Pose{0, 0, 0.3}}, {2, {0, 0, -0.4}}, {5, {0, 0, 0.3}}, {5, {1.1, -1.1, 0}}}) {
+    Pose pose = AttachPose(cataloguePiece("24188"), 0,
+                           Plan().place("24188").extend("24330", count).front());
+    pose = {pose.x + off.x, pose.y + off.y, pose.heading + off.heading};
+    const Plan near = Plan().place("24188").place("24188", pose);
+    EXPECT_THAT(solve(near.layout).candidates,
+                testing::Contains(testing::Field(&FillCandidate::articles, testing::SizeIs(count))))
+        << off.heading;
+  }
   Plan corner = Plan().place("24188").place("24188", {188.3 + 437.5, -437.5 - 188.3, 90});
   EXPECT_EQ(autofillRow(GapKind::Arc, solve(corner.layout).candidates.at(0)),
             "3 x 24230 (30°) R2 - 437.5mm (17-1/4)  (90.0 deg)");

@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <cmath>
 #include <set>
 #include <tuple>
@@ -32,6 +33,11 @@ TEST(Swapping, OffersWhatFitsTheSameEnds) {
   Plan branch; // a crossing has the same ends, but no way to the branch
   branch.place("24612").extend("24188").at(1, 2).extend("24188").at(1, 0).extend("24188");
   EXPECT_EQ(swapsOf(branch.layout, 1), (Articles{"24630", "24624"}));
+  Plan edge = Plan().place("24188", {999'600, 0, 0}).extend("24188");
+  for (PlacedPiece& piece : edge.layout.edit().pieces)
+    piece.x += 200;
+  for (const SwapFit& fit : swapFits(edge.layout, 2))
+    EXPECT_LE(fit.pose.x, 1e6) << fit.definition->article;
   Plan adapters = Plan().place("2200").extend("2291").at(1, 0).extend("2291");
   EXPECT_FALSE(swapsOf(adapters.layout, 1).contains("5106")); // as long, another system
 }
@@ -65,7 +71,7 @@ TEST(Swapping, AndInsertingLeaveOneSidedJointsAlone) {
   const std::vector<PlacedPiece> sound = layout.pieces();
   // What piece 2 says of its connector 1: pieces and ends that are not there, and one that is
   // taken.
-  for (const Joint foreign : {Joint{9, 0}, Joint{3, 47}, Joint{1, 1}, Joint{2, 0}}) {
+  for (const Joint foreign : {Joint{9, 0}, Joint{3, 47}, Joint{1, 1}, Joint{2, 0}, Joint{2, 1}}) {
     SCOPED_TRACE(foreign.tconn);
     layout.edit().pieces = sound;
     layout.editPiece(2)->joints[1] = foreign;
@@ -81,6 +87,22 @@ TEST(Swapping, AndInsertingLeaveOneSidedJointsAlone) {
     EXPECT_EQ(layout.findPiece(2)->joint(0), foreign);
     EXPECT_EQ(layout.findPiece(1)->joints, (JointTable{{}, {2, 1}}));
     EXPECT_EQ(layout.findPiece(3)->joints, sound[2].joints);
+  }
+  layout.edit().pieces = sound;
+  layout.editPiece(3)->joints[0] = {}; // so that piece 2 alone makes room
+  ASSERT_TRUE(insertPiece(layout, "24188", {1, 1, 0, 1, {}}).changed());
+  EXPECT_EQ(layout.findPiece(1)->x, sound[0].x);
+}
+
+TEST(Joining, WritesOnOpenEndsOnly) {
+  Plan plan = Plan().place("24188").extend("24188").place("24188", {0, 300, 0});
+  const PlanContent before = plan.layout.content();
+  const std::array<std::int32_t, 4> cases[] = {{1, 1, 3, 0}, {3, 0, 2, 0},  {1, 0, 3, 2},
+                                               {3, 3, 2, 1}, {1, -1, 3, 0}, {3, 0, 3, 1},
+                                               {1, 0, 9, 0}};
+  for (const auto& [a, endOfA, b, endOfB] : cases) {
+    join(plan.layout, a, endOfA, b, endOfB);
+    EXPECT_TRUE(plan.layout.content() == before) << a << endOfA << b << endOfB;
   }
 }
 
@@ -103,12 +125,14 @@ TEST(Inserting, TheShorterSideMakesRoom) {
   };
   for (const auto& [article, carried, still, moved, shift] : cases) {
     Plan plan = row();
+    plan.layout.editPiece(3)->grade = plan.layout.editPiece(4)->grade = 30;
     const PlanContent before = plan.layout.content();
     const EditResult result =
         insertPiece(plan.layout, article, spot(plan, article, carried).value());
     const std::vector<PlacedPiece>& pieces = plan.layout.pieces();
     EXPECT_EQ(chainOf(plan.layout, 1).size(), 6u); // still one chain
     EXPECT_LT(largestPlay(plan.layout).distance, 1e-9);
+    EXPECT_NEAR(pieces[5].z, still == 0 ? 94.15 : 0, 1e-9); // as the end that stays
     EXPECT_NEAR(pieces[still].x, before.pieces[still].x, 1e-9);
     EXPECT_NEAR(pieces[moved].x, before.pieces[moved].x + shift, 1e-9);
     EXPECT_EQ(selectedPieces(plan.layout), result.placed);

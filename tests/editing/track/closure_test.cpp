@@ -5,38 +5,22 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdio>
-#include <map>
 #include <string>
 #include <tuple>
 
 namespace trassix {
 namespace {
 
-/// Notes the largest play met and prints it for each system at the end.
-class Closures : public testing::Test {
- protected:
-  static void expectSound(const std::string& article, const Plan& plan, int open) {
-    SCOPED_TRACE(article);
-    const Play play = largestPlay(plan.layout);
-    EXPECT_EQ(openEnds(plan.layout), open);
-    EXPECT_EQ(brokenRule(plan.layout), "");
-    EXPECT_LT(play.distance, 1e-6);
-    EXPECT_LT(play.heading, 1e-6);
-    auto& worst = worst_[cataloguePiece(article).system];
-    worst = std::max(worst, {play.distance, article});
-  }
-  static void TearDownTestSuite() {
-    for (const auto& [system, worst] : worst_)
-      std::printf("largest residue, %s: %.1e mm (%s)\n", std::string(systemName(system)).c_str(),
-                  worst.first, worst.second.c_str());
-  }
+void expectSound(const std::string& article, const Plan& plan, int open) {
+  SCOPED_TRACE(article);
+  const Play play = largestPlay(plan.layout);
+  EXPECT_EQ(openEnds(plan.layout), open);
+  EXPECT_EQ(brokenRule(plan.layout), "");
+  EXPECT_LT(play.distance, 1e-6);
+  EXPECT_LT(play.heading, 1e-6);
+}
 
- private:
-  inline static std::map<TrackSystem, std::pair<double, std::string>> worst_;
-};
-
-TEST_F(Closures, CirclesAndOvalsOfEveryCurveFamily) {
+TEST(Closures, CirclesAndOvalsOfEveryCurveFamily) {
   int families = 0;
   for (const PieceDef& curve : wholeCatalogue()) {
     const double count = curve.kind == PieceKind::Curve ? 360 / curve.angle : 0.5;
@@ -57,7 +41,7 @@ TEST_F(Closures, CirclesAndOvalsOfEveryCurveFamily) {
   EXPECT_EQ(families, 62);
 }
 
-TEST_F(Closures, ParallelOvalsKeepTheSpacing) {
+TEST(Closures, ParallelOvalsKeepTheSpacing) {
   const std::tuple<const char*, const char*, const char*, int, double> cases[] = {
       {"24188", "24130", "24230", 6, 77.5}, {"62188", "62130", "62230", 6, 77.5},
       {"2200", "2221", "2231", 6, 64.6},    {"5106", "5100", "5200", 6, 77.4},
@@ -78,7 +62,7 @@ TEST_F(Closures, ParallelOvalsKeepTheSpacing) {
   }
 }
 
-TEST_F(Closures, TurnoutAndCompensationCurveGiveTheParallelTrack) {
+TEST(Closures, TurnoutAndCompensationCurveGiveTheParallelTrack) {
   // Spacing, and what the published figures leave in it and in the heading.
   const std::tuple<const char*, const char*, double, double, double> cases[] = {
       {"24612", "24224", 77.5, 0.03, 1e-9},  {"62612", "62224", 77.5, 0.03, 1e-9},
@@ -95,7 +79,7 @@ TEST_F(Closures, TurnoutAndCompensationCurveGiveTheParallelTrack) {
   }
 }
 
-TEST_F(Closures, CrossingsAndSlipsFormALadder) {
+TEST(Closures, CrossingsAndSlipsFormALadder) {
   for (const PieceDef& piece : wholeCatalogue()) {
     if (piece.kind != PieceKind::Crossing && piece.kind != PieceKind::DoubleSlip)
       continue;
