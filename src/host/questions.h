@@ -13,6 +13,8 @@
 
 namespace trassix {
 
+struct LongWork;
+
 /// A Yes/No question before something is lost; No is the default.
 struct Question {
   std::string title;
@@ -61,6 +63,10 @@ class Questions {
   virtual void popupMenu(const std::vector<MenuRow>& rows) = 0;
   /// The shape as the user wants it; none when cancelled.
   virtual std::optional<ShapeAnswer> askShape(const Layout& layout, const Shape& shape) = 0;
+  /// Does all of the work before it returns, while the window lives on but takes no input; shows
+  /// how far it is when it takes longer than a moment. False when the user cancelled it. What a
+  /// step throws ends the work and is thrown from here.
+  virtual bool finish(const LongWork& work) = 0;
 };
 
 } // namespace trassix

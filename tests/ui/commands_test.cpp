@@ -111,7 +111,8 @@ std::string traceOf(MainFrame& frame, const Canceller& dialogs) {
   trace << frame.layout().revision() << frame.GetTitle() << view.zoom() << view.origin().x
         << switches.grid << switches.snap << switches.labels << switches.rails
         << static_cast<int>(switches.mode) << frame.layout().settings().units
-        << dialogs.titles.size() << (findNamed("help") != nullptr);
+        << frame.canvasPanel().GetParent() << dialogs.titles.size()
+        << (findNamed("help") != nullptr);
   return trace.str();
 }
 

@@ -8,6 +8,7 @@ namespace trassix {
 class Layout;
 class Workspace;
 struct Desk;
+struct DockedPanel;
 
 /// One command of the main window: what menus and tool bar show of it, when it can be used, and
 /// what it does. Menus, tool bar, keys and enable rules all come from these rows. Texts are marked
@@ -34,7 +35,13 @@ struct Command {
   bool (*checked)(const Workspace&) = nullptr;
   /// The tool's label as things are; null where it never changes.
   const char* (*labelNow)(const Workspace&) = nullptr;
-  void (*run)(Desk&) = nullptr; ///< null: not in this version, shown disabled
+  /// The panel that a check command shows and hides, without any function of its own.
+  const DockedPanel* panel = nullptr;
+  void (*run)(Desk&) = nullptr;
+
+  /// False: not in this version, shown disabled.
+  bool available() const { return run || panel; }
+  void perform(Desk& desk) const;
 };
 
 // The rows, in a file for each topic.

@@ -2,6 +2,7 @@
 
 #include "host/command_ids.h"
 #include "ui/commands/command_table.h"
+#include "ui/docks/dock_area.h"
 
 #include <wx/frame.h>
 #include <wx/menu.h>
@@ -65,7 +66,7 @@ wxItemKind itemKind(Kind kind) {
 void append(wxMenu& menu, const Command& command) {
   const wxString help = wxGetTranslation(command.menuHelp);
   menu.Append(command.id, wxGetTranslation(command.menuText),
-              command.run ? help : _("Not available in this version") + ": " + help,
+              command.available() ? help : _("Not available in this version") + ": " + help,
               itemKind(command.kind));
 }
 
@@ -90,7 +91,7 @@ void appendOurs(wxMenu& menu, Command::Menu which) {
 
 wxString toolTipOf(const Command& command) {
   wxString tip = command.toolTip ? wxGetTranslation(command.toolTip) : wxString();
-  if (!command.run)
+  if (!command.available())
     tip += (tip.empty() ? "" : "\n") + _("Not available in this version");
   return tip;
 }
@@ -108,8 +109,10 @@ void layOutAgain(wxToolBarToolBase& tool) {
 
 } // namespace
 
-CommandBars::CommandBars(wxFrame& window, Workspace& workspace)
-    : PlanObserver(workspace), window_(window), workspace_(workspace) {}
+CommandBars::CommandBars(wxFrame& window, Workspace& workspace, DockArea& docks)
+    : PlanObserver(workspace), window_(window), workspace_(workspace), docks_(docks) {
+  docks.onChange([this] { follow(); });
+}
 
 void CommandBars::buildMenuBar() {
   auto* bar = new wxMenuBar;
@@ -150,13 +153,17 @@ void CommandBars::buildToolBar() {
 #endif
 }
 
+bool CommandBars::isOn(const Command& command) const {
+  return command.panel ? docks_.shown(*command.panel) : command.checked(workspace_);
+}
+
 void CommandBars::follow() {
   wxMenuBar* menus = window_.GetMenuBar();
   wxToolBar* tools = window_.GetToolBar();
   bool relabelled = false;
   for (const Command* command : commands()) {
-    if (command->checked) {
-      const bool on = command->checked(workspace_);
+    if (command->checked || command->panel) {
+      const bool on = isOn(*command);
       if (command->menuText && menus && (on || command->kind == Kind::Check))
         menus->Check(command->id, on);
       if (command->toolLabel && tools)

@@ -6,11 +6,14 @@ class wxFrame;
 
 namespace trassix {
 
+class DockArea;
+struct Command;
+
 /// Menu bar and tool bar of the main window, as the table of commands has them. Check marks and
-/// labels that change follow the plan and the switches.
+/// labels that change follow the plan, the switches and the docks.
 class CommandBars : private PlanObserver {
  public:
-  CommandBars(wxFrame& window, Workspace& workspace);
+  CommandBars(wxFrame& window, Workspace& workspace, DockArea& docks);
 
   void buildMenuBar();
   void buildToolBar();
@@ -21,9 +24,11 @@ class CommandBars : private PlanObserver {
   void unitsChanged() override { follow(); }
   void switchesChanged() override { follow(); }
   void follow();
+  bool isOn(const Command& command) const;
 
   wxFrame& window_;
   const Workspace& workspace_;
+  const DockArea& docks_;
 };
 
 } // namespace trassix

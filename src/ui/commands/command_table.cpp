@@ -2,6 +2,8 @@
 
 #include "document/layout.h"
 #include "host/command_ids.h"
+#include "ui/commands/desk.h"
+#include "ui/docks/dock_area.h"
 
 #include <wx/defs.h>
 
@@ -24,6 +26,13 @@ constexpr PlainKey kPlainKeys[] = {{'+', kZoomIn},
                                    {WXK_NUMPAD_SUBTRACT, kZoomOut}};
 
 } // namespace
+
+void Command::perform(Desk& desk) const {
+  if (panel)
+    desk.docks.toggle(*panel);
+  else
+    run(desk);
+}
 
 const std::vector<const Command*>& commands() {
   static const std::vector<const Command*> all = [] {
@@ -50,7 +59,7 @@ const Command* commandOfPlainKey(int key) {
 }
 
 bool commandEnabled(const Command& command, const Layout& layout) {
-  return command.run && (!command.enabled || command.enabled(layout));
+  return command.available() && (!command.enabled || command.enabled(layout));
 }
 
 } // namespace trassix

@@ -9,6 +9,7 @@ class wxFrame;
 namespace trassix {
 
 class CanvasPanel;
+class DockArea;
 class PalettePanel;
 class Workspace;
 
@@ -26,6 +27,7 @@ struct Desk {
   Workspace& workspace;
   CanvasPanel& canvasPanel;
   PalettePanel& palette;
+  DockArea& docks;
   PlanFiles files;
   PrintSettings print = {};
 };

@@ -10,6 +10,7 @@
 #include "ui/commands/command_table.h"
 #include "ui/commands/desk.h"
 #include "ui/dialogs/experience_dialog.h"
+#include "ui/docks/dock_area.h"
 #include "ui/frame/program_icon.h"
 #include "ui/frame/status_line.h"
 #include "ui/frame/window_title.h"
@@ -36,11 +37,6 @@ constexpr int kPaletteMinWidth = 150;
 constexpr int kPropertiesWidth = 280;
 constexpr int kInnerMinWidth = 200;
 
-wxSplitterWindow* makeSplitter(wxWindow* parent, const wxString& name) {
-  return new wxSplitterWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                              wxSP_NOBORDER | wxSP_3DSASH | wxSP_LIVE_UPDATE, name);
-}
-
 } // namespace
 
 MainFrame::MainFrame()
@@ -51,7 +47,8 @@ MainFrame::MainFrame()
   FrameTrace::write("A: wxFrame base constructed");
   SetIcons(programIcon());
   title_ = std::make_unique<WindowTitle>(*this, workspace_);
-  bars_ = std::make_unique<CommandBars>(*this, workspace_);
+  docks_ = std::make_unique<DockArea>();
+  bars_ = std::make_unique<CommandBars>(*this, workspace_, *docks_);
   bars_->buildMenuBar();
   FrameTrace::write("B: MenuBar done");
   bars_->buildToolBar();
@@ -63,8 +60,8 @@ MainFrame::MainFrame()
   fitToDisplay();
   FrameTrace::write("F: MainFrame constructor complete");
 
-  desk_ = std::make_unique<Desk>(
-      Desk{*this, workspace_, *canvas_, *palette_, PlanFiles(*this, workspace_, *canvas_)});
+  desk_ = std::make_unique<Desk>(Desk{*this, workspace_, *canvas_, *palette_, *docks_,
+                                      PlanFiles(*this, workspace_, *canvas_)});
   bindCommands();
   // Tools that cannot be used yet look so from the start and are laid out once only.
   GetToolBar()->UpdateWindowUI();
@@ -91,6 +88,7 @@ void MainFrame::buildPanels() {
   FrameTrace::write("BuildPanels: splitter created");
   canvas_ = new CanvasPanel(inner, workspace_);
   FrameTrace::write("BuildPanels: canvas created");
+  docks_->surround(*canvas_, workspace_);
   properties_ = new PropertiesPanel(inner, workspace_);
   FrameTrace::write("BuildPanels: properties created");
   const int propertiesWidth = FromDIP(kPropertiesWidth);
@@ -147,7 +145,7 @@ void MainFrame::readPreferences() {
 
 void MainFrame::bindCommands() {
   for (const Command* command : commands()) {
-    if (command->run)
+    if (command->available())
       Bind(
           wxEVT_MENU, [this, command](wxCommandEvent&) { run(*command); }, command->id);
     Bind(
@@ -173,7 +171,7 @@ void MainFrame::run(const Command& command) {
   // What is typed but not entered yet is meant to be saved, exported or undone too.
   if (properties_)
     properties_->enterPending();
-  command.run(*desk_);
+  command.perform(*desk_);
 }
 
 void MainFrame::onCharHook(wxKeyEvent& event) {

@@ -16,6 +16,7 @@ struct Command;
 struct Desk;
 class CanvasPanel;
 class CommandBars;
+class DockArea;
 class PalettePanel;
 class PropertiesPanel;
 class StatusLine;
@@ -31,6 +32,7 @@ class MainFrame : public wxFrame {
   trassix::Layout& layout() { return plan_.layout(); }
   Workspace& workspace() { return workspace_; }
   CanvasPanel& canvasPanel() { return *canvas_; }
+  DockArea& docks() { return *docks_; }
   PropertiesPanel* propertiesPanel() { return properties_; }
   bool dirty() const { return plan_.unsaved(); }
   void refreshProperties();
@@ -61,6 +63,7 @@ class MainFrame : public wxFrame {
   WindowQuestions questions_;
   SystemClipboard clipboard_;
   Workspace workspace_;
+  std::unique_ptr<DockArea> docks_;
   std::unique_ptr<CommandBars> bars_;
   std::unique_ptr<StatusLine> status_;
   std::unique_ptr<WindowTitle> title_;

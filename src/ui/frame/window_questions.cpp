@@ -2,6 +2,7 @@
 
 #include "ui/dialogs/choice_dialog.h"
 #include "ui/dialogs/shape_dialog.h"
+#include "ui/dialogs/work_dialog.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/clipbrd.h>
@@ -90,6 +91,10 @@ std::optional<ShapeAnswer> WindowQuestions::askShape(const Layout& layout, const
   default:
     return {};
   }
+}
+
+bool WindowQuestions::finish(const LongWork& work) {
+  return finishWork(window_, work);
 }
 
 void SystemClipboard::put(const std::string& text) {

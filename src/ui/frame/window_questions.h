@@ -22,6 +22,7 @@ class WindowQuestions : public Questions {
                                      const std::string& value) override;
   void popupMenu(const std::vector<MenuRow>& rows) override;
   std::optional<ShapeAnswer> askShape(const Layout& layout, const Shape& shape) override;
+  bool finish(const LongWork& work) override;
 
  private:
   wxFrame& window_;

@@ -45,6 +45,11 @@ class SashRule : public wxEvtHandler {
 
 } // namespace
 
+wxSplitterWindow* makeSplitter(wxWindow* parent, const wxString& name) {
+  return new wxSplitterWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                              wxSP_NOBORDER | wxSP_3DSASH | wxSP_LIVE_UPDATE, name);
+}
+
 void keepSash(wxSplitterWindow& splitter, std::function<int(int size)> rule) {
   auto* kept = new SashRule(splitter, std::move(rule));
   splitter.Bind(wxEVT_DESTROY, [kept, &splitter](wxWindowDestroyEvent& event) {

@@ -2,6 +2,7 @@
 
 #include "editing/selection/selection.h"
 #include "host/clipboard.h"
+#include "host/long_work.h"
 #include "host/questions.h"
 #include "host/workspace.h"
 
@@ -19,6 +20,7 @@ class FakeHost : public Questions, public Clipboard {
   std::optional<std::size_t> choice;
   std::optional<std::string> typed;
   std::string clipboardText;
+  int patience = -1; ///< steps of long work after which it is cancelled; negative: never
 
   struct Seen : PlanObserver {
     using PlanObserver::PlanObserver;
@@ -62,6 +64,12 @@ class FakeHost : public Questions, public Clipboard {
   }
   void popupMenu(const std::vector<MenuRow>& rows) override { menu = rows; }
   std::optional<ShapeAnswer> askShape(const Layout&, const Shape&) override { return {}; }
+  bool finish(const LongWork& work) override {
+    for (int step = 0; step != patience; ++step)
+      if (!work.step({}))
+        return true;
+    return false;
+  }
   void put(const std::string& text) override { clipboardText = text; }
   std::string text() override { return clipboardText; }
 };
