@@ -19,7 +19,7 @@
 #include "editing/selection/property_edits.h"
 #include "editing/selection/selection.h"
 #include "panels/level_list.h"
-#include "panels/property_changes.h"
+#include "panels/property_sheet.h"
 
 #include <algorithm>
 #include <array>
@@ -256,14 +256,14 @@ class Session {
   }
   bool property() {
     constexpr const char* kValues[] = {"0", "22.5", "1000000", "-1000000", "1e9", "600", "0.5", ""};
-    const auto id = static_cast<PropertyId>(dice_.below(12));
-    const Property* shown = propertySheetOf(layout_).find(id);
-    if (shown == nullptr || id == PropertyId::Color || id == PropertyId::OutlineOnly)
+    const PropertySheet sheet = propertySheetOf(layout_);
+    const Property& row = dice_.of(sheet.rows);
+    const bool typed = row.editor == PropertyEditor::Text;
+    if (!typed && row.editor != PropertyEditor::Choice)
       return false;
-    const PropertyValue value = id == PropertyId::Level
-                                    ? PropertyValue(dice_.below(3))
-                                    : PropertyValue(std::string(dice_.of(kValues)));
-    return setProperty(layout_, id, value, [](const Question&) { return true; }).changed;
+    const PropertyValue value =
+        typed ? PropertyValue(std::string(dice_.of(kValues))) : PropertyValue(dice_.below(3));
+    return row.edit(layout_, value, [](const Question&) { return true; }).changed;
   }
   bool notes() {
     const Point at = place();

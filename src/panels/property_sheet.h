@@ -1,66 +1,66 @@
-// What the properties panel shows of the selection, or of the plan when nothing is selected.
+// What the properties panel shows of the selection, or of the plan when nothing is selected, and
+// how it is edited. What kinds of records have to show stands in sheets/.
 #pragma once
 
 #include "document/layout.h"
+#include "host/questions.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
 namespace trassix {
 
-enum class PropertyId : std::uint8_t {
-  Fixed, ///< only shown
-  X,
-  Y,
-  Heading,
-  Height,
-  Level,
-  Color,
-  Text,
-  Width,
-  Depth,
-  Opacity,
-  OutlineOnly,
-};
-
 /// No colour: the piece has none of its own. Only the colour of a shape is never empty.
 using OwnColor = std::optional<Color>;
 
-/// Names and values in English, UTF-8; lengths in the plan's unit.
-struct Property {
-  /// Of a property whose values differ in the selection.
-  static constexpr const char* kVarious = "various";
+/// Text as typed, the place of a choice, a colour, or a check mark, as the row's editor needs it.
+using PropertyValue = std::variant<std::string, std::size_t, OwnColor, bool>;
+enum class PropertyEditor : std::uint8_t { None, Text, Choice, Color, Check };
 
-  PropertyId id = PropertyId::Fixed;
+/// A refusal says why the selection must not be changed at all, a problem why the value cannot be
+/// taken, to be shown beside the field.
+struct PropertyAnswer : ChangeResult {
+  using ChangeResult::ChangeResult;
+  PropertyAnswer(ChangeResult result, std::string why = {})
+      : ChangeResult(std::move(result)), problem(std::move(why)) {}
+
+  std::string problem;
+};
+
+/// Asked before something is lost.
+using Confirm = std::function<bool(const Question&)>;
+
+/// Gives the selection the value, as one undo step. Nothing changes when the value is refused or is
+/// what the row shows already.
+using PropertyEdit = std::function<PropertyAnswer(Layout&, const PropertyValue&, const Confirm&)>;
+
+/// Texts in UTF-8; lengths in the plan's unit.
+struct Property {
+  std::string_view key = "fixed"; ///< of its control, for tests and accessibility tools
   std::string name;
-  std::string value;                 ///< as text; also of choices and colours
-  std::vector<std::string> choices;  ///< not empty for a choice; names may be alike
+  std::string value; ///< as text; also of choices and colours
+  PropertyEditor editor = PropertyEditor::None;
+  PropertyEdit edit;                 ///< none of what is only shown
+  std::vector<std::string> choices;  ///< names may be alike
   std::optional<std::size_t> chosen; ///< none when the values differ or none of the choices is it
   std::string note;                  ///< what else a new value brings about, one sentence
   OwnColor color;
-  bool mayBeNone = true; ///< of a colour
+  bool mayBeNone = false; ///< of a colour
+  bool isNone = false;
   bool checked = false;
-
-  bool operator==(const Property&) const = default;
 };
 
 struct PropertySheet {
   std::string title;
   std::vector<Property> rows;
-
-  const Property* find(PropertyId id) const;
-  bool operator==(const PropertySheet&) const = default;
 };
-
 PropertySheet propertySheetOf(const Layout& layout);
-
-/// The one record that is selected. Null when nothing or more than one record is.
-using SelectedRecord = std::variant<std::monostate, const PlacedPiece*, const SceneryItem*,
-                                    const Label*, const Shape*, const Measurement*>;
-SelectedRecord selectedRecord(const Layout& layout);
 
 } // namespace trassix

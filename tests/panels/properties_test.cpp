@@ -1,7 +1,7 @@
 #include "editing/joining/joining.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
-#include "panels/property_changes.h"
+#include "panels/property_sheet.h"
 #include "support/loose_records.h"
 #include "support/plan.h"
 #include "support/print_records.h"
@@ -53,12 +53,24 @@ struct Sample {
 std::string textOf(const PropertySheet& sheet) {
   std::string text = sheet.title + "\n";
   for (const Property& row : sheet.rows) {
-    text += row.name + (row.id == PropertyId::Fixed ? ": " : " = ") + row.value;
+    text += row.name + (row.edit ? " = " : ": ") + row.value;
     if (!row.note.empty())
       text += " (" + row.note + ")";
     text += "\n";
   }
   return text;
+}
+
+Property rowOf(const Layout& layout, std::string_view key) {
+  const PropertySheet sheet = propertySheetOf(layout);
+  const auto row = std::ranges::find(sheet.rows, key, &Property::key);
+  return row == sheet.rows.end() ? Property() : *row;
+}
+
+PropertyAnswer enter(Layout& layout, std::string_view key, const PropertyValue& value,
+                     const Confirm& confirm) {
+  const Property row = rowOf(layout, key);
+  return row.edit ? row.edit(layout, value, confirm) : false;
 }
 
 TEST(PropertySheet, showsWhatIsSelected) {
@@ -96,7 +108,7 @@ TEST(PropertySheet, showsWhatIsSelected) {
               testing::AllOf(HasSubstr("Heading = 30\u00b0\nWidth = "), HasSubstr("Depth = ")));
   sample.layout.editSettings().levels[1].name = "Level 1"; // as in a plan from elsewhere
   sample.select({4});
-  EXPECT_EQ(propertySheetOf(sample.layout).find(PropertyId::Level)->chosen, std::size_t{1});
+  EXPECT_EQ(rowOf(sample.layout, "level").chosen, std::size_t{1});
   sample.layout.editSettings().units = 2;
   EXPECT_EQ(shown({sample.tape}), "Measurement\nLength: 19.685 in\n");
 
@@ -121,44 +133,42 @@ TEST(PropertyChange, eachIsOneUndoStepAndShownAfterwards) {
   Answers answers;
   const struct {
     std::vector<std::int32_t> selected;
-    PropertyId id;
+    const char* key;
     PropertyValue value;
     const char* shown;
   } cases[] = {
-      {{4}, PropertyId::X, "12,5 cm", "125.0 mm"},
-      {{4}, PropertyId::Y, "-30", "-30.0 mm"},
-      {{4}, PropertyId::Heading, "-45", "315\u00b0"},
-      {{2}, PropertyId::Height, "1 in", "25.4 mm"},
-      {{1, 4, sample.scenery, sample.shape}, PropertyId::Level, std::size_t{1}, "Upper"},
-      {{1, 4}, PropertyId::Color, OwnColor(Color{1, 2, 3}), "own"},
-      {{sample.label}, PropertyId::Text, "Shed", "Shed"},
-      {{sample.label}, PropertyId::X, "5", "5.0 mm"},
-      {{sample.shape}, PropertyId::Text, "", ""},
-      {{sample.shape}, PropertyId::Text, "Pond", "Pond"},
-      {{sample.shape}, PropertyId::Color, OwnColor(Color{9, 8, 7}), "own"},
-      {{sample.shape}, PropertyId::Opacity, "20", "20 %"},
-      {{sample.shape}, PropertyId::OutlineOnly, true, "yes"},
-      {{sample.shape}, PropertyId::Height, "40", "40.0 mm"},
-      {{sample.scenery}, PropertyId::Y, "77", "77.0 mm"},
-      {{sample.scenery}, PropertyId::Heading, "405", "45\u00b0"},
-      {{sample.scenery}, PropertyId::Width, "333", "333.0 mm"},
-      {{sample.scenery}, PropertyId::Depth, "50", "50.0 mm"},
+      {{4}, "x", "12,5 cm", "125.0 mm"},
+      {{4}, "y", "-30", "-30.0 mm"},
+      {{4}, "heading", "-45", "315\u00b0"},
+      {{2}, "height", "1 in", "25.4 mm"},
+      {{1, 4, sample.scenery, sample.shape}, "level", std::size_t{1}, "Upper"},
+      {{1, 4}, "color", OwnColor(Color{1, 2, 3}), "own"},
+      {{sample.label}, "text", "Shed", "Shed"},
+      {{sample.label}, "x", "5", "5.0 mm"},
+      {{sample.shape}, "text", "", ""},
+      {{sample.shape}, "text", "Pond", "Pond"},
+      {{sample.shape}, "color", OwnColor(Color{9, 8, 7}), "own"},
+      {{sample.shape}, "opacity", "20", "20 %"},
+      {{sample.shape}, "outline", true, "yes"},
+      {{sample.shape}, "height", "40", "40.0 mm"},
+      {{sample.scenery}, "y", "77", "77.0 mm"},
+      {{sample.scenery}, "heading", "405", "45\u00b0"},
+      {{sample.scenery}, "width", "333", "333.0 mm"},
+      {{sample.scenery}, "depth", "50", "50.0 mm"},
   };
   for (const auto& change : cases) {
     sample.select(change.selected);
-    const PropertySheet sheet = propertySheetOf(sample.layout);
-    SCOPED_TRACE(sheet.title + ": " + sheet.find(change.id)->name);
+    const Property row = rowOf(sample.layout, change.key);
+    SCOPED_TRACE(propertySheetOf(sample.layout).title + ": " + row.name);
     const PlanContent before = sample.layout.content();
-    const bool same = sheet.find(change.id)->value == change.shown &&
-                      !std::holds_alternative<OwnColor>(change.value);
-    const PropertyAnswer answer =
-        setProperty(sample.layout, change.id, change.value, answers.confirm);
+    const bool same = row.value == change.shown && !std::holds_alternative<OwnColor>(change.value);
+    const PropertyAnswer answer = enter(sample.layout, change.key, change.value, answers.confirm);
     EXPECT_EQ(answer.problem, "");
     EXPECT_EQ(answer.changed, !same);
-    EXPECT_EQ(propertySheetOf(sample.layout).find(change.id)->value, change.shown);
+    EXPECT_EQ(rowOf(sample.layout, change.key).value, change.shown);
 
     const std::uint64_t revision = sample.layout.revision();
-    setProperty(sample.layout, change.id, change.value, answers.confirm);
+    enter(sample.layout, change.key, change.value, answers.confirm);
     EXPECT_EQ(sample.layout.revision(), revision) << "to enter it again is no step";
     if (same)
       continue;
@@ -176,30 +186,29 @@ TEST(PropertyChange, refusedInputChangesNothing) {
   sample.layout.edit().scenery.push_back({small, "bufferstop"}); // 30 mm wide
   const struct {
     std::int32_t selected;
-    PropertyId id;
+    const char* key;
     PropertyValue value;
     const char* problem;
   } cases[] = {
-      {4, PropertyId::X, "far", "A length is expected"},
-      {4, PropertyId::X, "2000 m", "At most 1000000.0 mm"},
-      {4, PropertyId::Heading, "", "An angle"},
-      {4, PropertyId::Height, "-11 m", "At least -10000.0 mm"},
-      {4, PropertyId::Level, std::size_t{7}, ""},
-      {4, PropertyId::Text, "no such row", ""},
-      {4, PropertyId::Fixed, "5", ""},
-      {4, PropertyId::X, "500.00", ""}, // shown the same: the rest of 0.04 mm stays
-      {sample.label, PropertyId::Text, " \t", "A label needs a text."},
-      {sample.shape, PropertyId::Opacity, "101 %", "A share"},
-      {sample.scenery, PropertyId::Width, "0", "At least 1.0 mm"},
-      {small, PropertyId::Depth, "50 m", "At most 30000.0 mm"}, // a thousandfold
-      {sample.tape, PropertyId::X, "5", ""},
+      {4, "x", "far", "A length is expected"},
+      {4, "x", "2000 m", "At most 1000000.0 mm"},
+      {4, "heading", "", "An angle"},
+      {4, "height", "-11 m", "At least -10000.0 mm"},
+      {4, "level", std::size_t{7}, ""},
+      {4, "text", "no such row", ""},
+      {4, "fixed", "5", ""},
+      {4, "x", "500.00", ""}, // shown the same: the rest of 0.04 mm stays
+      {sample.label, "text", " \t", "A label needs a text."},
+      {sample.shape, "opacity", "101 %", "A share"},
+      {sample.scenery, "width", "0", "At least 1.0 mm"},
+      {small, "depth", "50 m", "At most 30000.0 mm"}, // a thousandfold
+      {sample.tape, "x", "5", ""},
   };
   sample.layout.editPiece(4)->x = 500.04;
   for (const auto& change : cases) {
     sample.select({change.selected});
     const std::uint64_t revision = sample.layout.revision();
-    const PropertyAnswer answer =
-        setProperty(sample.layout, change.id, change.value, answers.confirm);
+    const PropertyAnswer answer = enter(sample.layout, change.key, change.value, answers.confirm);
     EXPECT_FALSE(answer.changed || answer.refusal);
     EXPECT_THAT(answer.problem, HasSubstr(change.problem));
     EXPECT_EQ(answer.problem.empty(), *change.problem == '\0');
@@ -210,19 +219,22 @@ TEST(PropertyChange, refusedInputChangesNothing) {
   sample.layout.editPiece(2)->grade = 2;
   sample.select({1});
   const std::uint64_t revision = sample.layout.revision();
-  EXPECT_FALSE(setProperty(sample.layout, PropertyId::X, "40", answers.confirm).changed);
+  EXPECT_FALSE(enter(sample.layout, "x", "40", answers.confirm).changed);
   EXPECT_EQ(answers.asked, 1);
   EXPECT_EQ(sample.layout.revision(), revision);
   answers.yes = true;
-  EXPECT_TRUE(setProperty(sample.layout, PropertyId::X, "40", answers.confirm).changed);
+  EXPECT_TRUE(enter(sample.layout, "x", "40", answers.confirm).changed);
   EXPECT_FALSE(!sample.piece(1).joint(1).open());
   sample.layout.undo();
 
   sample.layout.editPiece(3)->helix = 1;
-  EXPECT_EQ(setProperty(sample.layout, PropertyId::Height, "9", answers.confirm).refusal->title,
+  EXPECT_EQ(enter(sample.layout, "height", "9", answers.confirm).refusal->title,
             "Helix track is locked");
   sample.select({3});
-  EXPECT_TRUE(setProperty(sample.layout, PropertyId::Heading, "9", answers.confirm).refusal);
+  EXPECT_TRUE(enter(sample.layout, "heading", "9", answers.confirm).refusal);
+  sample.layout.edit().tunnels.emplace_back().portalA = sample.scenery;
+  sample.select({sample.scenery}); // a portal
+  EXPECT_TRUE(enter(sample.layout, "y", "9", answers.confirm).refusal);
 }
 
 TEST(PropertyChange, heightsNeverLeaveAStepInTheTrack) {
@@ -236,18 +248,18 @@ TEST(PropertyChange, heightsNeverLeaveAStepInTheTrack) {
     return z;
   };
   sample.select({2});
-  setProperty(sample.layout, PropertyId::Height, "30", answers.confirm);
+  enter(sample.layout, "height", "30", answers.confirm);
   EXPECT_THAT(heights(), testing::ElementsAre(30, 30, 40, 0)) << "the joined track went along";
 
   sample.select({1, 2});
-  setProperty(sample.layout, PropertyId::Level, std::size_t{1}, answers.confirm);
+  enter(sample.layout, "level", std::size_t{1}, answers.confirm);
   EXPECT_THAT(heights(), testing::ElementsAre(30, 30, 40, 0)) << "piece 3 stays where it is";
   sample.select({3, 4});
-  setProperty(sample.layout, PropertyId::Level, std::size_t{1}, answers.confirm);
+  enter(sample.layout, "level", std::size_t{1}, answers.confirm);
   EXPECT_THAT(heights(), testing::ElementsAre(30, 30, 40, 0)) << "joined to what is not selected";
   sample.select({4});
-  setProperty(sample.layout, PropertyId::Level, std::size_t{0}, answers.confirm);
-  setProperty(sample.layout, PropertyId::Level, std::size_t{1}, answers.confirm);
+  enter(sample.layout, "level", std::size_t{0}, answers.confirm);
+  enter(sample.layout, "level", std::size_t{1}, answers.confirm);
   EXPECT_EQ(sample.piece(4).z, 0);
   EXPECT_EQ(sample.piece(4).level, 2);
 
@@ -255,14 +267,14 @@ TEST(PropertyChange, heightsNeverLeaveAStepInTheTrack) {
   sample.layout.editPiece(4)->heading = 180;
   sample.layout.editPiece(4)->x = 0;
   sample.layout.editPiece(4)->y = 0;
-  setProperty(sample.layout, PropertyId::Height, "30", answers.confirm);
+  enter(sample.layout, "height", "30", answers.confirm);
   EXPECT_EQ(sample.piece(4).joint(0), (Joint{1, 0}));
 
   // Joined across levels of different heights, it is lifted by none of them.
   for (const std::size_t level : {0u, 1u}) {
     for (const std::vector<std::int32_t>& ids : {std::vector{1}, {1, 2, 3, 4}}) {
       sample.select(ids);
-      setProperty(sample.layout, PropertyId::Level, level, answers.confirm);
+      enter(sample.layout, "level", level, answers.confirm);
       EXPECT_THAT(heights(), testing::ElementsAre(30, 30, 40, 30)) << level;
     }
   }

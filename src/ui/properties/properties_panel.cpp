@@ -35,8 +35,7 @@ void PropertiesPanel::build() {
   auto* splitter =
       new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                            wxSP_NOBORDER | wxSP_3DSASH | wxSP_LIVE_UPDATE, "propertiesSplitter");
-  fields_ = new PropertyFields(
-      splitter, [this](PropertyId id, const PropertyValue& value) { return enter(id, value); });
+  fields_ = new PropertyFields(splitter, workspace_);
   tally_ = new TallyPanel(splitter, workspace_);
   splitter->SetMinimumPaneSize(FromDIP(kLeastHeight));
   splitter->SetSashGravity(0.5);
@@ -65,18 +64,6 @@ void PropertiesPanel::selectionChanged() {
 void PropertiesPanel::enterPending() {
   if (fields_)
     fields_->enterPending();
-}
-
-std::string PropertiesPanel::enter(PropertyId id, const PropertyValue& value) {
-  const PropertyAnswer answer =
-      setProperty(workspace_.layout(), id, value, [this](const Question& question) {
-        return workspace_.questions().confirm(question);
-      });
-  if (answer.refusal)
-    workspace_.questions().show(*answer.refusal);
-  if (answer.changed)
-    workspace_.changed();
-  return answer.problem;
 }
 
 } // namespace trassix

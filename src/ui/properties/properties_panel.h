@@ -1,11 +1,8 @@
 #pragma once
 
 #include "host/workspace.h"
-#include "panels/property_changes.h"
 
 #include <wx/panel.h>
-
-#include <string>
 
 namespace trassix {
 
@@ -31,7 +28,6 @@ class PropertiesPanel : public wxPanel, private PlanObserver {
 
   void onFirstPaint(wxPaintEvent& event);
   void build();
-  std::string enter(PropertyId id, const PropertyValue& value);
 
   Workspace& workspace_;
   PropertyFields* fields_ = nullptr; ///< none before it was painted

@@ -1,5 +1,6 @@
 #include "ui/properties/property_fields.h"
 
+#include "host/questions.h"
 #include "ui/widgets/picture_panel.h"
 #include "ui/widgets/problem_text.h"
 #include "ui/widgets/utf8.h"
@@ -13,7 +14,6 @@
 #include <wx/textctrl.h>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace trassix {
@@ -23,38 +23,16 @@ namespace {
 constexpr int kGap = 6;
 constexpr int kLeastWrap = 120;
 
-enum class Editor { Fixed, Text, Choice, Color, Check };
-
-Editor editorOf(const Property& property) {
-  switch (property.id) {
-  case PropertyId::Fixed:
-    return Editor::Fixed;
-  case PropertyId::Level:
-    // To choose from one is no choice, unless what there is now is none of the levels.
-    return property.choices.size() == 1 && property.chosen ? Editor::Fixed : Editor::Choice;
-  case PropertyId::Color:
-    return Editor::Color;
-  case PropertyId::OutlineOnly:
-    return Editor::Check;
-  default:
-    return Editor::Text;
-  }
-}
-
 /// Of the editing control, for tests and for accessibility tools.
-const char* controlName(PropertyId id) {
-  constexpr std::array<const char*, 12> kNames{
-      "property.fixed",  "property.x",     "property.y",       "property.heading",
-      "property.height", "property.level", "property.color",   "property.text",
-      "property.width",  "property.depth", "property.opacity", "property.outline"};
-  return kNames.at(static_cast<std::size_t>(id));
+wxString controlName(const Property& property) {
+  return "property." + fromUtf8(std::string(property.key));
 }
 
 /// Whether both sheets can be shown by the same controls.
 bool sameShape(const PropertySheet& a, const PropertySheet& b) {
   return std::ranges::equal(a.rows, b.rows, [](const Property& one, const Property& other) {
-    return one.id == other.id && one.name == other.name && one.choices == other.choices &&
-           one.mayBeNone == other.mayBeNone && editorOf(one) == editorOf(other);
+    return one.key == other.key && one.name == other.name && one.choices == other.choices &&
+           one.mayBeNone == other.mayBeNone && one.editor == other.editor;
   });
 }
 
@@ -64,10 +42,10 @@ wxColour toColour(const Color& color) {
 
 } // namespace
 
-PropertyFields::PropertyFields(wxWindow* parent, Enter enter)
+PropertyFields::PropertyFields(wxWindow* parent, Workspace& workspace)
     : wxScrolledWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                        wxVSCROLL | wxTAB_TRAVERSAL, "properties"),
-      enter_(std::move(enter)) {
+      workspace_(workspace) {
   SetScrollRate(0, FromDIP(12));
   Bind(wxEVT_SIZE, [this, width = 0](wxSizeEvent& event) mutable {
     event.Skip();
@@ -104,7 +82,7 @@ void PropertyFields::rebuild() {
   grid->AddGrowableCol(1);
   for (std::size_t i = 0; i < sheet_.rows.size(); ++i) {
     const Property& property = sheet_.rows[i];
-    auto* name = new wxStaticText(this, wxID_ANY, wxGetTranslation(fromUtf8(property.name)));
+    auto* name = new wxStaticText(this, wxID_ANY, fromUtf8(property.name));
     rows_[i].editor = makeEditor(property, i);
     wxSizer* value = makeValue(property, rows_[i]);
     // In the middle of the field, not of what may stand below it.
@@ -122,12 +100,12 @@ void PropertyFields::rebuild() {
 }
 
 wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index) {
-  const char* name = controlName(property.id);
-  switch (editorOf(property)) {
-  case Editor::Fixed:
+  const wxString name = controlName(property);
+  switch (property.editor) {
+  case PropertyEditor::None:
     return new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, {1, -1},
                             wxST_ELLIPSIZE_END | wxST_NO_AUTORESIZE, name);
-  case Editor::Choice: {
+  case PropertyEditor::Choice: {
     auto* choice = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
                                 wxDefaultValidator, name);
     for (const std::string& text : property.choices)
@@ -144,7 +122,7 @@ wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index
     });
     return choice;
   }
-  case Editor::Color: {
+  case PropertyEditor::Color: {
     auto* picker = new wxColourPickerCtrl(this, wxID_ANY, *wxBLACK, wxDefaultPosition,
                                           wxDefaultSize, 0, wxDefaultValidator, name);
     picker->Bind(wxEVT_COLOURPICKER_CHANGED, [this, index](wxColourPickerEvent& event) {
@@ -153,14 +131,14 @@ wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index
     });
     return picker;
   }
-  case Editor::Check: {
+  case PropertyEditor::Check: {
     auto* box = new wxCheckBox(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
                                wxDefaultValidator, name);
     box->Bind(wxEVT_CHECKBOX,
               [this, index](wxCommandEvent& event) { enter(index, event.IsChecked()); });
     return box;
   }
-  case Editor::Text:
+  case PropertyEditor::Text:
     break;
   }
   auto* text = new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, {1, -1},
@@ -187,7 +165,7 @@ wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index
 wxSizer* PropertyFields::makeValue(const Property& property, Row& row) {
   auto* line = new wxBoxSizer(wxHORIZONTAL);
   line->Add(row.editor, wxSizerFlags(1).CenterVertical());
-  if (property.id == PropertyId::Color && property.mayBeNone) {
+  if (property.mayBeNone) {
     auto* none = new wxButton(this, wxID_ANY, _("None"), wxDefaultPosition, wxDefaultSize,
                               wxBU_EXACTFIT, wxDefaultValidator, "property.color.none");
     const auto index = static_cast<std::size_t>(&row - rows_.data());
@@ -199,11 +177,11 @@ wxSizer* PropertyFields::makeValue(const Property& property, Row& row) {
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(line, wxSizerFlags().Expand());
   row.note = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
-                              wxString(controlName(property.id)) + ".note");
+                              controlName(property) + ".note");
   row.note->SetFont(GetFont().Smaller());
   column->Add(row.note, wxSizerFlags().Expand());
   row.problem = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
-                                 wxString(controlName(property.id)) + ".problem");
+                                 controlName(property) + ".problem");
   row.problem->SetForegroundColour(problemColour());
   column->Add(row.problem, wxSizerFlags().Expand());
   return column;
@@ -214,25 +192,25 @@ void PropertyFields::refresh() {
     const Property& property = sheet_.rows[i];
     wxWindow* editor = rows_[i].editor;
     const wxString value = fromUtf8(property.value);
-    switch (editorOf(property)) {
-    case Editor::Fixed:
+    switch (property.editor) {
+    case PropertyEditor::None:
       static_cast<wxStaticText*>(editor)->SetLabelText(value);
       editor->SetToolTip(value);
       break;
-    case Editor::Choice:
+    case PropertyEditor::Choice:
       static_cast<wxChoice*>(editor)->SetSelection(
           property.chosen ? static_cast<int>(*property.chosen) : wxNOT_FOUND);
       break;
-    case Editor::Color:
+    case PropertyEditor::Color:
       static_cast<wxColourPickerCtrl*>(editor)->SetColour(property.color ? toColour(*property.color)
                                                                          : wxColour(203, 198, 187));
       if (rows_[i].none != nullptr)
-        rows_[i].none->Enable(property.value != "none");
+        rows_[i].none->Enable(!property.isNone);
       break;
-    case Editor::Check:
+    case PropertyEditor::Check:
       static_cast<wxCheckBox*>(editor)->SetValue(property.checked);
       break;
-    case Editor::Text:
+    case PropertyEditor::Text:
       static_cast<wxTextCtrl*>(editor)->ChangeValue(value);
       break;
     }
@@ -250,7 +228,7 @@ void PropertyFields::arrange() {
 
 void PropertyFields::wrapTexts() {
   const auto wrap = [](wxStaticText& text, const std::string& label, int width) {
-    showWrapped(text, wxGetTranslation(fromUtf8(label)), width);
+    showWrapped(text, fromUtf8(label), width);
     text.Show(!label.empty());
   };
   wrap(*title_, sheet_.title, GetClientSize().x - 2 * FromDIP(kGap));
@@ -265,7 +243,7 @@ void PropertyFields::wrapTexts() {
 void PropertyFields::enterPending() {
   const wxWindow* focus = FindFocus();
   for (std::size_t i = 0; i < rows_.size(); ++i) {
-    if (rows_[i].editor == focus && editorOf(sheet_.rows[i]) == Editor::Text) {
+    if (rows_[i].editor == focus && sheet_.rows[i].editor == PropertyEditor::Text) {
       enterText(i);
       return;
     }
@@ -285,14 +263,22 @@ void PropertyFields::enter(std::size_t index, const PropertyValue& value) {
   if (entering_)
     return;
   entering_ = true;
-  const std::string problem = enter_(sheet_.rows[index].id, value);
+  Questions& questions = workspace_.questions();
+  const PropertyEdit edit = sheet_.rows[index].edit; // the row goes when the change is shown
+  const PropertyAnswer answer =
+      edit(workspace_.layout(), value,
+           [&questions](const Question& question) { return questions.confirm(question); });
+  if (answer.refusal)
+    questions.show(*answer.refusal);
+  if (answer.changed)
+    workspace_.changed();
   entering_ = false;
   if (index >= rows_.size())
     return;
-  if (problem.empty())
+  if (answer.problem.empty())
     refresh();
   else
-    showProblem(index, problem);
+    showProblem(index, answer.problem);
 }
 
 void PropertyFields::showProblem(std::size_t index, const std::string& problem) {

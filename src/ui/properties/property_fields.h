@@ -1,10 +1,10 @@
 #pragma once
 
-#include "panels/property_changes.h"
+#include "host/workspace.h"
+#include "panels/property_sheet.h"
 
 #include <wx/scrolwin.h>
 
-#include <functional>
 #include <vector>
 
 class wxStaticText;
@@ -16,10 +16,7 @@ namespace trassix {
 /// presses Enter, leaves the field or chooses; Esc brings the shown value back.
 class PropertyFields : public wxScrolledWindow {
  public:
-  /// Gives back why the value is refused; empty when it was taken.
-  using Enter = std::function<std::string(PropertyId, const PropertyValue&)>;
-
-  PropertyFields(wxWindow* parent, Enter enter);
+  PropertyFields(wxWindow* parent, Workspace& workspace);
 
   void show(const PropertySheet& sheet);
 
@@ -46,7 +43,7 @@ class PropertyFields : public wxScrolledWindow {
   void arrange();
   void showProblem(std::size_t index, const std::string& problem);
 
-  Enter enter_;
+  Workspace& workspace_;
   PropertySheet sheet_;
   std::vector<Row> rows_;
   wxStaticText* title_ = nullptr;
