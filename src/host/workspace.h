@@ -11,6 +11,7 @@
 namespace trassix {
 
 class Clipboard;
+class PlanPreview;
 class Questions;
 class Workspace;
 
@@ -57,6 +58,8 @@ class Workspace {
   const EditorSwitches& switches() const { return switches_; }
   Questions& questions() { return questions_; }
   Clipboard& clipboard() { return clipboard_; }
+  /// What is shown over the plan without being on it; null for nothing.
+  const PlanPreview* preview() const { return preview_; }
 
   /// Marks the plan unsaved and has everything follow.
   void changed();
@@ -72,6 +75,7 @@ class Workspace {
 
  private:
   friend PlanObserver;
+  friend PlanPreview;
   template <class... Parameters, class... Arguments>
   void tell(void (PlanObserver::*what)(Parameters...), const Arguments&... arguments);
 
@@ -79,6 +83,7 @@ class Workspace {
   Questions& questions_;
   Clipboard& clipboard_;
   EditorSwitches switches_;
+  const PlanPreview* preview_ = nullptr;
   std::vector<PlanObserver*> observers_;
 };
 

@@ -110,6 +110,12 @@ std::int32_t entry(const FillCandidate& candidate) {
   return candidate.reversed ? 1 : 0;
 }
 
+/// Where a piece of a fill would lie.
+struct FillPiece {
+  const PieceDef* definition = nullptr;
+  Pose pose;
+};
+
 WorldConnector farEnd(const FillPiece& fill, const FillCandidate& candidate) {
   PlacedPiece piece;
   piece.x = fill.pose.x;
@@ -144,6 +150,20 @@ std::vector<FillCandidate> arcCandidates(const Gap& gap, TrackSystem system) {
   return candidates;
 }
 
+/// Ends early at an article that is missing or has fewer than two ends.
+std::vector<FillPiece> fillPieces(const Gap& gap, const FillCandidate& candidate) {
+  WorldConnector front = gap.start;
+  std::vector<FillPiece> pieces;
+  for (const std::string& article : candidate.articles) {
+    const PieceDef* definition = TrackCatalog::instance().find(article);
+    if (definition == nullptr || definition->connectors.size() < 2)
+      break;
+    pieces.push_back({definition, AttachPose(*definition, entry(candidate), front)});
+    front = farEnd(pieces.back(), candidate);
+  }
+  return pieces;
+}
+
 } // namespace
 
 bool canAutofill(const Layout& layout) {
@@ -169,19 +189,6 @@ std::optional<Autofill> solveAutofill(const Layout& layout, std::int32_t a, std:
                             ? straightCandidates(*result.gap, startDefinition->system)
                             : arcCandidates(*result.gap, startDefinition->system);
   return result;
-}
-
-std::vector<FillPiece> fillPieces(const Gap& gap, const FillCandidate& candidate) {
-  WorldConnector front = gap.start;
-  std::vector<FillPiece> pieces;
-  for (const std::string& article : candidate.articles) {
-    const PieceDef* definition = TrackCatalog::instance().find(article);
-    if (definition == nullptr || definition->connectors.size() < 2)
-      break;
-    pieces.push_back({definition, AttachPose(*definition, entry(candidate), front)});
-    front = farEnd(pieces.back(), candidate);
-  }
-  return pieces;
 }
 
 bool Rest::reaches() const {

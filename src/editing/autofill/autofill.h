@@ -51,14 +51,6 @@ bool canAutofill(const Layout& layout);
 /// them is missing or not in the catalogue: then there is nothing to say either.
 std::optional<Autofill> solveAutofill(const Layout& layout, std::int32_t a, std::int32_t b);
 
-/// Where the pieces of a fill would lie; for the preview. Ends early at an article that is missing
-/// or has fewer than two ends.
-struct FillPiece {
-  const PieceDef* definition = nullptr;
-  Pose pose;
-};
-std::vector<FillPiece> fillPieces(const Gap& gap, const FillCandidate& candidate);
-
 /// What a fill leaves between its last end and the gap's end.
 struct Rest {
   double distance = 0; ///< mm in the plan

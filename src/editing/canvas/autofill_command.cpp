@@ -3,6 +3,7 @@
 #include "editing/autofill/autofill.h"
 #include "editing/autofill/autofill_messages.h"
 #include "editing/selection/selection.h"
+#include "host/plan_preview.h"
 
 namespace trassix {
 
@@ -13,6 +14,25 @@ void endUnfilled(ToolSite& site, const std::optional<Notice>& notice) {
     site.questions().show(*notice);
   site.layout().clearSelection();
   site.workspace.selectionChanged();
+}
+
+/// The fill that the user wants; each is shown on the plan while it is highlighted.
+std::optional<std::size_t> chooseFill(ToolSite& site, const Autofill& fills) {
+  const Gap& gap = *fills.gap;
+  PlanPreview preview(site.workspace);
+  Choice choice;
+  choice.title = "Autofill Gap";
+  choice.line = autofillPrompt(gap);
+  for (const FillCandidate& candidate : fills.candidates) {
+    choice.rows.push_back(autofillRow(gap.kind, candidate));
+    choice.notes.push_back(autofillRest(restOf(gap, candidate)));
+  }
+  choice.accept = "Place";
+  choice.about = {(gap.start.x + gap.end.x) / 2, (gap.start.y + gap.end.y) / 2};
+  choice.highlighted = [&](std::size_t row) {
+    preview.showEdit([&](Layout& scratch) { placeFill(scratch, gap, fills.candidates[row]); });
+  };
+  return site.questions().choose(choice);
 }
 
 } // namespace
@@ -28,26 +48,7 @@ void runAutofill(ToolSite& site) {
     endUnfilled(site, autofillNotice(site.layout(), pieces[0], pieces[1], *fills));
     return;
   }
-
-  Choice choice;
-  choice.title = "Autofill Gap";
-  choice.line = autofillPrompt(*fills->gap);
-  for (const FillCandidate& candidate : fills->candidates) {
-    choice.rows.push_back(autofillRow(fills->gap->kind, candidate));
-    choice.notes.push_back(autofillRest(restOf(*fills->gap, candidate)));
-  }
-  choice.accept = "Place";
-  choice.about = {(fills->gap->start.x + fills->gap->end.x) / 2,
-                  (fills->gap->start.y + fills->gap->end.y) / 2};
-  choice.highlighted = [&site, &fills](std::size_t row) {
-    site.preview.clear();
-    for (const FillPiece& piece : fillPieces(*fills->gap, fills->candidates[row]))
-      site.preview.push_back({piece.definition, piece.pose});
-    site.workspace.repaint();
-  };
-  const std::optional<std::size_t> chosen = site.questions().choose(choice);
-  site.preview.clear();
-  site.workspace.repaint();
+  const std::optional<std::size_t> chosen = chooseFill(site, *fills);
   if (!chosen)
     return;
   const EditResult result = placeFill(site.layout(), *fills->gap, fills->candidates[*chosen]);

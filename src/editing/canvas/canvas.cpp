@@ -1,16 +1,17 @@
 #include "editing/canvas/canvas.h"
 
 #include "catalog/track_catalog.h"
+#include "editing/canvas/carried_painter.h"
 #include "editing/canvas/carry_block_tool.h"
 #include "editing/canvas/carry_piece_tool.h"
 #include "editing/canvas/carry_scenery_tool.h"
 #include "editing/canvas/measure_tool.h"
-#include "editing/canvas/piece_painter.h"
 #include "editing/canvas/polygon_tool.h"
 #include "editing/canvas/select_tool.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/selection/content_box.h"
 #include "editing/selection/selection.h"
+#include "host/plan_preview.h"
 #include "texts/texts.h"
 
 #include <bit>
@@ -369,9 +370,8 @@ void Canvas::paintPlan(Surface& surface) {
 }
 
 void Canvas::paintOverlay(Surface& surface) {
-  PiecePainter painter(surface, site_.view);
-  for (const ToolSite::Preview& shown : site_.preview)
-    painter.paint(trackGeometryOf(*shown.definition), shown.pose, carriedLook(true));
+  if (const PlanPreview* preview = site_.workspace.preview())
+    CarriedPainter(surface, site_.view, site_.layout(), true).paint(preview->records());
   tool().paint(surface);
 }
 

@@ -56,14 +56,8 @@ class ToolSite {
  public:
   explicit ToolSite(Workspace& shared) : workspace(shared) {}
 
-  struct Preview {
-    const PieceDef* definition; ///< the catalogue's own
-    Pose pose;
-  };
-
   Workspace& workspace;
   ViewTransform view;
-  std::vector<Preview> preview; ///< pieces shown on the plan that are not on it
   PlanClipboard clipboard;
   std::function<void(Carried)> carry; ///< hangs something on the pointer
   SizePx size;                        ///< of the canvas, px

@@ -18,6 +18,7 @@ class FakeHost : public Questions, public Clipboard {
   Workspace workspace{open, *this, *this};
   std::deque<bool> answers; ///< to the questions to come; a question without one fails the test
   std::optional<std::size_t> choice;
+  std::function<void()> whileChoosing;
   std::optional<std::string> typed;
   std::string clipboardText;
   int patience = -1; ///< steps of long work after which it is cancelled; negative: never
@@ -56,6 +57,8 @@ class FakeHost : public Questions, public Clipboard {
     notes = rows.notes;
     if (choice && rows.highlighted)
       rows.highlighted(*choice);
+    if (whileChoosing)
+      whileChoosing();
     return choice;
   }
   std::optional<std::string> askText(const std::string&, const std::string&,

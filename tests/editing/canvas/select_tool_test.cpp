@@ -1,7 +1,11 @@
 #include "editing/canvas/canvas_script.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/recording_surface.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/annotations.h"
+#include "editing/selection/property_edits.h"
+#include "host/plan_preview.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 
@@ -297,10 +301,39 @@ TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
   EXPECT_EQ(script.host.notes.size(), script.host.offered.size());
   EXPECT_EQ(script.host.notes[0], "Joins both ends.");
   script.host.choice = 0;
+  const auto drawn = [&script] {
+    RecordingSurface surface;
+    script.canvas.paintOverlay(surface);
+    return surface.linesIn(plan_colors::kSnapped) > 0;
+  };
+  script.host.whileChoosing = [&] {
+    EXPECT_TRUE(drawn());
+    EXPECT_EQ(script.pieces().size(), 2u);
+    throw std::runtime_error("a dialog that failed");
+  };
+  EXPECT_THROW(script.takeFromMenu({90, 0}, "Autofill Gap..."), std::runtime_error);
+  EXPECT_FALSE(drawn());
+  script.host.whileChoosing = {};
   script.takeFromMenu({90, 0}, "Autofill Gap...");
   EXPECT_EQ(script.pieces().size(), 3u);
-  EXPECT_TRUE(script.canvas.site().preview.empty());
+  EXPECT_FALSE(drawn());
   EXPECT_EQ(openEnds(script.host.plan), 2);
+}
+
+TEST(PlanPreview, ShowsWhatAnEditAddsOrMovesOfAnyKind) {
+  CanvasScript script(row());
+  script.host.plan.edit().helices.push_back({Layout::kLargestId}); // no larger id can follow
+  PlanPreview preview(script.host.workspace);
+  preview.showEdit([](Layout& plan) {
+    addLabel(plan, {0, 100}, "Depot");
+    plan.edit().helices.push_back({plan.takeId(), 600, 300});
+    setPiecePose(plan, 1, {0, 400, 0}); // the piece that it was joined to stays
+  });
+  EXPECT_EQ(preview.records().pieces.size(), 1u);
+  RecordingSurface surface;
+  script.canvas.paintOverlay(surface);
+  EXPECT_THAT(surface.texts, ElementsAre("Depot"));
+  EXPECT_THAT(surface.dots, ElementsAre(script.canvas.view().toScreen(Point{600, 300})));
 }
 
 TEST(SelectTool, LikeTheOthersSaysWhatWouldLieBeyondThePlan) {

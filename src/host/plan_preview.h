@@ -1,0 +1,34 @@
+#pragma once
+
+#include "document/plan_content.h"
+
+#include <functional>
+
+namespace trassix {
+
+class Layout;
+class Workspace;
+
+/// What would come onto the plan, drawn over it while a dialog or a wizard is open. It is there as
+/// long as this lives, in place of an earlier one, and the plan itself stays as it is.
+class PlanPreview {
+ public:
+  explicit PlanPreview(Workspace& workspace);
+  ~PlanPreview();
+  PlanPreview(const PlanPreview&) = delete;
+  PlanPreview& operator=(const PlanPreview&) = delete;
+
+  /// Shows these records, which may be of any kind, in place of those before.
+  void show(PlanContent records);
+  /// Shows what the edit adds to the plan, or changes of its picture, when it is done to a copy.
+  void showEdit(const std::function<void(Layout&)>& edit);
+
+  const PlanContent& records() const { return records_; }
+
+ private:
+  Workspace& workspace_;
+  const PlanPreview* before_; ///< the one in whose place this is
+  PlanContent records_;
+};
+
+} // namespace trassix
