@@ -2,7 +2,7 @@
 
 #include "app/desktop/path_text.h"
 #include "app/services/diagnostic_log.h"
-#include "document/text_file.h"
+#include "app/services/text_file.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/frame/main_frame.h"
 #include "ui/widgets/utf8.h"

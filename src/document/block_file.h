@@ -2,9 +2,9 @@
 // over the canvas. Placing one is in editing/block_placing.h.
 #pragma once
 
+#include "app/services/text_file.h"
 #include "document/element_writer.h"
 #include "document/layout.h"
-#include "document/text_file.h"
 
 #include <filesystem>
 #include <string>

@@ -1,9 +1,9 @@
 #include "document/layout_reader.h"
 
+#include "app/services/text_file.h"
 #include "document/element_reader.h"
 #include "document/piece_lines.h"
 #include "document/piece_pairs.h"
-#include "document/text_file.h"
 
 #include <algorithm>
 #include <utility>

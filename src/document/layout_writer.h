@@ -1,8 +1,8 @@
 #pragma once
 
+#include "app/services/text_file.h"
 #include "document/element_writer.h"
 #include "document/layout.h"
-#include "document/text_file.h"
 
 #include <filesystem>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/services/text_file.h"
 #include "document/layout.h"
-#include "document/text_file.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,7 +1,7 @@
 #include "panels/owned_stock.h"
 
+#include "app/services/text_file.h"
 #include "catalog/track_catalog.h"
-#include "document/text_file.h"
 
 #include <algorithm>
 #include <charconv>

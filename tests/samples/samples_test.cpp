@@ -1,7 +1,7 @@
+#include "app/services/text_file.h"
 #include "catalog/track_catalog.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
-#include "document/text_file.h"
 #include "support/plan.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 
 #include "app/desktop/path_text.h"
 #include "app/desktop/standard_folders.h"
-#include "document/text_file.h"
+#include "app/services/text_file.h"
 #include "host/clipboard.h"
 #include "host/workspace.h"
 #include "measures/measure_format.h"

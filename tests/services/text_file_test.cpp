@@ -1,5 +1,5 @@
+#include "app/services/text_file.h"
 #include "document/aside_copy.h"
-#include "document/text_file.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>

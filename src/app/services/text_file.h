@@ -3,7 +3,7 @@
 // optional.
 #pragma once
 
-#include "document/file_operations.h"
+#include "app/services/file_operations.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "document/file_operations.h"
+#include "app/services/file_operations.h"
 
 #include <algorithm>
 #include <cerrno>

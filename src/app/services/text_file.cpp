@@ -1,4 +1,4 @@
-#include "document/text_file.h"
+#include "app/services/text_file.h"
 
 #include <cerrno>
 #include <chrono>
