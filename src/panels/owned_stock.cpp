@@ -1,7 +1,9 @@
 #include "panels/owned_stock.h"
 
+#include "app/services/program_memory.h"
 #include "app/services/text_file.h"
 #include "catalog/track_catalog.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <charconv>
@@ -17,7 +19,7 @@ constexpr std::string_view kBlanks = " \t\r";
 /// Some editors begin a UTF-8 file with it.
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-constexpr std::string_view kHeading = "# Track that is at home already: article and count.";
+const std::string kTopic = "ownedStock";
 
 std::string_view trimmed(std::string_view text) {
   const std::size_t first = text.find_first_not_of(kBlanks);
@@ -57,76 +59,70 @@ std::int32_t OwnedStock::count(std::string_view article) const {
 
 void OwnedStock::set(std::string_view article, std::int32_t count) {
   const std::string known = canonical(article);
-  if (count > 0) {
+  if (count > 0)
     counts_[known] = std::min(count, kMost);
-  } else {
+  else
     counts_.erase(known);
-  }
+  unsaved_.insert(known);
 }
 
-std::string OwnedStock::load(const std::filesystem::path& file) {
+std::string OwnedStock::load(const ProgramMemory& memory, const std::filesystem::path& olderFile) {
+  std::string problem;
+  const auto section = memory.recall(kTopic, &problem);
+  if (!problem.empty())
+    return unreadable_ = problem;
+  *this = {};
+  if (!section)
+    return takeOver(olderFile);
+  for (const auto& entry : section->items()) {
+    const std::int32_t more = valueIn<std::int32_t>(*section, entry.key()).value_or(0);
+    if (more > 0)
+      set(entry.key(), std::min(kMost, count(entry.key()) + std::min(more, kMost)));
+  }
+  unsaved_.clear();
+  return {};
+}
+
+std::string OwnedStock::takeOver(const std::filesystem::path& olderFile) {
   std::error_code error;
-  if (!std::filesystem::exists(file, error) && !error) {
-    *this = {};
+  if (!std::filesystem::exists(olderFile, error) && !error)
     return {};
-  }
   std::string text;
-  if (std::string message = readTextFile(file, text); !message.empty()) {
-    unreadable_ = message;
-    return message;
-  }
-  OwnedStock read;
+  if (std::string message = readTextFile(olderFile, text); !message.empty())
+    return unreadable_ = message;
   std::string message;
   std::string_view rest = text;
-  if (rest.starts_with(kByteOrderMark)) {
+  if (rest.starts_with(kByteOrderMark))
     rest.remove_prefix(kByteOrderMark.size());
-  }
   for (int number = 1; !rest.empty(); ++number) {
     const std::size_t end = std::min(rest.find('\n'), rest.size());
     const std::string_view line = trimmed(rest.substr(0, end));
     rest.remove_prefix(std::min(end + 1, rest.size()));
-    const bool remark = line.empty() || line.starts_with('#');
-    const auto entry = remark ? std::nullopt : readLine(line);
-    if (entry) {
-      read.set(entry->first, std::min(kMost, read.count(entry->first) + entry->second));
-      read.lines_.push_back({{}, entry->first});
+    if (line.empty() || line.starts_with('#'))
       continue;
-    }
-    read.lines_.push_back({std::string(line), {}});
-    if (!remark && message.empty()) {
-      message = pathText(file) + ", line " + std::to_string(number) +
-                ": an article and a count are expected, found \"" + std::string(line) + "\"";
-    }
+    if (const auto entry = readLine(line))
+      set(entry->first, std::min(kMost, count(entry->first) + entry->second));
+    else if (message.empty())
+      message = tr("%1%, line %2%: an article and a count are expected, found \"%3%\"",
+                   {pathText(olderFile), number, line});
   }
-  *this = std::move(read);
   return message;
 }
 
-std::string OwnedStock::save(const std::filesystem::path& file) const {
-  if (!unreadable_.empty()) {
+std::string OwnedStock::save(const ProgramMemory& memory) {
+  if (!unreadable_.empty())
     return unreadable_;
-  }
-  std::string text;
-  if (lines_.empty()) {
-    text = std::string(kHeading) + '\n';
-  }
-  auto unwritten = counts_;
-  const auto write = [&](const std::string& article) {
-    if (const auto entry = unwritten.extract(article)) {
-      text += article + ' ' + std::to_string(entry.mapped()) + '\n';
+  std::string problem = memory.remember(kTopic, [this](ProgramMemory::Section& section) {
+    for (const std::string& article : unsaved_) {
+      for (auto entry = section.begin(); entry != section.end();)
+        entry = canonical(entry.key()) == article ? section.erase(entry) : std::next(entry);
+      if (const std::int32_t owned = count(article); owned > 0)
+        section[article] = owned;
     }
-  };
-  for (const Line& line : lines_) {
-    if (line.article.empty()) {
-      text += line.text + '\n';
-    } else {
-      write(line.article);
-    }
-  }
-  while (!unwritten.empty()) {
-    write(std::string(unwritten.begin()->first));
-  }
-  return writeTextFile(file, text);
+  });
+  if (problem.empty())
+    unsaved_.clear();
+  return problem;
 }
 
 } // namespace trassix

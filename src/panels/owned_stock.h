@@ -3,48 +3,47 @@
 #include <cstdint>
 #include <filesystem>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace trassix {
 
-inline constexpr std::string_view kOwnedFileName = "owned.txt";
+class ProgramMemory;
 
-/// How many of each article the user has at home, counted as the article is sold.
-///
-/// Kept as a text file that can be edited by hand: a line for an article is its number, blanks and
-/// a count; empty lines and lines that begin with '#' are remarks. All lines stay where the user
-/// put them, also those that cannot be read, so that a slip of the pen loses nothing.
+/// How many of each article the user has at home, counted as the article is sold. The program
+/// remembers it for the purchase list of every plan.
 class OwnedStock {
  public:
   static constexpr std::int32_t kMost = 999999;
+  /// In the layouts folder, where earlier versions kept it: a line for an article is its number,
+  /// blanks and a count; empty lines and lines that begin with '#' are remarks.
+  static constexpr std::string_view kOlderFileName = "owned.txt";
 
   std::int32_t count(std::string_view article) const;
 
   /// Counts outside 0 .. kMost are brought into the range; none removes the article.
   void set(std::string_view article, std::int32_t count);
 
-  /// Reads the file; one that is not there is an empty stock. The message names the first line that
-  /// could not be read or says why the file could not be; it is empty on success. When the file
-  /// cannot be read at all, the stock stays as it was and will not be saved in its place.
-  std::string load(const std::filesystem::path& file);
+  /// Takes what is remembered or, as long as nothing is, what the file of earlier versions holds;
+  /// that is left as it is. The message says why a file cannot be read, or which of its lines; it
+  /// is empty on success. When a file cannot be read at all, the stock stays as it was and will not
+  /// be saved.
+  std::string load(const ProgramMemory& memory, const std::filesystem::path& olderFile);
 
-  /// Whether there may be more at home than is known, because the file cannot be read.
+  /// Whether there may be more at home than is known, because a file cannot be read.
   bool unreadable() const { return !unreadable_.empty(); }
 
-  /// Empty on success.
-  std::string save(const std::filesystem::path& file) const;
+  /// Has the program remember what was set, and nothing else, since it may run twice. Empty on
+  /// success.
+  std::string save(const ProgramMemory& memory);
 
  private:
-  struct Line {
-    std::string text;    ///< of a line that is no count
-    std::string article; ///< of one that is
-  };
+  std::string takeOver(const std::filesystem::path& olderFile);
 
-  std::vector<Line> lines_;
   std::map<std::string, std::int32_t, std::less<>> counts_;
-  std::string unreadable_; ///< why the file could not be read
+  std::set<std::string> unsaved_;
+  std::string unreadable_; ///< why
 };
 
 } // namespace trassix

@@ -251,11 +251,12 @@ TEST_F(PanelsTest, ThePurchaseListRemembersWhatIsOwnedAndShowsWhereItGoes) {
             "#!/bin/sh\nprintf %s \"$1\" >'" + opened.string() + "'\n");
   std::filesystem::permissions(home() / "bin" / "xdg-open", std::filesystem::perms::owner_all);
   setenv("PATH", ((home() / "bin").string() + ":" + std::getenv("PATH")).c_str(), 1);
-  writeText(layoutsFolder() / kOwnedFileName, "# shelf\n24130 4\n");
+  writeText(layoutsFolder() / OwnedStock::kOlderFileName, "# shelf\n24130 4\n");
   start();
   for (int i = 0; i < 3; ++i)
     placePiece(500 * i);
 
+  wxSize size;
   const std::string rest = "https://shop.example/cart/?24188=1";
   openPurchaseList([&](wxDialog& dialog) {
     const auto& address = control<wxTextCtrl>("address");
@@ -270,24 +271,30 @@ TEST_F(PanelsTest, ThePurchaseListRemembersWhatIsOwnedAndShowsWhereItGoes) {
     EXPECT_FALSE(std::filesystem::exists(opened)) << "shown before it is opened";
     click(control<wxWindow>("openShop"));
     waitUntil("the address was opened", [&] { return readText(opened) == rest; });
+    size = dialog.GetClientSize() + wxSize(60, 90);
+    dialog.SetClientSize(size);
+    waitUntil("it has another size", [&] { return dialog.GetClientSize() == size; });
     dialog.EndModal(wxID_CANCEL);
   });
-  EXPECT_EQ(readText(layoutsFolder() / kOwnedFileName), "# shelf\n24130 4\n24188 2\n");
+  const auto memory = home() / ".trassix" / "memory.json";
+  EXPECT_THAT(readText(memory), StartsWith("{\n  \"ownedStock\": {\n    \"24130\": 4,\n"
+                                           "    \"24188\": 2\n  },\n"));
 
-  openPurchaseList([&](wxDialog&) {
+  openPurchaseList([&](wxDialog& dialog) {
     EXPECT_EQ(control<wxListCtrl>("purchases").GetItemText(0, 3), "2");
+    EXPECT_EQ(dialog.GetClientSize(), size);
     pressKey(WXK_ESCAPE);
   });
 
   // What cannot be read is neither shown as nothing nor overwritten.
-  std::filesystem::remove(layoutsFolder() / kOwnedFileName);
-  std::filesystem::create_directory(layoutsFolder() / kOwnedFileName);
+  std::filesystem::remove(memory);
+  std::filesystem::create_directory(memory);
   openPurchaseList([&](wxDialog&) {
     EXPECT_TRUE(findNamed("purchaseProblem"));
     EXPECT_FALSE(control<wxWindow>("owned").IsEnabled());
     pressKey(WXK_ESCAPE);
   });
-  EXPECT_TRUE(std::filesystem::is_directory(layoutsFolder() / kOwnedFileName));
+  EXPECT_TRUE(std::filesystem::is_directory(memory));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "app/desktop/path_text.h"
 #include "app/services/legacy_files.h"
+#include "app/services/program_memory.h"
 
 #include <wx/filefn.h>
 #include <wx/stdpaths.h>
@@ -19,6 +20,10 @@ LogFolder StandardFolders::logs() {
 
 fs::path StandardFolders::asideCopies() {
   return toPath(wxStandardPaths::Get().GetUserLocalDataDir()) / "aside";
+}
+
+fs::path StandardFolders::memoryFile() {
+  return toPath(wxStandardPaths::Get().GetUserLocalDataDir()) / ProgramMemory::kFileName;
 }
 
 fs::path StandardFolders::documents() {

@@ -15,6 +15,9 @@ class StandardFolders {
   /// Where plans are written aside that might get lost, in the per-user local data; not made here.
   static std::filesystem::path asideCopies();
 
+  /// Of what the program remembers of its own, in the per-user local data; see `ProgramMemory`.
+  static std::filesystem::path memoryFile();
+
   static std::filesystem::path documents();
 
   /// Where files from elsewhere arrive: the user's downloads, the home folder when there is none.

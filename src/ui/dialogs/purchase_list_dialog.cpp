@@ -1,10 +1,13 @@
 #include "ui/dialogs/purchase_list_dialog.h"
 
+#include "app/desktop/standard_folders.h"
 #include "app/desktop/user_paths.h"
 #include "app/services/app_prefs.h"
+#include "app/services/program_memory.h"
 #include "panels/piece_names.h"
 #include "ui/widgets/picture_panel.h"
 #include "ui/widgets/problem_text.h"
+#include "ui/widgets/remembered_size.h"
 #include "ui/widgets/shopping_scene.h"
 #include "ui/widgets/utf8.h"
 
@@ -29,8 +32,8 @@ constexpr int kWidth = 620;
 
 enum Column { kArticle, kName, kNeeded, kOwned, kToBuy };
 
-std::filesystem::path stockFile() {
-  return UserPaths::layoutsFolder() / kOwnedFileName;
+ProgramMemory memory() {
+  return ProgramMemory(StandardFolders::memoryFile());
 }
 
 } // namespace
@@ -65,9 +68,10 @@ PurchaseListDialog::PurchaseListDialog(wxWindow* parent, std::vector<TallyRow> t
   column->AddSpacer(gap);
   SetSizer(column);
   SetEscapeId(wxID_CANCEL);
-  showProblem(stock_.load(stockFile()));
+  showProblem(stock_.load(memory(), UserPaths::layoutsFolder() / OwnedStock::kOlderFileName));
   fill();
   column->SetSizeHints(this);
+  rememberSize(*this);
   CentreOnParent();
 }
 
@@ -170,7 +174,7 @@ void PurchaseListDialog::setOwned(int count) {
 }
 
 void PurchaseListDialog::saveStock() {
-  showProblem(stock_.save(stockFile()));
+  showProblem(stock_.save(memory()));
 }
 
 void PurchaseListDialog::showProblem(const std::string& problem) {

@@ -15,8 +15,8 @@ class wxTextCtrl;
 
 namespace trassix {
 
-/// What the plan needs, what the user has at home and what is to buy. The stock is kept in the
-/// layouts folder as soon as it changes.
+/// What the plan needs, what the user has at home and what is to buy. The stock is
+/// remembered as soon as it changes.
 class PurchaseListDialog : public wxDialog {
  public:
   PurchaseListDialog(wxWindow* parent, std::vector<TallyRow> tally);
