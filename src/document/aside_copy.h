@@ -1,13 +1,13 @@
 #pragma once
 
-#include "document/layout.h"
-
 #include <ctime>
 #include <filesystem>
 #include <string>
 #include <string_view>
 
 namespace trassix {
+
+class Layout;
 
 /// A plan that was written aside because it might get lost.
 struct AsideCopy {

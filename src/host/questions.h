@@ -1,6 +1,5 @@
 #pragma once
 
-#include "document/layout.h"
 #include "editing/edit_result.h"
 #include "geometry/point.h"
 
@@ -13,7 +12,10 @@
 
 namespace trassix {
 
+class Layout;
 struct LongWork;
+struct Shape;
+struct ShapeAnswer;
 
 /// A Yes/No question before something is lost; No is the default.
 struct Question {
@@ -41,11 +43,6 @@ struct Choice {
   std::string accept;             ///< label of the button that takes the row
   std::function<void(std::size_t)> highlighted;
   Point about = {}; ///< where on the plan that is, in mm
-};
-
-struct ShapeAnswer {
-  Shape wanted;
-  bool asBaseboard = false; ///< its outline is to become the baseboard, and nothing else
 };
 
 /// What is told and asked in boxes of their own, over the window.

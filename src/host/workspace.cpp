@@ -1,5 +1,7 @@
 #include "host/workspace.h"
 
+#include "document/open_plan.h"
+
 namespace trassix {
 
 PlanObserver::PlanObserver(Workspace& workspace) : workspace_(workspace) {
@@ -15,6 +17,14 @@ void Workspace::tell(void (PlanObserver::*what)(Parameters...), const Arguments&
   // By index: who is told may bring observers along, which know the present state.
   for (std::size_t i = 0; i < observers_.size(); ++i)
     (observers_[i]->*what)(arguments...);
+}
+
+Layout& Workspace::layout() {
+  return plan_.layout();
+}
+
+const Layout& Workspace::layout() const {
+  return plan_.layout();
 }
 
 void Workspace::changed() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "document/open_plan.h"
 #include "geometry/point.h"
 #include "host/editor_switches.h"
 
@@ -11,6 +10,8 @@
 namespace trassix {
 
 class Clipboard;
+class Layout;
+class OpenPlan;
 class PlanPreview;
 class Questions;
 class Workspace;
@@ -53,8 +54,8 @@ class Workspace {
       : plan_(plan), questions_(questions), clipboard_(clipboard) {}
 
   OpenPlan& plan() { return plan_; }
-  Layout& layout() { return plan_.layout(); }
-  const Layout& layout() const { return plan_.layout(); }
+  Layout& layout();
+  const Layout& layout() const;
   const EditorSwitches& switches() const { return switches_; }
   Questions& questions() { return questions_; }
   Clipboard& clipboard() { return clipboard_; }

@@ -7,6 +7,7 @@
 #include "editing/selection/picking.h"
 #include "editing/selection/property_edits.h"
 #include "editing/selection/selection.h"
+#include "host/shape_answer.h"
 #include "texts/texts.h"
 
 namespace trassix {

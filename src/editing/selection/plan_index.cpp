@@ -1,10 +1,8 @@
 #include "editing/selection/plan_index.h"
 
+#include "editing/track/connector_geometry.h"
 #include "editing/track/piece_outline.h"
-
-#include <boost/geometry/geometries/box.hpp>
-#include <boost/geometry/geometries/point_xy.hpp>
-#include <boost/geometry/index/rtree.hpp>
+#include "geometry/box_tree.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,24 +13,16 @@ namespace trassix {
 
 namespace {
 
-namespace bg = boost::geometry;
-
-using TreePoint = bg::model::d2::point_xy<double>;
-using TreeBox = bg::model::box<TreePoint>;
-using TreeEntry = std::pair<TreeBox, std::uint32_t>;
-
-TreeBox treeBox(const Box& box, double margin = 0) {
-  return {{box.minX - margin, box.minY - margin}, {box.maxX + margin, box.maxY + margin}};
+Box widened(const Box& box, double margin) {
+  return {box.minX - margin, box.minY - margin, box.maxX + margin, box.maxY + margin};
 }
 
 constexpr double kRounding = 1e-6; // mm, more than the boxes' corners are off
 
 /// True when a piece with these bounds certainly lies in the box.
-bool encloses(const Box& box, const TreeBox& bounds) {
-  return bounds.min_corner().x() >= box.minX + kRounding &&
-         bounds.max_corner().x() <= box.maxX - kRounding &&
-         bounds.min_corner().y() >= box.minY + kRounding &&
-         bounds.max_corner().y() <= box.maxY - kRounding;
+bool encloses(const Box& box, const Box& bounds) {
+  return bounds.minX >= box.minX + kRounding && bounds.maxX <= box.maxX - kRounding &&
+         bounds.minY >= box.minY + kRounding && bounds.maxY <= box.maxY - kRounding;
 }
 
 } // namespace
@@ -47,15 +37,16 @@ struct PlanIndex::Data {
 
   std::uint64_t stamp = 0;
   std::vector<Entry> entries; // by position in the document
-  bg::index::rtree<TreeEntry, bg::index::rstar<16>> tree;
+  BoxTree tree;
 
   /// Positions whose box meets `box` and that pass `test(entry, its box)`, in drawing order.
   template <class Test>
-  std::vector<std::size_t> find(const TreeBox& box, Test test) const {
+  std::vector<std::size_t> find(const Box& box, Test test) const {
     std::vector<std::size_t> found;
-    for (auto it = tree.qbegin(bg::index::intersects(box)); it != tree.qend(); ++it)
-      if (test(entries[it->second], it->first))
-        found.push_back(it->second);
+    tree.query(box, [&](const BoxTree::Entry& entry) {
+      if (test(entries[entry.second], entry.first))
+        found.push_back(entry.second);
+    });
     std::sort(found.begin(), found.end(),
               [this](std::size_t a, std::size_t b) { return entries[a].order < entries[b].order; });
     return found;
@@ -71,7 +62,7 @@ PlanIndex::PlanIndex(const Layout& layout) : data_(std::make_unique<Data>()) {
   const std::vector<PlacedPiece>& pieces = layout.pieces();
   data_->stamp = layout.documentStamp();
   data_->entries.resize(pieces.size());
-  std::vector<TreeEntry> boxes;
+  std::vector<BoxTree::Entry> boxes;
   boxes.reserve(pieces.size());
   std::vector<double> heights(pieces.size());
   for (std::size_t i = 0; i < pieces.size(); ++i) {
@@ -82,7 +73,7 @@ PlanIndex::PlanIndex(const Layout& layout) : data_(std::make_unique<Data>()) {
     if (!layout.levelVisible(piece.level) || !std::isfinite(piece.x) || !std::isfinite(piece.y) ||
         !std::isfinite(piece.heading))
       continue;
-    boxes.emplace_back(treeBox(boundsOf(*data_->entries[i].outline, poseOf(piece))),
+    boxes.emplace_back(boundsOf(*data_->entries[i].outline, poseOf(piece)),
                        static_cast<std::uint32_t>(i));
   }
   std::vector<std::uint32_t> drawn(pieces.size());
@@ -91,7 +82,7 @@ PlanIndex::PlanIndex(const Layout& layout) : data_(std::make_unique<Data>()) {
                    [&](std::uint32_t a, std::uint32_t b) { return heights[a] < heights[b]; });
   for (std::uint32_t order = 0; order < drawn.size(); ++order)
     data_->entries[drawn[order]].order = order;
-  data_->tree = decltype(data_->tree)(boxes);
+  data_->tree = BoxTree(boxes);
 }
 
 std::uint64_t PlanIndex::stamp() const {
@@ -100,8 +91,8 @@ std::uint64_t PlanIndex::stamp() const {
 
 std::vector<std::size_t> PlanIndex::hits(Point at, double tolerance) const {
   std::vector<std::size_t> found =
-      data_->find(treeBox({at.x, at.y, at.x, at.y}, tolerance + kRounding),
-                  [&](const Data::Entry& entry, const TreeBox&) {
+      data_->find(widened({at.x, at.y, at.x, at.y}, tolerance + kRounding),
+                  [&](const Data::Entry& entry, const Box&) {
                     return covers(*entry.outline, entry.pose, at, tolerance);
                   });
   std::reverse(found.begin(), found.end());
@@ -109,7 +100,7 @@ std::vector<std::size_t> PlanIndex::hits(Point at, double tolerance) const {
 }
 
 std::vector<std::size_t> PlanIndex::inBox(const Box& box, bool whole) const {
-  return data_->find(treeBox(box, kRounding), [&](const Data::Entry& entry, const TreeBox& bounds) {
+  return data_->find(widened(box, kRounding), [&](const Data::Entry& entry, const Box& bounds) {
     if (encloses(box, bounds))
       return true;
     return whole ? liesIn(*entry.outline, entry.pose, box)

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "catalog/piece_def.h"
-#include "editing/track/connector_geometry.h"
 #include "geometry/box.h"
+#include "geometry/pose.h"
 
 #include <vector>
 

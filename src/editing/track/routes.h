@@ -2,7 +2,7 @@
 #pragma once
 
 #include "catalog/piece_def.h"
-#include "editing/track/connector_geometry.h"
+#include "geometry/pose.h"
 
 #include <array>
 #include <cstdint>

@@ -1,5 +1,6 @@
 #include "app/desktop/path_text.h"
 #include "app/desktop/user_paths.h"
+#include "document/open_plan.h"
 #include "host/workspace.h"
 #include "ui/commands/command.h"
 #include "ui/commands/desk.h"

@@ -5,6 +5,7 @@
 #include "app/desktop/user_paths.h"
 #include "app/services/app_prefs.h"
 #include "catalog/track_catalog.h"
+#include "document/open_plan.h"
 #include "host/workspace.h"
 #include "texts/texts.h"
 #include "ui/canvas/canvas_panel.h"

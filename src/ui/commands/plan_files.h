@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/services/text_file.h"
 #include "document/aside_copy.h"
-#include "document/open_plan.h"
 
 #include <wx/string.h>
 
@@ -13,6 +13,7 @@ class wxWindow;
 namespace trassix {
 
 class CanvasPanel;
+struct FileResult;
 class Workspace;
 
 /// The files of the open plan, with what the user is asked and told about them, and how nothing of

@@ -1,5 +1,6 @@
 #include "ui/frame/status_line.h"
 
+#include "document/layout.h"
 #include "measures/measure_format.h"
 #include "ui/widgets/utf8.h"
 

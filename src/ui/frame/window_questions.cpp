@@ -1,5 +1,6 @@
 #include "ui/frame/window_questions.h"
 
+#include "host/shape_answer.h"
 #include "ui/dialogs/choice_dialog.h"
 #include "ui/dialogs/shape_dialog.h"
 #include "ui/dialogs/work_dialog.h"

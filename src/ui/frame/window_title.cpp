@@ -1,5 +1,6 @@
 #include "ui/frame/window_title.h"
 
+#include "document/open_plan.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/frame.h>

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "document/open_plan.h"
 #include "editing/selection/selection.h"
 #include "host/clipboard.h"
 #include "host/long_work.h"
 #include "host/questions.h"
+#include "host/shape_answer.h"
 #include "host/workspace.h"
 
 #include <deque>

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "document/records.h"
+
+namespace trassix {
+
+struct ShapeAnswer {
+  Shape wanted;
+  bool asBaseboard = false; ///< its outline is to become the baseboard, and nothing else
+};
+
+} // namespace trassix
