@@ -1,5 +1,5 @@
-// Filling straight gaps from 2 mm to 10 m in each system: the slowest of them, and all of them
-// against the listing of all combinations that is written down most plainly.
+// Filling straight gaps from 2 mm to 10 m in each system, all of them and the one that takes
+// longest, against the listing of all combinations that is written down most plainly.
 #include "catalog/plain_track.h"
 #include "editing/autofill/straight_fill.h"
 #include "ratio.h"
@@ -46,53 +46,61 @@ struct Listing {
   }
 };
 
-template <class Search>
-void everyGap(Search search) {
+void list(const std::vector<double>& lengths, double gap) {
+  Listing plain{lengths, gap};
+  for (std::size_t count = 1; count <= kStraightFillPieces; ++count)
+    if (plain.found.size() < kStraightFillsSought)
+      plain.extend(0, count, 0);
+  benchmark::DoNotOptimize(plain.found);
+}
+
+void search(const std::vector<double>& lengths, double gap) {
+  benchmark::DoNotOptimize(straightFills(lengths, gap));
+}
+
+std::vector<double> everyGap() {
+  std::vector<double> gaps;
   for (double gap = 2; gap < kLongest; gap += 0.7)
-    search(gap);
+    gaps.push_back(gap);
+  return gaps;
 }
 
-void againstPlainListing(benchmark::State& state, TrackSystem system) {
-  const std::vector<double> lengths = lengthsOf(system);
-  const auto ours = [&lengths] {
-    everyGap([&](double gap) { benchmark::DoNotOptimize(straightFills(lengths, gap)); });
-  };
-  const auto listing = [&lengths] {
-    everyGap([&](double gap) {
-      Listing plain{lengths, gap};
-      for (std::size_t count = 1; count <= kStraightFillPieces; ++count)
-        if (plain.found.size() < kStraightFillsSought)
-          plain.extend(0, count, 0);
-      benchmark::DoNotOptimize(plain.found);
-    });
-  };
-  compare(state, 1.0, ours, listing);
-}
-
-/// No gap may take as long as a user notices.
-void slowestGap(benchmark::State& state, TrackSystem system) {
-  const std::vector<double> lengths = lengthsOf(system);
+/// The gap that the search takes longest for, often enough to be measured.
+std::vector<double> hardestGap(const std::vector<double>& lengths) {
+  constexpr int kTimes = 1000;
   double slowest = 0;
   double hardest = 0;
-  everyGap([&](double gap) {
-    auto solve = [&] { benchmark::DoNotOptimize(straightFills(lengths, gap)); };
-    if (const double time = seconds(solve); time > slowest) {
-      slowest = std::min(time, seconds(solve)); // an interruption does not repeat itself
+  for (const double gap : everyGap()) {
+    const Way once = timed([&] { search(lengths, gap); });
+    double time = once.seconds();
+    // An interruption does not repeat itself.
+    for (int again = 0; again < 5 && time > slowest; ++again)
+      time = std::min(time, once.seconds());
+    if (time > slowest) {
+      slowest = time;
       hardest = gap;
     }
-  });
-  within(state, 5, [&] { benchmark::DoNotOptimize(straightFills(lengths, hardest)); });
+  }
+  return std::vector(kTimes, hardest);
+}
+
+void autofill(benchmark::State& state, TrackSystem system, bool hardest) {
+  const std::vector<double> lengths = lengthsOf(system);
+  const std::vector<double> gaps = hardest ? hardestGap(lengths) : everyGap();
+  const auto forAll = [&](void (*fill)(const std::vector<double>&, double)) {
+    return timed(
+        [&lengths, &gaps, fill] {
+          for (const double gap : gaps)
+            fill(lengths, gap);
+        },
+        static_cast<double>(gaps.size()));
+  };
+  compare(state, 0.65, "plain listing", forAll(search), forAll(list));
 }
 
 #define TRASSIX_FILL_BENCH(system)                                                                 \
-  BENCHMARK_CAPTURE(againstPlainListing, system, TrackSystem::system)                              \
-      ->UseManualTime()                                                                            \
-      ->Iterations(5)                                                                              \
-      ->Unit(benchmark::kMillisecond);                                                             \
-  BENCHMARK_CAPTURE(slowestGap, system, TrackSystem::system)                                       \
-      ->UseManualTime()                                                                            \
-      ->Iterations(20)                                                                             \
-      ->Unit(benchmark::kMillisecond)
+  BENCHMARK_CAPTURE(autofill, system, TrackSystem::system, false)->Iterations(1);                  \
+  BENCHMARK_CAPTURE(autofill, system##Hardest, TrackSystem::system, true)->Iterations(1)
 
 TRASSIX_FILL_BENCH(CTrack);
 TRASSIX_FILL_BENCH(TrixCTrack);

@@ -1,6 +1,5 @@
 // Finding things on large plans: where a carried piece snaps, what lies under the pointer, which
-// piece has an id. Against plain loops over all pieces, on plans of very different sizes and with
-// ids in another order.
+// piece has an id; and what the indexes for it cost.
 #include "catalog/track_catalog.h"
 #include "editing/joining/joining.h"
 #include "editing/joining/snapping.h"
@@ -10,9 +9,8 @@
 #include "ratio.h"
 
 #include <cmath>
-#include <limits>
 #include <random>
-#include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace trassix::bench {
@@ -36,104 +34,149 @@ Layout yard(int pieces) {
   return layout;
 }
 
-/// Where a pointer may be that wanders about in the middle of the yard.
+/// The plain way to find what is near: ends filed in a hash map by the cell that they lie in.
+class PlainGrid {
+ public:
+  explicit PlainGrid(const Layout& layout) {
+    for (const PlacedPiece& piece : layout.pieces()) {
+      const PieceDef& definition = *definitionOf(piece);
+      for (std::int32_t i = 0; i < static_cast<std::int32_t>(definition.connectors.size()); ++i) {
+        const WorldConnector end = ConnectorToWorld(piece, definition, i);
+        cells_[cellAt(end.x, end.y)].push_back({&piece, end});
+      }
+    }
+  }
+
+  /// The piece whose end is nearest, at most a cell away.
+  const PlacedPiece* nearest(const Pose& to) const {
+    const PlacedPiece* found = nullptr;
+    double least = kCell;
+    for (const double x : {to.x - kCell, to.x, to.x + kCell}) {
+      for (const double y : {to.y - kCell, to.y, to.y + kCell}) {
+        const auto cell = cells_.find(cellAt(x, y));
+        if (cell == cells_.end())
+          continue;
+        for (const auto& [piece, end] : cell->second) {
+          if (const double away = std::hypot(end.x - to.x, end.y - to.y); away < least) {
+            least = away;
+            found = piece;
+          }
+        }
+      }
+    }
+    return found;
+  }
+
+ private:
+  static constexpr double kCell = 25; // mm
+
+  static std::int64_t cellAt(double x, double y) {
+    return static_cast<std::int64_t>(std::floor(x / kCell)) * 1000003 +
+           static_cast<std::int64_t>(std::floor(y / kCell));
+  }
+
+  struct End {
+    const PlacedPiece* piece;
+    WorldConnector at;
+  };
+  std::unordered_map<std::int64_t, std::vector<End>> cells_;
+};
+
+/// Where a pointer may be, all over the yard.
 std::vector<Pose> spots(const Layout& layout, int count) {
-  const PlacedPiece& middle = layout.pieces()[layout.pieces().size() / 2];
+  const PlacedPiece& last = layout.pieces().back();
+  double right = 0;
+  for (const PlacedPiece& piece : layout.pieces())
+    right = std::max(right, piece.x);
   std::mt19937 random(7);
-  std::uniform_real_distribution<double> aside(-1000, 1000);
+  std::uniform_real_distribution<double> x(0, right);
+  std::uniform_real_distribution<double> y(0, last.y);
   std::uniform_real_distribution<double> turn(-30, 30);
   std::vector<Pose> poses;
   for (int i = 0; i < count; ++i)
-    poses.push_back({middle.x + aside(random), middle.y + aside(random), turn(random)});
+    poses.push_back({x(random), y(random), turn(random)});
   return poses;
 }
 
-/// Seconds that one of the queries takes, the best of some runs over all.
+/// One query at each of many spots, once after the other.
 template <class Query>
-double secondsFor(const std::vector<Pose>& poses, int runs, Query query) {
-  auto all = [&] {
-    for (const Pose& pose : poses)
-      query(pose);
-  };
-  double best = std::numeric_limits<double>::infinity();
-  for (int run = 0; run < runs; ++run)
-    best = std::min(best, seconds(all));
-  return best / static_cast<double>(poses.size());
+Way queries(const Layout& layout, int count, Query query) {
+  return timed(
+      [poses = spots(layout, count), query] {
+        for (const Pose& pose : poses)
+          query(pose);
+      },
+      count);
 }
-
-const PieceDef& carried() {
-  return *TrackCatalog::instance().find("24612");
-}
-
-/// What a query of one kind costs in seconds, by index and by plain loops.
-struct Cost {
-  double indexed = 0;
-  double plain = 0;
-};
 
 constexpr int kQueries = 2000;
-constexpr int kPlainQueries = 10;
+constexpr int kPlainQueries = 20;
 
-Cost snapCost(int pieces) {
-  const Layout layout = yard(pieces);
-  const SnapIndex index(layout);
-  Cost cost;
-  cost.indexed = secondsFor(spots(layout, kQueries), 30, [&](const Pose& pose) {
-    benchmark::DoNotOptimize(index.findSnap(carried(), pose));
-  });
-  cost.plain = secondsFor(spots(layout, kPlainQueries), 5, [&](const Pose& pose) {
-    benchmark::DoNotOptimize(FindSnap(carried(), pose, layout.pieces()));
-  });
-  return cost;
-}
+struct Snap {
+  explicit Snap(int pieces) : plan(yard(pieces)) {}
 
-Cost hitCost(int pieces) {
-  const Layout layout = yard(pieces);
-  const PlanIndex index(layout);
-  // The loops have the outlines at hand, which is all that could be spared them.
-  std::vector<const PieceOutline*> outlines;
-  for (const PlacedPiece& piece : layout.pieces())
-    outlines.push_back(&outlineOf(definitionOf(piece)));
-  Cost cost;
-  cost.indexed = secondsFor(spots(layout, kQueries), 30, [&](const Pose& pose) {
-    benchmark::DoNotOptimize(index.hits({pose.x, pose.y}, 4));
-  });
-  cost.plain = secondsFor(spots(layout, kPlainQueries), 5, [&](const Pose& pose) {
-    std::vector<std::size_t> hits;
-    for (std::size_t i = 0; i < outlines.size(); ++i)
-      if (covers(*outlines[i], poseOf(layout.pieces()[i]), {pose.x, pose.y}, 4))
-        hits.push_back(i);
-    benchmark::DoNotOptimize(hits);
-  });
-  return cost;
-}
-
-/// At 10,000 pieces the index has to be 50 times as fast as the loops, and from 1,000 to 100,000
-/// pieces a query must not become slower but for memory that is farther away.
-void finding(benchmark::State& state, Cost (*costOf)(int)) {
-  keepMemory();
-  Cost small;
-  Cost medium;
-  Cost large;
-  for (auto _ : state) {
-    small = costOf(1000);
-    medium = costOf(10000);
-    large = costOf(100000);
-    state.SetIterationTime(medium.indexed);
+  Way indexed() {
+    return queries(plan, kQueries, [this](const Pose& pose) {
+      benchmark::DoNotOptimize(index.findSnap(carried, pose));
+    });
   }
-  const double times = medium.plain / medium.indexed;
-  const double growth = large.indexed / small.indexed;
-  char text[160];
-  std::snprintf(text, sizeof text,
-                "%.2f us against %.0f us: %.0f times; %.2f, %.2f, %.2f us at 1, 10, 100 thousand",
-                medium.indexed * 1e6, medium.plain * 1e6, times, small.indexed * 1e6,
-                medium.indexed * 1e6, large.indexed * 1e6);
-  state.SetLabel(text);
-  if (times < 50 || growth > 1.5)
-    state.SkipWithError((std::string("too slow: ") + text).c_str());
+  Way plain() {
+    return queries(plan, kPlainQueries, [this](const Pose& pose) {
+      benchmark::DoNotOptimize(FindSnap(carried, pose, plan.pieces()));
+    });
+  }
+
+  const PieceDef& carried = *TrackCatalog::instance().find("24612");
+  Layout plan;
+  SnapIndex index{plan};
+};
+
+struct HitTest {
+  explicit HitTest(int pieces) : plan(yard(pieces)) {
+    for (const PlacedPiece& piece : plan.pieces())
+      outlines.push_back(&outlineOf(definitionOf(piece)));
+  }
+
+  Way indexed() {
+    return queries(plan, kQueries, [this](const Pose& pose) {
+      benchmark::DoNotOptimize(index.hits({pose.x, pose.y}, 4));
+    });
+  }
+  /// The loops have the outlines at hand, which is all that could be spared them.
+  Way plain() {
+    return queries(plan, kPlainQueries, [this](const Pose& pose) {
+      std::vector<std::size_t> hits;
+      for (std::size_t i = 0; i < outlines.size(); ++i)
+        if (covers(*outlines[i], poseOf(plan.pieces()[i]), {pose.x, pose.y}, 4))
+          hits.push_back(i);
+      benchmark::DoNotOptimize(hits);
+    });
+  }
+
+  Layout plan;
+  PlanIndex index{plan};
+  std::vector<const PieceOutline*> outlines;
+};
+
+template <class Finding>
+void againstLoops(benchmark::State& state) {
+  Finding finding(10000);
+  compare(state, 1.0 / 50, "plain loops", finding.indexed(), finding.plain());
 }
-BENCHMARK_CAPTURE(finding, snap, snapCost)->UseManualTime()->Iterations(1);
-BENCHMARK_CAPTURE(finding, hitTest, hitCost)->UseManualTime()->Iterations(1);
+BENCHMARK(againstLoops<Snap>)->Name("snap/10000")->Iterations(1);
+BENCHMARK(againstLoops<HitTest>)->Name("hitTest/10000")->Iterations(1);
+
+/// On a plan whose size would show in anything that looks at all of it, or at a share.
+template <class Finding>
+void againstGrid(benchmark::State& state) {
+  Finding finding(100000);
+  const PlainGrid grid(finding.plan);
+  compare(state, 1.0, "nearest end by a hash map of cells", finding.indexed(),
+          queries(finding.plan, kQueries,
+                  [&grid](const Pose& pose) { benchmark::DoNotOptimize(grid.nearest(pose)); }));
+}
+BENCHMARK(againstGrid<Snap>)->Name("snap/100000")->Iterations(1);
+BENCHMARK(againstGrid<HitTest>)->Name("hitTest/100000")->Iterations(1);
 
 /// The same plan as if it came from elsewhere, with its ids falling.
 Layout withFallingIds(Layout layout) {
@@ -161,29 +204,43 @@ void lookUpEvery(Layout& layout) {
 void idsInAnyOrder(benchmark::State& state) {
   Layout rising = yard(10000);
   Layout falling = withFallingIds(rising);
-  compare(
-      state, 1.5, [&] { lookUpEvery(falling); }, [&] { lookUpEvery(rising); });
+  compare(state, 0.6, "the same, ids in document order", timed([&] { lookUpEvery(falling); }),
+          timed([&] { lookUpEvery(rising); }));
 }
-BENCHMARK(idsInAnyOrder)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
+BENCHMARK(idsInAnyOrder)->Name("fallingIds/10000")->Iterations(1);
 
-/// What an edit on a large plan costs, and bringing both indexes up to date after it.
-void editOfTenThousandPieces(benchmark::State& state) {
+void edit(benchmark::State& state) {
   Layout layout = yard(10000);
-  for (auto _ : state) {
+  const auto dropAndUndo = [&layout] {
     dropPiece(layout, "24188", {-500, -500, 90}, {}, true);
     layout.undo();
-  }
+  };
+  PlanContent before;
+  PlanContent after;
+  const auto copyAndLookAtEnds = [&] {
+    before = layout.content();
+    after = layout.content();
+    for (const PlacedPiece& piece : layout.pieces()) {
+      const PieceDef& definition = *definitionOf(piece);
+      for (std::int32_t i = 0; i < static_cast<std::int32_t>(definition.connectors.size()); ++i)
+        benchmark::DoNotOptimize(ConnectorToWorld(piece, definition, i));
+    }
+  };
+  compare(state, 2.8, "two copies, and where all ends lie", timed(dropAndUndo),
+          timed(copyAndLookAtEnds));
 }
-BENCHMARK(editOfTenThousandPieces)->Unit(benchmark::kMillisecond);
+BENCHMARK(edit)->Name("dropAndUndo/10000")->Iterations(1);
 
-void indexesOfTenThousandPieces(benchmark::State& state) {
+void indexes(benchmark::State& state) {
   const Layout layout = yard(10000);
-  for (auto _ : state) {
+  const auto indexBoth = [&layout] {
     benchmark::DoNotOptimize(SnapIndex(layout));
     benchmark::DoNotOptimize(PlanIndex(layout));
-  }
+  };
+  const auto fileEnds = [&layout] { benchmark::DoNotOptimize(PlainGrid(layout)); };
+  compare(state, 1.6, "a hash map of cells", timed(indexBoth), timed(fileEnds));
 }
-BENCHMARK(indexesOfTenThousandPieces)->Unit(benchmark::kMillisecond);
+BENCHMARK(indexes)->Name("indexes/10000")->Iterations(1);
 
 } // namespace
 

@@ -1,5 +1,5 @@
 // Remembering a plan against a memcpy of the bytes it consists of. With the history full, both copy
-// over the oldest of fifty; before that, both into fresh memory.
+// over the oldest of fifty; before that, both into new memory.
 #include "document/history.h"
 #include "ratio.h"
 #include "support/random_plan.h"
@@ -28,56 +28,49 @@ std::size_t bytesOf(const PlanContent& content) {
   return bytes;
 }
 
-void pushHistory(benchmark::State& state, bool full) {
-  const PlanContent content = test::randomPlan(1, static_cast<int>(state.range(0))).content();
+PlanContent planOf(const benchmark::State& state) {
+  return test::randomPlan(1, static_cast<int>(state.range(0))).content();
+}
+
+void pushOntoFull(benchmark::State& state) {
+  const PlanContent content = planOf(state);
   const std::vector<char> bytes(bytesOf(content), 'b');
   History history;
-  std::vector<std::unique_ptr<char[]>> copies(History::kUndoLimit);
-  std::size_t next = 0;
-  const auto copyBytes = [&](bool fresh) {
-    std::unique_ptr<char[]>& copy = copies[next];
-    next = (next + 1) % copies.size();
-    if (fresh || copy == nullptr)
-      copy.reset(new char[bytes.size()]);
-    std::memcpy(copy.get(), bytes.data(), bytes.size());
-    benchmark::DoNotOptimize(copy.get());
-  };
-  for (std::size_t i = 0; full && i < History::kUndoLimit; ++i) {
-    history.push(history.snapshot(content));
-    copyBytes(true);
-  }
+  std::vector<std::vector<char>> copies(History::kUndoLimit, bytes);
+  std::size_t oldest = 0;
   const auto push = [&] { history.push(history.snapshot(content)); };
-  const auto copy = [&] { copyBytes(!full); };
-  if (full) {
-    compare(state, 3.0, push, copy);
-    return;
-  }
+  const auto copy = [&] {
+    std::memcpy(copies[oldest].data(), bytes.data(), bytes.size());
+    benchmark::DoNotOptimize(copies[oldest].data());
+    oldest = (oldest + 1) % copies.size();
+  };
+  for (std::size_t i = 0; i < History::kUndoLimit; ++i)
+    push();
+  compare(state, 2.0, "memcpy over its bytes", timed(push), timed(copy));
+}
+BENCHMARK(pushOntoFull)->Name("history/full")->Arg(10000)->Arg(100000)->Iterations(1);
+
+void pushOntoEmpty(benchmark::State& state) {
+  constexpr int kSteps = 10;
+  const PlanContent content = planOf(state);
+  const std::vector<char> bytes(bytesOf(content), 'b');
   const auto fillHistory = [&] {
     History fresh;
-    for (int i = 0; i < 10; ++i)
+    for (int i = 0; i < kSteps; ++i)
       fresh.push(fresh.snapshot(content));
   };
   const auto fillMemory = [&] {
-    std::vector<std::unique_ptr<char[]>> fresh(10);
+    std::vector<std::unique_ptr<char[]>> fresh(kSteps);
     for (auto& block : fresh) {
       block.reset(new char[bytes.size()]);
       std::memcpy(block.get(), bytes.data(), bytes.size());
       benchmark::DoNotOptimize(block.get());
     }
   };
-  compare(state, 3.0, fillHistory, fillMemory);
+  compare(state, 3.0, "memcpy into new blocks", timed(fillHistory, kSteps),
+          timed(fillMemory, kSteps));
 }
-BENCHMARK_CAPTURE(pushHistory, full, true)->Arg(10000)->Arg(100000)->UseManualTime();
-BENCHMARK_CAPTURE(pushHistory, fresh, false)->Arg(10000)->Arg(100000)->UseManualTime();
-
-void pushGrowth(benchmark::State& state) {
-  growth(state, 2.0, [](int pieces) {
-    return [content = test::randomPlan(1, pieces).content(), history = History()]() mutable {
-      history.push(history.snapshot(content));
-    };
-  });
-}
-BENCHMARK(pushGrowth)->UseManualTime()->Iterations(1);
+BENCHMARK(pushOntoEmpty)->Name("history/new")->Arg(10000)->Arg(100000)->Iterations(1);
 
 } // namespace
 

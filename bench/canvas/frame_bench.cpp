@@ -1,12 +1,13 @@
 // What a picture of the plan costs, drawn off-screen at 1920 x 1080 by the toolkit that draws the
-// window: against the same lines and polygons alone, on plans of very different sizes, and what a
-// mouse move costs before anything is drawn.
-#include "canvas/drawn_calls.h"
+// window: against the same picture drawn plainly, on plans of very different sizes, and what a
+// mouse move costs until it is painted.
+#include "canvas/plain_drawing.h"
 #include "catalog/track_catalog.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/joining/joining.h"
 #include "editing/placing/placing.h"
+#include "editing/selection/content_box.h"
 #include "editing/selection/picking.h"
 #include "ratio.h"
 #include "ui/canvas/gc_surface.h"
@@ -14,12 +15,13 @@
 #include <wx/app.h>
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>
+#include <wx/image.h>
 
-#include <algorithm>
 #include <array>
-#include <cstdio>
+#include <cmath>
+#include <cstdlib>
 #include <memory>
-#include <string>
+#include <optional>
 #include <vector>
 
 namespace trassix::bench {
@@ -66,31 +68,65 @@ Layout yard(int rows, int piecesInRow) {
   return layout;
 }
 
+template <class Draw>
+void drawOn(wxBitmap& bitmap, Draw draw) {
+  wxMemoryDC memory(bitmap);
+  const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(memory));
+  draw(*context);
+  context->Flush();
+}
+
+/// Measures as the screen does and keeps only the texts.
+class TextKeeper : public Surface {
+ public:
+  explicit TextKeeper(Surface& screen) : screen_(screen) {}
+
+  std::vector<ShownText> texts;
+
+  void polyline(std::span<const Point>, const Stroke&) override {}
+  void polygon(std::span<const Point>, std::optional<Rgba>, std::optional<Stroke>) override {}
+  void segments(std::span<const Point>, const Stroke&) override {}
+  void circle(Point, double, std::optional<Rgba>, std::optional<Stroke>) override {}
+  void text(std::string_view text, Point centre, double degrees, const TextStyle& style) override {
+    texts.push_back({std::string(text), centre, textSize(text, style), toRadians(degrees), style});
+  }
+  SizePx textSize(std::string_view text, const TextStyle& style) override {
+    return screen_.textSize(text, style);
+  }
+
+ private:
+  Surface& screen_;
+};
+
 /// Draws a plan over and over on one bitmap.
 class Screen {
  public:
-  Screen(const Layout& layout, double zoom)
-      : layout_(layout), index_(layout), view_(ViewTransform::ofScale(zoom, {40, 20})) {}
-
-  void draw(Surface& surface) const {
-    LayoutPainter(surface, {kWidth, kHeight}, view_, PaintOptions()).paint(layout_, index_);
-  }
+  Screen(const Layout& layout, const ViewTransform& view)
+      : layout_(layout), index_(layout), view_(view) {}
 
   /// One frame of the plan, as the window makes it.
   void frame() {
-    withContext([this](wxGraphicsContext& context) {
+    drawOn(bitmap_, [this](wxGraphicsContext& context) {
       GcSurface surface(context);
       draw(surface);
     });
   }
-
-  template <class Draw>
-  void withContext(Draw draw) {
-    wxMemoryDC memory(bitmap_);
-    const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(memory));
-    draw(*context);
-    context->Flush();
+  void plainFrame(const PlainDrawing& drawing) {
+    drawOn(bitmap_, [&](wxGraphicsContext& context) { drawing.draw(context); });
   }
+
+  PlainDrawing plainDrawing() {
+    std::vector<ShownText> texts;
+    drawOn(bitmap_, [&](wxGraphicsContext& context) {
+      GcSurface measuring(context);
+      TextKeeper keeper(measuring);
+      draw(keeper);
+      texts = std::move(keeper.texts);
+    });
+    return {layout_, view_, {kWidth, kHeight}, std::move(texts)};
+  }
+
+  wxImage picture() const { return bitmap_.ConvertToImage(); }
 
   std::vector<std::size_t> visiblePieces() const {
     const Point low = view_.toWorld({0, 0});
@@ -99,106 +135,196 @@ class Screen {
   }
 
  private:
+  void draw(Surface& surface) const {
+    LayoutPainter(surface, {kWidth, kHeight}, view_, PaintOptions()).paint(layout_, index_);
+  }
+
   const Layout& layout_;
   PlanIndex index_;
   ViewTransform view_;
   wxBitmap bitmap_{kWidth, kHeight};
 };
 
-void twoThousandPieces(benchmark::State& state) {
-  const Layout layout = yard(44, 46);
-  Screen screen(layout, 0.23);
+/// The share of pixels that differ by more than 32 of 255 in a colour.
+double difference(const wxImage& a, const wxImage& b) {
+  constexpr std::size_t kPixels = std::size_t{kWidth} * kHeight;
+  std::size_t different = 0;
+  for (std::size_t i = 0; i < kPixels; ++i) {
+    const auto differs = [&](std::size_t k) {
+      return std::abs(a.GetData()[i * 3 + k] - b.GetData()[i * 3 + k]) > 32;
+    };
+    different += differs(0) || differs(1) || differs(2);
+  }
+  return static_cast<double>(different) / kPixels;
+}
+
+ViewTransform fitted(const Layout& layout) {
+  ViewTransform view;
+  view.fit(contentBox(layout).value_or(Box{}), kWidth, kHeight);
+  return view;
+}
+
+void frame(benchmark::State& state, const Layout& layout, const ViewTransform& view, double limit) {
+  Screen screen(layout, view);
   if (screen.visiblePieces().size() != layout.pieces().size()) {
     state.SkipWithError("not every piece is visible");
     return;
   }
-  screen.withContext([&](wxGraphicsContext& context) {
-    GcSurface measuring(context);
-    DrawnCalls calls(measuring);
-    screen.draw(calls);
-    state.counters["lines and polygons"] = static_cast<double>(calls.count());
-    state.counters["texts"] = static_cast<double>(calls.textCount());
-    compare(
-        state, 1.5, [&] { screen.frame(); },
-        [&] { screen.withContext([&](wxGraphicsContext& other) { calls.handTo(other); }); });
-  });
-}
-BENCHMARK(twoThousandPieces)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
-
-void fewOfTenThousandPieces(benchmark::State& state) {
-  // The window sees a part of the long rows, which is also drawn as a plan of its own.
-  const Layout all = yard(100, 100);
-  Screen large(all, 0.78);
-  Layout part;
-  part.ensureLevel();
-  for (const std::size_t position : large.visiblePieces())
-    part.edit().pieces.push_back(all.pieces()[position]);
-  Screen small(part, 0.78);
-  state.counters["visible"] = static_cast<double>(part.pieces().size());
-  compare(
-      state, 1.2, [&] { large.frame(); }, [&] { small.frame(); });
-}
-BENCHMARK(fewOfTenThousandPieces)->UseManualTime()->Iterations(20)->Unit(benchmark::kMillisecond);
-
-/// The worst of many mouse moves over a plan of 10,000 pieces while something is carried: all that
-/// happens before the window is painted, and the question whether the plan itself is to be drawn.
-void mouseMoves(benchmark::State& state, void (*takeUp)(test::CanvasScript&)) {
-  test::CanvasScript script(yard(100, 100));
-  takeUp(script);
-  double worst = 0;
-  double sum = 0;
-  constexpr int kMoves = 500;
-  for (auto _ : state) {
-    worst = sum = 0;
-    for (int i = 0; i < kMoves; ++i) {
-      const Point to{1000 + i * 3.7, 800 + i * 2.1};
-      auto moved = [&] {
-        script.move(to);
-        benchmark::DoNotOptimize(script.canvas.planStamp());
-      };
-      const double time = seconds(moved);
-      worst = std::max(worst, time);
-      sum += time;
-    }
-    state.SetIterationTime(sum / kMoves);
+  const PlainDrawing plain = screen.plainDrawing();
+  screen.frame();
+  const wxImage ours = screen.picture();
+  screen.plainFrame(plain);
+  const double different = difference(ours, screen.picture());
+  state.counters["different pixels"] = different;
+  if (different > 0.01) {
+    state.SkipWithError("another picture than the plain drawing's");
+    return;
   }
-  char text[80];
-  std::snprintf(text, sizeof text, "mean %.3f ms, worst %.3f ms, at most 1 ms", sum / kMoves * 1e3,
-                worst * 1e3);
-  state.SetLabel(text);
-  if (worst > 1e-3)
-    state.SkipWithError((std::string("too slow: ") + text).c_str());
+  compare(state, limit, "plain drawing of the same", timed([&] { screen.frame(); }),
+          timed([&] { screen.plainFrame(plain); }));
 }
 
-void carryPiece(test::CanvasScript& script) {
-  script.carry("24611", {900, 700});
+void frameOfTwoThousand(benchmark::State& state) {
+  const Layout layout = yard(44, 46);
+  frame(state, layout, ViewTransform::ofScale(0.23, {40, 20}), 1.2);
+}
+BENCHMARK(frameOfTwoThousand)->Name("frame/2000visible")->Iterations(1);
+
+void frameOfTenThousand(benchmark::State& state) {
+  const Layout layout = yard(100, 100);
+  frame(state, layout, fitted(layout), 1.2);
+}
+BENCHMARK(frameOfTenThousand)->Name("frame/10000visible")->Iterations(1);
+
+/// Of long rows the window sees a part, which is also a plan of its own.
+struct CloseUp {
+  CloseUp() {
+    part.ensureLevel();
+    for (const std::size_t position : Screen(all, view).visiblePieces())
+      part.edit().pieces.push_back(all.pieces()[position]);
+  }
+
+  ViewTransform view = ViewTransform::ofScale(0.78, {40, 20});
+  Layout all = yard(100, 100);
+  Layout part;
+};
+
+void frameFromCloseUp(benchmark::State& state) {
+  const CloseUp close;
+  frame(state, close.part, close.view, 1.2);
+}
+BENCHMARK(frameFromCloseUp)->Name("frame/200visible")->Iterations(1);
+
+void frameOfPart(benchmark::State& state) {
+  const CloseUp close;
+  Screen large(close.all, close.view);
+  Screen small(close.part, close.view);
+  compare(state, 1.2, "a plan of those alone", timed([&] { large.frame(); }),
+          timed([&] { small.frame(); }));
+}
+BENCHMARK(frameOfPart)->Name("frame/200of10000visible")->Iterations(1);
+
+/// A plan of 10,000 pieces, all in view, as the window shows it while the mouse moves.
+class BusyWindow {
+ public:
+  BusyWindow() : script(yard(kRows, kRows)) {
+    script.canvas.resize({kWidth, kHeight});
+    script.canvas.fit();
+  }
+
+  test::CanvasScript script;
+
+  /// Pieces from the beginnings of some rows, close together.
+  std::vector<PlacedPiece> group(std::size_t size) const {
+    constexpr std::size_t kColumns = 20;
+    std::vector<PlacedPiece> pieces;
+    for (std::size_t i = 0; i < size; ++i)
+      pieces.push_back(script.pieces()[i / kColumns * kRows + i % kColumns]);
+    return pieces;
+  }
+
+  void paint() {
+    if (const std::uint64_t stamp = script.canvas.planStamp(); stamp_ != stamp) {
+      stamp_ = stamp;
+      drawOn(picture_, [this](wxGraphicsContext& context) {
+        GcSurface surface(context);
+        script.canvas.paintPlan(surface);
+      });
+    }
+    wxMemoryDC window(window_);
+    window.DrawBitmap(picture_, 0, 0);
+    const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(window));
+    GcSurface surface(*context);
+    script.canvas.paintOverlay(surface);
+  }
+
+  /// The mouse goes about, so far that what hangs on it stays in view, and each move is painted.
+  Way moves() {
+    constexpr int kMoves = 10;
+    return timed(
+        [this] {
+          for (int i = 0; i < kMoves; ++i) {
+            ++moves_;
+            script.move(
+                script.canvas.view().toWorld({kWidth * (0.4 + 0.3 * std::sin(moves_ * 0.37)),
+                                              kHeight * (0.4 + 0.3 * std::cos(moves_ * 0.23))}));
+            paint();
+          }
+        },
+        kMoves);
+  }
+
+  /// The least that a move takes: the kept picture, and over it a plain drawing of so many pieces.
+  Way plainMoves(std::size_t pieces) {
+    auto part = std::make_shared<Layout>();
+    part->edit().pieces = group(pieces);
+    const PlainDrawing plain(*part, script.canvas.view(), {kWidth, kHeight}, {});
+    return timed([this, part, plain] {
+      wxMemoryDC window(window_);
+      window.DrawBitmap(picture_, 0, 0);
+      const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(window));
+      plain.drawTrack(*context);
+    });
+  }
+
+ private:
+  static constexpr std::size_t kRows = 100;
+
+  std::optional<std::uint64_t> stamp_;
+  int moves_ = 0;
+  wxBitmap picture_{kWidth, kHeight};
+  wxBitmap window_{kWidth, kHeight};
+};
+
+void point(BusyWindow&, std::size_t) {}
+
+void takeFromPalette(BusyWindow& window, std::size_t) {
+  window.script.carry("24611", {900, 700});
 }
 
-void carryBlock(test::CanvasScript& script) {
+void carryBlock(BusyWindow& window, std::size_t pieces) {
   Block block;
-  const std::vector<PlacedPiece>& pieces = script.pieces();
-  block.content.pieces.assign(pieces.begin(), pieces.begin() + 200);
-  script.canvas.carry(std::move(block), script.at({900, 700}), true);
+  block.content.pieces = window.group(pieces);
+  window.script.canvas.carry(std::move(block), window.script.at({900, 700}), true);
 }
 
-void moveSelection(test::CanvasScript& script) {
-  for (std::int32_t id = 1; id <= 200; ++id)
-    setSelected(script.host.plan, {RecordKind::Piece, id}, true);
-  script.dragTo({60, 0}, {900, 700});
+void drag(BusyWindow& window, std::size_t pieces) {
+  for (const PlacedPiece& piece : window.group(pieces))
+    setSelected(window.script.host.plan, {RecordKind::Piece, piece.id}, true);
+  window.script.dragTo({60, 0}, {900, 700});
 }
 
-BENCHMARK_CAPTURE(mouseMoves, carryingAPiece, carryPiece)
-    ->UseManualTime()
-    ->Iterations(3)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(mouseMoves, carryingABlock, carryBlock)
-    ->UseManualTime()
-    ->Iterations(3)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(mouseMoves, movingTheSelection, moveSelection)
-    ->UseManualTime()
-    ->Iterations(3)
-    ->Unit(benchmark::kMillisecond);
+void move(benchmark::State& state, void (*takeUp)(BusyWindow&, std::size_t)) {
+  const auto pieces = static_cast<std::size_t>(state.range(0));
+  BusyWindow window;
+  takeUp(window, pieces);
+  compare(state, 1.3, "kept picture, plain drawing of those", window.moves(),
+          window.plainMoves(pieces));
+}
+BENCHMARK_CAPTURE(move, pointing, point)->Arg(0)->Iterations(1);
+BENCHMARK_CAPTURE(move, fromPalette, takeFromPalette)->Arg(1)->Iterations(1);
+BENCHMARK_CAPTURE(move, block, carryBlock)->Arg(500)->Iterations(1);
+BENCHMARK_CAPTURE(move, drag, drag)->Arg(1)->Arg(500)->Iterations(1);
 
 } // namespace
 

@@ -1,20 +1,19 @@
-// Measures the time from the start of a process to its first painted window, for two programs in
-// turns, and compares the medians: startup_probe PROGRAM BARE_PROGRAM RUNS GREATEST_RATIO
-// The display tells when something was drawn into a window, so that both are measured alike and
-// neither knows of it.
+// From the start of a process to its first painted window, against a bare frame of the same
+// toolkit. The display tells when something was drawn into a window, so that both are measured
+// alike and neither knows of it.
+#include "ratio.h"
 
 #include <X11/Xlib.h>
 #include <X11/extensions/Xdamage.h>
-#include <algorithm>
 #include <chrono>
 #include <csignal>
-#include <cstdio>
-#include <cstdlib>
+#include <ctime>
 #include <poll.h>
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
+
+namespace trassix::bench {
 
 namespace {
 
@@ -74,7 +73,13 @@ class PaintWatch {
   int damage_ = 0;
 };
 
-double startOnce(PaintWatch& screen, const char* program) {
+/// What a start takes: the user's time, and the processor's.
+struct Start {
+  double wall = 0;
+  double processor = 0;
+};
+
+Start startOnce(PaintWatch& screen, const char* program) {
   const auto start = Clock::now();
   const pid_t process = fork();
   if (process == 0) {
@@ -82,46 +87,30 @@ double startOnce(PaintWatch& screen, const char* program) {
     _exit(127);
   }
   const Window window = screen.waitForPaintedWindow();
-  const std::chrono::duration<double, std::milli> time = Clock::now() - start;
+  const std::chrono::duration<double> wall = Clock::now() - start;
+  clockid_t clock{};
+  timespec used{};
+  clock_getcpuclockid(process, &clock);
+  clock_gettime(clock, &used);
   kill(process, SIGKILL);
   waitpid(process, nullptr, 0);
   screen.waitUntilGone(window);
-  return time.count();
+  return {wall.count(),
+          static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) * 1e-9};
 }
 
-double median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
+void start(benchmark::State& state, double limit, double Start::*time) {
+  PaintWatch screen;
+  const auto starts = [&](const char* program) {
+    return Way{[&screen, program, time] { return startOnce(screen, program).*time; }};
+  };
+  compare(state, limit, "bare frame", starts(TRASSIX_PROGRAM), starts(TRASSIX_BARE_FRAME));
 }
+BENCHMARK_CAPTURE(start, wallClock, 1.5, &Start::wall)->Iterations(1);
+BENCHMARK_CAPTURE(start, processor, 1.9, &Start::processor)->Iterations(1);
 
 } // namespace
 
-int main(int argc, char** argv) {
-  if (argc != 5) {
-    std::fprintf(stderr, "usage: %s PROGRAM BARE_PROGRAM RUNS GREATEST_RATIO\n", argv[0]);
-    return 2;
-  }
-  const int runs = std::atoi(argv[3]);
-  const double greatest = std::atof(argv[4]);
-  try {
-    PaintWatch screen;
-    std::vector<double> program;
-    std::vector<double> bare;
-    for (int run = 0; run <= runs; ++run) {
-      const double bareTime = startOnce(screen, argv[2]);
-      const double programTime = startOnce(screen, argv[1]);
-      if (run > 0) { // the first run only warms the disk's cache
-        bare.push_back(bareTime);
-        program.push_back(programTime);
-      }
-    }
-    const double ratio = median(program) / median(bare);
-    std::printf("start to painted window, median of %d: program %.0f ms, bare frame %.0f ms, "
-                "ratio %.2f (at most %.2f)\n",
-                runs, median(program), median(bare), ratio, greatest);
-    return ratio <= greatest ? 0 : 1;
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "%s\n", error.what());
-    return 2;
-  }
-}
+} // namespace trassix::bench
+
+BENCHMARK_MAIN();
