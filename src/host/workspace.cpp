@@ -27,6 +27,10 @@ const Layout& Workspace::layout() const {
   return plan_.layout();
 }
 
+std::int32_t Workspace::units() const {
+  return layout().settings().units;
+}
+
 void Workspace::changed() {
   plan_.noteChange();
   tell(&PlanObserver::planChanged);

@@ -56,6 +56,7 @@ class Workspace {
   OpenPlan& plan() { return plan_; }
   Layout& layout();
   const Layout& layout() const;
+  std::int32_t units() const; ///< in which the plan shows lengths
   const EditorSwitches& switches() const { return switches_; }
   Questions& questions() { return questions_; }
   Clipboard& clipboard() { return clipboard_; }

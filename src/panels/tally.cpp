@@ -1,6 +1,7 @@
 #include "panels/tally.h"
 
 #include "catalog/track_catalog.h"
+#include "document/layout.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/routes.h"
 #include "editing/track/track_geometry.h"

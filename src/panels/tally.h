@@ -2,7 +2,6 @@
 #pragma once
 
 #include "catalog/track_system.h"
-#include "document/layout.h"
 #include "geometry/box.h"
 
 #include <array>
@@ -12,6 +11,8 @@
 #include <vector>
 
 namespace trassix {
+
+class Layout;
 
 /// One article. Pieces placed under another number for it are counted here too.
 struct TallyRow {

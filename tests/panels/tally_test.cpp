@@ -1,3 +1,4 @@
+#include "document/layout.h"
 #include "panels/tally.h"
 #include "support/loose_records.h"
 

@@ -1,5 +1,6 @@
 #include "app/services/text_file.h"
 #include "document/aside_copy.h"
+#include "document/layout.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -191,7 +192,8 @@ TEST(TextFile, writesAndReadsUnderAnyName) {
 TEST(TextFile, keepsEveryCopyWrittenAside) {
   const TempFolder folder;
   const std::time_t when = 1'700'000'000;
-  std::string longName = std::string(149, 'n') + "\u00fc";
+  std::string longName(149, 'n');
+  longName += "\u00fc";
   for (const auto& [name, stem] :
        {std::pair<std::string, std::string>{"Süd / \"West\"", "Süd _ _West_"},
         {"Süd / \"West\"", "Süd _ _West_"},

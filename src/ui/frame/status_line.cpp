@@ -35,7 +35,7 @@ void StatusLine::hintChanged(const std::string& hint) {
 
 void StatusLine::pointerMoved(Point world) {
   pointer_ = world;
-  const std::int32_t units = workspace_.layout().settings().units;
+  const std::int32_t units = workspace_.units();
   const double unit = millimetresPer(units);
   const int decimals = units == kMillimetres ? 0 : units == kCentimetres ? 1 : 2;
   window_.SetStatusText(wxString::Format("x: %.*f  y: %.*f %s", decimals, world.x / unit, decimals,

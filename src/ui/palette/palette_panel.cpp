@@ -200,9 +200,9 @@ void PalettePanel::showTab(Tab tab) {
 
 void PalettePanel::unitsChanged() {
   // To fill the lists anew is to lose their place.
-  if (workspace_.layout().settings().units == units_)
+  if (workspace_.units() == units_)
     return;
-  units_ = workspace_.layout().settings().units;
+  units_ = workspace_.units();
   fill(kTrackTab);
   fill(kSceneryTab);
 }
@@ -243,7 +243,7 @@ void PalettePanel::onSearchKey(wxKeyEvent& event) {
 }
 
 void PalettePanel::fillTrack() {
-  const std::int32_t units = workspace_.layout().settings().units;
+  const std::int32_t units = workspace_.units();
   std::vector<CatalogRow> rows;
   pieces_.clear();
   const double widest = widestToScale(model_.system());
@@ -264,7 +264,7 @@ void PalettePanel::fillTrack() {
 }
 
 void PalettePanel::fillScenery() {
-  const std::int32_t units = workspace_.layout().settings().units;
+  const std::int32_t units = workspace_.units();
   const TrackSystem shown = model_.system();
   std::vector<CatalogRow> rows;
   scenery_.clear();

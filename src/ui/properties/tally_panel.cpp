@@ -240,7 +240,7 @@ void TallyPanel::fill() {
 }
 
 void TallyPanel::showSummary() {
-  const std::int32_t units = workspace_.layout().settings().units;
+  const std::int32_t units = workspace_.units();
   const Box box = tally_.extent.value_or(Box());
   summary_->SetLabel(
       wxString::Format(_("Pieces: %d, open ends: %d"), tally_.pieces, tally_.openEnds) + "\n" +
