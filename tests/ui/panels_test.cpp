@@ -229,8 +229,9 @@ TEST_F(PanelsTest, ThePanesKeepTheirSizesAndShowTheTally) {
   EXPECT_EQ(tally.GetItemText(0, 4), wxString::FromUTF8("Märklin C"));
   const std::string row = "24188\t24188 - 188.3mm\t3\t3\n";
   click(control<wxWindow>("tally.copy"));
-  EXPECT_EQ(frame().workspace().clipboard().text(),
-            "System\tArticle\tName\tPlaced\tNeeded\nMärklin C\t" + row);
+  const std::string copied = "System\tArticle\tName\tPlaced\tNeeded\nMärklin C\t" + row;
+  EXPECT_TRUE(waitUntil("the tally is on the clipboard",
+                        [&] { return frame().workspace().clipboard().text() == copied; }));
   dialogs.answer("", wxID_CANCEL); // the desktop's own dialog keeps its title to itself
   click(control<wxWindow>("tally.save"));
   waitUntil("the dialog came", [this] { return dialogs.finished(); });

@@ -4,6 +4,7 @@
 #include "editing/autofill/autofill_messages.h"
 #include "editing/selection/selection.h"
 #include "host/plan_preview.h"
+#include "texts/texts.h"
 
 namespace trassix {
 
@@ -21,13 +22,13 @@ std::optional<std::size_t> chooseFill(ToolSite& site, const Autofill& fills) {
   const Gap& gap = *fills.gap;
   PlanPreview preview(site.workspace);
   Choice choice;
-  choice.title = "Autofill Gap";
+  choice.title = tr("Autofill Gap");
   choice.line = autofillPrompt(gap);
   for (const FillCandidate& candidate : fills.candidates) {
     choice.rows.push_back(autofillRow(gap.kind, candidate));
     choice.notes.push_back(autofillRest(restOf(gap, candidate)));
   }
-  choice.accept = "Place";
+  choice.accept = tr("Place");
   choice.about = {(gap.start.x + gap.end.x) / 2, (gap.start.y + gap.end.y) / 2};
   choice.highlighted = [&](std::size_t row) {
     preview.showEdit([&](Layout& scratch) { placeFill(scratch, gap, fills.candidates[row]); });

@@ -56,6 +56,7 @@ void cutSelection(ToolSite& site) {
   selectPartners(site.layout());
   if (copySelection(site))
     deleteSelected(site);
+  site.workspace.selectionChanged(); // whatever was answered, the partners are selected now
 }
 
 void duplicateSelection(ToolSite& site) {

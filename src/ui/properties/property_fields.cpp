@@ -14,6 +14,7 @@
 #include <wx/textctrl.h>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace trassix {
@@ -260,19 +261,21 @@ void PropertyFields::enterText(std::size_t index) {
 
 void PropertyFields::enter(std::size_t index, const PropertyValue& value) {
   // A question put meanwhile takes the focus away, which would enter the value once more.
-  if (entering_)
+  if (std::exchange(entering_, true))
     return;
-  entering_ = true;
-  Questions& questions = workspace_.questions();
-  const PropertyEdit edit = sheet_.rows[index].edit; // the row goes when the change is shown
-  const PropertyAnswer answer =
-      edit(workspace_.layout(), value,
-           [&questions](const Question& question) { return questions.confirm(question); });
-  if (answer.refusal)
-    questions.show(*answer.refusal);
-  if (answer.changed)
-    workspace_.changed();
-  entering_ = false;
+  const PropertyAnswer answer = [&] {
+    const std::shared_ptr<void> entered(nullptr, [this](void*) { entering_ = false; });
+    Questions& questions = workspace_.questions();
+    const PropertyEdit edit = sheet_.rows[index].edit; // the row goes when the change is shown
+    PropertyAnswer given = edit(workspace_.layout(), value, [&questions](const Question& question) {
+      return questions.confirm(question);
+    });
+    if (given.refusal)
+      questions.show(*given.refusal);
+    if (given.changed)
+      workspace_.changed();
+    return given;
+  }();
   if (index >= rows_.size())
     return;
   if (answer.problem.empty())
