@@ -24,8 +24,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   require(writeBlock(first, append).empty());
   Block second;
   require(readBlock(saved, second).empty());
-  require(second.pieces.size() == first.pieces.size());
-  require(second.scenery.size() == first.scenery.size());
+  require(second.content.pieces.size() == first.content.pieces.size());
+  require(second.content.scenery.size() == first.content.scenery.size());
 
   centreBlock(second);
   saved.clear();
