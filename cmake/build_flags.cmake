@@ -9,9 +9,9 @@ else()
 endif()
 
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # Optimising, this compiler believes that a small vector kept in place could be longer or shorter
-  # than its place. The fuzz targets are built by another compiler, without this.
-  target_compile_options(trassix_flags INTERFACE -Wno-stringop-overread -Wno-array-bounds)
+  # Optimising, this compiler believes that a small vector kept in place could be longer than its
+  # place.
+  target_compile_options(trassix_flags INTERFACE -Wno-stringop-overread)
 endif()
 
 if(TRASSIX_SANITIZE)
