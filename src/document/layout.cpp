@@ -33,6 +33,13 @@ std::unordered_set<std::int32_t> usedIds(const PlanContent& content) {
 
 } // namespace
 
+Layout::Layout() = default;
+Layout::Layout(const Layout&) = default;
+Layout::Layout(Layout&&) noexcept = default;
+Layout& Layout::operator=(const Layout&) = default;
+Layout& Layout::operator=(Layout&&) noexcept = default;
+Layout::~Layout() = default;
+
 PlanContent& Layout::edit() {
   stampArrangement();
   return content_;

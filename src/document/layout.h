@@ -3,6 +3,7 @@
 #include "document/history.h"
 #include "document/piece_index.h"
 #include "document/plan_content.h"
+#include "document/plan_settings.h"
 #include "document/record_kinds.h"
 
 #include <algorithm>
@@ -13,17 +14,6 @@
 
 namespace trassix {
 
-/// What belongs to a document but is not under undo.
-struct PlanSettings {
-  std::vector<Level> levels;
-  std::int32_t activeLevel = 1;
-  std::vector<Point> baseboard; ///< outline polygon
-  LastShape lastShape;
-  std::int32_t units = 0; ///< 0 mm, 1 cm, 2 inches: how lengths are shown
-
-  bool operator==(const PlanSettings&) const = default;
-};
-
 /// The open document: what is on the plan, its settings, and its undo and redo history. Holds
 /// storage and invariants only; what edits it are the topic functions in `editing/`.
 ///
@@ -33,6 +23,13 @@ struct PlanSettings {
 /// kept across other calls.
 class Layout {
  public:
+  Layout();
+  Layout(const Layout& other);
+  Layout(Layout&& other) noexcept;
+  Layout& operator=(const Layout& other);
+  Layout& operator=(Layout&& other) noexcept;
+  ~Layout();
+
   const PlanContent& content() const { return content_; }
   const std::vector<PlacedPiece>& pieces() const { return content_.pieces; }
   const PlanSettings& settings() const { return settings_; }

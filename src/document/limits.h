@@ -2,6 +2,7 @@
 // that arithmetic on a plan never overflows and what was saved can be loaded.
 #pragma once
 
+#include "document/plan_settings.h"
 #include "document/record_kinds.h"
 #include "geometry/lengths.h"
 

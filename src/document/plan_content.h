@@ -9,6 +9,14 @@ namespace trassix {
 
 /// What undo and redo bring back, and all of it but the measurements and pairs is saved.
 struct PlanContent {
+  // Out of line: compiling them for all kinds of records takes its time.
+  PlanContent();
+  PlanContent(const PlanContent& other);
+  PlanContent(PlanContent&& other) noexcept;
+  PlanContent& operator=(const PlanContent& other);
+  PlanContent& operator=(PlanContent&& other) noexcept;
+  ~PlanContent();
+
   std::vector<PlacedPiece> pieces;
   std::vector<SceneryItem> scenery;
   std::vector<Label> labels;
@@ -20,22 +28,13 @@ struct PlanContent {
   std::vector<GradeRun> gradeRuns;
   std::vector<PiecePair> pairs;
 
-  bool operator==(const PlanContent&) const = default;
+  bool operator==(const PlanContent&) const;
 
   /// Makes the last run the current grade, or switches it off when there is none.
-  void mirrorLastGradeRun() {
-    currentGrade = gradeRuns.empty() ? CurrentGrade{}
-                                     : CurrentGrade{true, gradeRuns.back().deg,
-                                                    gradeRuns.back().anchor, gradeRuns.back().conn};
-  }
+  void mirrorLastGradeRun();
 
   /// Id of the piece that came with this one as a pair, -1 when there is none.
-  std::int32_t partnerOf(std::int32_t piece) const {
-    for (const PiecePair& pair : pairs)
-      if (pair.has(piece))
-        return pair.first == piece ? pair.second : pair.first;
-    return -1;
-  }
+  std::int32_t partnerOf(std::int32_t piece) const;
 };
 
 } // namespace trassix

@@ -3,39 +3,16 @@
 // from +x towards +y, which is clockwise on the screen.
 #pragma once
 
-// GCC 12 takes the moved-from inline storage for shorter than it is when it inlines a move.
-#if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wstringop-overread"
-#endif
-#include <boost/container/small_vector.hpp>
-#if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC diagnostic pop
-#endif
-
 #include "document/color.h"
+#include "document/joint_table.h"
 #include "geometry/point.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 namespace trassix {
-
-/// What is joined at one connector. Every joint is written on both pieces.
-struct Joint {
-  std::int32_t target = -1; ///< id of the joined piece, -1 when the connector is open
-  std::int32_t tconn = -1;  ///< connector index on the target
-
-  bool open() const { return target == -1; }
-  bool operator==(const Joint&) const = default;
-};
-
-/// Indexed by the piece's own connector; a missing slot means open. Nearly every piece has two to
-/// four ends, which are kept in place so that copying a plan does not allocate for each piece.
-using JointTable = boost::container::small_vector<Joint, 4>;
 
 /// A kind of record that a plan has many of.
 enum class RecordKind : std::uint8_t { Shape, Helix, Tunnel, Scenery, Piece, Measurement, Label };
@@ -165,19 +142,6 @@ struct Helix {
   bool operator==(const Helix&) const = default;
 };
 
-/// A deck.
-struct Level {
-  std::int32_t id = 1;
-  std::string name;
-  bool visible = true;
-  double height = 0;
-  bool trackcolor = false; ///< the level's track is drawn in `color`
-  Color color{180, 180, 180};
-  std::vector<Point> outline; ///< used only with three or more points
-
-  bool operator==(const Level&) const = default;
-};
-
 /// A run of track on a constant grade.
 struct GradeRun {
   double deg = 0;           ///< signed grade angle
@@ -195,17 +159,6 @@ struct CurrentGrade {
   std::int32_t conn = 1;
 
   bool operator==(const CurrentGrade&) const = default;
-};
-
-/// The baseboard shape chosen last in its dialog, with its four measures in mm.
-struct LastShape {
-  std::int32_t kind = 0;
-  double w = 0;
-  double h = 0;
-  double w2 = 0;
-  double h2 = 0;
-
-  bool operator==(const LastShape&) const = default;
 };
 
 } // namespace trassix

@@ -40,6 +40,11 @@ void Workspace::selectionChanged() {
   tell(&PlanObserver::selectionChanged);
 }
 
+void Workspace::selectNothing() {
+  layout().clearSelection();
+  selectionChanged();
+}
+
 void Workspace::planReplaced() {
   // An outline that was going to be drawn belonged to the plan before.
   if (switches_.polygonUse.kind != PolygonUse::Kind::Shape)

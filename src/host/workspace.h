@@ -66,6 +66,7 @@ class Workspace {
   /// Marks the plan unsaved and has everything follow.
   void changed();
   void selectionChanged();
+  void selectNothing();
   void planReplaced();
   void fileChanged();
   void setUnits(std::int32_t units);

@@ -1,7 +1,7 @@
 // The shapes that a baseboard can be chosen from.
 #pragma once
 
-#include "document/records.h"
+#include "document/plan_settings.h"
 
 #include <array>
 #include <cstdint>

@@ -1,5 +1,6 @@
 #include "panels/board_form.h"
 
+#include "document/layout.h"
 #include "document/limits.h"
 #include "editing/levels/level_edits.h"
 #include "editing/selection/content_box.h"
@@ -89,6 +90,10 @@ std::optional<LastShape> BoardForm::shape() const {
                    measures_[2].mm(), measures_[3].mm()};
 }
 
+std::int32_t BoardForm::units() const {
+  return layout_.settings().units;
+}
+
 std::string BoardForm::problem() const {
   const std::optional<LastShape> chosen = shape();
   if (!chosen)
@@ -98,7 +103,7 @@ std::string BoardForm::problem() const {
   for (std::size_t i = 0; i < kMeasures; ++i)
     if (!measureName(i).empty() && !measures_[i].problem().empty())
       return tr("%1%: %2%", {measureName(i), measures_[i].problem()});
-  const std::string problem = boardProblem(*chosen, layout_.settings().units);
+  const std::string problem = boardProblem(*chosen, units());
   return problem.empty() ? outlineProblem(placed(*chosen)) : problem;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "document/layout.h"
 #include "panels/baseboard_shape.h"
 #include "panels/length_entry.h"
 
@@ -13,6 +12,9 @@
 #include <vector>
 
 namespace trassix {
+
+class Layout;
+struct Shape;
 
 /// The baseboard while its dialog is open; the plan itself changes only by `apply`.
 class BoardForm {
@@ -36,6 +38,8 @@ class BoardForm {
   /// The selected shape can become a free outline. It is no shape any more then.
   bool shapeThere() const { return shape_ != nullptr; }
   void takeShape();
+
+  std::int32_t units() const; ///< in which the plan shows lengths
 
   /// Why this is no baseboard, in one sentence; empty when it is one.
   std::string problem() const;

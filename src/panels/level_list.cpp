@@ -1,5 +1,6 @@
 #include "panels/level_list.h"
 
+#include "document/layout.h"
 #include "document/limits.h"
 #include "texts/texts.h"
 
@@ -103,6 +104,18 @@ void LevelList::setOutline(std::size_t place, const std::vector<Point>& outline)
   level.outline = outline;
   if (shapeUser_ == level.id)
     shapeUser_ = -1;
+}
+
+std::int32_t LevelList::units() const {
+  return layout_.settings().units;
+}
+
+bool LevelList::baseboardThere() const {
+  return !layout_.settings().baseboard.empty();
+}
+
+bool LevelList::shapeThere() const {
+  return selectedShape(layout_) != nullptr;
 }
 
 void LevelList::outlineFromBaseboard(std::size_t place) {

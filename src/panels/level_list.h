@@ -1,6 +1,5 @@
 #pragma once
 
-#include "document/layout.h"
 #include "editing/levels/level_edits.h"
 #include "panels/length_entry.h"
 
@@ -12,6 +11,8 @@
 #include <vector>
 
 namespace trassix {
+
+class Layout;
 
 /// The levels of a plan while they are being edited; the plan itself changes only by `apply`.
 /// Levels are told by their place in the list. A level that records name but the plan lacks is
@@ -26,6 +27,8 @@ class LevelList {
 
   /// The layout must outlive the list.
   explicit LevelList(const Layout& layout);
+
+  std::int32_t units() const; ///< in which the plan shows lengths
 
   std::size_t size() const { return rows_.size(); }
   const Row& row(std::size_t place) const { return rows_.at(place); }
@@ -43,9 +46,9 @@ class LevelList {
   void setTrackColor(std::size_t place, bool own, Color color);
 
   void setOutline(std::size_t place, const std::vector<Point>& outline);
-  bool baseboardThere() const { return !layout_.settings().baseboard.empty(); }
+  bool baseboardThere() const;
   void outlineFromBaseboard(std::size_t place);
-  bool shapeThere() const { return selectedShape(layout_) != nullptr; }
+  bool shapeThere() const;
   void outlineFromShape(std::size_t place);
 
   /// Appends a level with a free id and name, higher than the highest one. Returns its place.

@@ -2,6 +2,7 @@
 
 #include "catalog/plain_track.h"
 #include "catalog/track_catalog.h"
+#include "document/layout.h"
 #include "texts/texts.h"
 
 #include <algorithm>

@@ -4,7 +4,6 @@
 
 #include "catalog/piece_def.h"
 #include "catalog/scenery_catalog.h"
-#include "document/layout.h"
 
 #include <cstdint>
 #include <optional>
@@ -13,6 +12,8 @@
 #include <vector>
 
 namespace trassix {
+
+class Layout;
 
 /// In the order in which the palette shows them.
 enum class PieceGroup : std::uint8_t {

@@ -1,5 +1,6 @@
 #include "panels/property_sheet.h"
 
+#include "document/layout.h"
 #include "panels/sheets/sheet_builder.h"
 
 namespace trassix {

@@ -2,7 +2,7 @@
 // how it is edited. What kinds of records have to show stands in sheets/.
 #pragma once
 
-#include "document/layout.h"
+#include "document/color.h"
 #include "host/questions.h"
 
 #include <cstddef>
@@ -16,6 +16,8 @@
 #include <vector>
 
 namespace trassix {
+
+class Layout;
 
 /// No colour: the piece has none of its own. Only the colour of a shape is never empty.
 using OwnColor = std::optional<Color>;

@@ -1,5 +1,6 @@
 #include "panels/shape_form.h"
 
+#include "document/layout.h"
 #include "editing/scenery/annotations.h"
 #include "geometry/polygons.h"
 #include "measures/measure_format.h"

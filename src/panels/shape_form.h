@@ -1,6 +1,7 @@
 #pragma once
 
-#include "document/layout.h"
+#include "document/plan_settings.h"
+#include "document/records.h"
 #include "panels/length_entry.h"
 
 #include <cstddef>
@@ -9,6 +10,8 @@
 #include <vector>
 
 namespace trassix {
+
+class Layout;
 
 /// A shape while its dialog is open.
 class ShapeForm {

@@ -1,4 +1,5 @@
 #include "catalog/track_catalog.h"
+#include "document/layout.h"
 #include "panels/palette_model.h"
 
 #include <gmock/gmock.h>
@@ -16,9 +17,11 @@ std::string shown(const PaletteModel& palette) {
   for (const PaletteGroup& group : palette.groups()) {
     text += text.empty() ? "" : "\n";
     text += groupName(group.group);
-    text += group.radius > 0 ? " " + std::to_string(static_cast<int>(group.radius)) + ":" : ":";
+    if (group.radius > 0)
+      text.append(" ").append(std::to_string(static_cast<int>(group.radius)));
+    text += ":";
     for (const PieceDef* piece : group.pieces)
-      text += " " + piece->article;
+      text.append(" ").append(piece->article);
   }
   return text;
 }

@@ -1,4 +1,5 @@
 #include "driver.h"
+#include "editing/canvas/carried.h"
 #include "frame_test.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/docks/dock_area.h"

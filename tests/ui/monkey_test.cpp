@@ -3,6 +3,7 @@
 #include "catalog/track_catalog.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "editing/canvas/carried.h"
 #include "frame_test.h"
 #include "support/plan.h"
 #include "ui/commands/command_table.h"

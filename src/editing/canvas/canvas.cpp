@@ -5,10 +5,12 @@
 #include "editing/canvas/carry_block_tool.h"
 #include "editing/canvas/carry_piece_tool.h"
 #include "editing/canvas/carry_scenery_tool.h"
+#include "editing/canvas/layout_painter.h"
 #include "editing/canvas/measure_tool.h"
 #include "editing/canvas/polygon_tool.h"
 #include "editing/canvas/select_tool.h"
 #include "editing/canvas/selection_commands.h"
+#include "editing/placing/placing.h"
 #include "editing/selection/content_box.h"
 #include "editing/selection/selection.h"
 #include "host/plan_preview.h"
@@ -51,7 +53,7 @@ struct CarryToolMaker {
   bool held;
   const CarryTool* before;
 
-  std::unique_ptr<CarryTool> operator()(CarriedPiece piece) const {
+  std::unique_ptr<CarryTool> operator()(const CarriedPiece& piece) const {
     const PieceDef* definition = TrackCatalog::instance().find(piece.article);
     if (definition == nullptr)
       return nullptr;
@@ -61,26 +63,48 @@ struct CarryToolMaker {
       carry->keepHeading(*before);
     return carry;
   }
-  std::unique_ptr<CarryTool> operator()(CarriedScenery item) const {
+  std::unique_ptr<CarryTool> operator()(const CarriedScenery& item) const {
     const SceneryDef* definition = findScenery(item.key);
     if (definition == nullptr)
       return nullptr;
     return std::make_unique<CarrySceneryTool>(site, *definition, held);
   }
-  std::unique_ptr<CarryTool> operator()(Block block) const {
+  std::unique_ptr<CarryTool> operator()(const Block& block) const {
     if (block.empty())
       return nullptr;
-    return std::make_unique<CarryBlockTool>(site, std::move(block), held);
+    return std::make_unique<CarryBlockTool>(site, block, held);
   }
 };
 
 } // namespace
 
-Canvas::Canvas(Workspace& workspace) : site_(workspace), base_(makeTool(ToolMode::Select, site_)) {
-  site_.carry = [this](Carried what) { carry(std::move(what), last_, false); };
+Canvas::Canvas(Workspace& workspace)
+    : site_(std::make_unique<ToolSite>(workspace)), base_(makeTool(ToolMode::Select, *site_)) {
+  site_->carry = [this](const Carried& what) { carry(what, last_, false); };
 }
 
 Canvas::~Canvas() = default;
+
+Canvas::Input::~Input() {
+  if (--canvas_.inputDepth_ == 0)
+    canvas_.retired_.clear();
+}
+
+ViewTransform& Canvas::view() {
+  return site_->view;
+}
+
+const ViewTransform& Canvas::view() const {
+  return site_->view;
+}
+
+void Canvas::resize(SizePx size) {
+  site_->size = size;
+}
+
+CanvasTool& Canvas::tool() const {
+  return carry_ ? *carry_ : *base_;
+}
 
 void Canvas::press(Button button, const PointerInput& input) {
   const Input working(*this);
@@ -101,7 +125,7 @@ void Canvas::press(Button button, const PointerInput& input) {
   button_ = button;
   dropped_ = false;
   pressed_ = input;
-  originAtPress_ = site_.view.origin();
+  originAtPress_ = site_->view.origin();
   if (button == Button::Middle || (space_ && !carry_)) {
     gesture_ = Gesture::Pan;
   } else if (input.ctrl && !carry_) {
@@ -134,12 +158,12 @@ void Canvas::move(const PointerInput& input) {
     gesture_ = Gesture::Pan;
     [[fallthrough]];
   case Gesture::Pan:
-    site_.view.panTo({originAtPress_.x + input.px.x - pressed_.px.x,
-                      originAtPress_.y + input.px.y - pressed_.px.y});
+    site_->view.panTo({originAtPress_.x + input.px.x - pressed_.px.x,
+                       originAtPress_.y + input.px.y - pressed_.px.y});
     viewChanged();
     break;
   }
-  site_.workspace.setPointer(pointer());
+  site_->workspace.setPointer(pointer());
   afterInput();
 }
 
@@ -194,7 +218,7 @@ void Canvas::wheel(const PointerInput& input, double notches) {
   if (!carry_ && !wheelTurnsSelection(input)) {
     wheelRest_ = 0;
     const double step = notches > 0 ? kWheelIn : kWheelOut;
-    site_.view.zoomAbout(whole ? step : std::pow(kWheelIn, notches), input.px);
+    site_->view.zoomAbout(whole ? step : std::pow(kWheelIn, notches), input.px);
     viewChanged();
   } else {
     // Turning back counts from the start.
@@ -207,7 +231,7 @@ void Canvas::wheel(const PointerInput& input, double notches) {
       if (carry_)
         carry_->wheel(input, direction);
       else
-        turnSelection(site_, direction * (input.shift ? kFineTurn : kTurn));
+        turnSelection(*site_, direction * (input.shift ? kFineTurn : kTurn));
     }
   }
   afterInput();
@@ -216,7 +240,7 @@ void Canvas::wheel(const PointerInput& input, double notches) {
 bool Canvas::wheelTurnsSelection(const PointerInput& input) const {
   // Not under a drag, which has taken up the selection as it was.
   return input.ctrl && (gesture_ == Gesture::None || gesture_ == Gesture::PanPending) &&
-         selectionBox(site_.layout());
+         selectionBox(site_->layout());
 }
 
 void Canvas::setSpace(bool down) {
@@ -253,13 +277,13 @@ void Canvas::retire(std::unique_ptr<CanvasTool> tool) {
 
 void Canvas::cancel() {
   if (gesture_ == Gesture::Pan) {
-    site_.view.panTo(originAtPress_);
+    site_->view.panTo(originAtPress_);
     viewChanged();
   }
   gesture_ = Gesture::None;
   tool().cancel();
   retire(std::move(carry_));
-  site_.workspace.repaint();
+  site_->workspace.repaint();
   afterInput();
 }
 
@@ -274,9 +298,20 @@ void Canvas::startCarry(std::unique_ptr<CarryTool> carry, const PointerInput& at
   afterInput();
 }
 
-void Canvas::carry(Carried what, const PointerInput& at, bool held) {
-  if (auto tool = std::visit(CarryToolMaker{site_, held, carry_.get()}, std::move(what)))
+void Canvas::carry(const Carried& what, const PointerInput& at, bool held) {
+  if (auto tool = std::visit(CarryToolMaker{*site_, held, carry_.get()}, what))
     startCarry(std::move(tool), at);
+}
+
+bool Canvas::goOnWith(const Carried& what) {
+  const auto* piece = std::get_if<CarriedPiece>(&what);
+  if (piece == nullptr || selectedPieces(site_->layout()).empty())
+    return false;
+  const EditResult result = extendSelected(site_->layout(), piece->article);
+  site_->reportExtension(result);
+  if (!result.changed() && !result.refusal)
+    site_->workspace.setHint(tr("The selected piece has no free end to go on from"));
+  return true;
 }
 
 void Canvas::pointAt(const PointerInput& input) {
@@ -287,75 +322,76 @@ void Canvas::pointAt(const PointerInput& input) {
 void Canvas::viewChanged() {
   // The plan moved below the pointer.
   if (pointed_)
-    last_.world = site_.view.toWorld(last_.px);
-  told_ = site_.view;
-  site_.workspace.setPointer(pointer());
-  site_.workspace.repaint();
+    last_.world = site_->view.toWorld(last_.px);
+  told_ = site_->view;
+  site_->workspace.setPointer(pointer());
+  site_->workspace.repaint();
 }
 
 void Canvas::followView() {
-  if (told_ != site_.view)
+  if (told_ != site_->view)
     viewChanged();
 }
 
 void Canvas::renewHint() {
   followView();
-  site_.workspace.setHint(hint());
+  site_->workspace.setHint(hint());
 }
 
 void Canvas::afterInput() {
   if (carry_ && carry_->finished()) {
     retire(std::move(carry_));
-    site_.workspace.repaint();
+    site_->workspace.repaint();
   }
   renewHint();
 }
 
 void Canvas::modeChanged() {
-  const ToolMode mode = site_.workspace.switches().mode;
+  const ToolMode mode = site_->workspace.switches().mode;
   if (mode == mode_)
     return;
   cancel();
   mode_ = mode;
   retire(std::move(base_));
-  base_ = makeTool(mode, site_);
+  base_ = makeTool(mode, *site_);
   afterInput();
-  site_.workspace.repaint();
+  site_->workspace.repaint();
 }
 
 void Canvas::documentReplaced() {
   cancel();
   retire(std::move(base_));
-  base_ = makeTool(mode_, site_);
+  base_ = makeTool(mode_, *site_);
 }
 
 Point Canvas::centre() const {
-  return site_.view.toWorld({site_.size.width / 2, site_.size.height / 2});
+  return site_->view.toWorld({site_->size.width / 2, site_->size.height / 2});
 }
 
 void Canvas::zoomAboutCentre(double factor) {
   const auto half = [](double length) { return std::floor(length / 2); };
-  site_.view.zoomAbout(factor, {half(site_.size.width), half(site_.size.height)});
+  site_->view.zoomAbout(factor, {half(site_->size.width), half(site_->size.height)});
   viewChanged();
 }
 
 void Canvas::fit() {
-  site_.view.fit(contentBox(site_.layout()).value_or(Box{}), site_.size.width, site_.size.height);
+  site_->view.fit(contentBox(site_->layout()).value_or(Box{}), site_->size.width,
+                  site_->size.height);
   viewChanged();
 }
 
 void Canvas::resetView() {
-  site_.view.reset();
+  site_->view.reset();
   viewChanged();
 }
 
 void Canvas::resetViewForSmall() {
-  site_.resetViewForSmall();
+  site_->resetViewForSmall();
   viewChanged();
 }
 
 PaintOptions Canvas::paintOptions() const {
-  const EditorSwitches& switches = site_.workspace.switches();
+  const EditorSwitches& switches = site_->workspace.switches();
   PaintOptions options;
   options.grid = switches.grid;
   options.labels = switches.labels;
@@ -365,26 +401,26 @@ PaintOptions Canvas::paintOptions() const {
 }
 
 void Canvas::paintPlan(Surface& surface) {
-  LayoutPainter(surface, site_.size, site_.view, paintOptions())
-      .paint(site_.layout(), site_.planIndex());
+  LayoutPainter(surface, site_->size, site_->view, paintOptions())
+      .paint(site_->layout(), site_->planIndex());
 }
 
 void Canvas::paintOverlay(Surface& surface) {
-  if (const PlanPreview* preview = site_.workspace.preview())
-    CarriedPainter(surface, site_.view, site_.layout(), true).paint(preview->records());
+  if (const PlanPreview* preview = site_->workspace.preview())
+    CarriedPainter(surface, site_->view, site_->layout(), true).paint(preview->records());
   tool().paint(surface);
 }
 
 std::uint64_t Canvas::planStamp() {
   std::uint64_t stamp = 1469598103934665603u; // FNV-1a over everything paintPlan depends on
   const auto mix = [&stamp](std::uint64_t value) { stamp = (stamp ^ value) * 1099511628211u; };
-  const EditorSwitches& switches = site_.workspace.switches();
-  mix(site_.layout().revision());
-  mix(std::bit_cast<std::uint64_t>(site_.view.zoom()));
-  mix(std::bit_cast<std::uint64_t>(site_.view.origin().x));
-  mix(std::bit_cast<std::uint64_t>(site_.view.origin().y));
-  mix(std::bit_cast<std::uint64_t>(site_.size.width));
-  mix(std::bit_cast<std::uint64_t>(site_.size.height));
+  const EditorSwitches& switches = site_->workspace.switches();
+  mix(site_->layout().revision());
+  mix(std::bit_cast<std::uint64_t>(site_->view.zoom()));
+  mix(std::bit_cast<std::uint64_t>(site_->view.origin().x));
+  mix(std::bit_cast<std::uint64_t>(site_->view.origin().y));
+  mix(std::bit_cast<std::uint64_t>(site_->size.width));
+  mix(std::bit_cast<std::uint64_t>(site_->size.height));
   mix((switches.grid ? 1u : 0u) | (switches.labels ? 2u : 0u) | (switches.rails ? 4u : 0u));
   for (const std::int32_t id : tool().lifted())
     mix(static_cast<std::uint64_t>(id));

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "document/block_file.h"
-#include "editing/canvas/canvas_tool.h"
-#include "editing/canvas/carry_tool.h"
-#include "editing/canvas/layout_painter.h"
+#include "editing/canvas/canvas_input.h"
+#include "editing/canvas/surface.h"
+#include "editing/canvas/view_transform.h"
+#include "host/editor_switches.h"
 
 #include <cstdint>
 #include <memory>
@@ -12,6 +12,13 @@
 #include <vector>
 
 namespace trassix {
+
+class CanvasTool;
+class CarryTool;
+class ToolSite;
+class Workspace;
+struct Carried;
+struct PaintOptions;
 
 /// The plan as the user handles it, without a window: the view, panning, zooming, and one active
 /// tool to which everything else goes. The window feeds it plain input and paints what it draws.
@@ -22,9 +29,9 @@ class Canvas {
 
   enum class Button : std::uint8_t { Left, Middle, Right };
 
-  ViewTransform& view() { return site_.view; }
-  const ViewTransform& view() const { return site_.view; }
-  void resize(SizePx size) { site_.size = size; }
+  ViewTransform& view();
+  const ViewTransform& view() const;
+  void resize(SizePx size);
   /// The middle of what is in view, mm.
   Point centre() const;
 
@@ -49,7 +56,9 @@ class Canvas {
 
   /// Hangs something on the pointer; ends another carry first. `held`: the mouse button is down and
   /// letting go drops it. What the catalogues do not know and empty blocks are not carried.
-  void carry(Carried what, const PointerInput& at, bool held);
+  void carry(const Carried& what, const PointerInput& at, bool held);
+  /// Goes on from the selected track with a piece; false when it is none or no track is selected.
+  bool goOnWith(const Carried& what);
   bool carrying() const { return carry_ != nullptr; }
 
   /// Takes up the tool of the window's current mode.
@@ -71,11 +80,10 @@ class Canvas {
   /// Tells the window the hint again, after something outside changed what the mouse would do.
   void renewHint();
   CursorShape cursor() const;
-  ToolSite& site() { return site_; }
+  ToolSite& site() { return *site_; }
 
  private:
-  CanvasTool& tool() { return carry_ ? *carry_ : *base_; }
-  const CanvasTool& tool() const { return carry_ ? *carry_ : *base_; }
+  CanvasTool& tool() const;
   void startCarry(std::unique_ptr<CarryTool> carry, const PointerInput& at);
   bool wheelTurnsSelection(const PointerInput& input) const;
   void afterInput();
@@ -89,10 +97,7 @@ class Canvas {
   class Input {
    public:
     explicit Input(Canvas& canvas) : canvas_(canvas) { ++canvas_.inputDepth_; }
-    ~Input() {
-      if (--canvas_.inputDepth_ == 0)
-        canvas_.retired_.clear();
-    }
+    ~Input();
     Input(const Input&) = delete;
     Input& operator=(const Input&) = delete;
 
@@ -104,7 +109,7 @@ class Canvas {
 
   enum class Gesture : std::uint8_t { None, Pending, Drag, PanPending, Pan };
 
-  ToolSite site_;
+  std::unique_ptr<ToolSite> site_;
   ViewTransform told_; ///< the view for which the window knows the pointer's place
   std::unique_ptr<CanvasTool> base_;
   std::unique_ptr<CarryTool> carry_;

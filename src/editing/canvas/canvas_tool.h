@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/records.h"
+#include "editing/canvas/canvas_input.h"
 #include "editing/canvas/carried.h"
 #include "editing/canvas/plan_clipboard.h"
 #include "editing/canvas/surface.h"
@@ -19,38 +20,6 @@
 
 namespace trassix {
 
-/// One mouse event, free of the toolkit.
-struct PointerInput {
-  Point px;
-  Point world;
-  bool ctrl = false;
-  bool shift = false;
-  bool alt = false;
-};
-
-enum class Key : std::uint8_t {
-  Other,
-  Escape,
-  Enter,
-  Backspace,
-  Left,
-  Right,
-  Up,
-  Down,
-  R,
-  Copy,
-  Cut,
-  Paste,
-  Duplicate,
-};
-
-struct KeyInput {
-  Key key = Key::Other;
-  bool shift = false;
-};
-
-enum class CursorShape : std::uint8_t { Arrow, Cross, Hand, Move, Rotate };
-
 /// What a tool works on: the open plan, the view, and the indices derived from the plan.
 class ToolSite {
  public:
@@ -59,8 +28,8 @@ class ToolSite {
   Workspace& workspace;
   ViewTransform view;
   PlanClipboard clipboard;
-  std::function<void(Carried)> carry; ///< hangs something on the pointer
-  SizePx size;                        ///< of the canvas, px
+  std::function<void(const Carried&)> carry; ///< hangs something on the pointer
+  SizePx size;                               ///< of the canvas, px
 
   Layout& layout() const { return workspace.layout(); }
   Questions& questions() const { return workspace.questions(); }

@@ -16,6 +16,8 @@ struct CarriedScenery {
 };
 
 /// What can hang on the pointer on its way to the plan. A block's origin hangs on it.
-using Carried = std::variant<CarriedPiece, CarriedScenery, Block>;
+struct Carried : std::variant<CarriedPiece, CarriedScenery, Block> {
+  using variant::variant;
+};
 
 } // namespace trassix

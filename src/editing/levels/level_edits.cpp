@@ -1,5 +1,6 @@
 #include "editing/levels/level_edits.h"
 
+#include "document/layout.h"
 #include "document/limits.h"
 #include "document/undo_scope.h"
 #include "editing/joining/joining.h"

@@ -3,7 +3,7 @@
 // changed when all is as it was.
 #pragma once
 
-#include "document/layout.h"
+#include "document/plan_settings.h"
 #include "editing/edit_result.h"
 
 #include <cstddef>
@@ -14,6 +14,9 @@
 #include <vector>
 
 namespace trassix {
+
+class Layout;
+struct Shape;
 
 /// Number of pieces, scenery items and shapes on a level.
 std::size_t countOnLevel(const Layout& layout, std::int32_t level);

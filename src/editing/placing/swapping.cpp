@@ -143,7 +143,8 @@ PlacedPiece exchanged(const PlacedPiece& before, const SwapFit& fit) {
   changed.x = fit.pose.x;
   changed.y = fit.pose.y;
   changed.heading = fit.pose.heading;
-  changed.joints.assign(fit.definition->connectors.size(), Joint{});
+  changed.joints = {};
+  changed.joints.resize(fit.definition->connectors.size());
   keepHeights(changed, before, fit);
   return changed;
 }

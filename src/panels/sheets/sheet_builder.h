@@ -2,6 +2,7 @@
 // together with its edit.
 #pragma once
 
+#include "document/layout.h"
 #include "editing/records_by_id.h"
 #include "editing/selection/property_edits.h"
 #include "measures/measure_input.h"

@@ -1,9 +1,6 @@
 #include "ui/canvas/canvas_panel.h"
 
-#include "editing/placing/placing.h"
-#include "editing/selection/selection.h"
 #include "host/command_ids.h"
-#include "texts/texts.h"
 #include "ui/canvas/gc_surface.h"
 
 #include <wx/dcbuffer.h>
@@ -163,25 +160,19 @@ PointerInput CanvasPanel::inputAtPointer() const {
   return inputAt(onCanvas(ScreenToClient(wxGetMousePosition())));
 }
 
-void CanvasPanel::drag(Carried what) {
-  canvas_.carry(std::move(what), inputAtPointer(), true);
+void CanvasPanel::drag(const Carried& what) {
+  canvas_.carry(what, inputAtPointer(), true);
   tookUp();
 }
 
-void CanvasPanel::pickUp(Carried what) {
-  canvas_.carry(std::move(what), inputAt(kPickUpPoint), false);
+void CanvasPanel::pickUp(const Carried& what) {
+  canvas_.carry(what, inputAt(kPickUpPoint), false);
   tookUp();
 }
 
-void CanvasPanel::use(Carried what) {
-  ToolSite& site = canvas_.site();
-  const auto* piece = std::get_if<CarriedPiece>(&what);
-  if (piece == nullptr || selectedPieces(site.layout()).empty())
-    return pickUp(std::move(what));
-  const EditResult result = extendSelected(site.layout(), piece->article);
-  site.reportExtension(result);
-  if (!result.changed() && !result.refusal)
-    site.workspace.setHint(tr("The selected piece has no free end to go on from"));
+void CanvasPanel::use(const Carried& what) {
+  if (!canvas_.goOnWith(what))
+    pickUp(what);
 }
 
 wxPoint CanvasPanel::onScreen(Point world) const {

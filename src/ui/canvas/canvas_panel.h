@@ -21,11 +21,11 @@ class CanvasPanel : public wxPanel, private PlanObserver {
   void update();
 
   /// Takes something from another window whose mouse button is down.
-  void drag(Carried what);
+  void drag(const Carried& what);
   /// Hangs something on the pointer, to be dropped by a click.
-  void pickUp(Carried what);
+  void pickUp(const Carried& what);
   /// The same, but goes on from what is selected with a piece, if there is track.
-  void use(Carried what);
+  void use(const Carried& what);
 
   /// Where a point of the plan (mm) is shown.
   wxPoint onScreen(Point world) const;

@@ -24,8 +24,7 @@ void toggleMode(Desk& desk) {
   Workspace& workspace = desk.workspace;
   if (isMode<mode>(workspace))
     return workspace.setToolMode(ToolMode::Select);
-  workspace.layout().clearSelection();
-  workspace.selectionChanged();
+  workspace.selectNothing();
   workspace.setToolMode(mode);
 }
 

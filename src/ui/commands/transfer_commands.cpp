@@ -4,6 +4,7 @@
 #include "app/services/text_file.h"
 #include "catalog/track_system.h"
 #include "document/block_file.h"
+#include "document/open_plan.h"
 #include "editing/selection/selection.h"
 #include "host/command_ids.h"
 #include "host/workspace.h"

@@ -45,7 +45,7 @@ BaseboardShapeDialog::BaseboardShapeDialog(wxWindow* parent, trassix::Layout& la
   entries->Add(measures_);
   entries->Add(free_);
   entries->SetMinSize(FromDIP(wxSize(290, -1)));
-  preview_ = new BoardPreview(this, FromDIP(wxSize(380, 280)), form_, layout_);
+  preview_ = new BoardPreview(this, FromDIP(wxSize(380, 280)), form_);
   auto* columns = new wxBoxSizer(wxHORIZONTAL);
   columns->Add(entries);
   columns->Add(preview_, wxSizerFlags(1).Expand().Border(wxLEFT, gap));

@@ -76,13 +76,12 @@ void paintDimension(Surface& surface, const BoardDimension& dimension, const Sca
 
 } // namespace
 
-BoardPreview::BoardPreview(wxWindow* parent, const wxSize& size, const BoardForm& form,
-                           const trassix::Layout& layout)
+BoardPreview::BoardPreview(wxWindow* parent, const wxSize& size, const BoardForm& form)
     : PicturePanel(parent, size,
                    [this](wxGraphicsContext& context, const wxSize& painted, bool) {
                      paint(context, painted);
                    }),
-      form_(form), layout_(layout) {
+      form_(form) {
   SetName("boardPreview");
   update();
 }
@@ -94,7 +93,7 @@ void BoardPreview::update() {
     dimensions_.clear();
     if (const std::optional<LastShape> shape = form_.shape()) {
       outline_ = boardOutline(*shape); // the dimensions have their corner at the origin
-      dimensions_ = boardDimensions(*shape, layout_.settings().units);
+      dimensions_ = boardDimensions(*shape, form_.units());
     }
   }
   Refresh();

@@ -9,9 +9,8 @@ namespace trassix {
 /// possible board, faded, while there is a problem.
 class BoardPreview : public PicturePanel {
  public:
-  /// The form and the layout must outlive the preview.
-  BoardPreview(wxWindow* parent, const wxSize& size, const BoardForm& form,
-               const trassix::Layout& layout);
+  /// The form must outlive the preview.
+  BoardPreview(wxWindow* parent, const wxSize& size, const BoardForm& form);
 
   /// To be called after each change of the form.
   void update();
@@ -20,7 +19,6 @@ class BoardPreview : public PicturePanel {
   void paint(wxGraphicsContext& context, const wxSize& size) const;
 
   const BoardForm& form_;
-  const trassix::Layout& layout_;
   std::vector<Point> outline_;
   std::vector<BoardDimension> dimensions_;
   bool faded_ = false;

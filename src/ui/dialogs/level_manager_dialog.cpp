@@ -217,7 +217,7 @@ void LevelManagerDialog::showRow(std::size_t place) {
       list_->SetItem(item, column, text);
   };
   set(kName, fromUtf8(row.name));
-  set(kHeight, fromUtf8(formatLength(row.height.mm(), layout_.settings().units)));
+  set(kHeight, fromUtf8(formatLength(row.height.mm(), levels_.units())));
   set(kState, place == levels_.active() ? _("active")
               : row.level.visible       ? wxString()
                                         : _("hidden"));

@@ -1,5 +1,6 @@
 #include "ui/palette/palette_drawings.h"
 
+#include "document/block_file.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/scenery/scenery_footprint.h"

@@ -3,10 +3,11 @@
 
 #include "catalog/piece_def.h"
 #include "catalog/scenery_catalog.h"
-#include "document/block_file.h"
 #include "ui/palette/catalog_list.h"
 
 namespace trassix {
+
+struct Block;
 
 /// Width of track pieces, in mm, that the drawings of a system are to hold: longer pieces are drawn
 /// to a smaller scale instead of making all others tiny.

@@ -2,7 +2,9 @@
 
 #include "app/desktop/path_text.h"
 #include "app/desktop/user_paths.h"
+#include "editing/canvas/carried.h"
 #include "measures/measure_format.h"
+#include "panels/block_library.h"
 #include "panels/piece_names.h"
 #include "ui/palette/catalog_list.h"
 #include "ui/palette/palette_drawings.h"
@@ -50,6 +52,8 @@ PalettePanel::PalettePanel(wxWindow* parent, Workspace& workspace, Actions actio
       PlanObserver(workspace), workspace_(workspace), actions_(std::move(actions)) {
   Bind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
 }
+
+PalettePanel::~PalettePanel() = default;
 
 void PalettePanel::onFirstPaint(wxPaintEvent& event) {
   event.Skip();

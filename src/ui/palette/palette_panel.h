@@ -1,9 +1,6 @@
 #pragma once
 
-#include "document/block_file.h"
-#include "editing/canvas/carried.h"
 #include "host/workspace.h"
-#include "panels/block_library.h"
 #include "panels/palette_model.h"
 
 #include <wx/panel.h>
@@ -22,6 +19,8 @@ class wxToggleButton;
 namespace trassix {
 
 class CatalogList;
+struct Carried;
+struct LibraryEntry;
 
 /// What can be put on the plan: the track and scenery of one system and the user's own blocks.
 class PalettePanel : public wxPanel, private PlanObserver {
@@ -38,6 +37,8 @@ class PalettePanel : public wxPanel, private PlanObserver {
   /// Takes the systems up and shows the first one.
   void populate();
   void reloadLibrary();
+
+  ~PalettePanel() override;
 
   TrackSystem system() const { return model_.system(); }
   /// Where blocks of the shown system are kept; not made here.

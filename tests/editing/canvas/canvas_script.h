@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editing/canvas/canvas.h"
+#include "editing/canvas/carried.h"
 #include "editing/canvas/fake_host.h"
 
 #include <gtest/gtest.h>
