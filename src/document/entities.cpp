@@ -20,15 +20,10 @@ void decode(std::string& text) {
 }
 
 void decodeAll(PlanContent& content) {
-  const auto all = [](auto& records, auto text) {
+  forEachKind(content, [](auto& records) {
     for (auto& record : records)
-      decode(record.*text);
-  };
-  all(content.pieces, &PlacedPiece::cat);
-  all(content.scenery, &SceneryItem::item);
-  all(content.labels, &Label::text);
-  all(content.shapes, &Shape::label);
-  all(content.helices, &Helix::variant);
+      forEachText(record, decode);
+  });
 }
 
 } // namespace

@@ -103,13 +103,10 @@ std::int32_t Layout::freeLevelId() const {
   for (const Level& level : settings_.levels)
     used.insert(level.id);
   const auto collect = [&used](const PlanContent& content) {
-    const auto from = [&used](const auto& records) {
+    forEachOnLevels(content, [&used](const auto& records) {
       for (const auto& record : records)
         used.insert(record.level);
-    };
-    from(content.pieces);
-    from(content.scenery);
-    from(content.shapes);
+    });
   };
   collect(content_);
   history_.visit(collect);

@@ -37,4 +37,17 @@ struct PlanContent {
   std::int32_t partnerOf(std::int32_t piece) const;
 };
 
+/// The list of kinds: calls `visit` with the collection of each, from the bottom of the picture to
+/// its top.
+template <class Content, class Visit>
+void forEachKind(Content& content, Visit visit) {
+  visit(content.shapes);
+  visit(content.helices);
+  visit(content.tunnels);
+  visit(content.scenery);
+  visit(content.pieces);
+  visit(content.measurements);
+  visit(content.labels);
+}
+
 } // namespace trassix

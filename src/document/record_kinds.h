@@ -1,5 +1,5 @@
-// The kinds of records that a plan has, in one list, and what they have in common. Whoever treats
-// all records alike walks the list, and asks of a kind what it has, not which one it is.
+// What the kinds of records have in common. Whoever treats all records alike walks the list of
+// kinds, and asks of a kind what it has, not which one it is.
 #pragma once
 
 #include "document/plan_content.h"
@@ -9,18 +9,6 @@
 #include <type_traits>
 
 namespace trassix {
-
-/// Calls `visit` with the collection of each kind, from the bottom of the picture to its top.
-template <class Content, class Visit>
-void forEachKind(Content& content, Visit visit) {
-  visit(content.shapes);
-  visit(content.helices);
-  visit(content.tunnels);
-  visit(content.scenery);
-  visit(content.pieces);
-  visit(content.measurements);
-  visit(content.labels);
-}
 
 /// The collection of this type.
 template <class Records, class Content>
@@ -54,6 +42,11 @@ template <class Record>
 concept Posed = requires(Record& record) {
   record.x = record.y = record.heading;
 };
+
+/// Lies on the plan without a heading of its own; others are bodies that turn with the track.
+template <class Record>
+constexpr bool kIsNote =
+    Record::kKind == RecordKind::Label || Record::kKind == RecordKind::Measurement;
 
 /// Whether two records are the same but for being selected.
 template <class Record>
@@ -108,6 +101,21 @@ void forEachPosition(const Record& record, Visit visit) {
     visit(Point{record.cx, record.cy});
   else if constexpr (requires { record.x; })
     visit(Point{record.x, record.y});
+}
+
+/// Every text of the record that a file holds escaped.
+template <class Record, class Visit>
+void forEachText(Record& record, Visit visit) {
+  if constexpr (requires { record.cat; })
+    visit(record.cat);
+  if constexpr (requires { record.item; })
+    visit(record.item);
+  if constexpr (requires { record.text; })
+    visit(record.text);
+  if constexpr (requires { record.label; })
+    visit(record.label);
+  if constexpr (requires { record.variant; })
+    visit(record.variant);
 }
 
 /// Moves the record by a motion of points and poses, such as a `RigidMotion`.

@@ -29,14 +29,11 @@ std::string numbered(std::int32_t number) {
 /// Levels that records stand on but the plan lacks.
 std::set<std::int32_t> lostLevels(const Layout& layout) {
   std::set<std::int32_t> lost;
-  const auto collect = [&](const auto& records) {
+  forEachOnLevels(layout.content(), [&](const auto& records) {
     for (const auto& record : records)
       if (layout.findLevel(record.level) == nullptr)
         lost.insert(record.level);
-  };
-  collect(layout.content().pieces);
-  collect(layout.content().scenery);
-  collect(layout.content().shapes);
+  });
   return lost;
 }
 

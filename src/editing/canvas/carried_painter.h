@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/layout.h"
-#include "editing/canvas/piece_painter.h"
+#include "editing/canvas/record_pictures.h"
+#include "geometry/pose.h"
 
 namespace trassix {
 
@@ -14,24 +14,14 @@ class CarriedPainter {
 
   /// The records where the motion brings them.
   void paint(const PlanContent& records, const RigidMotion& motion = {});
+  /// What is selected on the plan, likewise.
+  void paintSelection(const RigidMotion& motion);
 
  private:
-  // One for each kind of record.
-  void draw(const Shape& shape) { outline(shape.points); }
-  void draw(const Helix& helix);
-  void draw(const Tunnel&) {} // shows by its track
-  void draw(const SceneryItem& item);
-  void draw(const PlacedPiece& piece);
-  void draw(const Measurement& tape);
-  void draw(const Label& label);
-  void outline(const std::vector<Point>& points);
+  void paintOne(auto record, const RigidMotion& motion);
 
-  Surface& surface_;
-  const ViewTransform& view_;
-  const Layout& layout_;
-  PiecePainter pieces_;
-  PieceLook look_;
-  Stroke stroke_;
+  PictureSite site_;
+  CarriedLook look_;
 };
 
 } // namespace trassix

@@ -1,15 +1,14 @@
 #include "editing/canvas/layout_painter.h"
 
-#include "catalog/helix_kits.h"
 #include "catalog/scenery_catalog.h"
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/canvas/record_pictures.h"
 #include "editing/scenery/scenery_footprint.h"
-#include "editing/selection/picking.h"
+#include "editing/selection/selection.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/track_geometry.h"
-#include "measures/measure_format.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,29 +25,9 @@ constexpr double kGridFromPx = 9; ///< lines of the grid are at least this far a
 constexpr double kArticleFromZoom = 0.22;
 
 constexpr double kStrokeReachPx = 4; ///< of the widest edge and its joins
-constexpr double kTapeReachPx = 60;  ///< of a tape's length, written beside it
-
-TextStyle nameStyle(const ViewTransform& view) {
-  return {colors::kLabel, labelTextSize(1 / view.zoom()) - 1, false};
-}
-
-/// More than half of what the text takes, without measuring it.
-double longest(std::string_view text, double size) {
-  return static_cast<double>(text.size()) * size + 20;
-}
-
 /// Where the article is tried beside the middle of a piece: side of the track, and px farther out.
 constexpr std::array<std::pair<double, double>, 6> kArticlePlaces{
     {{-1, 0}, {1, 0}, {-1, 5}, {1, 5}, {-1, 11}, {1, 11}}};
-
-double uprightAngle(double heading) {
-  double degrees = std::remainder(heading, 360.0);
-  if (degrees > 90)
-    degrees -= 180;
-  else if (degrees <= -90)
-    degrees += 180;
-  return degrees;
-}
 
 Rgba bedColor(const Layout& layout, const PlacedPiece& piece, const PieceDef& definition) {
   if (piece.hasColor)
@@ -87,16 +66,18 @@ void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
   paintBoard(layout);
   if (options_.grid)
     paintGrid(layout.settings().units);
-  forEachKind(layout.content(), [&](const auto& records) { paintKind(layout, index, records); });
+  const PictureSite site{surface_, size_, view_, layout};
+  forEachKind(layout.content(), [&](const auto& records) {
+    constexpr RecordKind kind = std::remove_cvref_t<decltype(records)>::value_type::kKind;
+    if constexpr (kind == RecordKind::Piece)
+      paintTrackAndScenery(layout, index);
+    else if constexpr (kind != RecordKind::Scenery)
+      for (const auto& record : records)
+        if (isVisible(layout, record))
+          paintRecord(site, record);
+  });
   if (options_.scaleBar)
     paintScaleBar(layout.settings().units);
-}
-
-bool LayoutPainter::isBeside(std::span<const Point> px, double reach) const {
-  const auto all = [px](auto outside) { return std::all_of(px.begin(), px.end(), outside); };
-  return all([&](Point p) { return p.x < -reach; }) || all([&](Point p) { return p.y < -reach; }) ||
-         all([&](Point p) { return p.x > size_.width + reach; }) ||
-         all([&](Point p) { return p.y > size_.height + reach; });
 }
 
 void LayoutPainter::paintBoard(const Layout& layout) {
@@ -154,28 +135,6 @@ void LayoutPainter::paintScaleBar(std::int32_t units) {
   surface_.text(bar.text, {left + width / 2, base - 11}, 0, {colors::kRuler, 11, false});
 }
 
-void LayoutPainter::paintKind(const Layout& layout, const PlanIndex&,
-                              const std::vector<Shape>& shapes) {
-  for (const Shape& shape : shapes) {
-    if (shape.points.size() < 2 || !layout.levelVisible(shape.level))
-      continue;
-    const std::vector<Point> px = view_.toScreen(shape.points);
-    if (isBeside(px, longest(shape.label, nameStyle(view_).size)))
-      continue;
-    const Rgba fill = opaque(shape.color, shape.a);
-    const Stroke edge =
-        shape.sel ? Stroke{colors::kSelected, 2.5} : Stroke{opaque(shape.color), 1.5};
-    surface_.polygon(px, shape.outline ? std::nullopt : std::optional(fill), edge);
-    if (shape.label.empty())
-      continue;
-    Point middle;
-    for (const Point& p : px)
-      middle = {middle.x + p.x / static_cast<double>(px.size()),
-                middle.y + p.y / static_cast<double>(px.size())};
-    surface_.text(shape.label, middle, 0, nameStyle(view_));
-  }
-}
-
 std::vector<const SceneryItem*> LayoutPainter::visibleScenery(const Layout& layout) const {
   std::vector<const SceneryItem*> shown;
   for (const SceneryItem& item : layout.content().scenery)
@@ -189,7 +148,7 @@ std::vector<const SceneryItem*> LayoutPainter::visibleScenery(const Layout& layo
 
 void LayoutPainter::paintSceneryItem(const Layout& layout, const SceneryItem& item) {
   const std::vector<Point> px = view_.toScreen(sceneryOutline(layout, item));
-  if (isBeside(px, kStrokeReachPx))
+  if (PictureSite{surface_, size_, view_, layout}.isBeside(px, kStrokeReachPx))
     return;
   Rgba color = colors::sceneryColor(findScenery(item.item));
   if (isOtherLevel(layout, item.level))
@@ -197,19 +156,6 @@ void LayoutPainter::paintSceneryItem(const Layout& layout, const SceneryItem& it
   Rgba fill = color;
   fill.a = 84;
   surface_.polygon(px, fill, item.sel ? Stroke{colors::kSelected, 2.5} : Stroke{color, 1.2});
-}
-
-void LayoutPainter::paintKind(const Layout&, const PlanIndex&, const std::vector<Helix>& helices) {
-  for (const Helix& helix : helices) {
-    const Point centre = view_.toScreen({helix.cx, helix.cy});
-    const double radius = helixHalfSize(helix.variant) * view_.zoom();
-    if (isBeside({&centre, 1}, radius + kStrokeReachPx))
-      continue;
-    surface_.circle(centre, radius, Rgba{112, 104, 96, 30},
-                    Stroke{colors::kTunnel, 1.5, Stroke::Style::Dashed});
-    if (const HelixKit* kit = findHelixKit(helix.variant))
-      surface_.text(kit->name, centre, 0, nameStyle(view_));
-  }
 }
 
 std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& layout,
@@ -243,8 +189,7 @@ std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& la
   return shown;
 }
 
-void LayoutPainter::paintKind(const Layout& layout, const PlanIndex& index,
-                              const std::vector<PlacedPiece>&) {
+void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& index) {
   const std::vector<Visible> track = visibleTrack(layout, index);
   const std::vector<const SceneryItem*> scenery = visibleScenery(layout);
   std::size_t items = 0;
@@ -342,55 +287,6 @@ void LayoutPainter::paintArticles(std::span<const Visible> pieces) {
       break;
     }
   }
-}
-
-void LayoutPainter::paintKind(const Layout& layout, const PlanIndex&,
-                              const std::vector<Measurement>& tapes) {
-  for (const Measurement& tape : tapes) {
-    const std::array<Point, 2> ends{view_.toScreen(tape.from), view_.toScreen(tape.to)};
-    if (!isBeside(ends, kTapeReachPx))
-      paintTape(surface_, view_, tape.from, tape.to, layout.settings().units, tape.sel);
-  }
-}
-
-void LayoutPainter::paintKind(const Layout&, const PlanIndex&, const std::vector<Label>& labels) {
-  for (const Label& label : labels) {
-    const Point at = view_.toScreen({label.x, label.y});
-    const TextStyle style{colors::kLabel, labelTextSize(1 / view_.zoom()), true};
-    if (isBeside({&at, 1}, longest(label.text, style.size)))
-      continue;
-    const SizePx box = surface_.textSize(label.text, style);
-    const double w = box.width / 2 + 5;
-    const double h = box.height / 2 + 2;
-    const std::array<Point, 4> frame{
-        {{at.x - w, at.y - h}, {at.x + w, at.y - h}, {at.x + w, at.y + h}, {at.x - w, at.y + h}}};
-    surface_.polygon(frame, Rgba{255, 255, 255, 215},
-                     label.sel ? Stroke{colors::kSelected, 2} : Stroke{colors::kBedEdge, 1});
-    surface_.text(label.text, at, 0, style);
-  }
-}
-
-void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to,
-               std::int32_t units, bool selected) {
-  const Point a = view.toScreen(from);
-  const Point b = view.toScreen(to);
-  const Rgba color = selected ? colors::kSelected : colors::kMeasure;
-  const double length = std::hypot(b.x - a.x, b.y - a.y);
-  const Point along = length > 0 ? Point{(b.x - a.x) / length, (b.y - a.y) / length} : Point{1, 0};
-  const Point tick{-along.y * 6, along.x * 6};
-  const std::array<Point, 6> lines{{a,
-                                    b,
-                                    {a.x - tick.x, a.y - tick.y},
-                                    {a.x + tick.x, a.y + tick.y},
-                                    {b.x - tick.x, b.y - tick.y},
-                                    {b.x + tick.x, b.y + tick.y}}};
-  surface.segments(lines, {color, 1.5});
-  const std::string text = formatLength(std::hypot(to.x - from.x, to.y - from.y), units);
-  const TextStyle style{color, 12, true};
-  const double angle = uprightAngle(std::atan2(along.y, along.x) * 180 / kPi);
-  const double up = toRadians(angle - 90);
-  surface.text(text, {(a.x + b.x) / 2 + std::cos(up) * 10, (a.y + b.y) / 2 + std::sin(up) * 10},
-               angle, style);
 }
 
 } // namespace trassix

@@ -37,33 +37,19 @@ class LayoutPainter {
   void paintGrid(std::int32_t units);
   void paintScaleBar(std::int32_t units);
   void paintBoard(const Layout& layout);
-  // One for each kind of record.
-  void paintKind(const Layout& layout, const PlanIndex&, const std::vector<Shape>& shapes);
-  void paintKind(const Layout&, const PlanIndex&, const std::vector<Helix>& helices);
-  void paintKind(const Layout&, const PlanIndex&, const std::vector<Tunnel>&) {} // by its track
-  void paintKind(const Layout&, const PlanIndex&, const std::vector<SceneryItem>&) {} // with track
-  /// Track and scenery, level by level.
-  void paintKind(const Layout& layout, const PlanIndex& index, const std::vector<PlacedPiece>&);
-  void paintKind(const Layout& layout, const PlanIndex&, const std::vector<Measurement>& tapes);
-  void paintKind(const Layout&, const PlanIndex&, const std::vector<Label>& labels);
-
+  /// Level by level, for what is higher hides what is below.
+  void paintTrackAndScenery(const Layout& layout, const PlanIndex& index);
   std::vector<Visible> visibleTrack(const Layout& layout, const PlanIndex& index);
   void paintUnknown(const PlacedPiece& piece);
   std::vector<const SceneryItem*> visibleScenery(const Layout& layout) const;
   void paintSceneryItem(const Layout& layout, const SceneryItem& item);
   void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);
   void paintArticles(std::span<const Visible> pieces);
-  /// True when nothing within `reach` px of the points' box is on the surface.
-  bool isBeside(std::span<const Point> px, double reach) const;
 
   Surface& surface_;
   SizePx size_;
   const ViewTransform& view_;
   PaintOptions options_;
 };
-
-/// Draws a tape between two points with its length.
-void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to,
-               std::int32_t units, bool selected);
 
 } // namespace trassix

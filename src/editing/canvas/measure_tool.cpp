@@ -1,7 +1,7 @@
 #include "editing/canvas/measure_tool.h"
 
-#include "editing/canvas/layout_painter.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/canvas/record_pictures.h"
 #include "editing/scenery/annotations.h"
 #include "texts/texts.h"
 

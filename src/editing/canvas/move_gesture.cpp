@@ -1,10 +1,8 @@
 #include "catalog/track_catalog.h"
+#include "editing/canvas/carried_painter.h"
 #include "editing/canvas/gesture.h"
-#include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/selection_commands.h"
-#include "editing/scenery/scenery_footprint.h"
-#include "editing/selection/picking.h"
 #include "editing/selection/selection.h"
 #include "texts/texts.h"
 
@@ -75,33 +73,8 @@ void MoveGesture::drop() {
 
 void MoveGesture::paint(Surface& surface) const {
   const Layout& layout = site_.layout();
-  PiecePainter painter(surface, site_.view);
-  const PieceLook look = carriedLook(move_.snap().has_value());
-  for (const std::int32_t id : move_.pieces()) {
-    const PlacedPiece* piece = layout.findPiece(id);
-    const PieceDef* definition = piece ? TrackCatalog::instance().find(piece->cat) : nullptr;
-    if (definition)
-      painter.paint(trackGeometryOf(*definition), move_.moved(poseOf(*piece)), look);
-  }
-  const Stroke edge{plan_colors::kSelected, 2, Stroke::Style::Dashed};
-  const auto outline = [&](std::vector<Point> points) {
-    for (Point& p : points)
-      p = move_.moved(p);
-    surface.polygon(site_.view.toScreen(points), {}, edge);
-  };
-  for (const SceneryItem& item : layout.content().scenery)
-    if (item.sel)
-      outline(sceneryOutline(layout, item));
-  for (const Shape& shape : layout.content().shapes)
-    if (shape.sel)
-      outline(shape.points);
-  for (const Measurement& tape : layout.content().measurements)
-    if (tape.sel)
-      outline({tape.from, tape.to});
-  for (const Label& label : layout.content().labels)
-    if (label.sel)
-      surface.text(label.text, site_.view.toScreen(move_.moved(Point{label.x, label.y})), 0,
-                   {plan_colors::kSelected, labelTextSize(site_.mm(1)), true});
+  CarriedPainter(surface, site_.view, layout, move_.snap().has_value())
+      .paintSelection(move_.motion());
   if (turning_)
     surface.circle(site_.view.toScreen(centre_), 4, plan_colors::kSelected,
                    Stroke{plan_colors::kPaper, 1.5});

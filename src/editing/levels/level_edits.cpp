@@ -63,8 +63,7 @@ void removeDoomed(PlanContent& content, const Fates& fates) {
   std::ranges::sort(pieces);
   if (!pieces.empty())
     removePieces(content, pieces);
-  std::erase_if(content.scenery, doomed);
-  std::erase_if(content.shapes, doomed);
+  forEachOnLevels(content, [&doomed](auto& records) { std::erase_if(records, doomed); });
 }
 
 /// Pieces that rise, by id.
@@ -72,22 +71,18 @@ using Rises = std::unordered_map<std::int32_t, double>;
 
 Rises moveToFates(PlanContent& content, const Fates& fates) {
   Rises rises;
-  const auto move = [&fates](auto& record) {
-    const auto fate = fates.find(record.level);
-    if (fate == fates.end())
-      return 0.0;
-    record.level = *fate->second.level;
-    return fate->second.rise;
-  };
   for (PlacedPiece& piece : content.pieces) {
-    const double rise = move(piece);
-    if (rise == 0)
+    const auto fate = fates.find(piece.level);
+    if (fate == fates.end() || fate->second.rise == 0)
       continue;
-    piece.z += rise;
-    rises[piece.id] = rise;
+    piece.z += fate->second.rise;
+    rises[piece.id] = fate->second.rise;
   }
-  std::ranges::for_each(content.scenery, move);
-  std::ranges::for_each(content.shapes, move);
+  forEachOnLevels(content, [&fates](auto& records) {
+    for (auto& record : records)
+      if (const auto fate = fates.find(record.level); fate != fates.end())
+        record.level = *fate->second.level;
+  });
   return rises;
 }
 
@@ -119,12 +114,12 @@ void removeShape(Layout& layout, std::int32_t id) {
 } // namespace
 
 std::size_t countOnLevel(const Layout& layout, std::int32_t level) {
-  const auto count = [level](const auto& records) {
-    return static_cast<std::size_t>(std::ranges::count_if(
-        records, [level](const auto& record) { return record.level == level; }));
-  };
-  const PlanContent& content = layout.content();
-  return count(content.pieces) + count(content.scenery) + count(content.shapes);
+  std::size_t count = 0;
+  forEachOnLevels(layout.content(), [level, &count](const auto& records) {
+    for (const auto& record : records)
+      count += record.level == level ? 1 : 0;
+  });
+  return count;
 }
 
 double deckHeight(const Layout& layout, std::int32_t level) {

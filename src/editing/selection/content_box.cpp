@@ -1,11 +1,6 @@
 #include "editing/selection/content_box.h"
 
-#include "catalog/helix_kits.h"
-#include "catalog/track_catalog.h"
-#include "editing/scenery/scenery_footprint.h"
-#include "editing/track/connector_geometry.h"
-#include "editing/track/track_geometry.h"
-#include "geometry/polygons.h"
+#include "editing/selection/record_body.h"
 
 #include <algorithm>
 #include <cmath>
@@ -36,41 +31,18 @@ class BoxBuilder {
 template <typename Take>
 void forEachOutline(const Layout& layout, Take take) {
   const std::optional<std::int32_t> noLevel;
-  Polygon placed;
-  for (const PlacedPiece& piece : layout.pieces()) {
-    const PieceDef* definition = TrackCatalog::instance().find(piece.cat);
-    if (!definition) {
-      take(Polygon{{piece.x, piece.y}}, piece.level);
-      continue;
-    }
-    const PoseFrame frame(poseOf(piece));
-    for (const auto& outline : trackGeometryOf(*definition).beds) {
-      placed.clear();
-      for (const Point& p : outline)
-        placed.push_back(frame(p));
-      take(placed, piece.level);
-    }
-  }
-  const PlanContent& content = layout.content();
-  for (const SceneryItem& item : content.scenery)
-    take(sceneryOutline(layout, item), item.level);
-  for (const Label& label : content.labels)
-    take(Polygon{{label.x, label.y}}, noLevel);
-  for (const Measurement& tape : content.measurements)
-    take(Polygon{tape.from, tape.to}, noLevel);
-  for (const Shape& shape : content.shapes)
-    take(shape.points, shape.level);
-  for (const Helix& helix : content.helices) {
-    const double half = helixHalfSize(helix.variant);
-    take(Polygon{{helix.cx - half, helix.cy - half},
-                 {helix.cx + half, helix.cy - half},
-                 {helix.cx + half, helix.cy + half},
-                 {helix.cx - half, helix.cy + half}},
-         noLevel);
-  }
+  forEachKind(layout.content(), [&](const auto& records) {
+    for (const auto& record : records)
+      for (const Polygon& outline : outlinesOf(layout, record, 0)) {
+        if constexpr (OnLevel<std::remove_cvref_t<decltype(record)>>)
+          take(outline, std::optional(record.level));
+        else
+          take(outline, noLevel);
+      }
+  });
   take(layout.settings().baseboard, noLevel);
   for (const Level& level : layout.settings().levels)
-    take(level.outline, level.id);
+    take(level.outline, std::optional(level.id));
 }
 
 /// How far [low, high] has to go to lie in [first, last], which is at least as long.

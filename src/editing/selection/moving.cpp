@@ -16,14 +16,11 @@ void moveSelected(Layout& layout, const RigidMotion& motion) {
 
 /// What stood on one level goes to another.
 void changeLevel(PlanContent& content, std::int32_t from, std::int32_t to) {
-  const auto change = [from, to](auto& records) {
+  forEachOnLevels(content, [from, to](auto& records) {
     for (auto& record : records)
       if (record.sel && record.level == from)
         record.level = to;
-  };
-  change(content.pieces);
-  change(content.scenery);
-  change(content.shapes);
+  });
 }
 
 } // namespace

@@ -32,6 +32,7 @@ class SelectionMove {
 
   /// Where a point or a piece of the group would land.
   Point moved(Point p) const { return motion_(p); }
+  const RigidMotion& motion() const { return motion_; }
   Pose moved(const Pose& pose) const { return motion_(pose); }
 
   /// The snap, with the pose of the piece of the group that snaps; `snappingPiece` is its id.

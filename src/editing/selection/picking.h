@@ -21,13 +21,6 @@ struct Pick {
 /// extent of labels.
 std::vector<Pick> picksAt(const Layout& layout, const PlanIndex& index, Point at, double mmPerPx);
 
-/// Height of the text of labels in pixels. Seen from afar they are smaller, so that they do not
-/// hide the plan.
-double labelTextSize(double mmPerPx);
-
-/// About what a label covers, in mm.
-Box labelBox(const Label& label, double mmPerPx);
-
 /// Calls `visit` with the record, if there is one.
 template <class Visit>
 void withRecord(const Layout& layout, const Pick& pick, Visit visit) {

@@ -33,11 +33,12 @@ bool replaceIn(Layout& layout, std::vector<Record> PlanContent::*records, const 
 /// Calls `change` with each selected record that has a level, until it returns true.
 template <class Content, class Change>
 bool anySelected(Content& content, const Change& change) {
-  const auto any = [&change](auto& records) {
-    return std::ranges::any_of(records,
-                               [&change](auto& record) { return record.sel && change(record); });
-  };
-  return any(content.pieces) || any(content.scenery) || any(content.shapes);
+  bool any = false;
+  forEachOnLevels(content, [&](auto& records) {
+    any = any || std::ranges::any_of(
+                     records, [&change](auto& record) { return record.sel && change(record); });
+  });
+  return any;
 }
 
 } // namespace

@@ -6,11 +6,6 @@ namespace trassix {
 
 namespace {
 
-/// Labels and measurements lie on the plan without a heading of their own.
-template <class Record>
-constexpr bool kIsNote =
-    Record::kKind == RecordKind::Label || Record::kKind == RecordKind::Measurement;
-
 template <bool notes>
 void moveSelected(PlanContent& content, const RigidMotion& motion) {
   forEachSelectable(content, [&motion](auto& records) {

@@ -33,7 +33,7 @@ class BoxBuilder {
   Box box_{kFar, kFar, -kFar, -kFar};
 };
 
-void addPiece(BoxBuilder& box, const PlacedPiece& piece) {
+void add(BoxBuilder& box, const Layout&, const PlacedPiece& piece) {
   box.add({piece.x, piece.y});
   const PieceDef* definition = definitionOf(piece);
   if (definition == nullptr)
@@ -48,12 +48,16 @@ void addPiece(BoxBuilder& box, const PlacedPiece& piece) {
 }
 
 /// The footprint counts unturned; an item that the catalogue does not know is a point.
-void addScenery(BoxBuilder& box, const Layout& layout, const SceneryItem& item) {
+void add(BoxBuilder& box, const Layout& layout, const SceneryItem& item) {
   Footprint size{};
   if (findScenery(item.item) != nullptr)
     size = sceneryFootprint(layout, item);
   box.add({item.x - size.width / 2, item.y - size.depth / 2});
   box.add({item.x + size.width / 2, item.y + size.depth / 2});
+}
+
+void add(BoxBuilder& box, const Layout&, const auto& record) {
+  forEachPosition(record, [&box](Point p) { box.add(p); });
 }
 
 std::optional<Notice> guard(const Layout& layout, std::span<const std::int32_t> pieces,
@@ -149,16 +153,12 @@ std::vector<std::int32_t> chainOf(const Layout& layout, std::int32_t piece) {
 
 std::optional<Box> selectionBox(const Layout& layout) {
   BoxBuilder box;
-  for (const PlacedPiece& piece : layout.pieces())
-    if (piece.sel)
-      addPiece(box, piece);
-  for (const SceneryItem& item : layout.content().scenery)
-    if (item.sel)
-      addScenery(box, layout, item);
-  for (const Shape& shape : layout.content().shapes)
-    if (shape.sel)
-      for (const Point& vertex : shape.points)
-        box.add(vertex);
+  forEachSelectable(layout.content(), [&](const auto& records) {
+    if constexpr (!kIsNote<typename std::remove_cvref_t<decltype(records)>::value_type>)
+      for (const auto& record : records)
+        if (record.sel)
+          add(box, layout, record);
+  });
   return box.box();
 }
 

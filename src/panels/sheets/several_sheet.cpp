@@ -55,16 +55,18 @@ struct Track {
 void describeSeveral(SheetBuilder& build) {
   const PlanContent& content = build.layout.content();
   build.sheet.title = tr("Selection");
-  const auto count = [&build](const char* name, const auto& records) {
+  const auto count = [&build](const auto& records) {
+    using Record = typename std::remove_cvref_t<decltype(records)>::value_type;
+    static_assert(kCountedAs<Record> != nullptr);
     const auto selected = std::ranges::count_if(records, [](const auto& r) { return r.sel; });
     if (selected > 0)
-      build.fixed(tr(name), static_cast<std::size_t>(selected));
+      build.fixed(tr(kCountedAs<Record>), static_cast<std::size_t>(selected));
   };
-  count(trLater("Pieces"), content.pieces);
-  count(trLater("Scenery"), content.scenery);
-  count(trLater("Labels"), content.labels);
-  count(trLater("Shapes"), content.shapes);
-  count(trLater("Measurements"), content.measurements);
+  count(content.pieces); // the chief thing
+  forEachSelectable(content, [&count](const auto& records) {
+    if constexpr (std::remove_cvref_t<decltype(records)>::value_type::kKind != RecordKind::Piece)
+      count(records);
+  });
 
   Track track;
   forEachSelected(content.pieces, [&track](const PlacedPiece& piece) { track.add(piece); });

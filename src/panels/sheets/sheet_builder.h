@@ -7,6 +7,7 @@
 #include "editing/selection/property_edits.h"
 #include "measures/measure_input.h"
 #include "panels/property_sheet.h"
+#include "texts/texts.h"
 
 namespace trassix {
 
@@ -56,12 +57,27 @@ class SheetBuilder {
                    NumberEdit edit);
 };
 
-// One for each kind of record that can be selected alone, for other selections and for none.
+// One for each kind of record that can be selected alone, and what several are counted as.
 void describe(SheetBuilder& build, const PlacedPiece& piece);
 void describe(SheetBuilder& build, const SceneryItem& item);
 void describe(SheetBuilder& build, const Label& label);
 void describe(SheetBuilder& build, const Shape& shape);
 void describe(SheetBuilder& build, const Measurement& tape);
+
+template <class Record>
+constexpr const char* kCountedAs = nullptr;
+template <>
+inline constexpr const char* kCountedAs<PlacedPiece> = trLater("Pieces");
+template <>
+inline constexpr const char* kCountedAs<SceneryItem> = trLater("Scenery");
+template <>
+inline constexpr const char* kCountedAs<Label> = trLater("Labels");
+template <>
+inline constexpr const char* kCountedAs<Shape> = trLater("Shapes");
+template <>
+inline constexpr const char* kCountedAs<Measurement> = trLater("Measurements");
+
+/// For other selections and for none.
 void describeSeveral(SheetBuilder& build);
 void describePlan(SheetBuilder& build);
 

@@ -1,0 +1,196 @@
+#include "editing/canvas/record_pictures.h"
+
+#include "catalog/helix_kits.h"
+#include "catalog/scenery_catalog.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/selection/record_body.h"
+#include "measures/measure_format.h"
+#include "texts/texts.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace trassix {
+
+namespace colors = plan_colors;
+
+namespace {
+
+constexpr double kStrokeReachPx = 4; ///< of the widest edge and its joins
+constexpr double kTapeReachPx = 60;  ///< of a tape's length, written beside it
+
+TextStyle nameStyle(const ViewTransform& view) {
+  return {colors::kLabel, labelTextSize(1 / view.zoom()) - 1, false};
+}
+
+/// More than half of what the text takes, without measuring it.
+double longest(std::string_view text, double size) {
+  return static_cast<double>(text.size()) * size + 20;
+}
+
+double helixRadius(const PictureSite& site, const Helix& helix) {
+  return helixHalfSize(helix.variant) * site.view.zoom();
+}
+
+void paintOutline(const PictureSite& site, const auto& record, const CarriedLook& look) {
+  site.surface.polygon(site.view.toScreen(bodyOf(site.layout, record, 0).outline), {}, look.edge);
+}
+
+} // namespace
+
+bool PictureSite::isBeside(std::span<const Point> px, double reach) const {
+  const auto all = [px](auto outside) { return std::ranges::all_of(px, outside); };
+  return all([&](Point p) { return p.x < -reach; }) || all([&](Point p) { return p.y < -reach; }) ||
+         all([&](Point p) { return p.x > size.width + reach; }) ||
+         all([&](Point p) { return p.y > size.height + reach; });
+}
+
+// Shapes
+
+void paintRecord(const PictureSite& site, const Shape& shape) {
+  if (shape.points.size() < 2)
+    return;
+  const std::vector<Point> px = site.view.toScreen(shape.points);
+  if (site.isBeside(px, longest(shape.label, nameStyle(site.view).size)))
+    return;
+  const Rgba fill = opaque(shape.color, shape.a);
+  const Stroke edge = shape.sel ? Stroke{colors::kSelected, 2.5} : Stroke{opaque(shape.color), 1.5};
+  site.surface.polygon(px, shape.outline ? std::nullopt : std::optional(fill), edge);
+  if (shape.label.empty())
+    return;
+  Point middle;
+  for (const Point& p : px)
+    middle = {middle.x + p.x / static_cast<double>(px.size()),
+              middle.y + p.y / static_cast<double>(px.size())};
+  site.surface.text(shape.label, middle, 0, nameStyle(site.view));
+}
+
+void paintCarried(const PictureSite& site, const Shape& shape, const CarriedLook& look) {
+  paintOutline(site, shape, look);
+}
+
+std::string nameOf(const Layout&, const Shape& shape) {
+  return shape.label.empty() ? tr("Shape") : shape.label;
+}
+
+// Helices, and tunnels, which show by their track
+
+void paintRecord(const PictureSite& site, const Helix& helix) {
+  const Point centre = site.view.toScreen({helix.cx, helix.cy});
+  const double radius = helixRadius(site, helix);
+  if (site.isBeside({&centre, 1}, radius + kStrokeReachPx))
+    return;
+  site.surface.circle(centre, radius, Rgba{112, 104, 96, 30},
+                      Stroke{colors::kTunnel, 1.5, Stroke::Style::Dashed});
+  if (const HelixKit* kit = findHelixKit(helix.variant))
+    site.surface.text(kit->name, centre, 0, nameStyle(site.view));
+}
+
+void paintCarried(const PictureSite& site, const Helix& helix, const CarriedLook& look) {
+  site.surface.circle(site.view.toScreen({helix.cx, helix.cy}), helixRadius(site, helix), {},
+                      look.edge);
+}
+
+void paintRecord(const PictureSite&, const Tunnel&) {}
+void paintCarried(const PictureSite&, const Tunnel&, const CarriedLook&) {}
+
+// Scenery and track
+
+void paintCarried(const PictureSite& site, const SceneryItem& item, const CarriedLook& look) {
+  paintOutline(site, item, look);
+}
+
+std::string nameOf(const Layout&, const SceneryItem& item) {
+  const SceneryDef* definition = findScenery(item.item);
+  return definition ? std::string(definition->name) : item.item;
+}
+
+void paintCarried(const PictureSite& site, const PlacedPiece& piece, const CarriedLook& look) {
+  if (const PieceDef* definition = definitionOf(piece))
+    PiecePainter(site.surface, site.view)
+        .paint(trackGeometryOf(*definition), poseOf(piece), look.track);
+}
+
+std::string nameOf(const Layout&, const PlacedPiece& piece) {
+  // The catalogue's names begin with the article.
+  const PieceDef* definition = definitionOf(piece);
+  return definition ? definition->name : piece.cat;
+}
+
+// Measurements
+
+void paintRecord(const PictureSite& site, const Measurement& tape) {
+  const std::array<Point, 2> ends{site.view.toScreen(tape.from), site.view.toScreen(tape.to)};
+  if (!site.isBeside(ends, kTapeReachPx))
+    paintTape(site.surface, site.view, tape.from, tape.to, site.layout.settings().units, tape.sel);
+}
+
+void paintCarried(const PictureSite& site, const Measurement& tape, const CarriedLook&) {
+  paintTape(site.surface, site.view, tape.from, tape.to, site.layout.settings().units, true);
+}
+
+std::string nameOf(const Layout& layout, const Measurement& tape) {
+  return formatLength(std::hypot(tape.to.x - tape.from.x, tape.to.y - tape.from.y),
+                      layout.settings().units);
+}
+
+// Labels
+
+void paintRecord(const PictureSite& site, const Label& label) {
+  const Point at = site.view.toScreen({label.x, label.y});
+  const TextStyle style{colors::kLabel, labelTextSize(1 / site.view.zoom()), true};
+  if (site.isBeside({&at, 1}, longest(label.text, style.size)))
+    return;
+  const SizePx box = site.surface.textSize(label.text, style);
+  const double w = box.width / 2 + 5;
+  const double h = box.height / 2 + 2;
+  const std::array<Point, 4> frame{
+      {{at.x - w, at.y - h}, {at.x + w, at.y - h}, {at.x + w, at.y + h}, {at.x - w, at.y + h}}};
+  site.surface.polygon(frame, Rgba{255, 255, 255, 215},
+                       label.sel ? Stroke{colors::kSelected, 2} : Stroke{colors::kBedEdge, 1});
+  site.surface.text(label.text, at, 0, style);
+}
+
+void paintCarried(const PictureSite& site, const Label& label, const CarriedLook& look) {
+  site.surface.text(label.text, site.view.toScreen({label.x, label.y}), 0,
+                    {look.edge.color, labelTextSize(1 / site.view.zoom()), true});
+}
+
+std::string nameOf(const Layout&, const Label& label) {
+  return label.text;
+}
+
+double uprightAngle(double heading) {
+  double degrees = std::remainder(heading, 360.0);
+  if (degrees > 90)
+    degrees -= 180;
+  else if (degrees <= -90)
+    degrees += 180;
+  return degrees;
+}
+
+void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to,
+               std::int32_t units, bool selected) {
+  const Point a = view.toScreen(from);
+  const Point b = view.toScreen(to);
+  const Rgba color = selected ? colors::kSelected : colors::kMeasure;
+  const double length = std::hypot(b.x - a.x, b.y - a.y);
+  const Point along = length > 0 ? Point{(b.x - a.x) / length, (b.y - a.y) / length} : Point{1, 0};
+  const Point tick{-along.y * 6, along.x * 6};
+  const std::array<Point, 6> lines{{a,
+                                    b,
+                                    {a.x - tick.x, a.y - tick.y},
+                                    {a.x + tick.x, a.y + tick.y},
+                                    {b.x - tick.x, b.y - tick.y},
+                                    {b.x + tick.x, b.y + tick.y}}};
+  surface.segments(lines, {color, 1.5});
+  const std::string text = formatLength(std::hypot(to.x - from.x, to.y - from.y), units);
+  const TextStyle style{color, 12, true};
+  const double angle = uprightAngle(std::atan2(along.y, along.x) * 180 / kPi);
+  const double up = toRadians(angle - 90);
+  surface.text(text, {(a.x + b.x) / 2 + std::cos(up) * 10, (a.y + b.y) / 2 + std::sin(up) * 10},
+               angle, style);
+}
+
+} // namespace trassix
