@@ -1,9 +1,11 @@
+// The numbers by which tests, scripts and notes of users know commands and tools. They are fixed.
 #pragma once
+
+#include <cstdint>
 
 namespace trassix {
 
-/// Command identifiers that are not the toolkit's own. They are fixed: tests, scripts and notes of
-/// users go by them.
+/// Commands that are not the toolkit's own.
 enum CommandId : int {
   kImportLayout = 1900,
   kExportLayout = 1901,
@@ -38,5 +40,8 @@ enum CommandId : int {
   kLayoutWizardHelp = 2028,
   kOptions = 2029,
 };
+
+/// What the mouse does on the plan.
+enum class ToolMode : std::int32_t { Select = 0, Measure = 3, Polygon = 4 };
 
 } // namespace trassix

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "host/command_ids.h"
+
 #include <cstdint>
 
 namespace trassix {
-
-/// What the mouse does on the plan. The values are part of the window's contract.
-enum class ToolMode : std::int32_t { Select = 0, Measure = 3, Polygon = 4 };
 
 /// What becomes of the polygon that is drawn.
 struct PolygonUse {
