@@ -7,11 +7,14 @@
 #include "editing/canvas/carry_scenery_tool.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/canvas/measure_tool.h"
+#include "editing/canvas/piece_painter.h"
 #include "editing/canvas/polygon_tool.h"
 #include "editing/canvas/select_tool.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/placing/placing.h"
+#include "editing/placing/ways.h"
 #include "editing/selection/content_box.h"
+#include "editing/selection/open_ends.h"
 #include "editing/selection/selection.h"
 #include "host/plan_preview.h"
 #include "texts/texts.h"
@@ -126,9 +129,9 @@ void Canvas::press(Button button, const PointerInput& input) {
   dropped_ = false;
   pressed_ = input;
   originAtPress_ = site_->view.origin();
-  if (button == Button::Middle || (space_ && !carry_)) {
+  if (button == Button::Middle || space_) {
     gesture_ = Gesture::Pan;
-  } else if (input.ctrl && !carry_) {
+  } else if (input.ctrl) {
     gesture_ = Gesture::PanPending;
   } else {
     gesture_ = Gesture::Pending;
@@ -261,6 +264,8 @@ void Canvas::leave() {
 bool Canvas::key(const KeyInput& input) {
   const Input working(*this);
   if (input.key == Key::Escape && (carry_ || gesture_ != Gesture::None)) {
+    if (carry_)
+      site_->choice.forget();
     cancel();
     return true;
   }
@@ -307,10 +312,64 @@ bool Canvas::goOnWith(const Carried& what) {
   const auto* piece = std::get_if<CarriedPiece>(&what);
   if (piece == nullptr || selectedPieces(site_->layout()).empty())
     return false;
-  const EditResult result = extendSelected(site_->layout(), piece->article);
+  const EditResult result =
+      extendSelected(site_->layout(), piece->article, site_->choice.wishFor(piece->article));
   site_->reportExtension(result);
   if (!result.changed() && !result.refusal)
     site_->workspace.setHint(tr("The selected piece has no free end to go on from"));
+  return true;
+}
+
+void Canvas::offer(const Carried* what) {
+  const auto* piece = what ? std::get_if<CarriedPiece>(what) : nullptr;
+  const std::string article = piece ? piece->article : std::string();
+  if (article == offered_)
+    return;
+  offered_ = article;
+  if (!article.empty())
+    site_->choice.takeUp(article);
+  site_->workspace.repaint();
+}
+
+bool Canvas::flipOffered(int step) {
+  const auto place = extensionOf(site_->layout(), offered_, site_->choice.wishFor(offered_));
+  const PieceDef* definition = TrackCatalog::instance().find(offered_);
+  if (!place || place->own == -1 || definition == nullptr)
+    return false;
+  const auto system = definition->connectorSystem(static_cast<std::size_t>(place->own));
+  site_->choice.chooseWay(offered_, wayAfter(*definition, place->own, step, system));
+  site_->workspace.repaint();
+  return true;
+}
+
+void Canvas::paintOffer(Surface& surface) const {
+  const Layout& layout = site_->layout();
+  const auto place = extensionOf(layout, offered_, site_->choice.wishFor(offered_));
+  const auto end = place ? endAt(layout, place->at) : std::nullopt;
+  if (!end || place->own == -1)
+    return;
+  const PieceDef& definition = *TrackCatalog::instance().find(offered_);
+  PieceLook look = carriedLook(true);
+  look.bed.a = 110;
+  look.accent->a = 150;
+  PiecePainter(surface, site_->view)
+      .paint(trackGeometryOf(definition), AttachPose(definition, place->own, *end), look);
+}
+
+bool Canvas::scrollAtEdge() {
+  constexpr double kEdgePx = 14;
+  constexpr double kStepPx = 12;
+  const auto towards = [](double at, double size) {
+    return at < kEdgePx ? kStepPx : at > size - kEdgePx ? -kStepPx : 0.0;
+  };
+  if (!carry_ || gesture_ == Gesture::Pan || !site_->holds(last_.px))
+    return false;
+  const Point by{towards(last_.px.x, site_->size.width), towards(last_.px.y, site_->size.height)};
+  if (by.x == 0 && by.y == 0)
+    return false;
+  const Point origin = site_->view.origin();
+  site_->view.panTo({origin.x + by.x, origin.y + by.y});
+  viewChanged();
   return true;
 }
 
@@ -324,6 +383,8 @@ void Canvas::viewChanged() {
   if (pointed_)
     last_.world = site_->view.toWorld(last_.px);
   told_ = site_->view;
+  if (carry_)
+    carry_->hover(last_);
   site_->workspace.setPointer(pointer());
   site_->workspace.repaint();
 }
@@ -368,7 +429,11 @@ Point Canvas::centre() const {
   return site_->view.toWorld({site_->size.width / 2, site_->size.height / 2});
 }
 
-void Canvas::zoomAboutCentre(double factor) {
+void Canvas::zoomStep(double factor) {
+  if (carry_ && site_->holds(last_.px)) {
+    site_->view.zoomAbout(factor, last_.px);
+    return viewChanged();
+  }
   const auto half = [](double length) { return std::floor(length / 2); };
   site_->view.zoomAbout(factor, {half(site_->size.width), half(site_->size.height)});
   viewChanged();
@@ -408,6 +473,8 @@ void Canvas::paintPlan(Surface& surface) {
 void Canvas::paintOverlay(Surface& surface) {
   if (const PlanPreview* preview = site_->workspace.preview())
     CarriedPainter(surface, site_->view, site_->layout(), true).paint(preview->records());
+  if (!carry_ && !offered_.empty())
+    paintOffer(surface);
   tool().paint(surface);
 }
 
@@ -430,13 +497,13 @@ std::uint64_t Canvas::planStamp() {
 std::string Canvas::hint() const {
   if (gesture_ == Gesture::Pan)
     return tr("Panning: let go to stay here, Esc to go back");
-  if (space_ && !carry_ && gesture_ == Gesture::None)
+  if (space_ && gesture_ == Gesture::None)
     return hintOf({tr("Drag: pan"), tr("Wheel: zoom")});
   return tool().hint();
 }
 
 CursorShape Canvas::cursor() const {
-  if (gesture_ == Gesture::Pan || (space_ && !carry_ && gesture_ == Gesture::None))
+  if (gesture_ == Gesture::Pan || (space_ && gesture_ == Gesture::None))
     return CursorShape::Hand;
   return tool().cursor();
 }

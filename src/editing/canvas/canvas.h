@@ -61,11 +61,20 @@ class Canvas {
   bool goOnWith(const Carried& what);
   bool carrying() const { return carry_ != nullptr; }
 
+  /// What the palette would go on with, shown faintly where it would lie; null for nothing.
+  void offer(const Carried* what);
+  /// Turns what is offered round to its next way, or with -1 the one before.
+  bool flipOffered(int step);
+
+  /// Scrolls the plan when something carried rests at the canvas's edge; false when it need not.
+  bool scrollAtEdge();
+
   /// Takes up the tool of the window's current mode.
   void modeChanged();
   void documentReplaced();
 
-  void zoomAboutCentre(double factor);
+  /// About the pointer while something is carried, else about the middle.
+  void zoomStep(double factor);
   void fit();
   void resetView();
   void resetViewForSmall();
@@ -89,6 +98,7 @@ class Canvas {
   void afterInput();
   void pointAt(const PointerInput& input);
   void viewChanged();
+  void paintOffer(Surface& surface) const;
   /// Tools move the view as well.
   void followView();
   PaintOptions paintOptions() const;
@@ -116,6 +126,7 @@ class Canvas {
   /// Tools that were put away while one of their functions ran, until it is back.
   std::vector<std::unique_ptr<CanvasTool>> retired_;
   int inputDepth_ = 0;
+  std::string offered_; ///< article
   ToolMode mode_ = ToolMode::Select;
   Gesture gesture_ = Gesture::None;
   Button button_ = Button::Left; ///< that began the gesture

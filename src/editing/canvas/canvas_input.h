@@ -26,6 +26,8 @@ enum class Key : std::uint8_t {
   Up,
   Down,
   R,
+  F,
+  Tab,
   Copy,
   Cut,
   Paste,

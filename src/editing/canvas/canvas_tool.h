@@ -3,6 +3,7 @@
 #include "document/records.h"
 #include "editing/canvas/canvas_input.h"
 #include "editing/canvas/carried.h"
+#include "editing/canvas/placing_choice.h"
 #include "editing/canvas/plan_clipboard.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
@@ -28,6 +29,7 @@ class ToolSite {
   Workspace& workspace;
   ViewTransform view;
   PlanClipboard clipboard;
+  PlacingChoice choice;
   std::function<void(const Carried&)> carry; ///< hangs something on the pointer
   SizePx size;                               ///< of the canvas, px
 

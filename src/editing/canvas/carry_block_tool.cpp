@@ -1,17 +1,42 @@
 #include "editing/canvas/carry_block_tool.h"
 
 #include "editing/canvas/carried_painter.h"
+#include "editing/canvas/meetings.h"
 #include "editing/placing/block_placing.h"
 #include "texts/texts.h"
 
 namespace trassix {
 
+CarryBlockTool::CarryBlockTool(ToolSite& site, Block block, bool held)
+    : CarryTool(site, held), block_(std::move(block)), ends_(openEndsOf(block_.content.pieces)) {}
+
+void CarryBlockTool::posed() {
+  landing_ = pose();
+  meetings_.clear();
+  if (!site_.workspace.switches().snap)
+    return;
+  const auto endsAt = [this](const Pose& at) {
+    const RigidMotion motion{{}, at};
+    std::vector<PlacedEnd> ends = ends_;
+    for (PlacedEnd& end : ends) {
+      end.at = motion(end.at);
+      end.heading = normaliseHeading(end.heading + at.heading);
+    }
+    return ends;
+  };
+  if (const auto snap = site_.snapIndex().findGroupSnap(endsAt(pose()), {}))
+    landing_ = motionOnto(snap->own, snap->target)(pose());
+  meetings_ = site_.snapIndex().findMeetings(endsAt(landing_), {});
+}
+
 EditResult CarryBlockTool::drop() {
-  return placeBlock(site_.layout(), block_, pose());
+  return placeBlock(site_.layout(), block_, landing_);
 }
 
 void CarryBlockTool::paint(Surface& surface) const {
-  CarriedPainter(surface, site_.view, site_.layout(), false).paint(block_.content, {{}, pose()});
+  CarriedPainter(surface, site_.view, site_.layout(), !meetings_.empty())
+      .paint(block_.content, {{}, landing_});
+  paintMeetings(surface, site_.view, meetings_);
 }
 
 std::string CarryBlockTool::hint() const {
@@ -22,7 +47,7 @@ std::string CarryBlockTool::hint() const {
   });
   return hintOf({block_.name.empty() ? tr("Click to place the copy")
                                      : tr("Click to place %1%", {block_.name}),
-                 site_.landingHint(levels), turningHint()});
+                 meetingsHint(meetings_), site_.landingHint(levels), turningHint()});
 }
 
 } // namespace trassix

@@ -4,24 +4,28 @@
 #include "editing/canvas/carry_tool.h"
 
 #include <string>
+#include <vector>
 
 namespace trassix {
 
-/// A block on its way to the plan: from the library, the clipboard, or a
-/// duplicate.
+/// A block on its way to the plan: from the library, the clipboard, or a duplicate. It snaps with
+/// any of its open ends.
 class CarryBlockTool : public CarryTool {
  public:
   /// The block's origin hangs on the pointer.
-  CarryBlockTool(ToolSite& site, Block block, bool held)
-      : CarryTool(site, held), block_(std::move(block)) {}
+  CarryBlockTool(ToolSite& site, Block block, bool held);
 
   void paint(Surface& surface) const override;
   std::string hint() const override;
 
  private:
+  void posed() override;
   EditResult drop() override;
 
   Block block_;
+  std::vector<PlacedEnd> ends_; ///< those that are open or will be, as they lie in the block
+  Pose landing_;
+  std::vector<EndContact> meetings_; ///< ends that will be joined there
 };
 
 } // namespace trassix

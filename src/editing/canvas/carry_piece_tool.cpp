@@ -3,24 +3,71 @@
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/placing/placing.h"
+#include "editing/placing/ways.h"
+#include "editing/selection/open_ends.h"
 #include "texts/texts.h"
 
 namespace trassix {
+
+namespace {
+
+TrackSystem systemOf(const PieceDef& definition, std::int32_t end) {
+  return definition.connectorSystem(static_cast<std::size_t>(end));
+}
+
+/// The snap with another end of the piece, if that mates.
+SnapResult joinedBy(const Layout& layout, const PieceDef& definition, std::int32_t end,
+                    const SnapResult& snap) {
+  const auto target = endAt(layout, {snap.target, snap.targetConnector});
+  if (!target || systemOf(definition, end) != systemOf(definition, snap.newConnector))
+    return snap;
+  SnapResult other = snap;
+  other.newConnector = end;
+  other.pose = AttachPose(definition, end, *target);
+  return other;
+}
+
+} // namespace
+
+CarryPieceTool::CarryPieceTool(ToolSite& site, const PieceDef& definition, bool held)
+    : CarryTool(site, held), definition_(definition) {
+  site_.choice.takeUp(definition.article);
+}
+
+Pose CarryPieceTool::hanging() const {
+  const std::optional<std::int32_t> way = site_.choice.way(definition_.article);
+  return way ? hangingBy(definition_, *way, pose()) : pose();
+}
 
 void CarryPieceTool::posed() {
   snap_ = {};
   insert_.reset();
   if (!site_.workspace.switches().snap)
     return;
-  snap_ = site_.snapIndex().findSnap(definition_, pose());
+  snap_ = site_.snapIndex().findSnap(definition_, hanging());
   if (!snap_.snapped)
-    insert_ = findInsertSpot(site_.layout(), site_.snapIndex(), definition_, pose());
+    insert_ = findInsertSpot(site_.layout(), site_.snapIndex(), definition_, hanging());
+  else if (const auto way = site_.choice.way(definition_.article))
+    snap_ = joinedBy(site_.layout(), definition_, *way, snap_);
+}
+
+bool CarryPieceTool::turnRound(int step) {
+  const std::int32_t joining = joiningEnd();
+  const std::int32_t present =
+      joining != -1 ? joining : site_.choice.way(definition_.article).value_or(0);
+  const std::optional<TrackSystem> system =
+      joining == -1 ? std::nullopt : std::optional(systemOf(definition_, joining));
+  const std::int32_t next = wayAfter(definition_, present, step, system);
+  if (next == -1 || next == present)
+    return false;
+  site_.choice.chooseWay(definition_.article, next);
+  return true;
 }
 
 EditResult CarryPieceTool::drop() {
   if (insert_)
     return insertPiece(site_.layout(), definition_.article, *insert_);
-  const EditResult result = dropPiece(site_.layout(), definition_.article, pose(), snap_,
+  const EditResult result = dropPiece(site_.layout(), definition_.article, hanging(), snap_,
                                       site_.workspace.switches().snap);
   if (result.changed() && wantsSmallTrackView(site_.layout()))
     site_.resetViewForSmall();
@@ -28,7 +75,7 @@ EditResult CarryPieceTool::drop() {
 }
 
 Pose CarryPieceTool::landing() const {
-  return insert_ ? insert_->pose : snap_.snapped ? snap_.pose : pose();
+  return insert_ ? insert_->pose : snap_.snapped ? snap_.pose : hanging();
 }
 
 std::int32_t CarryPieceTool::joiningEnd() const {
@@ -56,7 +103,9 @@ std::string CarryPieceTool::hint() const {
   const char* what = insert_ ? trLater("Let go to insert %1% here: the shorter side makes room")
                      : snap_.snapped ? trLater("Let go to join %1%")
                                      : trLater("Click or let go to place %1%");
-  return hintOf({tr(what, {definition_.article}), landing, turningHint()});
+  const bool hasWays = waysOf(definition_).size() > 1;
+  return hintOf({tr(what, {definition_.article}), landing,
+                 hasWays ? tr("F: the other way round") : std::string(), turningHint()});
 }
 
 } // namespace trassix

@@ -13,21 +13,23 @@ namespace trassix {
 class CarryPieceTool : public CarryTool {
  public:
   /// The definition is the catalogue's own.
-  CarryPieceTool(ToolSite& site, const PieceDef& definition, bool held)
-      : CarryTool(site, held), definition_(definition) {}
+  CarryPieceTool(ToolSite& site, const PieceDef& definition, bool held);
 
   void paint(Surface& surface) const override;
   std::string hint() const override;
 
  private:
   void posed() override;
+  bool turnRound(int step) override;
   EditResult drop() override;
 
-  const PieceDef& definition_;
+  /// Where the piece is while it joins nothing: it hangs by the end that was chosen.
+  Pose hanging() const;
   Pose landing() const;
   /// The end of the carried piece that would join, -1 for none.
   std::int32_t joiningEnd() const;
 
+  const PieceDef& definition_;
   SnapResult snap_;
   std::optional<InsertSpot> insert_; ///< where it would go into finished track
 };

@@ -61,6 +61,12 @@ bool CarryTool::key(const KeyInput& input) {
   case Key::R:
     turn(input.shift ? kFineTurn : kTurn);
     return true;
+  case Key::F:
+    if (!turnRound(input.shift ? -1 : 1))
+      return false;
+    posed();
+    site_.workspace.repaint();
+    return true;
   case Key::Enter:
     settle();
     return true;

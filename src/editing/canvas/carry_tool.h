@@ -31,6 +31,8 @@ class CarryTool : public CanvasTool {
  protected:
   /// The pose has changed.
   virtual void posed() {}
+  /// Goes on to another way of lying, forwards or back; false for what has only one.
+  virtual bool turnRound(int /*step*/) { return false; }
   virtual EditResult drop() = 0;
 
   const Pose& pose() const { return pose_; }

@@ -1,6 +1,7 @@
 #include "catalog/track_catalog.h"
 #include "editing/canvas/carried_painter.h"
 #include "editing/canvas/gesture.h"
+#include "editing/canvas/meetings.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/selection/selection.h"
@@ -78,13 +79,7 @@ void MoveGesture::paint(Surface& surface) const {
   if (turning_)
     surface.circle(site_.view.toScreen(centre_), 4, plan_colors::kSelected,
                    Stroke{plan_colors::kPaper, 1.5});
-  if (const auto& snap = move_.snap())
-    if (const PlacedPiece* target = layout.findPiece(snap->target))
-      if (const PieceDef* definition = TrackCatalog::instance().find(target->cat)) {
-        const WorldConnector end = ConnectorToWorld(*target, *definition, snap->targetConnector);
-        surface.circle(site_.view.toScreen({end.x, end.y}), 6, plan_colors::kSnapped,
-                       Stroke{plan_colors::kPaper, 2});
-      }
+  paintMeetings(surface, site_.view, move_.meetings(site_.snapIndex()));
 }
 
 std::string MoveGesture::hint() const {
@@ -96,8 +91,9 @@ std::string MoveGesture::hint() const {
   const Layout& layout = site_.layout();
   const std::int32_t level = layout.findPiece(move_.snap()->target)->level;
   const bool stays = layout.findPiece(move_.snappingPiece())->level == level;
-  return hintOf({tr("Let go to join"), stays ? std::string() : site_.landingHint({level}),
-                 tr("Esc: as it was")});
+  const std::vector<EndContact> meetings = move_.meetings(site_.snapIndex());
+  return hintOf({tr("Let go to join"), meetings.size() > 1 ? meetingsHint(meetings) : std::string(),
+                 stays ? std::string() : site_.landingHint({level}), tr("Esc: as it was")});
 }
 
 } // namespace trassix

@@ -1,6 +1,8 @@
 #include "editing/canvas/select_tool.h"
 
+#include "document/piece_lines.h"
 #include "editing/canvas/hover.h"
+#include "editing/canvas/plan_colors.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/canvas/selection_menu.h"
 #include "editing/placing/placing.h"
@@ -8,6 +10,8 @@
 #include "texts/texts.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 
 namespace trassix {
 
@@ -15,6 +19,30 @@ namespace {
 
 constexpr double kNudge = 10.0; ///< mm
 constexpr double kFineNudge = 1.0;
+
+/// An open end that the pointer is over, or that was chosen to go on from: larger than it is drawn
+/// with the track.
+void paintEnd(Surface& surface, const ToolSite& site, TrackEnd end, bool chosen) {
+  const auto at = endAt(site.layout(), end);
+  const PieceDef* definition = at ? definitionOf(*site.layout().findPiece(end.piece)) : nullptr;
+  if (definition == nullptr)
+    return;
+  const Point px = site.view.toScreen({at->x, at->y});
+  const double radius = std::max(5.0, endReach(*definition, site.mm(1)) * site.view.zoom());
+  surface.circle(px, radius, chosen ? plan_colors::kSelected : plan_colors::kPaper,
+                 Stroke{chosen ? plan_colors::kPaper : plan_colors::kHover, 2});
+  if (!chosen)
+    return;
+  // An arrow the way the track will lead.
+  const double heading = toRadians(at->heading);
+  const Point along{std::cos(heading), std::sin(heading)};
+  const auto spot = [&](double forward, double aside) {
+    return Point{px.x + along.x * forward - along.y * aside,
+                 px.y + along.y * forward + along.x * aside};
+  };
+  const std::array<Point, 3> head{spot(radius + 12, 0), spot(radius + 3, -5), spot(radius + 3, 5)};
+  surface.polygon(head, plan_colors::kSelected, Stroke{plan_colors::kPaper, 1});
+}
 
 } // namespace
 
@@ -33,9 +61,12 @@ void SelectTool::press(const PointerInput& input) {
 
 void SelectTool::hover(const PointerInput& input) {
   std::vector<Pick> picks = picksAt(input.world);
-  if (picks == under_)
+  const std::optional<TrackEnd> end =
+      openEndNear(site_.layout(), site_.planIndex(), input.world, site_.mm(1));
+  if (picks == under_ && end == pointed_)
     return;
   under_ = std::move(picks);
+  pointed_ = end;
   site_.workspace.repaint();
 }
 
@@ -75,6 +106,9 @@ void SelectTool::select(const Pick& pick) {
 
 void SelectTool::click(const PointerInput& input) {
   Layout& layout = site_.layout();
+  if (!input.ctrl)
+    if (const auto end = openEndNear(layout, site_.planIndex(), input.world, site_.mm(1)))
+      return chooseEnd(*end);
   const std::vector<Pick> picks = picksAt(input.world);
   if (input.ctrl) {
     if (picks.empty())
@@ -97,6 +131,53 @@ void SelectTool::click(const PointerInput& input) {
     select(picks.front());
   else
     select(selected + 1 == picks.end() ? picks.front() : *(selected + 1));
+}
+
+void SelectTool::chooseEnd(TrackEnd end) {
+  site_.choice.pointAt(end);
+  select({RecordKind::Piece, end.piece});
+}
+
+bool SelectTool::goToOpenEnd(int step) {
+  Layout& layout = site_.layout();
+  std::optional<TrackEnd> from = site_.choice.end(layout);
+  if (const std::vector<std::int32_t> selected = selectedPieces(layout); !from && !selected.empty())
+    from = TrackEnd{selected.back(), step > 0 ? -1 : kMostConnectors};
+  const std::optional<TrackEnd> end = openEndAfter(layout, from, step);
+  if (!end)
+    return false;
+  chooseEnd(*end);
+  const WorldConnector at = *endAt(layout, *end);
+  site_.view.reveal({at.x, at.y, at.x, at.y}, site_.size.width, site_.size.height);
+  site_.workspace.repaint();
+  return true;
+}
+
+bool SelectTool::flipSelected(int step) {
+  Layout& layout = site_.layout();
+  const std::vector<std::int32_t> selected = selectedPieces(layout);
+  if (selected.size() != 1)
+    return false;
+  const bool again = flip_.piece == selected.front() && flippedTo_ == layout.revision();
+  const std::optional<Flip> how = flipOf(layout, selected.front(), step, again ? flip_.to : -1);
+  if (!how) {
+    site_.workspace.setHint(tr("This piece lies the same way round by all its ends"));
+    return true;
+  }
+  if (refuseLocked(site_, "flip"))
+    return true;
+  if (how->opens > 0 &&
+      !site_.questions().confirm({tr("Flip"),
+                                  trCount("This opens %1% joint that does not fit any more. Go on?",
+                                          "This opens %1% joints that do not fit any more. Go on?",
+                                          static_cast<std::uint64_t>(how->opens)),
+                                  true}))
+    return true;
+  const ChangeResult flipped = flip(layout, *how);
+  flip_ = *how;
+  flippedTo_ = layout.revision();
+  site_.report(flipped);
+  return true;
 }
 
 void SelectTool::doubleClick(const PointerInput& input) {
@@ -167,6 +248,7 @@ bool SelectTool::nudge(const KeyInput& input) {
 
 bool SelectTool::key(const KeyInput& input) {
   if (input.key == Key::Escape) {
+    site_.choice.forget();
     if (!hasSelection(site_.layout()))
       return false;
     site_.layout().clearSelection();
@@ -185,6 +267,10 @@ bool SelectTool::key(const KeyInput& input) {
   case Key::Duplicate:
     duplicateSelection(site_);
     return true;
+  case Key::F:
+    return flipSelected(input.shift ? -1 : 1);
+  case Key::Tab:
+    return goToOpenEnd(input.shift ? -1 : 1);
   default:
     return nudge(input);
   }
@@ -193,12 +279,14 @@ bool SelectTool::key(const KeyInput& input) {
 void SelectTool::cancel() {
   gesture_.reset();
   under_.clear();
+  pointed_.reset();
 }
 
 void SelectTool::leave() {
-  if (under_.empty())
+  if (under_.empty() && !pointed_)
     return;
   under_.clear();
+  pointed_.reset();
   site_.workspace.repaint();
 }
 
@@ -215,15 +303,23 @@ void SelectTool::contextMenu(const PointerInput& input) {
 
 void SelectTool::paint(Surface& surface) const {
   if (gesture_)
-    gesture_->paint(surface);
-  else if (const Pick* pick = hovered(); pick && !isSelected(site_.layout(), *pick))
+    return gesture_->paint(surface);
+  if (const Pick* pick = hovered(); pick && !pointed_ && !isSelected(site_.layout(), *pick))
     paintHover(surface, site_, *pick);
+  const std::optional<TrackEnd> chosen = site_.choice.end(site_.layout());
+  if (chosen)
+    paintEnd(surface, site_, *chosen, true);
+  if (pointed_ && pointed_ != chosen)
+    paintEnd(surface, site_, *pointed_, false);
 }
 
 std::string SelectTool::hint() const {
   if (gesture_)
     return gesture_->hint();
   const Layout& layout = site_.layout();
+  if (pointed_)
+    return hintOf({tr("Open end"), tr("Click: track goes on from here"), tr("Drag: move"),
+                   tr("Right-click: more")});
   const Pick* pick = hovered();
   const std::string name = pick ? nameOf(layout, *pick) : std::string();
   if (!name.empty()) {

@@ -2,6 +2,8 @@
 
 #include "editing/canvas/canvas_tool.h"
 #include "editing/canvas/gesture.h"
+#include "editing/placing/flipping.h"
+#include "editing/selection/open_ends.h"
 #include "editing/selection/picking.h"
 
 #include <memory>
@@ -36,14 +38,22 @@ class SelectTool : public CanvasTool {
   void select(const Pick& pick);
   void startGesture(const PointerInput& input);
   bool nudge(const KeyInput& input);
+  /// Turns the only selected piece round to its next way.
+  bool flipSelected(int step);
+  void chooseEnd(TrackEnd end);
+  /// Goes to the next open end, the view following.
+  bool goToOpenEnd(int step);
   /// Asks before the selection, going by `step`, leaves graded track.
   bool mayLeave(Point step);
 
   PointerInput pressed_;
   const Pick* hovered() const { return under_.empty() ? nullptr : &under_.front(); }
 
-  std::vector<Pick> under_; ///< the pointer, topmost first
+  std::vector<Pick> under_;         ///< the pointer, topmost first
+  std::optional<TrackEnd> pointed_; ///< an open end there
   std::unique_ptr<Gesture> gesture_;
+  Flip flip_; ///< the last one, and the revision after it
+  std::uint64_t flippedTo_ = 0;
   std::uint64_t nudgedTo_ = 0; ///< revision after the last nudge: a run of nudges is one undo step
 };
 

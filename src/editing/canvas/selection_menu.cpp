@@ -58,7 +58,8 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
   if (onPiece) {
     const std::int32_t piece = under.front().id;
     rows.push_back({tr("Extend"), tr("Double-click"), true, [&site, piece] {
-                      site.reportExtension(cloneAndExtend(site.layout(), piece));
+                      const ExtensionWish wish{site.choice.end(site.layout()), {}};
+                      site.reportExtension(cloneAndExtend(site.layout(), piece, wish));
                     }});
     rows.push_back({tr("Select Joined Track"), tr("Alt+Double-click"), true,
                     [&site, piece] { selectChain(site, piece); }});

@@ -27,6 +27,20 @@ void appendEnds(std::vector<PlacedEnd>& ends, const PlacedPiece& piece, std::int
   }
 }
 
+std::vector<PlacedEnd> openEndsOf(std::span<const PlacedPiece> pieces) {
+  std::unordered_set<std::int32_t> ids;
+  for (const PlacedPiece& piece : pieces)
+    ids.insert(piece.id);
+  std::vector<PlacedEnd> ends;
+  std::int32_t position = 0;
+  for (const PlacedPiece& piece : pieces)
+    appendEnds(ends, piece, position++, true);
+  std::erase_if(ends, [&ids](const PlacedEnd& end) { return ids.contains(end.joinedTo); });
+  for (PlacedEnd& end : ends)
+    end.joinedTo = -1;
+  return ends;
+}
+
 std::vector<PlacedEnd> endsOf(const Layout& layout) {
   std::vector<PlacedEnd> ends;
   ends.reserve(layout.pieces().size() * 5 / 2);

@@ -30,6 +30,9 @@ struct PlacedEnd {
 void appendEnds(std::vector<PlacedEnd>& ends, const PlacedPiece& piece, std::int32_t position,
                 bool visible);
 
+/// The ends of these pieces that are open or joined to none of them, such as those of a block.
+std::vector<PlacedEnd> openEndsOf(std::span<const PlacedPiece> pieces);
+
 /// All ends of the plan in document order, then index order.
 std::vector<PlacedEnd> endsOf(const Layout& layout);
 

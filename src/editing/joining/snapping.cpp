@@ -94,6 +94,10 @@ std::vector<PlacedEnd> endsOfCarried(const PieceDef& carried, const Pose& pose) 
   return ends;
 }
 
+RigidMotion motionOnto(const PlacedEnd& own, const PlacedEnd& target) {
+  return {own.at, {target.at.x, target.at.y, normaliseHeading(target.heading + 180 - own.heading)}};
+}
+
 struct SnapIndex::Data {
   std::uint64_t stamp = 0;
   EndGrid grid;
@@ -146,6 +150,26 @@ std::optional<EndContact> SnapIndex::findGroupSnap(std::span<const PlacedEnd> en
   if (target == nullptr)
     return std::nullopt;
   return EndContact{*own, *target, best};
+}
+
+std::vector<EndContact> SnapIndex::findMeetings(std::span<const PlacedEnd> ends,
+                                                std::span<const std::int32_t> group) const {
+  std::vector<EndContact> meetings;
+  for (const PlacedEnd& mine : ends) {
+    std::optional<EndContact> nearest;
+    data_->grid.visitNear(mine.at, kClosingDistance, [&](const PlacedEnd& end) {
+      const double distance = distanceBetween(end.at, mine.at);
+      if (end.system == mine.system && !containsId(group, end.piece) &&
+          (end.joinedTo == -1 || (containsId(group, end.joinedTo) && leaves(ends, end))) &&
+          distance <= kClosingDistance && std::abs(end.height - mine.height) <= kClosingDistance &&
+          headingDifference(end.heading, mine.heading + 180) <= kClosingFacing &&
+          (!nearest || distance < nearest->distance))
+        nearest = EndContact{mine, end, distance};
+    });
+    if (nearest)
+      meetings.push_back(*nearest);
+  }
+  return meetings;
 }
 
 std::optional<EndContact> SnapIndex::findJoint(const PlacedEnd& own, double reach,

@@ -43,6 +43,9 @@ struct EndContact {
   double distance = 0; ///< mm between them
 };
 
+/// The motion that lays one end on the other, facing it.
+RigidMotion motionOnto(const PlacedEnd& own, const PlacedEnd& target);
+
 struct IncompatibleContact {
   TrackSystem carried = TrackSystem::CTrack;
   TrackSystem other = TrackSystem::CTrack;
@@ -76,6 +79,10 @@ class SnapIndex {
   /// joined to the group counts as free, because the move opens it.
   std::optional<EndContact> findGroupSnap(std::span<const PlacedEnd> ends,
                                           std::span<const std::int32_t> group) const;
+
+  /// Every end of the group that would lie on a free end of the rest, close enough to be joined.
+  std::vector<EndContact> findMeetings(std::span<const PlacedEnd> ends,
+                                       std::span<const std::int32_t> group) const;
 
   /// The nearest joined end of the same system within `reach` mm (at most the snap distance) whose
   /// heading differs by at least `facing` degrees, of visible pieces; of the two ends of a joint

@@ -103,16 +103,30 @@ std::int32_t matingEnd(const PieceDef& definition, std::int32_t connector, Track
   return -1;
 }
 
-/// Extends `from` at `connector`, which must be open, by one piece (and the second of its pair).
-EditResult extend(Layout& layout, std::int32_t from, std::int32_t connector,
-                  const PieceDef& definition, bool withPair) {
+/// The same, but the wanted one if that mates.
+std::int32_t matingEnd(const PieceDef& definition, std::int32_t connector, TrackSystem system,
+                       std::optional<std::int32_t> wanted) {
+  if (wanted && hasEnd(definition, *wanted) &&
+      definition.connectorSystem(static_cast<std::size_t>(*wanted)) == system)
+    return *wanted;
+  return matingEnd(definition, connector, system);
+}
+
+TrackSystem systemAt(const Layout& layout, TrackEnd end) {
+  return definitionOf(*layout.findPiece(end.piece))
+      ->connectorSystem(static_cast<std::size_t>(end.connector));
+}
+
+/// Extends the track at an open end by one piece (and the second of its pair).
+EditResult extend(Layout& layout, const Extension& place, const PieceDef& definition,
+                  bool withPair) {
+  const auto [from, connector] = place.at;
   const PieceDef& source = *definitionOf(*layout.findPiece(from));
-  const TrackSystem system = source.connectorSystem(static_cast<std::size_t>(connector));
   if (definition.connectors.empty())
     return {};
-  const std::int32_t own = matingEnd(definition, connector, system);
+  const std::int32_t own = place.own;
   if (own == -1)
-    return {{}, incompatible(definition.connectorSystem(0), system)};
+    return {{}, incompatible(definition.connectorSystem(0), systemAt(layout, place.at))};
   const WorldConnector end = ConnectorToWorld(*layout.findPiece(from), source, connector);
   if (!fitsPlan(definition, AttachPose(definition, own, end)))
     return {{}, beyondPlan()};
@@ -232,38 +246,65 @@ EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
   return finish(layout, step, std::move(placed));
 }
 
-EditResult cloneAndExtend(Layout& layout, std::int32_t piece) {
+EditResult cloneAndExtend(Layout& layout, std::int32_t piece, const ExtensionWish& wish) {
+  const auto canExtend = [&layout](const PlacedPiece& source, TrackEnd end) {
+    return openAt(source, end.connector) && !claimed(layout, {end.piece, end.connector});
+  };
   for (const std::int32_t id : {piece, layout.content().partnerOf(piece)}) {
     const PlacedPiece* source = layout.findPiece(id);
     const PieceDef* definition = source == nullptr ? nullptr : definitionOf(*source);
     if (definition == nullptr || source->helix != -1)
       return {};
-    for (const std::int32_t connector : {1, 0})
-      if (hasEnd(*definition, connector) && openAt(*source, connector) &&
-          !claimed(layout, {id, connector}))
-        return extend(layout, id, connector, *definition, false);
+    std::vector<std::int32_t> order{1, 0};
+    if (wish.at && wish.at->piece == id)
+      order.insert(order.begin(), wish.at->connector);
+    for (const std::int32_t connector : order) {
+      const TrackEnd end{id, connector};
+      if (hasEnd(*definition, connector) && canExtend(*source, end))
+        return extend(layout,
+                      {end, matingEnd(*definition, connector, systemAt(layout, end), wish.own)},
+                      *definition, false);
+    }
   }
   return {};
 }
 
-EditResult extendSelected(Layout& layout, std::string_view article) {
+std::optional<Extension> extensionOf(const Layout& layout, std::string_view article,
+                                     const ExtensionWish& wish) {
   const PieceDef* definition = TrackCatalog::instance().find(article);
   const std::vector<std::int32_t> selected = selectedPieces(layout);
   if (definition == nullptr || selected.empty())
-    return {};
+    return std::nullopt;
+  const auto openEnd = [&](TrackEnd end) {
+    const PlacedPiece* source = layout.findPiece(end.piece);
+    const PieceDef* sourceDefinition = source == nullptr ? nullptr : definitionOf(*source);
+    return sourceDefinition != nullptr && hasEnd(*sourceDefinition, end.connector) &&
+           openAt(*source, end.connector);
+  };
+  const auto placeAt = [&](TrackEnd end) {
+    return Extension{end, matingEnd(*definition, end.connector, systemAt(layout, end), wish.own)};
+  };
+  if (wish.at && containsId(selected, wish.at->piece) && openEnd(*wish.at))
+    return placeAt(*wish.at);
   for (const std::int32_t id : {selected.back(), layout.content().partnerOf(selected.back())}) {
     const PlacedPiece* source = layout.findPiece(id);
     const PieceDef* sourceDefinition = source == nullptr ? nullptr : definitionOf(*source);
     if (sourceDefinition == nullptr)
-      return {};
+      return std::nullopt;
     std::vector<std::int32_t> order{1, 0};
     for (std::int32_t i = 2; hasEnd(*sourceDefinition, i); ++i)
       order.push_back(i);
     for (const std::int32_t connector : order)
-      if (hasEnd(*sourceDefinition, connector) && openAt(*source, connector))
-        return extend(layout, id, connector, *definition, true);
+      if (openEnd({id, connector}))
+        return placeAt({id, connector});
   }
-  return {};
+  return std::nullopt;
+}
+
+EditResult extendSelected(Layout& layout, std::string_view article, const ExtensionWish& wish) {
+  const std::optional<Extension> place = extensionOf(layout, article, wish);
+  return place ? extend(layout, *place, *TrackCatalog::instance().find(article), true)
+               : EditResult{};
 }
 
 EditResult dropScenery(Layout& layout, std::string_view key, const Pose& pose) {

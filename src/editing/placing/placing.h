@@ -8,8 +8,10 @@
 #include "editing/edit_result.h"
 #include "editing/joining/snapping.h"
 #include "editing/track/connector_geometry.h"
+#include "editing/track/track_end.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace trassix {
@@ -34,17 +36,34 @@ std::int32_t addPiece(Layout& layout, const PieceDef& definition, const Pose& po
 EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
                      const SnapResult& snap, bool snapping);
 
+/// Where track is to go on, and by which of its own ends the new piece. Either is left to the rules
+/// below when it is not given, or cannot be: the end is not open or its piece not selected, or the
+/// own end of another system.
+struct ExtensionWish {
+  std::optional<TrackEnd> at;
+  std::optional<std::int32_t> own;
+};
+
 /// Places another piece of the same article at an open end of `piece` (connector 1 first, then 0).
 /// A one-sided joint blocks an end as well. Where none is open but the piece came as one of a pair,
 /// the other one is extended. Pieces of a helix are left alone.
-EditResult cloneAndExtend(Layout& layout, std::int32_t piece);
+EditResult cloneAndExtend(Layout& layout, std::int32_t piece, const ExtensionWish& wish = {});
 
-/// Places `article` at an open end of the selected piece with the highest id (connector 1, 0, then
-/// 2 upwards), with its connector 0 or, at connector 0 of the selected piece, its 1; an adapter is
-/// turned round when only its other end fits. Where none is open but the piece came as one of a
-/// pair, the other one is extended. Refused when no end fits the system. Nothing when no piece is
-/// selected or all its ends are joined.
-EditResult extendSelected(Layout& layout, std::string_view article);
+/// Where a new piece would go on.
+struct Extension {
+  TrackEnd at;
+  std::int32_t own = -1; ///< the end of the new piece that joins there, -1 when none fits
+};
+
+/// The place of `article` at an open end of the selected piece with the highest id (connector 1, 0,
+/// then 2 upwards): with its connector 0 or, at connector 0 of the selected piece, its 1; an
+/// adapter is turned round when only its other end fits. Where none is open but the piece came as
+/// one of a pair, at the other one. None when no piece is selected or all its ends are joined.
+std::optional<Extension> extensionOf(const Layout& layout, std::string_view article,
+                                     const ExtensionWish& wish = {});
+
+/// Places it there. Refused when no end fits the system.
+EditResult extendSelected(Layout& layout, std::string_view article, const ExtensionWish& wish = {});
 
 /// Drops a scenery item. The roundhouse seats itself at the nearest turntable within reach, rather
 /// at one that is scenery than at one of track, and on one of the directions of its tracks.

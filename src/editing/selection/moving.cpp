@@ -56,8 +56,7 @@ void SelectionMove::update(Point pointer, bool snapping, const SnapIndex& index)
     return end.piece == contact->own.piece && end.connector == contact->own.connector;
   });
   const PlacedEnd& target = contact->target;
-  motion_ = {own->at,
-             {target.at.x, target.at.y, normaliseHeading(target.heading + 180 - own->heading)}};
+  motion_ = motionOnto(*own, target);
   rise_ = target.height - own->height;
   snappingPiece_ = own->piece;
   snap_ = SnapResult{true,
@@ -73,6 +72,18 @@ void SelectionMove::turn(Point centre, double degrees) {
   snap_.reset();
   snappingPiece_ = -1;
   rise_ = 0;
+}
+
+std::vector<EndContact> SelectionMove::meetings(const SnapIndex& index) const {
+  if (!snap_)
+    return {};
+  std::vector<PlacedEnd> ends = ends_;
+  for (PlacedEnd& end : ends) {
+    end.at = motion_(end.at);
+    end.heading = normaliseHeading(end.heading + motion_.to.heading);
+    end.height += rise_;
+  }
+  return index.findMeetings(ends, pieces_);
 }
 
 bool SelectionMove::changes() const {

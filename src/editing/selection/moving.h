@@ -38,6 +38,8 @@ class SelectionMove {
   /// The snap, with the pose of the piece of the group that snaps; `snappingPiece` is its id.
   const std::optional<SnapResult>& snap() const { return snap_; }
   std::int32_t snappingPiece() const { return snappingPiece_; }
+  /// Ends of the group that will be joined where it snapped.
+  std::vector<EndContact> meetings(const SnapIndex& index) const;
   const std::vector<std::int32_t>& pieces() const { return pieces_; }
 
   /// False when the group would land where it is and nothing would be joined.

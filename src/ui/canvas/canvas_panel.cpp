@@ -16,6 +16,10 @@ namespace {
 /// Where a piece appears that was picked up without pointing at the plan.
 constexpr Point kPickUpPoint{300, 200};
 
+/// How long something carried rests at the edge before the plan scrolls, and then for each step.
+constexpr int kEdgeRestMs = 300;
+constexpr int kEdgeScrollMs = 30;
+
 wxStockCursor stockCursor(CursorShape shape) {
   switch (shape) {
   case CursorShape::Cross:
@@ -69,6 +73,10 @@ Key keyOf(const wxKeyEvent& event) {
     return Key::Down;
   case 'R':
     return Key::R;
+  case 'F':
+    return Key::F;
+  case WXK_TAB:
+    return Key::Tab;
   default:
     return Key::Other;
   }
@@ -109,6 +117,12 @@ CanvasPanel::CanvasPanel(wxWindow* parent, Workspace& workspace)
   Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
     holdSpace(false);
     event.Skip();
+  });
+  edgeTimer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
+    if (!canvas_.carrying() || !canvas_.scrollAtEdge())
+      edgeTimer_.Stop();
+    else if (edgeTimer_.GetInterval() != kEdgeScrollMs)
+      edgeTimer_.Start(kEdgeScrollMs);
   });
   wxGetTopLevelParent(this)->Bind(wxEVT_ACTIVATE, &CanvasPanel::onActivate, this);
 }
@@ -218,8 +232,16 @@ void CanvasPanel::onMouse(wxMouseEvent& event) {
   } else
     canvas_.move(input);
   syncCapture();
+  watchEdge();
   if (canvas_.cursor() != cursorShown_)
     update();
+}
+
+void CanvasPanel::watchEdge() {
+  if (!canvas_.carrying())
+    edgeTimer_.Stop();
+  else if (!edgeTimer_.IsRunning())
+    edgeTimer_.Start(kEdgeRestMs);
 }
 
 void CanvasPanel::onWheel(wxMouseEvent& event) {

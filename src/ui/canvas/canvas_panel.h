@@ -5,6 +5,7 @@
 
 #include <wx/bitmap.h>
 #include <wx/panel.h>
+#include <wx/timer.h>
 
 namespace trassix {
 
@@ -57,10 +58,13 @@ class CanvasPanel : public wxPanel, private PlanObserver {
   void syncCapture();
   void holdSpace(bool down);
   void renewPicture();
+  /// Keeps the plan scrolling while something carried rests at the edge.
+  void watchEdge();
 
   Canvas canvas_;
   wxBitmap picture_;
   std::uint64_t pictureStamp_ = 0;
+  wxTimer edgeTimer_;
   CursorShape cursorShown_ = CursorShape::Arrow;
 };
 

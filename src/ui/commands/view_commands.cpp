@@ -32,10 +32,10 @@ void flip(Desk& desk) {
 const Command kCommands[] = {
     {.id = kZoomIn, .menuText = wxTRANSLATE("Zoom &In\t+"),
      .menuHelp = wxTRANSLATE("Show the plan larger"), .hand = Hand::Keeps,
-     .run = [](Desk& desk) { desk.canvasPanel.canvas().zoomAboutCentre(kZoomInStep); }},
+     .run = [](Desk& desk) { desk.canvasPanel.canvas().zoomStep(kZoomInStep); }},
     {.id = kZoomOut, .menuText = wxTRANSLATE("Zoom &Out\t-"),
      .menuHelp = wxTRANSLATE("Show the plan smaller"), .hand = Hand::Keeps,
-     .run = [](Desk& desk) { desk.canvasPanel.canvas().zoomAboutCentre(kZoomOutStep); }},
+     .run = [](Desk& desk) { desk.canvasPanel.canvas().zoomStep(kZoomOutStep); }},
     {.id = kZoomFit, .menuText = wxTRANSLATE("Zoom to &Fit\tCtrl+0"),
      .menuHelp = wxTRANSLATE("Show the whole plan"), .toolLabel = wxTRANSLATE("Fit"),
      .hand = Hand::Keeps, .run = [](Desk& desk) { desk.canvasPanel.canvas().fit(); }},

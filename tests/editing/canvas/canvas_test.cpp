@@ -144,7 +144,7 @@ TEST(CanvasView, ThePointersPlaceFollowsEveryChangeOfTheView) {
   };
   canvas.move(at(400));
   for (const int change : {1, 2, 3, 4, 5, 6, 7}) {
-    change == 1   ? canvas.zoomAboutCentre(0.8)
+    change == 1   ? canvas.zoomStep(0.8)
     : change == 2 ? canvas.resetView()
     : change == 3 ? canvas.resetViewForSmall()
     : change == 4 ? canvas.fit()

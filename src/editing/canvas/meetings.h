@@ -1,0 +1,19 @@
+// Ends of a carried group that will be joined where it is, marked and counted.
+#pragma once
+
+#include "editing/canvas/surface.h"
+#include "editing/canvas/view_transform.h"
+#include "editing/joining/snapping.h"
+
+#include <span>
+#include <string>
+
+namespace trassix {
+
+void paintMeetings(Surface& surface, const ViewTransform& view,
+                   std::span<const EndContact> meetings);
+
+/// "2 ends join"; empty when none does.
+std::string meetingsHint(std::span<const EndContact> meetings);
+
+} // namespace trassix
