@@ -119,6 +119,7 @@ SceneryItem readSceneryItem(ElementReader& reader) {
   item.scalex = reader.scale("scalex");
   item.scaley = reader.scale("scaley");
   item.level = reader.integer("level");
+  item.sel = reader.flag("sel");
   return item;
 }
 

@@ -30,7 +30,6 @@ PlacedPiece readPiecePlace(ElementReader& reader);
 /// Puts the joint on the current line into the piece's table, lengthening it as needed.
 void readJoint(ElementReader& reader, PlacedPiece& piece);
 
-/// Reads all but `sel`.
 SceneryItem readSceneryItem(ElementReader& reader);
 
 } // namespace trassix
