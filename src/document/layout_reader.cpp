@@ -12,7 +12,11 @@ namespace trassix {
 
 namespace {
 
+/// Bytes that a piece with its joints takes, at least in most plans.
+constexpr std::size_t kPieceText = 200;
+
 void readLines(std::string_view text, PlanParts plan) {
+  plan.content.pieces.reserve(text.size() / kPieceText);
   ElementReader reader(text);
   PlanWalk walk;
   while (reader.next()) {

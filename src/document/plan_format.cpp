@@ -159,7 +159,7 @@ Elements pieces() {
       {"</pieces>", Outside},
       {"</block>", Outside},
       {"</layout>", Outside},
-      {"<piece ", Pieces, [](Reader r, Plan p) { p.content.pieces.push_back(readPiece(r)); },
+      {"<piece ", Pieces, [](Reader r, Plan p) { appendPiece(r, p.content.pieces); },
        named("id", "cat", "x", "y", "heading", "z", "grade", "rev", "free", "level", "helix", "sel",
              "color")},
       {"<joint ", Pieces, [](Reader r, Plan p) { readJoint(r, p.content.pieces.back()); },
