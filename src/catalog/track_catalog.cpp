@@ -2,6 +2,8 @@
 
 #include "catalog/builtin/ranges.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace trassix {
@@ -30,6 +32,8 @@ const PieceDef* TrackCatalog::find(std::string_view article) const {
 
 void TrackCatalog::add(PieceDef definition) {
   positions_[definition.article] = count();
+  for (const Connector& end : definition.connectors)
+    farthestEnd_ = std::max(farthestEnd_, std::hypot(end.x, end.y));
   definitions_.push_back(std::move(definition));
 }
 

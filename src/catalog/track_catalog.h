@@ -30,6 +30,9 @@ class TrackCatalog {
   /// Exact, case-sensitive look-up of an article number or alias; null on a miss.
   const PieceDef* find(std::string_view article) const;
 
+  /// In mm: no piece has an end that lies farther from where the piece lies.
+  double farthestEnd() const { return farthestEnd_; }
+
   /// Appends a definition. An article that is already known keeps its older record in the sequence
   /// and is found as the newer one.
   void add(PieceDef definition);
@@ -47,6 +50,7 @@ class TrackCatalog {
 
   std::vector<PieceDef> definitions_;
   std::unordered_map<std::string, std::int32_t, TextHash, std::equal_to<>> positions_;
+  double farthestEnd_ = 0;
   bool built_ = false;
 };
 

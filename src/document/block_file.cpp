@@ -39,8 +39,10 @@ void readLines(ElementReader& reader, Block& block) {
     if (inScenery) {
       if (reader.has("</scenery>"))
         inScenery = false;
-      else if (reader.has("<sceneryitem "))
+      else if (reader.has("<sceneryitem ")) {
         block.content.scenery.push_back(readSceneryItem(reader));
+        block.content.scenery.back().sel = false;
+      }
     } else if (reader.has("<block ")) {
       block.name = reader.text("name");
     } else if (reader.has("<piece ")) {

@@ -16,27 +16,30 @@ const char* findChar(const char* begin, const char* end, char c) {
   return static_cast<const char*>(std::memchr(begin, c, static_cast<std::size_t>(end - begin)));
 }
 
-/// Calls `visit` with every quote until it returns false. Values are short: looking at eight
-/// characters at once is faster than a call of memchr for each.
-template <class Visit>
-void visitQuotes(const char* begin, const char* end, Visit visit) {
+/// The top bit of each byte of the word that is `c`.
+std::uint64_t bytesThatAre(char c, std::uint64_t word) {
+  constexpr std::uint64_t kEach = 0x0101010101010101;
+  constexpr std::uint64_t kLow = 0x7f7f7f7f7f7f7f7f;
+  word ^= kEach * static_cast<unsigned char>(c);
+  return ~(((word & kLow) + kLow) | word | kLow);
+}
+
+/// Calls `visit` with every one of these characters until it returns false. They follow one another
+/// closely: looking at eight characters at once is faster than a call of memchr for each.
+template <char... C, class Visit>
+void visitChars(const char* begin, const char* end, Visit visit) {
   if constexpr (std::endian::native == std::endian::little) {
-    constexpr std::uint64_t kQuotes = 0x2222222222222222;
-    constexpr std::uint64_t kLow = 0x7f7f7f7f7f7f7f7f;
     for (; end - begin >= 8; begin += 8) {
       std::uint64_t word = 0;
       std::memcpy(&word, begin, sizeof word);
-      word ^= kQuotes;
-      // The top bit of each byte that was a quote.
-      for (std::uint64_t found = ~(((word & kLow) + kLow) | word | kLow); found != 0;
-           found &= found - 1) {
+      for (std::uint64_t found = (bytesThatAre(C, word) | ...); found != 0; found &= found - 1) {
         if (!visit(begin + std::countr_zero(found) / 8))
           return;
       }
     }
   }
   for (; begin != end; ++begin) {
-    if (*begin == '"' && !visit(begin))
+    if (((*begin == C) || ...) && !visit(begin))
       return;
   }
 }
@@ -65,35 +68,23 @@ bool ElementReader::next() {
   if (rest_.empty())
     return false;
   const char* begin = rest_.data();
-  const char* end = findChar(begin, begin + rest_.size(), '\n');
+  const char* end = nullptr;
+  tagCount_ = 0;
+  visitChars<'<', '\n'>(begin, begin + rest_.size(), [this, &end](const char* found) {
+    if (*found == '\n')
+      end = found;
+    else if (tagCount_ < kMostTags)
+      tags_[tagCount_++] = found;
+    else
+      tagCount_ = kMostTags + 1;
+    return end == nullptr;
+  });
   const std::size_t length = end == nullptr ? rest_.size() : static_cast<std::size_t>(end - begin);
   line_ = rest_.substr(0, length);
   rest_.remove_prefix(end == nullptr ? length : length + 1);
   ++lineNumber_;
   attributesFound_ = false;
-
-  tagCount_ = 0;
-  end = begin + length;
-  for (const char* tag = begin; (tag = findChar(tag, end, '<')) != nullptr; ++tag) {
-    if (tagCount_ == kMostTags) {
-      ++tagCount_;
-      break;
-    }
-    tags_[tagCount_++] = tag;
-  }
   return true;
-}
-
-bool ElementReader::has(std::string_view opening) const {
-  if (tagCount_ > kMostTags)
-    return line_.find(opening) != std::string_view::npos;
-  const char* end = line_.data() + line_.size();
-  for (std::size_t i = 0; i < tagCount_; ++i) {
-    if (static_cast<std::size_t>(end - tags_[i]) >= opening.size() && tags_[i][1] == opening[1] &&
-        std::memcmp(tags_[i], opening.data(), opening.size()) == 0)
-      return true;
-  }
-  return false;
 }
 
 void ElementReader::findAttributes() {
@@ -104,7 +95,7 @@ void ElementReader::findAttributes() {
   if (tagCount_ == 0)
     return;
   const char* open = nullptr;
-  visitQuotes(tags_[0], line_.data() + line_.size(), [this, &open](const char* quote) {
+  visitChars<'"'>(tags_[0], line_.data() + line_.size(), [this, &open](const char* quote) {
     if (open == nullptr) {
       open = quote;
       return true;

@@ -33,7 +33,22 @@ class ElementReader {
   bool next();
 
   /// True when the line has this text somewhere, which must begin with '<'.
-  bool has(std::string_view opening) const;
+  bool has(std::string_view opening) const {
+    if (tagCount_ > kMostTags)
+      return line_.find(opening) != std::string_view::npos;
+    for (std::size_t i = 0; i < tagCount_; ++i) {
+      const std::string_view tag(tags_[i], line_.data() + line_.size());
+      if (tag.size() >= opening.size() && tag[1] == opening[1] && tag.starts_with(opening))
+        return true;
+    }
+    return false;
+  }
+
+  /// The line from its '<' on; empty when it has none or more than one.
+  std::string_view onlyTag() const {
+    return tagCount_ == 1 ? std::string_view(tags_[0], line_.data() + line_.size())
+                          : std::string_view();
+  }
 
   /// The value after the first `name="` that opens a quote; empty when there is none or the quote
   /// is not closed. The end of a longer name counts as well: `x` also finds `scalex`, so that the

@@ -1,11 +1,69 @@
 #include "document/piece_lines.h"
 
+#include "document/limits.h"
+#include "document/written_line.h"
+
 namespace trassix {
 
 namespace {
 
 std::uint8_t lowByte(std::int32_t value) {
   return static_cast<std::uint8_t>(value % 256);
+}
+
+void setColor(PlacedPiece& piece, std::int32_t value) {
+  piece.hasColor = true;
+  piece.color = {lowByte(value / 65536), lowByte(value / 256), lowByte(value)};
+}
+
+/// Takes what `readPiece` finds in a line as `writePiece` writes it; false for any other line.
+bool readWritten(WrittenLine line, PlacedPiece& piece) {
+  const bool read =
+      line.skip("<piece") && line.integer("id", piece.id) && line.text("cat", piece.cat) &&
+      line.real("x", piece.x) && line.real("y", piece.y) && line.real("heading", piece.heading) &&
+      line.real("z", piece.z) && line.real("grade", piece.grade) &&
+      (!line.isNext("rev") || line.flag("rev", piece.rev)) &&
+      (!line.isNext("free") || line.flag("free", piece.free)) &&
+      line.integer("level", piece.level) &&
+      (!line.isNext("helix") || line.integer("helix", piece.helix)) && line.flag("sel", piece.sel);
+  if (read && line.isNext("color")) {
+    std::int32_t color = -1;
+    if (!line.integer("color", color))
+      return false;
+    setColor(piece, color);
+  }
+  return read && line.skip(">") && line.atEnd() && isLength(piece.x) && isLength(piece.y) &&
+         isLength(piece.z);
+}
+
+bool readWritten(WrittenLine line, std::int32_t& connector, Joint& joint) {
+  return line.skip("<joint") && line.integer("conn", connector) &&
+         line.integer("target", joint.target) && line.integer("tconn", joint.tconn) &&
+         line.skip("/>") && line.atEnd() && connector >= 0 && connector < kMostConnectors &&
+         joint.tconn >= -1 && joint.tconn < kMostConnectors;
+}
+
+PlacedPiece readPiece(ElementReader& reader) {
+  PlacedPiece piece = readPiecePlace(reader);
+  piece.z = reader.length("z", 0);
+  piece.grade = reader.angle("grade");
+  piece.rev = reader.flag("rev");
+  piece.free = reader.flag("free");
+  piece.helix = reader.integer("helix", -1);
+  piece.sel = reader.flag("sel");
+  if (!reader.text("color").empty())
+    setColor(piece, reader.integer("color"));
+  return piece;
+}
+
+void searchJoint(ElementReader& reader, std::int32_t& connector, Joint& joint) {
+  connector = reader.integer("conn");
+  if (connector < 0 || connector >= kMostConnectors)
+    reader.fail("no such connector", "conn", reader.text("conn"));
+  joint.target = reader.integer("target");
+  joint.tconn = reader.integer("tconn");
+  if (joint.tconn < -1 || joint.tconn >= kMostConnectors)
+    reader.fail("no such connector", "tconn", reader.text("tconn"));
 }
 
 void writeSceneryItem(ElementWriter& writer, const SceneryItem& item) {
@@ -78,31 +136,18 @@ PlacedPiece readPiecePlace(ElementReader& reader) {
   return piece;
 }
 
-PlacedPiece readPiece(ElementReader& reader) {
-  PlacedPiece piece = readPiecePlace(reader);
-  piece.z = reader.length("z", 0);
-  piece.grade = reader.angle("grade");
-  piece.rev = reader.flag("rev");
-  piece.free = reader.flag("free");
-  piece.helix = reader.integer("helix", -1);
-  piece.sel = reader.flag("sel");
-  piece.hasColor = !reader.text("color").empty();
-  if (piece.hasColor) {
-    const std::int32_t value = reader.integer("color");
-    piece.color = {lowByte(value / 65536), lowByte(value / 256), lowByte(value)};
-  }
-  return piece;
+void appendPiece(ElementReader& reader, std::vector<PlacedPiece>& pieces) {
+  if (readWritten(WrittenLine(reader.onlyTag()), pieces.emplace_back()))
+    return;
+  pieces.pop_back();
+  pieces.push_back(readPiece(reader));
 }
 
 void readJoint(ElementReader& reader, PlacedPiece& piece) {
-  const std::int32_t connector = reader.integer("conn");
-  if (connector < 0 || connector >= kMostConnectors)
-    reader.fail("no such connector", "conn", reader.text("conn"));
+  std::int32_t connector = 0;
   Joint joint;
-  joint.target = reader.integer("target");
-  joint.tconn = reader.integer("tconn");
-  if (joint.tconn < -1 || joint.tconn >= kMostConnectors)
-    reader.fail("no such connector", "tconn", reader.text("tconn"));
+  if (!readWritten(WrittenLine(reader.onlyTag()), connector, joint))
+    searchJoint(reader, connector, joint);
   const auto slot = static_cast<std::size_t>(connector);
   if (slot >= piece.joints.size())
     piece.joints.resize(slot + 1);
@@ -119,6 +164,7 @@ SceneryItem readSceneryItem(ElementReader& reader) {
   item.scalex = reader.scale("scalex");
   item.scaley = reader.scale("scaley");
   item.level = reader.integer("level");
+  item.sel = reader.flag("sel");
   return item;
 }
 

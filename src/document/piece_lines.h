@@ -20,8 +20,8 @@ void writePiece(ElementWriter& writer, const PlacedPiece& piece, std::string_vie
 /// The whole section with its first and last line; nothing when there are no items.
 void writeScenery(ElementWriter& writer, const std::vector<SceneryItem>& scenery);
 
-/// Reads the piece that begins on the current line, without its joints.
-PlacedPiece readPiece(ElementReader& reader);
+/// Appends the piece that begins on the current line, without its joints.
+void appendPiece(ElementReader& reader, std::vector<PlacedPiece>& pieces);
 
 /// Reads only what the piece is and where it lies in the plan: `id`, `cat`, `x`, `y`, `heading` and
 /// `level`.
@@ -30,7 +30,6 @@ PlacedPiece readPiecePlace(ElementReader& reader);
 /// Puts the joint on the current line into the piece's table, lengthening it as needed.
 void readJoint(ElementReader& reader, PlacedPiece& piece);
 
-/// Reads all but `sel`.
 SceneryItem readSceneryItem(ElementReader& reader);
 
 } // namespace trassix

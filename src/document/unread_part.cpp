@@ -4,97 +4,27 @@
 
 #include "document/element_reader.h"
 #include "document/layout_reader.h"
+#include "document/plan_format.h"
 #include "measures/number_text.h"
 #include "texts/texts.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <iterator>
 #include <set>
+#include <string>
 #include <vector>
 
 namespace trassix {
 
 namespace {
 
-/// The elements of the format with their attributes in the order in which they are written.
-struct Element {
-  std::string_view name;
-  std::string_view attributes; ///< each between blanks; empty: only holds others
-  bool once = false;           ///< another one would replace it
-};
-
-constexpr Element kElements[] = {
-    {"piece", " id cat x y heading z grade rev free level helix sel color "},
-    {"joint", " conn target tconn "},
-    {"sceneryitem", " id item x y heading scalex scaley level sel "},
-    {"pt", " x y "},
-    {"vertex", " x y "},
-    {"v", " x y "},
-    {"label", " id x y text "},
-    {"shape", " id r g b a outline level height label "},
-    {"covers", " piece "},
-    {"tunnel", " id portalA portalB anchorA anchorB "},
-    {"helix", " id cx cy heading variant bottomR1 bottomR2 topR1 topR2 "},
-    {"run", " deg anchor conn "},
-    {"level", " id name visible height trackcolor r g b "},
-    {"levels", " active ", true},
-    {"lastshape", " id w_mm h_mm w2_mm h2_mm ", true},
-    {"layout", " name version units ", true},
-    {"grade_runs", ""},
-    {"pieces", ""},
-    {"scenery", ""},
-    {"baseboard", ""},
-    {"labels", ""},
-    {"shapes", ""},
-    {"tunnels", ""},
-    {"helices", ""},
-};
-
-enum class Section : std::uint8_t { Outside, Pieces, Scenery, Levels, Baseboard, Shape };
-
-/// A text that the reader looks for in the lines of a section, in its order, and where it goes on.
-struct Opening {
-  Section in;
-  std::string_view text;
-  Section next;
-  std::string_view after; ///< the element that must have come before, if any
-};
-
-constexpr Opening kOpenings[] = {
-    {Section::Outside, "<layout ", Section::Outside, ""},
-    {Section::Outside, "<run ", Section::Outside, ""},
-    {Section::Outside, "<pieces>", Section::Pieces, ""},
-    {Section::Outside, "<levels ", Section::Levels, ""},
-    {Section::Outside, "<scenery>", Section::Scenery, ""},
-    {Section::Outside, "<baseboard>", Section::Baseboard, ""},
-    {Section::Outside, "<lastshape", Section::Outside, ""},
-    {Section::Outside, "<label ", Section::Outside, ""},
-    {Section::Outside, "<shape ", Section::Shape, ""},
-    {Section::Outside, "<tunnel ", Section::Outside, ""},
-    {Section::Outside, "<covers ", Section::Outside, "tunnel"},
-    {Section::Outside, "<helix ", Section::Outside, ""},
-    {Section::Pieces, "</pieces>", Section::Outside, ""},
-    {Section::Pieces, "</block>", Section::Outside, ""},
-    {Section::Pieces, "</layout>", Section::Outside, ""},
-    {Section::Pieces, "<piece ", Section::Pieces, ""},
-    {Section::Pieces, "<joint ", Section::Pieces, "piece"},
-    {Section::Scenery, "</scenery>", Section::Outside, ""},
-    {Section::Scenery, "<sceneryitem ", Section::Scenery, ""},
-    {Section::Levels, "</levels>", Section::Outside, ""},
-    {Section::Levels, "<level ", Section::Levels, ""},
-    {Section::Levels, "<pt ", Section::Levels, "level"},
-    {Section::Baseboard, "</baseboard>", Section::Outside, ""},
-    {Section::Baseboard, "<vertex ", Section::Baseboard, ""},
-    {Section::Shape, "</shape", Section::Outside, ""},
-    {Section::Shape, "<v ", Section::Shape, ""},
-};
-
 constexpr std::string_view kBlanks = " \t\r";
 
 const Element* findElement(std::string_view name) {
-  const auto* found = std::ranges::find(kElements, name, &Element::name);
-  return found == std::end(kElements) ? nullptr : found;
+  for (int section = 0; section <= static_cast<int>(Section::Nowhere); ++section)
+    for (const Element& element : elementsOf(static_cast<Section>(section)))
+      if (element.name() == name)
+        return &element;
+  return nullptr;
 }
 
 bool startsName(char c) {
@@ -140,22 +70,11 @@ class UnreadSearch {
 
   /// What the reader takes from the line.
   void follow() {
-    taken_ = {};
-    if (line_.find('<') == std::string_view::npos)
-      return;
-    for (const Opening& opening : kOpenings) {
-      if (opening.in != section_ || line_.find(opening.text) == std::string_view::npos)
-        continue;
-      const std::string_view name = opening.text.substr(1, opening.text.find_last_not_of(" >"));
-      if (name == "pieces")
-        seen_.erase("piece");
-      if (opening.after.empty() || seen_.contains(opening.after)) {
-        taken_ = name;
-        seen_.insert(name);
-      }
-      section_ = opening.next;
-      return;
-    }
+    taken_ = line_.find('<') == std::string_view::npos
+                 ? nullptr
+                 : walk_.next([this](std::string_view opening) {
+                     return line_.find(opening) != std::string_view::npos;
+                   });
   }
 
   /// What there is in the line.
@@ -185,7 +104,8 @@ class UnreadSearch {
   /// Takes a tag from the text, which begins with its name.
   void lookAtTag(std::string_view& text) {
     const std::string_view name = text.substr(0, text.find_first_of(" \t\r/>"));
-    const Element* element = findElement(name);
+    const Element* element =
+        taken_ != nullptr && taken_->name() == name ? taken_ : findElement(name);
     text.remove_prefix(name.size());
     if (element == nullptr)
       return report(name);
@@ -196,26 +116,25 @@ class UnreadSearch {
       Attribute attribute;
       if (!takeAttribute(text, attribute))
         return report(name);
-      const std::size_t found = placeOf(*element, attribute.name(), place);
-      ordered = ordered && found != std::string_view::npos;
-      place = ordered ? found : place;
+      place = ordered ? placeOf(*element, attribute.name(), place) : place;
+      ordered = place != element->attributes.size();
       attributes_.push_back(attribute);
     }
     check(*element, ordered);
   }
 
   void check(const Element& element, bool ordered) {
-    if (element.name == "layout")
+    if (element.name() == "layout")
       checkVersion();
     // What only holds others loses nothing by itself.
     if (element.attributes.empty() && attributes_.empty())
       return;
     // The second one on a line, or one that the reader has not looked for here.
-    if (taken_ != element.name)
-      return report(element.name);
-    taken_ = {};
-    if (element.once && !singles_.insert(element.name).second)
-      return report(element.name);
+    if (taken_ != &element)
+      return report(element.name());
+    taken_ = nullptr;
+    if (element.rule == Element::Rule::Once && !singles_.insert(&element).second)
+      return report(element.name());
     if (!ordered)
       checkAttributes(element);
   }
@@ -230,28 +149,26 @@ class UnreadSearch {
   /// Attributes in another order than that of the format, which the reader may mix up.
   void checkAttributes(const Element& element) {
     for (const Attribute& attribute : attributes_) {
-      if (placeOf(element, attribute.name(), 0) == std::string_view::npos)
-        return report(element.name, attribute.name());
+      if (placeOf(element, attribute.name(), 0) == element.attributes.size())
+        return report(element.name(), attribute.name());
     }
     for (const Attribute& attribute : attributes_) {
-      const bool withBlank = element.name == "level" && attribute.spelled == " r";
-      const std::string_view searched = attribute.spelled.substr(withBlank ? 0 : 1);
+      const bool apart = element.attributes[placeOf(element, attribute.name(), 0)].apart;
+      const std::string_view searched = attribute.spelled.substr(apart ? 0 : 1);
       const auto first = std::ranges::find_if(attributes_, [searched](const Attribute& other) {
         return other.spelled.ends_with(searched);
       });
       if (first->spelled != attribute.spelled)
-        return report(element.name, attribute.name());
+        return report(element.name(), attribute.name());
     }
   }
 
-  /// Where an attribute stands in the element's list from there on; npos when it does not.
+  /// Where an attribute stands among the element's, from there on; their number when it does not.
   static std::size_t placeOf(const Element& element, std::string_view name, std::size_t from) {
-    const std::string_view list = element.attributes;
-    std::size_t place = list.find(name, from);
-    while (place != std::string_view::npos &&
-           (list[place - 1] != ' ' || list[place + name.size()] != ' '))
-      place = list.find(name, place + 1);
-    return place;
+    const std::vector<AttributeName>& all = element.attributes;
+    while (from < all.size() && all[from].name != name)
+      ++from;
+    return from;
   }
 
   /// Goes over the end of a tag if it is there.
@@ -290,12 +207,11 @@ class UnreadSearch {
   std::string_view rest_;
   std::string_view line_;
   std::size_t number_ = 0;
-  Section section_ = Section::Outside;
-  std::string_view taken_;     ///< the element that the reader takes from the line
-  std::string_view skippedTo_; ///< the end of a comment or instruction that is open
+  PlanWalk walk_;
+  const Element* taken_ = nullptr; ///< what the reader takes from the line
+  std::string_view skippedTo_;     ///< the end of a comment or instruction that is open
   std::vector<Attribute> attributes_;
-  std::set<std::string_view> seen_; ///< what the reader has taken
-  std::set<std::string_view> singles_;
+  std::set<const Element*> singles_; ///< met, of those that come once
   std::string unread_;
 };
 

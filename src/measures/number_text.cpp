@@ -1,7 +1,9 @@
 #include "measures/number_text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 #include <system_error>
 
@@ -30,13 +32,15 @@ bool takeSign(std::string_view& text) {
   return negative;
 }
 
+/// So many digits a double holds whatever they are.
+constexpr std::ptrdiff_t kExactDigits = 15;
+
 /// What files are full of: digits, a point and digits, with so few digits that the quotient of two
 /// exact doubles is the correctly rounded value. False when the text is of any other form.
 bool readPlainDecimal(std::string_view text, double& magnitude) {
-  constexpr std::size_t kExactDigits = 15;
   constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-  if (text.empty() || text.size() > kExactDigits + 1)
+  if (text.empty() || text.size() > std::size_t{kExactDigits + 1})
     return false;
   std::int64_t digits = 0;
   std::size_t i = 0;
@@ -57,6 +61,14 @@ bool isHexadecimal(std::string_view text) {
   if (text.size() < 3 || text[0] != '0' || (text[1] != 'x' && text[1] != 'X'))
     return false;
   return isHexDigit(text[2]) || (text[2] == '.' && text.size() > 3 && isHexDigit(text[3]));
+}
+
+/// Puts up to `most` digits from the front of the text onto the number; returns where they end.
+const char* takeDigits(const char* text, const char* end, std::ptrdiff_t most,
+                       std::int64_t& number) {
+  for (end = text + std::min(most, end - text); text != end && isDigit(*text); ++text)
+    number = number * 10 + (*text - '0');
+  return text;
 }
 
 /// From 2^52 on doubles have no fraction.
@@ -106,6 +118,31 @@ NumberError readReal(std::string_view text, double& value) {
   }
   value = negative ? -magnitude : magnitude;
   return NumberError::None;
+}
+
+const char* takeInteger(const char* text, const char* end, std::int32_t& value) {
+  constexpr std::ptrdiff_t kSurelyInRange = 9;
+  const bool negative = text != end && *text == '-';
+  const char* first = negative ? text + 1 : text;
+  std::int64_t number = 0;
+  const char* last = takeDigits(first, end, kSurelyInRange, number);
+  value = static_cast<std::int32_t>(negative ? -number : number);
+  return last == first ? nullptr : last;
+}
+
+const char* takeReal(const char* text, const char* end, double& value) {
+  constexpr std::ptrdiff_t kDecimals = 4;
+  constexpr std::ptrdiff_t kWhole = kExactDigits - kDecimals;
+  const bool negative = text != end && *text == '-';
+  const char* first = negative ? text + 1 : text;
+  std::int64_t digits = 0;
+  const char* point = takeDigits(first, end, kWhole, digits);
+  if (point == first || point == end || *point != '.')
+    return nullptr;
+  const char* last = takeDigits(point + 1, end, kDecimals, digits);
+  const double magnitude = static_cast<double>(digits) / 10000;
+  value = negative ? -magnitude : magnitude;
+  return last == point + 1 + kDecimals ? last : nullptr;
 }
 
 char* writeInteger(char* out, std::int32_t value) {

@@ -17,6 +17,12 @@ NumberError readInteger(std::string_view text, std::int32_t& value);
 /// `value` is left alone on an error.
 NumberError readReal(std::string_view text, double& value);
 
+/// Read a number from the front of a text in the very form in which the functions below write it,
+/// with at most 9 and 11 digits before the point; the value is the same as above. Return the end of
+/// the number, null for any other text.
+const char* takeInteger(const char* text, const char* end, std::int32_t& value);
+const char* takeReal(const char* text, const char* end, double& value);
+
 /// Longest text of a real: 309 digits, sign, point and four decimals.
 inline constexpr std::size_t kRealSpace = 320;
 inline constexpr std::size_t kIntegerSpace = 12;

@@ -55,6 +55,32 @@ TEST(LayoutFile, writesTheDocumentedExampleAsItIs) {
     GTEST_SKIP() << "no such locale in the system, checked for streams only";
 }
 
+TEST(LayoutFile, readsWrittenLinesLikeAnyOthers) {
+  const std::string example = test::documentedExample("<layout ");
+  // clang-format off
+  const std::pair<const char*, const char*> changes[] = {
+      {"piece id=\"1\"", "piece id=\"2000000001\""}, {"\"24188\"", "\"</pieces>\""},
+      {"\"24188\"", "\"\""}, {"288.3000", "-0.0000"}, {"288.3000", "1000000.0001"},
+      {"288.3000", "12345678901.2345"}, {"288.3000", "8.30000"}, {"288.3000", "1.300"},
+      {"250.0000", "nan"}, {"rev=\"1\"", "rev=\"0\""}, {"rev=\"1\"", "rev=\"10\""},
+      {" free", " z=\"5\" free"}, {"level=\"2\" helix", "helix"}, {"16744448", "-1"},
+      {"16744448", ""}, {"sel=\"0\">", "sel=\"0\"> color=\"5\">"}, {"conn=\"1\"", "conn=\"48\""},
+      {"target=\"2\"", "target=\"-9999999999\""}, {"tconn=\"0\"", "tconn=\"-1\""},
+      {"tconn=\"0\"", "tconn=\"-2\""}};
+  // clang-format on
+  for (const auto& [what, by] : changes) {
+    std::string text = example;
+    ASSERT_NE(text.find(what), std::string::npos) << what;
+    text.replace(text.find(what), std::string_view(what).size(), by);
+    Layout written;
+    Layout other;
+    std::string name;
+    const std::string message = readLayout(text, written, name);
+    EXPECT_EQ(readLayout(std::regex_replace(text, std::regex("\n"), " \n"), other, name), message);
+    EXPECT_EQ(written.content(), other.content()) << by;
+  }
+}
+
 TEST(LayoutFile, writesAnEmptyPlanInSixLines) {
   EXPECT_EQ(textOf(Layout(), "a & \"b\"\n<c>"),
             "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"

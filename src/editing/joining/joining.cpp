@@ -1,7 +1,9 @@
 #include "editing/joining/joining.h"
 
+#include "catalog/track_catalog.h"
 #include "editing/joining/end_grid.h"
 #include "editing/track/routes.h"
+#include "geometry/box.h"
 
 #include <algorithm>
 #include <cmath>
@@ -33,6 +35,16 @@ bool meet(const PlacedEnd& a, const PlacedEnd& b, double distance, MeetingPlay p
   return a.piece != b.piece && a.system == b.system && distance <= play.distance &&
          std::abs(a.height - b.height) <= (a.graded || b.graded ? play.height : kSameHeight) &&
          180.0 - headingDifference(a.heading, b.heading) <= play.facing;
+}
+
+/// Where the pieces lie that can have an end within `distance` mm of one of these, of which there
+/// must be any.
+Box aroundPiecesOf(std::span<const PlacedEnd> ends, double distance) {
+  constexpr double kSlack = 1; // for rounding
+  const double reach = TrackCatalog::instance().farthestEnd() + distance + kSlack;
+  const auto x = std::ranges::minmax(ends, {}, [](const PlacedEnd& end) { return end.at.x; });
+  const auto y = std::ranges::minmax(ends, {}, [](const PlacedEnd& end) { return end.at.y; });
+  return {x.min.at.x - reach, y.min.at.y - reach, x.max.at.x + reach, y.max.at.y + reach};
 }
 
 /// Calls `visit(piece, connector, joint)` for each joint that leads out of `pieces`.
@@ -135,11 +147,15 @@ int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces, Meeti
   if (own.empty())
     return 0;
   const EndGrid ownGrid(own);
+  const Box mayMeet = aroundPiecesOf(own, play.distance);
   position = 0;
   std::vector<PlacedEnd> ends;
   for (const PlacedPiece& piece : layout.pieces()) {
+    const std::int32_t at = position++;
+    if (!holds(mayMeet, {piece.x, piece.y}))
+      continue;
     ends.clear();
-    appendEnds(ends, piece, position++, true);
+    appendEnds(ends, piece, at, true);
     for (const PlacedEnd& end : ends) {
       bool near = false;
       if (end.joinedTo == -1)

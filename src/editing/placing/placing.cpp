@@ -12,8 +12,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace trassix {
 
@@ -41,6 +43,17 @@ bool claimed(const Layout& layout, Joint end) {
   return std::any_of(layout.pieces().begin(), layout.pieces().end(), [end](const PlacedPiece& p) {
     return p.id != end.target && std::find(p.joints.begin(), p.joints.end(), end) != p.joints.end();
   });
+}
+
+/// The pieces, in their order, that can have an end in reach of one of a piece at this pose.
+std::vector<PlacedPiece> piecesNear(const Layout& layout, const Pose& pose) {
+  constexpr double kSlack = 1; // for rounding
+  const double reach = 2 * TrackCatalog::instance().farthestEnd() + kSnapDistance + kSlack;
+  std::vector<PlacedPiece> near;
+  std::ranges::copy_if(layout.pieces(), std::back_inserter(near), [&](const PlacedPiece& piece) {
+    return std::abs(piece.x - pose.x) <= reach && std::abs(piece.y - pose.y) <= reach;
+  });
+  return near;
 }
 
 Notice incompatible(TrackSystem added, TrackSystem present) {
@@ -219,7 +232,7 @@ EditResult dropPiece(Layout& layout, std::string_view article, const Pose& pose,
   if (definition == nullptr)
     return {};
   if (!snap.snapped && snapping)
-    if (const auto contact = FindIncompatibleContact(*definition, pose, layout.pieces()))
+    if (const auto contact = FindIncompatibleContact(*definition, pose, piecesNear(layout, pose)))
       return {{}, incompatible(contact->carried, contact->other)};
   const Pose& landing = snap.snapped ? snap.pose : pose;
   if (!fitsPlan(*definition, landing))

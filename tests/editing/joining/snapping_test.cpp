@@ -71,6 +71,10 @@ TEST(Snapping, IndexAndPlainLoopsAgree) {
       ASSERT_EQ(index.findSnap(carried, pose), plain) << "round " << round << " query " << i;
       const auto contact = FindIncompatibleContact(carried, pose, layout.pieces());
       ASSERT_EQ(index.findIncompatibleContact(carried, pose), contact);
+      if (i % 15 == 0) {
+        Layout tried = layout;
+        ASSERT_EQ(dropPiece(tried, carried.article, pose, {}, true).refusal.has_value(), !!contact);
+      }
       snapped += plain.snapped ? 1 : 0;
       contacts += contact ? 1 : 0;
     }
