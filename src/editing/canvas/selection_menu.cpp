@@ -4,48 +4,13 @@
 #include "editing/autofill/autofill.h"
 #include "editing/canvas/autofill_command.h"
 #include "editing/canvas/selection_commands.h"
+#include "editing/canvas/swap_command.h"
 #include "editing/placing/placing.h"
-#include "editing/placing/swapping.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
 #include "texts/texts.h"
 
 namespace trassix {
-
-namespace {
-
-/// Tells the ways apart in which one article fits: by its ends, numbered as in the properties, that
-/// meet the neighbours.
-std::string waysRound(const Layout& layout, std::int32_t piece, const SwapFit& fit) {
-  std::string ends;
-  for (std::size_t i = 0; i < fit.ends.size(); ++i) {
-    if (fit.ends[i] == -1 || layout.findPiece(piece)->joint(i).open())
-      continue;
-    const std::string end = std::to_string(fit.ends[i] + 1);
-    ends = ends.empty() ? end : tr("%1% and %2%", {ends, end});
-  }
-  return ends.empty() ? ends : tr(", joined by end %1%", {ends});
-}
-
-/// "Swap for ...": one row for each article that fits the ends of the piece.
-void addSwaps(std::vector<MenuRow>& rows, ToolSite& site, std::int32_t piece) {
-  const std::vector<SwapFit> fits = swapFits(site.layout(), piece);
-  for (const SwapFit& fit : fits) {
-    MenuRow row;
-    row.text = fit.definition->name;
-    if (std::ranges::count(fits, fit.definition, &SwapFit::definition) > 1 ||
-        fit.definition->article == site.layout().findPiece(piece)->cat)
-      row.text += waysRound(site.layout(), piece, fit);
-    row.submenu = tr("Swap for");
-    row.action = [&site, piece, fit] {
-      if (!refuseLocked(site, "swap") && swapPiece(site.layout(), piece, fit))
-        site.workspace.changed();
-    };
-    rows.push_back(row);
-  }
-}
-
-} // namespace
 
 std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& under, Point at) {
   Layout& layout = site.layout();
@@ -64,8 +29,9 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
     rows.push_back({tr("Select Joined Track"), tr("Alt+Double-click"), true,
                     [&site, piece] { selectChain(site, piece); }});
   }
-  if (onPiece)
-    addSwaps(rows, site, under.front().id);
+  if (onPiece && canSwap(layout, under.front().id))
+    rows.push_back(
+        {tr("Swap..."), "", true, [&site, piece = under.front().id] { runSwap(site, piece); }});
   const auto addEdit = [&](RecordKind kind, const char* text, auto edit) {
     if (under.empty() || under.front().kind != kind)
       return;

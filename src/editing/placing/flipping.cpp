@@ -102,6 +102,17 @@ std::optional<Flip> flipOf(const Layout& layout, std::int32_t piece, int step, s
   return how;
 }
 
+std::vector<Flip> flipsOf(const Layout& layout, std::int32_t piece) {
+  std::vector<Flip> flips;
+  for (int step = 1;; ++step) {
+    const std::optional<Flip> how = flipOf(layout, piece, step);
+    if (!how || (!flips.empty() && how->to == flips.front().to))
+      return flips;
+    if (how->to != how->from)
+      flips.push_back(*how);
+  }
+}
+
 ChangeResult flip(Layout& layout, const Flip& how) {
   const PlacedPiece before = *layout.findPiece(how.piece);
   const PieceDef& definition = *definitionOf(before);

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace trassix {
 
@@ -24,6 +25,9 @@ struct Flip {
 /// flip after the other of a piece without joints. Empty when it has only one way there.
 std::optional<Flip> flipOf(const Layout& layout, std::int32_t piece, int step,
                            std::int32_t held = -1);
+
+/// All its other ways there.
+std::vector<Flip> flipsOf(const Layout& layout, std::int32_t piece);
 
 /// One undo step. The end keeps its height and its joint; other ends that meet something are
 /// joined. Refused beyond the limits of a plan.

@@ -284,7 +284,13 @@ TEST(SelectTool, WhatIsCutComesBackWhateverItIs) {
 
 TEST(SelectTool, TheMenuSwapsAPieceForOneThatFits) {
   CanvasScript script(row());
-  script.takeFromMenu(kOnSecond, "Swap for/74620"); // the truss bridge is as long
+  script.takeFromMenu(kOnSecond, "Swap...");
+  EXPECT_EQ(script.pieces()[1].cat, "24188") << "cancelled";
+  const auto bridge = std::ranges::find_if( // the truss bridge is as long
+      script.host.offered, [](const std::string& row) { return row.starts_with("74620"); });
+  ASSERT_NE(bridge, script.host.offered.end());
+  script.host.choice = static_cast<std::size_t>(bridge - script.host.offered.begin());
+  script.takeFromMenu(kOnSecond, "Swap...");
   EXPECT_EQ(script.pieces()[1].cat, "74620");
   EXPECT_EQ(openEnds(script.host.plan), 2);
   EXPECT_EQ(script.host.seen.changes, 1);
