@@ -1,7 +1,10 @@
-// Putting together a layout file, against nothing but the conversion of the numbers in it.
+// Putting together a layout file, against nothing but the conversion of the numbers in it, and
+// writing a rescue copy, against putting it together.
 #include "document/layout_writer.h"
+#include "document/rescue/rescue_session.h"
 #include "ratio.h"
 #include "support/random_plan.h"
+#include "support/temp_folder.h"
 
 #include <array>
 #include <charconv>
@@ -58,6 +61,20 @@ void save(benchmark::State& state) {
   compare(state, 1.0, "to_chars of its numbers only", timed(write), timed(convert));
 }
 BENCHMARK(save)->Arg(1000)->Arg(10000)->Arg(100000)->Iterations(1);
+
+void rescueCopy(benchmark::State& state) {
+  const Layout plan = test::randomPlan(1, static_cast<int>(state.range(0)));
+  const test::TempFolder folder;
+  RescueSession session(folder.path());
+  std::string text;
+  const auto copy = [&] {
+    if (const std::string problem = session.write(plan, "plan"); !problem.empty())
+      state.SkipWithError(problem.c_str());
+  };
+  const auto make = [&] { writeLayout(plan, "plan", text); };
+  compare(state, 3.0, "making its text", timed(copy), timed(make));
+}
+BENCHMARK(rescueCopy)->Arg(10000)->Iterations(1);
 
 } // namespace
 

@@ -80,4 +80,20 @@ std::string withoutSeparators(std::string name) {
   return name;
 }
 
+std::string asFileName(std::string_view name) {
+  constexpr std::size_t kLongest = 150;
+  std::size_t length = std::min(name.size(), kLongest);
+  while (length > 0 && length < name.size() && (name[length] & 0xC0) == 0x80) // within a character
+    --length;
+  std::string safe(name.substr(0, length));
+  std::replace_if(
+      safe.begin(), safe.end(),
+      [](char c) {
+        return static_cast<unsigned char>(c) < 0x20 ||
+               std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos;
+      },
+      '_');
+  return safe.empty() ? "Unnamed" : safe;
+}
+
 } // namespace trassix

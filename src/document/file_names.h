@@ -22,4 +22,8 @@ NameAdvice adviseOnName(std::string_view name);
 /// A name from a file, to be offered as the name of another: `/` and `\` go.
 std::string withoutSeparators(std::string name);
 
+/// The name as the name of a file on any system may begin, of 150 bytes at most: what cannot be in
+/// one becomes an underscore. "Unnamed" for none.
+std::string asFileName(std::string_view name);
+
 } // namespace trassix

@@ -1,67 +1,30 @@
 #include "document/open_plan.h"
 
-#include "document/entities.h"
-#include "document/layout_reader.h"
 #include "document/layout_writer.h"
-#include "document/repairs.h"
-#include "document/unread_part.h"
 #include "texts/texts.h"
 
 #include <utility>
 
 namespace trassix {
 
-namespace {
-
 namespace fs = std::filesystem;
-
-/// A plan from a file as the program uses it: sound, and with texts as they were typed.
-struct PlanFile {
-  FileResult result;
-  std::string text;
-  Layout layout;
-  std::string name;
-  std::string unread;  ///< see `unreadPart`
-  std::string repairs; ///< see `describeRepairs`
-};
-
-PlanFile readPlanFile(const fs::path& path) {
-  PlanFile plan;
-  plan.result.message = readTextFile(path, plan.text, &plan.result);
-  if (!plan.result.failed())
-    plan.result.message = readLayout(plan.text, plan.layout, plan.name);
-  if (plan.result.failed())
-    return plan;
-  plan.unread = unreadPart(plan.text);
-  plan.repairs = describeRepairs(makeSound(plan.layout));
-  decodeTexts(plan.layout, plan.name);
-  return plan;
-}
-
-bool sameFile(const fs::path& a, const fs::path& b) {
-  std::error_code none;
-  return a == b || fs::equivalent(a, b, none);
-}
-
-} // namespace
 
 void OpenPlan::startNew(std::int32_t units) {
   layout_.clear();
   layout_.ensureLevel();
   layout_.editSettings().activeLevel = 1;
   layout_.editSettings().units = units;
-  file_.clear();
+  origin_ = {};
   unsaved_ = false;
 }
 
-FileResult OpenPlan::load(const fs::path& path) {
-  PlanFile plan = readPlanFile(path);
+FileResult OpenPlan::take(PlanFile plan, const PlanOrigin& origin, bool unsaved) {
   if (plan.result.failed())
     return plan.result;
   layout_ = std::move(plan.layout);
   name_ = std::move(plan.name);
-  file_ = plan.unread.empty() ? path : fs::path();
-  unsaved_ = false;
+  origin_ = plan.unread.empty() ? origin : PlanOrigin();
+  unsaved_ = unsaved;
   if (!plan.unread.empty())
     plan.result.notices.push_back(tr(
         "Not all of this file was understood (%1%): what could be read is shown, and saving will "
@@ -72,28 +35,44 @@ FileResult OpenPlan::load(const fs::path& path) {
   return plan.result;
 }
 
+FileResult OpenPlan::load(const fs::path& path) {
+  PlanFile plan = readPlanFile(path);
+  const PlanOrigin origin = PlanOrigin::of(path, plan.text);
+  return take(std::move(plan), origin, false);
+}
+
+FileResult OpenPlan::loadCopy(const fs::path& copy, const PlanOrigin& origin) {
+  return take(readPlanFile(copy), origin, true);
+}
+
 FileResult OpenPlan::save() {
   FileResult result;
-  result.message = saveLayout(layout_, file_, name_, &result);
-  unsaved_ = unsaved_ && result.failed();
+  std::string text;
+  result.message = writeLayout(layout_, name_, text);
+  if (!result.failed())
+    result.message = writeTextFile(origin_.file, text, &result);
+  if (!result.failed()) {
+    origin_ = PlanOrigin::of(origin_.file, text);
+    unsaved_ = false;
+  }
   return result;
 }
 
 FileResult OpenPlan::saveAs(const fs::path& path, std::string_view name) {
-  file_ = path;
+  origin_ = {path, contentMarkOf(path), std::time(nullptr)};
   name_ = name;
   return save();
 }
 
 void OpenPlan::fileDeleted(const fs::path& path) {
-  if (path == file_)
-    file_.clear();
+  if (path == origin_.file)
+    origin_ = {};
 }
 
 ImportResult importPlan(const fs::path& source, const fs::path& target, std::string_view name) {
   const PlanFile plan = readPlanFile(source);
   ImportResult result{plan.result};
-  if (!result.failed() && !isWholeLayout(plan.text))
+  if (!result.failed() && !plan.whole())
     result.message = tr("It does not hold a whole layout.");
   if (result.failed())
     return result;

@@ -1,24 +1,15 @@
 #pragma once
 
-#include "app/services/text_file.h"
 #include "document/layout.h"
+#include "document/plan_file.h"
+#include "document/plan_origin.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace trassix {
-
-/// How reading or writing a plan went.
-struct FileResult : FileReport {
-  std::string message; ///< why it failed; empty on success
-  /// What the user should know although it went well: whole sentences.
-  std::vector<std::string> notices;
-
-  bool failed() const { return !message.empty(); }
-};
 
 /// The plan that is worked on: the document, the file and the name it goes by, and whether any of
 /// it is unsaved. Texts are in it as the user typed them, however often they were saved.
@@ -28,7 +19,9 @@ class OpenPlan {
   const Layout& layout() const { return layout_; }
   /// Empty when a save has to ask for a name: the plan has no file, or one that must not be written
   /// over unasked.
-  const std::filesystem::path& file() const { return file_; }
+  const std::filesystem::path& file() const { return origin_.file; }
+  /// The same with what the file held when it was read or written here.
+  const PlanOrigin& origin() const { return origin_; }
   const std::string& name() const { return name_; }
   bool unsaved() const { return unsaved_; }
   void noteChange() { unsaved_ = true; }
@@ -41,6 +34,10 @@ class OpenPlan {
   /// not become the plan's file, so that what is left in it is not lost by a save.
   FileResult load(const std::filesystem::path& path);
 
+  /// The same for a copy of a plan that was kept apart: it counts as unsaved and belongs to
+  /// `origin`.
+  FileResult loadCopy(const std::filesystem::path& copy, const PlanOrigin& origin);
+
   /// Writes the plan to its file. File and name of `saveAs` count also when it fails, so that the
   /// next save goes there.
   FileResult save();
@@ -50,8 +47,10 @@ class OpenPlan {
   void fileDeleted(const std::filesystem::path& path);
 
  private:
+  FileResult take(PlanFile plan, const PlanOrigin& origin, bool unsaved);
+
   Layout layout_;
-  std::filesystem::path file_;
+  PlanOrigin origin_;
   std::string name_;
   bool unsaved_ = false;
 };

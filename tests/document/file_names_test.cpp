@@ -24,5 +24,14 @@ TEST(FileNames, areJudgedByTheRulesOfAllSystems) {
   EXPECT_EQ(withoutSeparators("../a\\b & c/"), "..ab & c");
 }
 
+TEST(FileNames, ofPlansAreSafeInAnyFolder) {
+  for (const auto& [name, safe] :
+       {std::pair<std::string, std::string>{"Süd / \"West\"", "Süd _ _West_"},
+        {"..", ".."},
+        {"", "Unnamed"},
+        {std::string(149, 'n') + "\u00fc", std::string(149, 'n')}})
+    EXPECT_EQ(asFileName(name), safe);
+}
+
 } // namespace
 } // namespace trassix

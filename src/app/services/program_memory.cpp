@@ -1,11 +1,9 @@
 #include "app/services/program_memory.h"
 
+#include "app/services/held_lock.h"
 #include "app/services/text_file.h"
 
-#include <boost/interprocess/sync/file_lock.hpp>
-
 #include <chrono>
-#include <fstream>
 #include <thread>
 
 namespace trassix {
@@ -19,23 +17,15 @@ constexpr int kDeepest = 64; ///< of lists in lists, which are written by recurs
 
 /// Keeps other running programs from writing meanwhile. Where the system does not offer that, or
 /// one of them hangs, it goes on after a while without.
-class WriteTurn {
- public:
-  explicit WriteTurn(fs::path file) {
-    file += ".lock"; // the file itself is going to be replaced
-    try {
-      std::ofstream(file, std::ios::app).close();
-      lock_ = boost::interprocess::file_lock(file.string().c_str());
-      for (int tries = 0; tries < 300 && !lock_.try_lock(); ++tries)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    } catch (const boost::interprocess::interprocess_exception&) {
-      lock_ = {};
-    }
+HeldLock writeTurn(fs::path file) {
+  file += ".lock"; // the file itself is going to be replaced
+  HeldLock lock = HeldLock::take(file);
+  for (int tries = 0; tries < 300 && lock.state() == HeldLock::State::HeldByOther; ++tries) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    lock = HeldLock::take(file);
   }
-
- private:
-  boost::interprocess::file_lock lock_; ///< ends with its handle
-};
+  return lock;
+}
 
 /// Null for a damaged text.
 json parsed(const std::string& text) {
@@ -53,7 +43,7 @@ json parsed(const std::string& text) {
 std::string keepDamaged(const fs::path& file, const std::string& text) {
   const auto copy = [&file](int number) {
     fs::path path = file;
-    return path += ".damaged" + (number > 1 ? "-" + std::to_string(number) : std::string());
+    return path += ".damaged" + (number > 1 ? std::string("-").append(std::to_string(number)) : "");
   };
   int number = 1;
   for (std::error_code error; fs::exists(copy(number), error);)
@@ -83,7 +73,7 @@ std::string ProgramMemory::remember(const std::string& topic,
                                     const std::function<void(Section&)>& edit) const {
   std::error_code ignored; // a folder that cannot be made shows as a file that cannot be written
   fs::create_directories(file_.parent_path(), ignored);
-  const WriteTurn turn(file_);
+  const HeldLock turn = writeTurn(file_);
   std::string text;
   if (std::string message = readIfThere(file_, text); !message.empty())
     return message;

@@ -1,0 +1,27 @@
+#include "document/plan_file.h"
+
+#include "document/entities.h"
+#include "document/layout_reader.h"
+#include "document/repairs.h"
+#include "document/unread_part.h"
+
+namespace trassix {
+
+bool PlanFile::whole() const {
+  return !result.failed() && isWholeLayout(text);
+}
+
+PlanFile readPlanFile(const std::filesystem::path& path) {
+  PlanFile plan;
+  plan.result.message = readTextFile(path, plan.text, &plan.result);
+  if (!plan.result.failed())
+    plan.result.message = readLayout(plan.text, plan.layout, plan.name);
+  if (plan.result.failed())
+    return plan;
+  plan.unread = unreadPart(plan.text);
+  plan.repairs = describeRepairs(makeSound(plan.layout));
+  decodeTexts(plan.layout, plan.name);
+  return plan;
+}
+
+} // namespace trassix
