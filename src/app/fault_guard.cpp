@@ -4,6 +4,7 @@
 #include "app/services/diagnostic_log.h"
 #include "app/services/text_file.h"
 #include "ui/canvas/canvas_panel.h"
+#include "ui/commands/plan_files.h"
 #include "ui/frame/main_frame.h"
 #include "ui/widgets/utf8.h"
 
@@ -28,7 +29,7 @@ std::string textOfCurrentException() {
   }
 }
 
-wxString whereThePlanIs(const AsideCopy& copy) {
+wxString whereThePlanIs(const WrittenCopy& copy) {
   if (copy.problem.empty())
     return _("A copy of the plan as it is now was written to:\n") + toText(copy.file);
   return _("The plan could not be written aside:\n") + fromUtf8(copy.problem);
@@ -52,7 +53,7 @@ void FaultGuard::caught(MainFrame* frame) noexcept {
 
 void FaultGuard::keepPlan(MainFrame& frame, const std::string& what) {
   kept_ = frame.layout().revision();
-  const AsideCopy copy = frame.writeAside();
+  const WrittenCopy copy = frame.files().rescue().write();
   DiagnosticLog::write("Plan written aside: " +
                        (copy.problem.empty() ? pathText(copy.file) : copy.problem));
   // Not from within a handler, which may be one that paints.

@@ -1,5 +1,6 @@
 #include "app/trassix_app.h"
 
+#include "app/desktop/path_text.h"
 #include "app/desktop/standard_folders.h"
 #include "app/desktop/user_paths.h"
 #include "app/fault_guard.h"
@@ -7,11 +8,15 @@
 #include "app/services/diagnostic_log.h"
 #include "app/services/text_file.h"
 #include "catalog/track_catalog.h"
+#include "document/rescue/version_store.h"
 #include "texts/texts.h"
+#include "ui/commands/plan_files.h"
 #include "ui/dialogs/splash_dialog.h"
 #include "ui/frame/main_frame.h"
+#include "ui/widgets/once_running.h"
 #include "ui/widgets/utf8.h"
 
+#include <wx/cmdline.h>
 #include <wx/evtloop.h>
 #include <wx/image.h>
 #include <wx/stopwatch.h>
@@ -19,6 +24,8 @@
 #include <fontconfig/fontconfig.h>
 #endif
 
+#include <csignal>
+#include <ctime>
 #include <exception>
 #include <filesystem>
 #include <string>
@@ -47,7 +54,26 @@ void tidyUserFolders() {
   for (std::filesystem::directory_iterator folder(library, error), end; !error && folder != end;
        folder.increment(error))
     removeLeftovers(folder->path());
+  VersionStore(StandardFolders::olderVersions()).tidy(std::time(nullptr));
 }
+
+void keepUnsaved() noexcept {
+  try {
+    if (auto* frame = dynamic_cast<MainFrame*>(wxTheApp->GetTopWindow()))
+      frame->keepUnsaved();
+  } catch (...) {
+    DiagnosticLog::write("EXCEPTION at the end");
+  }
+}
+
+#ifdef __UNIX__
+void endBySignal(int signal) {
+  keepUnsaved();
+  DiagnosticLog::write("Ended by signal " + std::to_string(signal));
+  std::signal(signal, SIG_DFL);
+  std::raise(signal);
+}
+#endif
 
 } // namespace
 
@@ -90,11 +116,34 @@ bool TrassixApp::OnInit() {
   return true;
 }
 
+void TrassixApp::OnInitCmdLine(wxCmdLineParser& parser) {
+  wxApp::OnInitCmdLine(parser);
+  parser.AddParam(_("plan file"), wxCMD_LINE_VAL_STRING, wxCMD_LINE_PARAM_OPTIONAL);
+}
+
+bool TrassixApp::OnCmdLineParsed(wxCmdLineParser& parser) {
+  if (parser.GetParamCount() > 0)
+    named_ = std::filesystem::absolute(toPath(parser.GetParam(0)));
+  return wxApp::OnCmdLineParsed(parser);
+}
+
+/// What ends the program without asking it. A crash and a lost display are not among that: then
+/// the last rescue copy counts.
+void TrassixApp::followEnd() {
+#ifdef __UNIX__
+  for (const int signal : {SIGTERM, SIGHUP, SIGINT})
+    SetSignalHandler(signal, endBySignal); // called by the event loop
+#endif
+  Bind(wxEVT_QUERY_END_SESSION, [](wxCloseEvent&) { keepUnsaved(); });
+  Bind(wxEVT_END_SESSION, [](wxCloseEvent&) { keepUnsaved(); });
+}
+
 void TrassixApp::openWindow() {
   DiagnosticLog::write("Creating MainFrame...");
   MainFrame* frame = makeFrame();
   RethrowStoredException(); // of a handler that ran meanwhile
   started_ = true;
+  followEnd();
   DiagnosticLog::write("MainFrame created OK");
   frame->Show();
   DiagnosticLog::write("Show OK");
@@ -107,6 +156,7 @@ void TrassixApp::openWindow() {
   }
   frame->refreshProperties();
   tidyUserFolders();
+  onceRunning([frame, named = named_] { frame->files().startWith(named); });
 }
 
 MainFrame* TrassixApp::makeFrame() {

@@ -2,6 +2,7 @@
 
 #include <wx/app.h>
 
+#include <filesystem>
 #include <future>
 #include <memory>
 
@@ -18,6 +19,8 @@ class TrassixApp : public wxApp {
 
   bool OnInit() override;
   int OnExit() override;
+  void OnInitCmdLine(wxCmdLineParser& parser) override;
+  bool OnCmdLineParsed(wxCmdLineParser& parser) override;
 
   // Exceptions of handlers and posted calls, and what the toolkit caught of them itself.
   void CallEventHandler(wxEvtHandler* handler, wxEventFunctor& functor,
@@ -31,9 +34,11 @@ class TrassixApp : public wxApp {
 
  private:
   void openWindow();
+  void followEnd();
   void exceptionCaught() const;
 
-  bool started_ = false; ///< the main window is there: the program goes on whatever happens
+  std::filesystem::path named_; ///< the plan file of the command line; empty for none
+  bool started_ = false;        ///< the main window is there: the program goes on whatever happens
   const std::unique_ptr<FaultGuard> faults_;
   std::future<void> fonts_; ///< on their way while the toolkit starts
 };

@@ -39,6 +39,7 @@ enum CommandId : int {
   kHelp = 2027,
   kLayoutWizardHelp = 2028,
   kOptions = 2029,
+  kOlderVersions = 2030,
 };
 
 /// What the mouse does on the plan.

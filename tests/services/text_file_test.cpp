@@ -1,5 +1,4 @@
 #include "app/services/text_file.h"
-#include "document/aside_copy.h"
 #include "document/layout.h"
 #include "support/temp_folder.h"
 
@@ -188,26 +187,6 @@ TEST(TextFile, writesAndReadsUnderAnyName) {
   }
   const fs::path longest = folder.path() / std::string(250, 'n').append(".txl");
   EXPECT_EQ(writeTextFile(longest, "text"), "");
-}
-
-TEST(TextFile, keepsEveryCopyWrittenAside) {
-  const TempFolder folder;
-  const std::time_t when = 1'700'000'000;
-  std::string longName(149, 'n');
-  longName += "\u00fc";
-  for (const auto& [name, stem] :
-       {std::pair<std::string, std::string>{"Süd / \"West\"", "Süd _ _West_"},
-        {"Süd / \"West\"", "Süd _ _West_"},
-        {"..", ".."},
-        {"", "Unnamed"},
-        {longName, std::string(149, 'n')}}) {
-    const AsideCopy copy = writeAside(Layout(), name, folder.path() / "made" / "for it", when);
-    EXPECT_EQ(copy.problem, "");
-    EXPECT_EQ(pathText(copy.file.filename()).rfind(stem + " 2023-11-1", 0), 0u) << copy.file;
-  }
-  EXPECT_EQ(filesIn(folder.path() / "made" / "for it"), 5u);
-  writeText(folder.path() / "file", "");
-  EXPECT_NE(writeAside(Layout(), "x", folder.path() / "file", when).problem, "");
 }
 
 TEST(TextFile, namesWhatItCannotOpen) {

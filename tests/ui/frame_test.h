@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/services/file_listing.h"
 #include "driver.h"
 #include "editing/placing/placing.h"
 #include "ui/canvas/canvas_panel.h"
@@ -10,11 +11,23 @@
 #include <wx/textctrl.h>
 #include <wx/textdlg.h>
 
+#include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <initializer_list>
 #include <utility>
 
 namespace trassix::test {
+
+/// The rescue copy in the folder of a session; empty when there is none.
+inline std::filesystem::path latestIn(const std::filesystem::path& session) {
+  const auto copies = filesIn(session, ".txl");
+  const auto latest = std::ranges::max_element(copies, {}, [](const auto& copy) {
+    std::error_code gone;
+    return last_write_time(copy, gone);
+  });
+  return latest == copies.end() ? std::filesystem::path() : *latest;
+}
 
 /// A test of the main window's commands.
 class FrameTest : public UiTest {

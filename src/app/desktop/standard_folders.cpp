@@ -18,8 +18,12 @@ LogFolder StandardFolders::logs() {
   return {folder, folder != own};
 }
 
-fs::path StandardFolders::asideCopies() {
-  return toPath(wxStandardPaths::Get().GetUserLocalDataDir()) / "aside";
+fs::path StandardFolders::rescueSessions() {
+  return toPath(wxStandardPaths::Get().GetUserLocalDataDir()) / "rescue";
+}
+
+fs::path StandardFolders::olderVersions() {
+  return toPath(wxStandardPaths::Get().GetUserLocalDataDir()) / "versions";
 }
 
 fs::path StandardFolders::memoryFile() {

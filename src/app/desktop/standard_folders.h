@@ -12,8 +12,9 @@ class StandardFolders {
   /// Per-user local data, made when missing; the folder for temporary files when that fails.
   static LogFolder logs();
 
-  /// Where plans are written aside that might get lost, in the per-user local data; not made here.
-  static std::filesystem::path asideCopies();
+  /// In the per-user local data, not made here: of `RescueSession` and `VersionStore`.
+  static std::filesystem::path rescueSessions();
+  static std::filesystem::path olderVersions();
 
   /// Of what the program remembers of its own, in the per-user local data; see `ProgramMemory`.
   static std::filesystem::path memoryFile();

@@ -1,9 +1,15 @@
 #include "ui/commands/command_bars.h"
 
+#include "app/desktop/standard_folders.h"
+#include "app/desktop/user_paths.h"
+#include "app/services/program_memory.h"
 #include "host/command_ids.h"
+#include "panels/recent_plans.h"
 #include "ui/commands/command_table.h"
 #include "ui/docks/dock_area.h"
+#include "ui/widgets/utf8.h"
 
+#include <wx/control.h>
 #include <wx/frame.h>
 #include <wx/menu.h>
 #include <wx/toolbar.h>
@@ -127,10 +133,36 @@ void CommandBars::buildMenuBar() {
         append(*menu, *findCommand(id));
     }
     appendOurs(*menu, rows.menu);
+    if (rows.menu == Command::Menu::File)
+      menu->AppendSubMenu(recent_ = new wxMenu, _("Recen&t Plans"),
+                          _("Open one of the plans that were open last"));
     bar->Append(menu, wxGetTranslation(rows.title));
   }
   window_.SetMenuBar(bar);
+  // Another window of the program may have opened some meanwhile.
+  window_.Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
+    event.Skip();
+    if (event.GetMenu() != recent_)
+      listRecent();
+  });
+  listRecent();
   follow();
+}
+
+void CommandBars::listRecent() {
+  const std::vector<std::string> labels = recentLabels(
+      RecentPlans::list(ProgramMemory(StandardFolders::memoryFile())), UserPaths::layoutsFolder());
+  if (labels == recentLabels_ && recent_->GetMenuItemCount() > 0)
+    return;
+  recentLabels_ = labels;
+  while (recent_->GetMenuItemCount() > 0)
+    recent_->Delete(recent_->FindItemByPosition(0));
+  for (std::size_t i = 0; i < labels.size(); ++i)
+    recent_->Append(wxID_FILE1 + static_cast<int>(i),
+                    wxString::Format("&%zu  ", i + 1) +
+                        wxControl::EscapeMnemonics(fromUtf8(labels[i])));
+  if (labels.empty())
+    recent_->Append(wxID_FILE, _("None yet"))->Enable(false);
 }
 
 void CommandBars::buildToolBar() {

@@ -2,7 +2,11 @@
 
 #include "host/workspace.h"
 
+#include <string>
+#include <vector>
+
 class wxFrame;
+class wxMenu;
 
 namespace trassix {
 
@@ -19,16 +23,20 @@ class CommandBars : private PlanObserver {
   void buildToolBar();
 
  private:
+  void fileChanged() override { listRecent(); }
   void selectionChanged() override { follow(); }
   void planChanged() override { follow(); }
   void unitsChanged() override { follow(); }
   void switchesChanged() override { follow(); }
   void follow();
+  void listRecent();
   bool isOn(const Command& command) const;
 
   wxFrame& window_;
   const Workspace& workspace_;
   const DockArea& docks_;
+  std::vector<std::string> recentLabels_;
+  wxMenu* recent_ = nullptr; ///< owned by the menu bar
 };
 
 } // namespace trassix

@@ -1,9 +1,14 @@
 #include "app/desktop/path_text.h"
+#include "app/desktop/standard_folders.h"
 #include "app/desktop/user_paths.h"
+#include "app/services/program_memory.h"
 #include "document/open_plan.h"
+#include "host/command_ids.h"
 #include "host/workspace.h"
+#include "panels/recent_plans.h"
 #include "ui/commands/command.h"
 #include "ui/commands/desk.h"
+#include "ui/dialogs/older_versions_dialog.h"
 #include "ui/dialogs/open_layout_dialog.h"
 #include "ui/dialogs/saved_layouts.h"
 
@@ -29,13 +34,35 @@ void openLayout(Desk& desk) {
                  wxOK | wxICON_INFORMATION, &desk.window);
     return;
   }
-  OpenLayoutDialog dialog(&desk.window, saved, [&desk](const auto& deleted) {
-    desk.workspace.plan().fileDeleted(deleted);
-  });
+  OpenLayoutDialog dialog(&desk.window, saved,
+                          [&desk](const auto& file) { return desk.files.remove(file); });
   if (dialog.ShowModal() != wxID_OK)
     return;
   if (const auto chosen = dialog.chosen())
     desk.files.load(*chosen);
+}
+
+void openOlderVersion(Desk& desk) {
+  if (!desk.files.promptUnsaved())
+    return;
+  std::vector<VersionStore::Plan> plans = desk.files.versions().plans();
+  if (plans.empty()) {
+    wxMessageBox(_("There are no older versions yet. From now on each save keeps what the file of "
+                   "the plan held before."),
+                 _("Older Versions"), wxOK | wxICON_INFORMATION, &desk.window);
+    return;
+  }
+  OlderVersionsDialog dialog(&desk.window, std::move(plans), desk.workspace.plan().file());
+  if (dialog.ShowModal() == wxID_OK)
+    desk.files.openVersion(dialog.chosen());
+}
+
+/// The menu shows the list as it was when it opened.
+template <std::size_t row>
+void openRecent(Desk& desk) {
+  const auto recent = RecentPlans::list(ProgramMemory(StandardFolders::memoryFile()));
+  if (row < recent.size())
+    desk.files.openNamed(recent[row]);
 }
 
 void pageSetup(Desk& desk) {
@@ -69,6 +96,18 @@ const Command kCommands[] = {
      .menuHelp = wxTRANSLATE("Print the plan to scale")},
     {.id = wxID_EXIT, .menuText = wxTRANSLATE("E&xit"), .menuHelp = wxTRANSLATE("End the program"),
      .run = [](Desk& desk) { desk.window.Close(); }},
+    {.id = kOlderVersions, .menuText = wxTRANSLATE("Ol&der Versions..."),
+     .menuHelp = wxTRANSLATE("What plans held before they were saved over or deleted"),
+     .menu = Command::Menu::File, .run = openOlderVersion},
+    {.id = wxID_FILE1, .run = openRecent<0>},
+    {.id = wxID_FILE2, .run = openRecent<1>},
+    {.id = wxID_FILE3, .run = openRecent<2>},
+    {.id = wxID_FILE4, .run = openRecent<3>},
+    {.id = wxID_FILE5, .run = openRecent<4>},
+    {.id = wxID_FILE6, .run = openRecent<5>},
+    {.id = wxID_FILE7, .run = openRecent<6>},
+    {.id = wxID_FILE8, .run = openRecent<7>},
+    {.id = wxID_FILE9, .run = openRecent<8>},
 };
 // clang-format on
 

@@ -4,17 +4,23 @@
 #include "app/desktop/standard_folders.h"
 #include "app/desktop/user_paths.h"
 #include "app/services/app_prefs.h"
+#include "app/services/local_time.h"
+#include "app/services/program_memory.h"
 #include "catalog/track_catalog.h"
 #include "document/open_plan.h"
+#include "host/questions.h"
 #include "host/workspace.h"
+#include "panels/recent_plans.h"
 #include "texts/texts.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/dialogs/name_dialog.h"
+#include "ui/dialogs/rescue_dialog.h"
 #include "ui/dialogs/saved_layouts.h"
 #include "ui/widgets/file_boxes.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/msgdlg.h>
+#include <wx/toplevel.h>
 
 #include <algorithm>
 #include <ctime>
@@ -41,10 +47,15 @@ std::string openedHint(const Layout& layout) {
   return toUtf8(hint + "  (right-click piece to stop)");
 }
 
+ProgramMemory memory() {
+  return ProgramMemory(StandardFolders::memoryFile());
+}
+
 } // namespace
 
-PlanFiles::PlanFiles(wxWindow& window, Workspace& workspace, CanvasPanel& canvasPanel)
-    : window_(window), workspace_(workspace), canvasPanel_(canvasPanel) {}
+PlanFiles::PlanFiles(wxTopLevelWindow& window, Workspace& workspace, CanvasPanel& canvasPanel)
+    : window_(window), workspace_(workspace), canvasPanel_(canvasPanel), rescue_(window, workspace),
+      versions_(StandardFolders::olderVersions()) {}
 
 bool PlanFiles::promptUnsaved() {
   if (!workspace_.plan().unsaved())
@@ -57,19 +68,17 @@ bool PlanFiles::promptUnsaved() {
   if (answer == wxYES) {
     save();
     if (workspace_.plan().unsaved())
-      tellAside(writeAside());
+      tellAside(rescue_.write());
+  } else {
+    rescue_.giveUp();
   }
   return true;
 }
 
-AsideCopy PlanFiles::writeAside() const {
-  return trassix::writeAside(workspace_.layout(), workspace_.plan().name(),
-                             StandardFolders::asideCopies(), std::time(nullptr));
-}
-
-void PlanFiles::tellAside(const AsideCopy& copy) {
+void PlanFiles::tellAside(const WrittenCopy& copy) {
   if (copy.problem.empty())
-    wxMessageBox(_("The plan was not saved. A copy of it was written to:\n") + toText(copy.file),
+    wxMessageBox(_("The plan was not saved. A copy of it was written to:\n") + toText(copy.file) +
+                     _("\n\nIt will be offered at the next start."),
                  _("Unsaved Changes"), wxOK | wxICON_INFORMATION, &window_);
   else
     wxMessageBox(_("The plan was not saved, nor could a copy be written:\n") +
@@ -86,12 +95,59 @@ void PlanFiles::startNew() {
 }
 
 bool PlanFiles::load(const std::filesystem::path& path) {
-  const FileResult opened = workspace_.plan().load(path);
+  return offer(findRescued(StandardFolders::rescueSessions(), rescue_.session(), path)) ||
+         open(path);
+}
+
+bool PlanFiles::open(const std::filesystem::path& path) {
+  if (take(workspace_.plan().load(path)))
+    return true;
+  std::error_code error;
+  if (!std::filesystem::exists(path, error))
+    RecentPlans::forget(memory(), path);
+  return false;
+}
+
+void PlanFiles::openNamed(const std::filesystem::path& path) {
+  if (promptUnsaved())
+    load(path);
+}
+
+void PlanFiles::startWith(const std::filesystem::path& named) {
+  offer(findRescued(StandardFolders::rescueSessions(), rescue_.session()));
+  // What was rescued of it was offered just now.
+  if (!named.empty() && promptUnsaved())
+    open(named);
+}
+
+bool PlanFiles::offer(RescuedPlans found) {
+  showNotices(&window_, _("Rescued Plans"), found.problems);
+  if (found.plans.empty())
+    return false;
+  RescueDialog dialog(&window_, std::move(found.plans));
+  return dialog.ShowModal() == wxID_OK && openRescued(dialog.chosen());
+}
+
+bool PlanFiles::openRescued(RescuedPlan& rescued) {
+  if (!take(workspace_.plan().loadCopy(rescued.copy, rescued.origin)))
+    return false;
+  // At no moment is there none.
+  if (rescue_.write().problem.empty())
+    rescued.throwAway();
+  return true;
+}
+
+bool PlanFiles::openVersion(const std::filesystem::path& copy) {
+  return take(workspace_.plan().loadCopy(copy, {}));
+}
+
+bool PlanFiles::take(FileResult opened) {
   if (opened.failed()) {
     showFailure(&window_, _("Open Failed"), fromUtf8(opened.message), opened.reason);
     return false;
   }
   workspace_.planReplaced();
+  rememberRecent();
   workspace_.fileChanged();
   if (holdsSmallTrack(workspace_.layout()))
     canvasPanel_.canvas().resetViewForSmall();
@@ -99,6 +155,10 @@ bool PlanFiles::load(const std::filesystem::path& path) {
     canvasPanel_.canvas().fit();
   workspace_.selectionChanged();
   workspace_.setHint(openedHint(workspace_.layout()));
+  const std::filesystem::path& file = workspace_.plan().file();
+  if (!file.empty() && openElsewhere(StandardFolders::rescueSessions(), rescue_.session(), file))
+    opened.notices.push_back(tr("This plan is also open in another window of the program. What "
+                                "one of them saves, the other one does not show."));
   showNotices(&window_, _("Open Layout"), opened.notices);
   return true;
 }
@@ -108,9 +168,15 @@ void PlanFiles::tellSaved(const FileResult& result) {
     showFailure(&window_, _("Save Failed"), fromUtf8(result.message), result.reason);
     return;
   }
+  rememberRecent();
   workspace_.fileChanged();
   workspace_.setHint(tr("Saved"));
   tellWay(result.way, workspace_.plan().file());
+}
+
+void PlanFiles::rememberRecent() {
+  if (!workspace_.plan().file().empty())
+    RecentPlans::add(memory(), workspace_.plan().file());
 }
 
 void PlanFiles::tellWay(WriteWay way, const std::filesystem::path& path) {
@@ -125,10 +191,41 @@ void PlanFiles::tellWay(WriteWay way, const std::filesystem::path& path) {
 }
 
 void PlanFiles::save() {
-  if (workspace_.plan().file().empty())
+  OpenPlan& plan = workspace_.plan();
+  if (plan.file().empty())
     saveAs();
-  else
-    tellSaved(workspace_.plan().save());
+  else if (!plan.origin().changedElsewhere() || confirmChangedElsewhere())
+    tellSaved(versions_.replacing(plan.file(), [&plan] { return plan.save(); }));
+}
+
+bool PlanFiles::confirmChangedElsewhere() {
+  const PlanOrigin& origin = workspace_.plan().origin();
+  return workspace_.questions().confirm(
+      {tr("File Changed"),
+       tr("The file of this plan was changed by another program or another window:\n%1%\n\n"
+          "Opened or saved here: %2%\nChanged: %3%\n\nReplace it by the plan as it is here? What "
+          "it holds now stays among its older versions.",
+          {pathText(origin.file), localTimeText(origin.since),
+           localTimeText(writtenAt(origin.file))}),
+       true});
+}
+
+std::error_code PlanFiles::remove(const std::filesystem::path& path) {
+  const std::time_t now = std::time(nullptr);
+  bool kept = false;
+  const std::error_code error = versions_.remove(path, now, kept);
+  if (error)
+    return error;
+  RecentPlans::forget(memory(), path);
+  if (workspace_.plan().file() == path) {
+    workspace_.plan().fileDeleted(path);
+    workspace_.fileChanged();
+  }
+  if (kept)
+    workspace_.setHint(
+        tr("Deleted. Its versions are kept until %1%: see Older Versions in the File menu.",
+           {localDateText(now + VersionStore::kKeptAfterDelete)}));
+  return {};
 }
 
 void PlanFiles::saveAs() {
@@ -144,7 +241,8 @@ void PlanFiles::saveAs() {
     name = kDefaultName;
   const std::filesystem::path target = layoutFile(UserPaths::layoutsFolder(), toUtf8(name));
   if (confirmReplace(target, name))
-    tellSaved(workspace_.plan().saveAs(target, toUtf8(name)));
+    tellSaved(versions_.replacing(target,
+                                  [&] { return workspace_.plan().saveAs(target, toUtf8(name)); }));
 }
 
 bool PlanFiles::confirmReplace(const std::filesystem::path& target, const wxString& name) {

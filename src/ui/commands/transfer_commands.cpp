@@ -52,7 +52,8 @@ void importLayout(Desk& desk) {
   const std::filesystem::path target = layoutFile(UserPaths::layoutsFolder(), toUtf8(name));
   if (!desk.files.confirmReplace(target, name))
     return;
-  const ImportResult imported = importPlan(source, target, toUtf8(name));
+  const ImportResult imported = desk.files.versions().replacing(
+      target, [&] { return importPlan(source, target, toUtf8(name)); });
   if (imported.failed()) {
     showFailure(&desk.window, _("Import Failed"),
                 imported.step == ImportResult::Step::Read

@@ -2,12 +2,12 @@
 
 #include "app/desktop/standard_folders.h"
 #include "app/services/app_prefs.h"
+#include "ui/widgets/once_running.h"
 #include "ui/widgets/picture_panel.h"
 #include "ui/widgets/railway_scene.h"
 
 #include <wx/app.h>
 #include <wx/button.h>
-#include <wx/evtloop.h>
 #include <wx/intl.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
@@ -35,16 +35,6 @@ wxSizer* makeCard(wxDialog* dialog, int id, PicturePanel::Painter painter, const
   card->Add(button, wxSizerFlags().Expand().Border(wxTOP | wxBOTTOM, dialog->FromDIP(8)));
   card->Add(text);
   return card;
-}
-
-/// Idle events also come from the loop of a modal dialog that is part of the start.
-void askWhenIdle(wxIdleEvent& event) {
-  event.Skip();
-  const wxEventLoopBase* main = wxTheApp->GetMainLoop();
-  if (main != nullptr && main == wxEventLoopBase::GetActive()) {
-    wxTheApp->Unbind(wxEVT_IDLE, &askWhenIdle);
-    askExperience(wxTheApp->GetTopWindow());
-  }
 }
 
 } // namespace
@@ -98,7 +88,7 @@ void askExperience(wxWindow* parent) {
 }
 
 void askExperienceOnceRunning() {
-  wxTheApp->Bind(wxEVT_IDLE, &askWhenIdle);
+  onceRunning([] { askExperience(wxTheApp->GetTopWindow()); });
 }
 
 } // namespace trassix

@@ -13,11 +13,10 @@
 
 namespace trassix {
 
-OpenLayoutDialog::OpenLayoutDialog(wxWindow* parent, SavedLayouts saved,
-                                   std::function<void(const std::filesystem::path&)> deleted)
+OpenLayoutDialog::OpenLayoutDialog(wxWindow* parent, SavedLayouts saved, Remove remove)
     : wxDialog(parent, wxID_ANY, _("Open Layout"), wxDefaultPosition,
                parent->FromDIP(wxSize(320, 420)), wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
-      saved_(std::move(saved)), names_(saved_.names()), deleted_(std::move(deleted)) {
+      saved_(std::move(saved)), names_(saved_.names()), remove_(std::move(remove)) {
   rows_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxLB_SINGLE,
                         wxDefaultValidator, "layouts");
   // Texts do not lead back to names in another encoding.
@@ -67,15 +66,13 @@ void OpenLayoutDialog::deleteSelected() {
   if (wxMessageBox(question, _("Delete Layout"), wxYES_NO | wxNO_DEFAULT | wxICON_WARNING, this) !=
       wxYES)
     return;
-  std::error_code error;
-  if (!std::filesystem::remove(*file, error)) {
+  if (const std::error_code error = remove_(*file)) {
     showFailure(this, _("Delete Failed"), _("Could not delete:\n") + toText(*file), error);
     return;
   }
   rows_->Delete(static_cast<unsigned>(rows_->GetSelection()));
   saved_.remove(*file);
   enableButtons();
-  deleted_(*file);
 }
 
 } // namespace trassix

@@ -5,6 +5,7 @@
 #include <wx/dialog.h>
 
 #include <functional>
+#include <system_error>
 
 class wxListBox;
 
@@ -13,9 +14,10 @@ namespace trassix {
 /// Lists the saved plans, to open or delete one.
 class OpenLayoutDialog : public wxDialog {
  public:
-  /// `deleted` hears of each file that was deleted.
-  OpenLayoutDialog(wxWindow* parent, SavedLayouts saved,
-                   std::function<void(const std::filesystem::path&)> deleted);
+  using Remove = std::function<std::error_code(const std::filesystem::path&)>;
+
+  /// `remove` deletes a file.
+  OpenLayoutDialog(wxWindow* parent, SavedLayouts saved, Remove remove);
 
   std::optional<std::filesystem::path> chosen() const;
 
@@ -25,7 +27,7 @@ class OpenLayoutDialog : public wxDialog {
 
   SavedLayouts saved_;
   std::vector<std::string> names_; ///< as the files have them; a row's data points to its own
-  std::function<void(const std::filesystem::path&)> deleted_;
+  Remove remove_;
   wxListBox* rows_;
 };
 

@@ -11,6 +11,7 @@
 #include "ui/commands/desk.h"
 #include "ui/dialogs/experience_dialog.h"
 #include "ui/docks/dock_area.h"
+#include "ui/frame/plan_drop.h"
 #include "ui/frame/program_icon.h"
 #include "ui/frame/status_line.h"
 #include "ui/frame/window_title.h"
@@ -60,9 +61,10 @@ MainFrame::MainFrame()
   fitToDisplay();
   FrameTrace::write("F: MainFrame constructor complete");
 
-  desk_ = std::make_unique<Desk>(Desk{*this, workspace_, *canvas_, *palette_, *docks_,
-                                      PlanFiles(*this, workspace_, *canvas_)});
+  desk_.reset(new Desk{*this, workspace_, *canvas_, *palette_, *docks_,
+                       PlanFiles(*this, workspace_, *canvas_)});
   bindCommands();
+  SetDropTarget(new PlanDrop(*this, desk_->files));
   // Tools that cannot be used yet look so from the start and are laid out once only.
   GetToolBar()->UpdateWindowUI();
   // Without a focus the keys of the menus would wait for the first click.
@@ -192,6 +194,7 @@ void MainFrame::onClose(wxCloseEvent& event) {
     return;
   }
   canvas_->canvas().cancel();
+  desk_->files.rescue().end();
   Destroy();
 }
 
@@ -208,8 +211,14 @@ bool MainFrame::promptUnsaved() {
   return desk_->files.promptUnsaved();
 }
 
-AsideCopy MainFrame::writeAside() const {
-  return desk_->files.writeAside();
+PlanFiles& MainFrame::files() {
+  return desk_->files;
+}
+
+void MainFrame::keepUnsaved() {
+  if (properties_)
+    properties_->enterPending();
+  desk_->files.rescue().end();
 }
 
 void MainFrame::refreshTitle() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "document/aside_copy.h"
 #include "document/open_plan.h"
 #include "host/workspace.h"
 #include "ui/frame/window_questions.h"
@@ -18,6 +17,7 @@ class CanvasPanel;
 class CommandBars;
 class DockArea;
 class PalettePanel;
+class PlanFiles;
 class PropertiesPanel;
 class StatusLine;
 class WindowTitle;
@@ -43,8 +43,9 @@ class MainFrame : public wxFrame {
   void refreshTitle();
   /// Asks about unsaved changes if there are any; false when the user wants to stay.
   bool promptUnsaved();
-  /// Keeps a copy of the plan as it is in the user's local data; plan, file and title stay.
-  AsideCopy writeAside() const;
+  PlanFiles& files();
+  /// The program is going to end at once: what is unsaved stays for the next start.
+  void keepUnsaved();
 
  private:
   void buildPanels();

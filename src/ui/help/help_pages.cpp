@@ -129,6 +129,19 @@ constexpr const char* kFiles[] = {
     wxTRANSLATE("Layouts are kept in the folder \"Trassix\" among your documents. Save writes the "
                 "open layout there under the name you gave it; until the new file is complete, the "
                 "old one stays as it was."),
+    wxTRANSLATE(
+        "File > Recent Plans has those that were open last. A layout file from anywhere opens "
+        "with a double-click or when it is dropped on the window, and is then saved where it "
+        "lies."),
+    wxTRANSLATE("# What is not saved yet"),
+    wxTRANSLATE("Changes are copied to a safe place while you work. When the program or the "
+                "computer stops before you save them, the next start offers them: open them, keep "
+                "them for later, or throw them away."),
+    wxTRANSLATE("# Older versions"),
+    wxTRANSLATE(
+        "File > Older Versions lists what a layout held before it was saved, replaced or "
+        "deleted, and opens it as a new layout. Up to 20 versions of each are kept, those of "
+        "a deleted one for 30 days."),
     wxTRANSLATE("# From and to other places"),
     wxTRANSLATE("File > Import Layout copies a layout from any folder to yours, for example one "
                 "that you downloaded. File > Export Layout copies one of yours to a folder of your "
