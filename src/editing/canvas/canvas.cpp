@@ -445,6 +445,14 @@ void Canvas::fit() {
   viewChanged();
 }
 
+void Canvas::fitSelection() {
+  const std::optional<Box> box = selectedContentBox(site_->layout());
+  if (!box)
+    return;
+  site_->view.fit(*box, site_->size.width, site_->size.height);
+  viewChanged();
+}
+
 void Canvas::resetView() {
   site_->view.reset();
   viewChanged();
