@@ -56,9 +56,10 @@ enum CommandId : int {
   kAlignBottom = 2074,
   kDistributeAcross = 2075,
   kDistributeDown = 2076,
+  kBoardCorners = 2077,
 };
 
 /// What the mouse does on the plan.
-enum class ToolMode : std::int32_t { Select = 0, Measure = 3, Polygon = 4 };
+enum class ToolMode : std::int32_t { Select = 0, Measure = 3, Polygon = 4, BoardCorners = 20 };
 
 } // namespace trassix

@@ -1,6 +1,7 @@
 // Long runs of random edits: whatever the user does, the plan stays sound and undo is exact.
 #include "document/undo_scope.h"
 #include "editing/arranging/aligning.h"
+#include "editing/arranging/corner_edits.h"
 #include "editing/arranging/mirroring.h"
 #include "editing/arranging/parallel_pieces.h"
 #include "editing/arranging/parallel_track.h"
@@ -10,6 +11,7 @@
 #include "editing/placing/inserting.h"
 #include "editing/placing/placing.h"
 #include "editing/placing/swapping.h"
+#include "editing/scenery/annotations.h"
 #include "editing/selection/moving.h"
 #include "editing/selection/property_edits.h"
 #include "editing/selection/selection.h"
@@ -159,6 +161,26 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
            step.keep();
   }
 
+  /// Of shapes, which are kept few.
+  bool corner() {
+    const auto& shapes = plan.content().shapes;
+    if (shapes.size() < 4) {
+      const Point at{pose.x, pose.y};
+      return addShape(plan, {at, {at.x + 300, at.y}, {at.x + 100, at.y + 200}}) != -1;
+    }
+    const Shape& shape = anyOf(shapes);
+    const auto corner = static_cast<std::size_t>(any(0, static_cast<int>(shape.points.size())));
+    const Point to{shape.points[0].x + any(-300, 300), shape.points[0].y + any(-300, 300)};
+    switch (any(0, 2)) {
+    case 0:
+      return moveCorner(plan, {shape.id}, corner, to).changed;
+    case 1:
+      return addCorner(plan, {shape.id}, corner, to).changed;
+    default:
+      return removeCorner(plan, {shape.id}, corner).changed;
+    }
+  }
+
  protected:
   struct Edit {
     std::string_view name;
@@ -263,6 +285,7 @@ const R::Edit R::kEdits[] = {
     {"mirror", [](R& r) { return r.mirror(); }, true},
     {"parallel", [](R& r) { return r.parallel(); }},
     {"align", [](R& r) { return r.align(); }},
+    {"corner", [](R& r) { return r.corner(); }},
 };
 
 std::size_t R::kinds() {

@@ -1,6 +1,7 @@
 #include "editing/canvas/canvas.h"
 
 #include "catalog/track_catalog.h"
+#include "editing/canvas/board_corners_tool.h"
 #include "editing/canvas/carried_painter.h"
 #include "editing/canvas/carry_block_tool.h"
 #include "editing/canvas/carry_piece_tool.h"
@@ -44,6 +45,8 @@ std::unique_ptr<CanvasTool> makeTool(ToolMode mode, ToolSite& site) {
     return std::make_unique<MeasureTool>(site);
   case ToolMode::Polygon:
     return std::make_unique<PolygonTool>(site);
+  case ToolMode::BoardCorners:
+    return std::make_unique<BoardCornersTool>(site);
   case ToolMode::Select:
     break;
   }
