@@ -40,9 +40,27 @@ enum CommandId : int {
   kLayoutWizardHelp = 2028,
   kOptions = 2029,
   kOlderVersions = 2030,
+  kCut = 2060,
+  kCopy = 2061,
+  kPaste = 2062,
+  kDuplicate = 2063,
+  kZoomSelection = 2064,
+  kParallelTrack = 2065,
+  kMirrorLeftRight = 2066,
+  kMirrorTopBottom = 2067,
+  kMirrorAcross = 2068,
+  kAlignLeft = 2069,
+  kAlignCentre = 2070,
+  kAlignRight = 2071,
+  kAlignTop = 2072,
+  kAlignMiddle = 2073,
+  kAlignBottom = 2074,
+  kDistributeAcross = 2075,
+  kDistributeDown = 2076,
+  kBoardCorners = 2077,
 };
 
 /// What the mouse does on the plan.
-enum class ToolMode : std::int32_t { Select = 0, Measure = 3, Polygon = 4 };
+enum class ToolMode : std::int32_t { Select = 0, Measure = 3, Polygon = 4, BoardCorners = 20 };
 
 } // namespace trassix

@@ -2,6 +2,7 @@
 
 #include "document/layout.h"
 #include "document/limits.h"
+#include "document/undo_scope.h"
 #include "editing/levels/level_edits.h"
 #include "editing/selection/content_box.h"
 #include "geometry/polygons.h"
@@ -29,6 +30,30 @@ Point topLeft(const std::vector<Point>& outline) {
 std::vector<Point> movedTo(std::vector<Point> outline, Point by) {
   for (Point& p : outline)
     p = {p.x + by.x, p.y + by.y};
+  return outline;
+}
+
+Point bottomRight(const std::vector<Point>& outline) {
+  Point corner = outline.empty() ? Point{} : outline.front();
+  for (const Point& p : outline)
+    corner = {std::max(corner.x, p.x), std::max(corner.y, p.y)};
+  return corner;
+}
+
+/// Left to right, where it lies.
+std::vector<Point> turnedOver(std::vector<Point> outline) {
+  const double ends = topLeft(outline).x + bottomRight(outline).x;
+  for (Point& p : outline)
+    p.x = ends - p.x;
+  return outline;
+}
+
+/// By a quarter, with the top left corner of its box staying.
+std::vector<Point> turnedRight(std::vector<Point> outline) {
+  const Point corner = topLeft(outline);
+  const double depth = bottomRight(outline).y - corner.y;
+  for (Point& p : outline)
+    p = {corner.x + depth - (p.y - corner.y), corner.y + (p.x - corner.x)};
   return outline;
 }
 
@@ -63,10 +88,81 @@ BoardForm::BoardForm(const Layout& layout) : layout_(layout), shape_(selectedSha
     measures_.emplace_back(length, layout.settings().units, -kFarthest, kFarthest);
   choice_ = static_cast<Choice>(start.kind);
   const std::vector<Point>& present = layout.settings().baseboard;
-  if (!present.empty() && !sameOutline(present, movedTo(boardOutline(start), topLeft(present)))) {
-    free_ = present;
-    choice_ = Choice::Free;
+  if (present.empty())
+    return;
+  // A file does not tell which way round the shape lies.
+  for (const bool mirrored : {false, true})
+    for (int quarters = 0; quarters < 4; ++quarters) {
+      orientation_ = {mirrored, quarters};
+      if (sameOutline(present, movedTo(oriented(boardOutline(start)), topLeft(present))))
+        return;
+    }
+  orientation_ = {};
+  free_ = present;
+  choice_ = Choice::Free;
+}
+
+void BoardForm::choose(Choice choice) {
+  if (choice != choice_)
+    orientation_ = {};
+  choice_ = choice;
+}
+
+void BoardForm::mirror() {
+  if (choice_ == Choice::Free)
+    free_ = turnedOver(free_);
+  else if (choice_ != Choice::Rectangle)
+    // Turned over after its turns: the same as before them, with the turns the other way round.
+    orientation_ = {!orientation_.mirrored, (4 - orientation_.quarters) % 4};
+}
+
+void BoardForm::turn() {
+  if (choice_ == Choice::Free)
+    free_ = turnedRight(free_);
+  else if (choice_ == Choice::Rectangle)
+    std::swap(measures_[0], measures_[1]);
+  else
+    orientation_.quarters = (orientation_.quarters + 1) % 4;
+}
+
+std::vector<Point> BoardForm::oriented(std::vector<Point> outline) const {
+  if (orientation_.mirrored)
+    outline = turnedOver(outline);
+  for (int i = 0; i < orientation_.quarters; ++i)
+    outline = turnedRight(outline);
+  return outline;
+}
+
+Point BoardForm::orient(Point p) const {
+  if (orientation_.mirrored)
+    p.x = -p.x;
+  for (int i = 0; i < orientation_.quarters; ++i)
+    p = {-p.y, p.x};
+  return p;
+}
+
+std::vector<Point> BoardForm::drawnOutline() const {
+  const std::optional<LastShape> chosen = shape();
+  return chosen ? oriented(boardOutline(*chosen)) : std::vector<Point>{};
+}
+
+std::vector<BoardDimension> BoardForm::dimensions() const {
+  const std::optional<LastShape> chosen = shape();
+  if (!chosen)
+    return {};
+  std::vector<BoardDimension> all = boardDimensions(*chosen, units());
+  // The directions turn as they are; the places come back to where the outline lies.
+  std::vector<Point> corners = boardOutline(*chosen);
+  std::ranges::transform(corners, corners.begin(), [this](Point p) { return orient(p); });
+  const Point corner = topLeft(corners);
+  for (BoardDimension& dimension : all) {
+    for (Point* end : {&dimension.from, &dimension.to}) {
+      const Point at = orient(*end);
+      *end = {at.x - corner.x, at.y - corner.y};
+    }
+    dimension.outward = orient(dimension.outward);
   }
+  return all;
 }
 
 std::string BoardForm::measureName(std::size_t measure) const {
@@ -113,12 +209,15 @@ Point BoardForm::placeOf(const LastShape& shape) const {
   const std::optional<Box> content = contentBox(layout_);
   if (!content)
     return {};
-  return {std::round((content->minX + content->maxX - shape.w) / 2),
-          std::round((content->minY + content->maxY - shape.h) / 2)};
+  const bool lengthwise = orientation_.quarters % 2 == 0;
+  const double width = lengthwise ? shape.w : shape.h;
+  const double depth = lengthwise ? shape.h : shape.w;
+  return {std::round((content->minX + content->maxX - width) / 2),
+          std::round((content->minY + content->maxY - depth) / 2)};
 }
 
 std::vector<Point> BoardForm::placed(const LastShape& shape) const {
-  return movedTo(boardOutline(shape), placeOf(shape));
+  return movedTo(oriented(boardOutline(shape)), placeOf(shape));
 }
 
 std::vector<Point> BoardForm::outline() const {
@@ -132,8 +231,13 @@ std::vector<Point> BoardForm::outline() const {
 bool BoardForm::apply(Layout& layout) const {
   if (!problem().empty())
     return false;
-  if (choice_ == Choice::Free && shapeTaken_)
-    return useAsBaseboard(layout, shape_->id);
+  if (choice_ == Choice::Free && shapeTaken_) {
+    const std::vector<Point> wanted = free_; // the shape goes
+    UndoScope step(layout);
+    useAsBaseboard(layout, shape_->id);
+    setBaseboard(layout, wanted, layout.settings().lastShape);
+    return step.keep();
+  }
   const LastShape last = shape().value_or(layout.settings().lastShape);
   const std::vector<Point> wanted = outline();
   // A board read from a file is rounded: what is the same to the eye stays.

@@ -28,7 +28,12 @@ class BoardForm {
   explicit BoardForm(const Layout& layout);
 
   Choice choice() const { return choice_; }
-  void choose(Choice choice) { choice_ = choice; }
+  void choose(Choice choice);
+
+  /// Turns the outline over left to right, or by a quarter to the right, where it lies. A
+  /// rectangle's measures change places instead.
+  void mirror();
+  void turn();
 
   /// Measures in the order of `boardMeasureNames`; those without a name do not count.
   std::string measureName(std::size_t measure) const;
@@ -51,10 +56,22 @@ class BoardForm {
   /// under what is on the plan. Empty for no baseboard and while there is a problem.
   std::vector<Point> outline() const;
 
+  /// The shape of the chosen kind with its top left corner at the origin, and its measures there.
+  std::vector<Point> drawnOutline() const;
+  std::vector<BoardDimension> dimensions() const;
+
   /// One undo step. False and nothing changed when all is as it was or there is a problem.
   bool apply(Layout& layout) const;
 
  private:
+  /// Which way round a shape lies: first turned over, then turned.
+  struct Orientation {
+    bool mirrored = false;
+    int quarters = 0; ///< to the right
+  };
+
+  std::vector<Point> oriented(std::vector<Point> outline) const;
+  Point orient(Point p) const;
   Point placeOf(const LastShape& shape) const;
   std::vector<Point> placed(const LastShape& shape) const;
 
@@ -62,6 +79,7 @@ class BoardForm {
   const Shape* shape_; ///< the selected one
   Choice choice_ = Choice::Rectangle;
   std::vector<LengthEntry> measures_;
+  Orientation orientation_;
   std::vector<Point> free_;
   bool shapeTaken_ = false;
 };

@@ -1,14 +1,21 @@
 // Long runs of random edits: whatever the user does, the plan stays sound and undo is exact.
 #include "document/undo_scope.h"
+#include "editing/arranging/aligning.h"
+#include "editing/arranging/corner_edits.h"
+#include "editing/arranging/mirroring.h"
+#include "editing/arranging/parallel_pieces.h"
+#include "editing/arranging/parallel_track.h"
 #include "editing/autofill/autofill.h"
 #include "editing/joining/joining.h"
 #include "editing/placing/block_placing.h"
 #include "editing/placing/inserting.h"
 #include "editing/placing/placing.h"
 #include "editing/placing/swapping.h"
+#include "editing/scenery/annotations.h"
 #include "editing/selection/moving.h"
 #include "editing/selection/property_edits.h"
 #include "editing/selection/selection.h"
+#include "editing/track/mirror_twin.h"
 #include "panels/level_list.h"
 #include "support/plan.h"
 
@@ -118,9 +125,60 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
   }
 
   bool insert() {
-    pose = {piece.x + any(-5, 5), piece.y + any(-5, 5), piece.heading + any(0, 1) * 180};
-    const auto spot = findInsertSpot(plan, SnapIndex(plan), *article, pose);
+    std::optional<InsertSpot> spot;
+    for (int more = 0; more < 4 && !spot; ++more) {
+      pose = {piece.x + any(-5, 5), piece.y + any(-5, 5), piece.heading + any(0, 1) * 180};
+      spot = findInsertSpot(plan, SnapIndex(plan), *article, pose);
+      piece = anyOf(plan.pieces());
+    }
     return spot && insertPiece(plan, article->article, *spot).changed();
+  }
+
+  bool mirror() {
+    const auto line = mirrorLine(plan, static_cast<MirrorWay>(any(0, 2)));
+    piece = {}; // joints inside the selection stay whichever it is
+    return line && mirrorSelection(plan, *line, true).changed;
+  }
+
+  /// Beside a piece and those joined to it.
+  bool parallel() {
+    UndoScope step(plan);
+    plan.reselect([&](const auto& record) {
+      return record.id == piece.id || piece.joint(0).target == record.id ||
+             piece.joint(1).target == record.id;
+    });
+    const PieceDef* definition = definitionOf(piece);
+    const double spacing = definition ? parallelSpacing(definition->system) : 0;
+    return layParallel(plan, any(0, 1) == 0 ? spacing : -spacing).edit.changed() && step.keep();
+  }
+
+  bool align() {
+    UndoScope step(plan);
+    plan.reselect([&](const auto&) { return any(0, 1) == 0; });
+    return (any(0, 3) == 0 ? distributeSelection(plan, static_cast<Axis>(any(0, 1)))
+                           : alignSelection(plan, static_cast<AlignTo>(any(0, 5))))
+               .changed &&
+           step.keep();
+  }
+
+  /// Of shapes, which are kept few.
+  bool corner() {
+    const auto& shapes = plan.content().shapes;
+    if (shapes.size() < 4) {
+      const Point at{pose.x, pose.y};
+      return addShape(plan, {at, {at.x + 300, at.y}, {at.x + 100, at.y + 200}}) != -1;
+    }
+    const Shape& shape = anyOf(shapes);
+    const auto corner = static_cast<std::size_t>(any(0, static_cast<int>(shape.points.size())));
+    const Point to{shape.points[0].x + any(-300, 300), shape.points[0].y + any(-300, 300)};
+    switch (any(0, 2)) {
+    case 0:
+      return moveCorner(plan, {shape.id}, corner, to).changed;
+    case 1:
+      return addCorner(plan, {shape.id}, corner, to).changed;
+    default:
+      return removeCorner(plan, {shape.id}, corner).changed;
+    }
   }
 
  protected:
@@ -224,6 +282,10 @@ const R::Edit R::kEdits[] = {
        return dropScenery(r.plan, r.any(0, 1) == 0 ? "74861" : "72886", r.pose).changed();
      }},
     {"decks", [](R& r) { return r.decks(); }},
+    {"mirror", [](R& r) { return r.mirror(); }, true},
+    {"parallel", [](R& r) { return r.parallel(); }},
+    {"align", [](R& r) { return r.align(); }},
+    {"corner", [](R& r) { return r.corner(); }},
 };
 
 std::size_t R::kinds() {
@@ -249,16 +311,26 @@ TEST_P(RandomEdits, KeepThePlanSoundAndUndoExact) {
     for (const auto& [ends, play] : jointsOf(plan)) {
       // Joints that stay get no more play, new ones have at most what their rule allows. A move
       // opens the joints around the group and may find their ends to meet again.
-      const auto old = joints.find(ends);
+      // A mirrored piece has the joints it had, at its twin's ends.
+      const bool mirrored = edit.name == "mirror";
+      const auto old = mirrored ? std::ranges::find_if(joints,
+                                                       [&ends = ends](const auto& joint) {
+                                                         return joint.first[0] == ends[0] &&
+                                                                joint.first[2] == ends[2];
+                                                       })
+                                : joints.find(ends);
       const bool around = plan.findPiece(ends[0])->sel != plan.findPiece(ends[2])->sel ||
                           edit.name == "swap" || ends[0] == piece.id || ends[2] == piece.id;
       const bool is = old != joints.end() && !(edit.remakesJoints && around);
       const double facing = edit.name == "fill" ? 10.0 : 1.0;
-      const double rounding = edit.name == "library" ? 1e-3 : 1e-6; // a file has four decimals
+      const double rounding = mirrored                 ? 2 * kTwinPlay
+                              : edit.name == "library" ? 1e-3 // a file has four decimals
+                                                       : 1e-6;
       ASSERT_LE(play.distance, (is ? old->second.distance : 1.0) + rounding);
       ASSERT_LE(play.heading, (is ? old->second.heading : facing) + rounding);
       const double step = old != joints.end() && graded() ? old->second.step : 0;
-      ASSERT_TRUE((graded() && old == joints.end()) || std::abs(play.step - step) <= kSameHeight)
+      ASSERT_TRUE((graded() && old == joints.end()) ||
+                  std::abs(play.step - step) <= kSameHeight + rounding)
           << play.step << " after " << step;
     }
     const PlanContent after = plan.content();

@@ -1,4 +1,5 @@
 #include "editing/canvas/canvas_script.h"
+#include "geometry/polygons.h"
 #include "panels/board_form.h"
 #include "panels/shape_form.h"
 #include "support/loose_records.h"
@@ -208,6 +209,50 @@ TEST(ShapeForms, aRectangleIsExactAndSelected) {
   EXPECT_EQ(placed.level, 2);
   EXPECT_TRUE(layout.undo());
   EXPECT_FALSE(layout.canUndo());
+}
+
+TEST(Baseboard, isTurnedOverAndRoundAndKnownAgain) {
+  const LastShape shape{static_cast<std::int32_t>(Choice::L), 2000, 1000, 300, 400};
+  struct Case {
+    std::vector<void (BoardForm::*)()> clicks;
+    Point arm; ///< a place in it
+  };
+  const auto mirror = &BoardForm::mirror;
+  const auto turn = &BoardForm::turn;
+  const Case cases[] = {{{}, {100, 100}},
+                        {{mirror}, {1900, 100}},
+                        {{turn}, {900, 100}},
+                        {{turn, mirror}, {100, 100}},
+                        {{turn, turn, mirror}, {100, 900}},
+                        {{mirror, turn}, {900, 1900}}};
+  for (const Case& c : cases) {
+    Layout layout = planWith(shape);
+    BoardForm form(layout);
+    form.choose(Choice::L);
+    for (const auto click : c.clicks)
+      (form.*click)();
+    const std::vector<Point> outline = form.drawnOutline();
+    EXPECT_TRUE(inside(outline, c.arm));
+    EXPECT_NEAR(std::abs(areaOf(outline)), 980000, 1e-6);
+    for (const BoardDimension& dimension : form.dimensions())
+      EXPECT_TRUE(nearOutline(outline, dimension.from, 0.01) &&
+                  nearOutline(outline, dimension.to, 0.01) &&
+                  !inside(outline, {dimension.from.x + dimension.outward.x * 5,
+                                    dimension.from.y + dimension.outward.y * 5}));
+    EXPECT_TRUE(form.apply(layout));
+    const BoardForm again(layout);
+    EXPECT_EQ(again.choice(), Choice::L);
+    EXPECT_EQ(again.drawnOutline(), outline);
+    EXPECT_FALSE(again.apply(layout));
+  }
+
+  Layout layout = planWith({});
+  layout.editSettings().baseboard = {{10, 20}, {110, 20}, {110, 70}};
+  BoardForm form(layout);
+  form.mirror();
+  EXPECT_THAT(form.outline(), ElementsAre(Point{110, 20}, Point{10, 20}, Point{10, 70}));
+  form.turn();
+  EXPECT_THAT(form.outline(), ElementsAre(Point{60, 120}, Point{60, 20}, Point{10, 20}));
 }
 
 } // namespace

@@ -103,7 +103,10 @@ TEST(PropertySheet, showsWhatIsSelected) {
   EXPECT_EQ(shown({sample.label}),
             "Label\nText = Depot\nPosition x = 10.0 mm\nPosition y = 20.0 mm\n");
   EXPECT_EQ(shown({sample.shape}), "Shape\nLabel = \nCorners: 3\nColour = own\nOpacity = 55 %\n"
-                                   "Outline only = no\nHeight = 0.0 mm\nLevel = Level 1\n");
+                                   "Outline only = no\nHeight = 0.0 mm\nLevel = Level 1\n"
+                                   "Corner 1 x = 0.0 mm\nCorner 1 y = 0.0 mm\n"
+                                   "Corner 2 x = 90.0 mm\nCorner 2 y = 0.0 mm\n"
+                                   "Corner 3 x = 90.0 mm\nCorner 3 y = 60.0 mm\n");
   EXPECT_THAT(shown({sample.scenery}),
               testing::AllOf(HasSubstr("Heading = 30\u00b0\nWidth = "), HasSubstr("Depth = ")));
   sample.layout.editSettings().levels[1].name = "Level 1"; // as in a plan from elsewhere
@@ -151,6 +154,7 @@ TEST(PropertyChange, eachIsOneUndoStepAndShownAfterwards) {
       {{sample.shape}, "opacity", "20", "20 %"},
       {{sample.shape}, "outline", true, "yes"},
       {{sample.shape}, "height", "40", "40.0 mm"},
+      {{sample.shape}, "corner", "-7", "-7.0 mm"},
       {{sample.scenery}, "y", "77", "77.0 mm"},
       {{sample.scenery}, "heading", "405", "45\u00b0"},
       {{sample.scenery}, "width", "333", "333.0 mm"},

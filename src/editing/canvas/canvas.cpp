@@ -1,6 +1,7 @@
 #include "editing/canvas/canvas.h"
 
 #include "catalog/track_catalog.h"
+#include "editing/canvas/board_corners_tool.h"
 #include "editing/canvas/carried_painter.h"
 #include "editing/canvas/carry_block_tool.h"
 #include "editing/canvas/carry_piece_tool.h"
@@ -44,6 +45,8 @@ std::unique_ptr<CanvasTool> makeTool(ToolMode mode, ToolSite& site) {
     return std::make_unique<MeasureTool>(site);
   case ToolMode::Polygon:
     return std::make_unique<PolygonTool>(site);
+  case ToolMode::BoardCorners:
+    return std::make_unique<BoardCornersTool>(site);
   case ToolMode::Select:
     break;
   }
@@ -442,6 +445,14 @@ void Canvas::zoomStep(double factor) {
 void Canvas::fit() {
   site_->view.fit(contentBox(site_->layout()).value_or(Box{}), site_->size.width,
                   site_->size.height);
+  viewChanged();
+}
+
+void Canvas::fitSelection() {
+  const std::optional<Box> box = selectedContentBox(site_->layout());
+  if (!box)
+    return;
+  site_->view.fit(*box, site_->size.width, site_->size.height);
   viewChanged();
 }
 

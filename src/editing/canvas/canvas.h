@@ -76,6 +76,7 @@ class Canvas {
   /// About the pointer while something is carried, else about the middle.
   void zoomStep(double factor);
   void fit();
+  void fitSelection();
   void resetView();
   void resetViewForSmall();
 

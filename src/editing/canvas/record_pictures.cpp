@@ -2,6 +2,7 @@
 
 #include "catalog/helix_kits.h"
 #include "catalog/scenery_catalog.h"
+#include "editing/canvas/halo.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/selection/record_body.h"
 #include "measures/measure_format.h"
@@ -184,13 +185,14 @@ void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to
                                     {a.x + tick.x, a.y + tick.y},
                                     {b.x - tick.x, b.y - tick.y},
                                     {b.x + tick.x, b.y + tick.y}}};
-  surface.segments(lines, {color, 1.5});
+  paintLinesWithHalo(surface, lines, {color, 1.5});
   const std::string text = formatLength(std::hypot(to.x - from.x, to.y - from.y), units);
   const TextStyle style{color, 12, true};
   const double angle = uprightAngle(std::atan2(along.y, along.x) * 180 / kPi);
   const double up = toRadians(angle - 90);
-  surface.text(text, {(a.x + b.x) / 2 + std::cos(up) * 10, (a.y + b.y) / 2 + std::sin(up) * 10},
-               angle, style);
+  paintTextWithHalo(surface, text,
+                    {(a.x + b.x) / 2 + std::cos(up) * 11, (a.y + b.y) / 2 + std::sin(up) * 11},
+                    angle, style);
 }
 
 } // namespace trassix

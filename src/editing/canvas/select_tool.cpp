@@ -50,6 +50,11 @@ std::vector<Pick> SelectTool::picksAt(Point world) {
   return trassix::picksAt(site_.layout(), site_.planIndex(), world, site_.mm(1));
 }
 
+CornerEditor& SelectTool::corners() {
+  corners_.edit(outlinedSelection(site_.layout()));
+  return corners_;
+}
+
 bool SelectTool::anySelected(const std::vector<Pick>& picks) const {
   return std::ranges::any_of(picks,
                              [this](const Pick& pick) { return isSelected(site_.layout(), pick); });
@@ -60,6 +65,8 @@ void SelectTool::press(const PointerInput& input) {
 }
 
 void SelectTool::hover(const PointerInput& input) {
+  if (corners().hover(input))
+    site_.workspace.repaint();
   std::vector<Pick> picks = picksAt(input.world);
   const std::optional<TrackEnd> end =
       openEndNear(site_.layout(), site_.planIndex(), input.world, site_.mm(1));
@@ -77,6 +84,9 @@ void SelectTool::drag(const PointerInput& input) {
 }
 
 void SelectTool::startGesture(const PointerInput& input) {
+  gesture_ = corners().grab(input);
+  if (gesture_)
+    return;
   const std::vector<Pick> picks = picksAt(input.world);
   if (picks.empty() && !(input.alt && hasSelection(site_.layout()))) {
     gesture_ = std::make_unique<RubberBandGesture>(site_, input);
@@ -106,6 +116,8 @@ void SelectTool::select(const Pick& pick) {
 
 void SelectTool::click(const PointerInput& input) {
   Layout& layout = site_.layout();
+  if (corners().click(input))
+    return;
   if (!input.ctrl)
     if (const auto end = openEndNear(layout, site_.planIndex(), input.world, site_.mm(1)))
       return chooseEnd(*end);
@@ -181,6 +193,8 @@ bool SelectTool::flipSelected(int step) {
 }
 
 void SelectTool::doubleClick(const PointerInput& input) {
+  if (corners().doubleClick(input))
+    return;
   Layout& layout = site_.layout();
   const std::vector<Pick> picks = picksAt(input.world);
   const auto first = [&picks](RecordKind kind) -> const Pick* {
@@ -267,6 +281,8 @@ bool SelectTool::key(const KeyInput& input) {
   case Key::Duplicate:
     duplicateSelection(site_);
     return true;
+  case Key::Backspace:
+    return corners().removeChosen();
   case Key::F:
     return flipSelected(input.shift ? -1 : 1);
   case Key::Tab:
@@ -280,6 +296,7 @@ void SelectTool::cancel() {
   gesture_.reset();
   under_.clear();
   pointed_.reset();
+  corners_.leave();
 }
 
 void SelectTool::leave() {
@@ -298,12 +315,18 @@ void SelectTool::contextMenu(const PointerInput& input) {
   const std::vector<Pick> picks = picksAt(input.world);
   if (!picks.empty() && !anySelected(picks))
     select(picks.front());
-  site_.questions().popupMenu(selectionMenu(site_, picks, input.world));
+  std::vector<MenuRow> rows = corners().menu(input.world);
+  if (!rows.empty())
+    rows.push_back({});
+  std::ranges::move(selectionMenu(site_, picks, input.world), std::back_inserter(rows));
+  site_.questions().popupMenu(rows);
 }
 
 void SelectTool::paint(Surface& surface) const {
   if (gesture_)
     return gesture_->paint(surface);
+  if (outlinedSelection(site_.layout()))
+    corners_.paint(surface);
   if (const Pick* pick = hovered(); pick && !pointed_ && !isSelected(site_.layout(), *pick))
     paintHover(surface, site_, *pick);
   const std::optional<TrackEnd> chosen = site_.choice.end(site_.layout());
@@ -317,6 +340,8 @@ std::string SelectTool::hint() const {
   if (gesture_)
     return gesture_->hint();
   const Layout& layout = site_.layout();
+  if (std::string corner = corners_.hint(); !corner.empty() && outlinedSelection(layout))
+    return corner;
   if (pointed_)
     return hintOf({tr("Open end"), tr("Click: track goes on from here"), tr("Drag: move"),
                    tr("Right-click: more")});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editing/canvas/canvas_tool.h"
+#include "editing/canvas/corner_editor.h"
 #include "editing/canvas/gesture.h"
 #include "editing/placing/flipping.h"
 #include "editing/selection/open_ends.h"
@@ -15,7 +16,7 @@ namespace trassix {
 /// The ordinary tool: selecting, and shaping what is selected.
 class SelectTool : public CanvasTool {
  public:
-  using CanvasTool::CanvasTool;
+  explicit SelectTool(ToolSite& site) : CanvasTool(site), corners_(site) {}
 
   void press(const PointerInput& input) override;
   void hover(const PointerInput& input) override;
@@ -33,6 +34,7 @@ class SelectTool : public CanvasTool {
 
  private:
   std::vector<Pick> picksAt(Point world);
+  CornerEditor& corners();
   bool anySelected(const std::vector<Pick>& picks) const;
   void click(const PointerInput& input);
   void select(const Pick& pick);
@@ -52,6 +54,8 @@ class SelectTool : public CanvasTool {
   std::vector<Pick> under_;         ///< the pointer, topmost first
   std::optional<TrackEnd> pointed_; ///< an open end there
   std::unique_ptr<Gesture> gesture_;
+  /// Of the selected shape; told of it when the mouse or a key comes.
+  CornerEditor corners_;
   Flip flip_; ///< the last one, and the revision after it
   std::uint64_t flippedTo_ = 0;
   std::uint64_t nudgedTo_ = 0; ///< revision after the last nudge: a run of nudges is one undo step

@@ -2,6 +2,7 @@
 
 #include "document/limits.h"
 #include "editing/autofill/autofill.h"
+#include "editing/canvas/arrange_commands.h"
 #include "editing/canvas/autofill_command.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/canvas/swap_command.h"
@@ -53,6 +54,7 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
       rows.push_back({tr("Turn Left 15\u00b0"), tr("Ctrl+Wheel"), true,
                       [&site] { turnSelection(site, -15); }});
     }
+    std::ranges::move(arrangeRows(site), std::back_inserter(rows));
     if (canAutofill(layout))
       rows.push_back({tr("Autofill Gap..."), "", true, [&site] { runAutofill(site); }});
     rows.push_back({tr("Cut"), tr("Ctrl+X"), true, [&site] { cutSelection(site); }});

@@ -102,6 +102,17 @@ std::optional<Box> contentBox(const Layout& layout) {
   return box.box();
 }
 
+std::optional<Box> selectedContentBox(const Layout& layout) {
+  BoxBuilder box;
+  forEachSelectable(layout.content(), [&](const auto& records) {
+    for (const auto& record : records)
+      if (record.sel)
+        std::ranges::for_each(outlinesOf(layout, record, 0),
+                              [&box](const Polygon& outline) { box.add(outline); });
+  });
+  return box.box();
+}
+
 std::optional<Box> nearestContent(const Layout& layout, const Box& window, const Box& room) {
   NearestBox nearest(room);
   bool shown = false;

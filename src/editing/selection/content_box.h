@@ -11,6 +11,9 @@ namespace trassix {
 /// labels, measurements and the baseboard. Empty for an empty plan.
 std::optional<Box> contentBox(const Layout& layout);
 
+/// The box of what is selected; empty when nothing is.
+std::optional<Box> selectedContentBox(const Layout& layout);
+
 /// Where to look when `window` (mm) shows nothing of a plan: the box of what comes into the part of
 /// it that `room` is with the shortest move. That is a whole outline where one has room, else a
 /// point of one. Empty when something is in the window, and for a plan without visible content.

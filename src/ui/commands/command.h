@@ -28,6 +28,7 @@ struct Command {
   const char* toolLabel = nullptr; ///< null when it is no tool
   const char* toolTip = nullptr;   ///< null for none
   Menu menu = Menu::None;          ///< none also for commands that have a given place
+  const char* submenu = nullptr;   ///< neighbouring rows of ours with the same one stand in it
   Kind kind = Kind::Normal;
   Hand hand = Hand::Empties;
   bool (*enabled)(const Layout&) = nullptr; ///< null: always
@@ -48,6 +49,7 @@ struct Command {
 std::span<const Command> fileCommands();
 std::span<const Command> transferCommands();
 std::span<const Command> editCommands();
+std::span<const Command> arrangeCommands();
 std::span<const Command> viewCommands();
 std::span<const Command> layoutCommands();
 std::span<const Command> toolCommands();

@@ -86,12 +86,19 @@ wxMenu* unitsMenu() {
 /// Ours stand behind the given rows, and apart from them.
 void appendOurs(wxMenu& menu, Command::Menu which) {
   bool first = true;
+  const char* submenuText = nullptr;
+  wxMenu* submenu = nullptr;
   for (const Command* command : commands()) {
     if (command->menu != which)
       continue;
     if (std::exchange(first, false))
       menu.AppendSeparator();
-    append(menu, *command);
+    if (command->submenu && command->submenu != submenuText) {
+      submenu = new wxMenu;
+      menu.AppendSubMenu(submenu, wxGetTranslation(command->submenu));
+    }
+    submenuText = command->submenu;
+    append(submenuText ? *submenu : menu, *command);
   }
 }
 

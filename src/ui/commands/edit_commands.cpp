@@ -37,6 +37,20 @@ void selectEverything(Desk& desk) {
   desk.workspace.selectionChanged();
 }
 
+using Menu = Command::Menu;
+
+ToolSite& siteOf(Desk& desk) {
+  return desk.canvasPanel.canvas().site();
+}
+
+void paste(Desk& desk) {
+  const Block pasted = pastedBlock(siteOf(desk));
+  if (pasted.empty())
+    return desk.workspace.setHint(tr("There is nothing on the clipboard that goes onto a plan"));
+  siteOf(desk).carry(pasted);
+  desk.canvasPanel.SetFocus();
+}
+
 // clang-format off
 const Command kCommands[] = {
     {.id = kUndo, .menuText = wxTRANSLATE("&Undo\tCtrl+Z"),
@@ -50,6 +64,19 @@ const Command kCommands[] = {
      .run = [](Desk& desk) { deleteSelected(desk.canvasPanel.canvas().site()); }},
     {.id = kSelectAll, .menuText = wxTRANSLATE("Select &All\tCtrl+A"),
      .menuHelp = wxTRANSLATE("Select everything that is visible"), .run = selectEverything},
+    {.id = kCut, .menuText = wxTRANSLATE("Cu&t\tCtrl+X"),
+     .menuHelp = wxTRANSLATE("Take what is selected away, to paste it elsewhere"),
+     .menu = Menu::Edit, .enabled = hasSelection,
+     .run = [](Desk& desk) { cutSelection(siteOf(desk)); }},
+    {.id = kCopy, .menuText = wxTRANSLATE("&Copy\tCtrl+C"),
+     .menuHelp = wxTRANSLATE("Copy what is selected, to paste it elsewhere"), .menu = Menu::Edit,
+     .enabled = hasSelection, .run = [](Desk& desk) { copySelection(siteOf(desk)); }},
+    {.id = kPaste, .menuText = wxTRANSLATE("&Paste\tCtrl+V"),
+     .menuHelp = wxTRANSLATE("Hang what was copied on the pointer, to be dropped on the plan"),
+     .menu = Menu::Edit, .run = paste},
+    {.id = kDuplicate, .menuText = wxTRANSLATE("D&uplicate\tCtrl+D"),
+     .menuHelp = wxTRANSLATE("Hang a copy of what is selected on the pointer"), .menu = Menu::Edit,
+     .enabled = hasSelection, .run = [](Desk& desk) { duplicateSelection(siteOf(desk)); }},
 };
 // clang-format on
 

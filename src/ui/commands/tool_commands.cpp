@@ -1,3 +1,4 @@
+#include "document/layout.h"
 #include "host/command_ids.h"
 #include "host/workspace.h"
 #include "ui/canvas/canvas_panel.h"
@@ -53,6 +54,11 @@ const Command kCommands[] = {
     {.id = kRectangle, .toolLabel = wxTRANSLATE("Rectangle"),
      .toolTip = wxTRANSLATE("Place a rectangle of an exact size -- easier than drawing one by hand"),
      .run = placeRectangle},
+    {.id = kBoardCorners, .menuText = wxTRANSLATE("Baseboard &Corners"),
+     .menuHelp = wxTRANSLATE("Drag, add and remove corners of the baseboard on the plan"),
+     .menu = Command::Menu::Layout, .kind = Kind::Check,
+     .enabled = [](const Layout& layout) { return !layout.settings().baseboard.empty(); },
+     .checked = isMode<ToolMode::BoardCorners>, .run = toggleMode<ToolMode::BoardCorners>},
 };
 // clang-format on
 

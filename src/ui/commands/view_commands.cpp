@@ -1,3 +1,4 @@
+#include "editing/selection/selection.h"
 #include "host/command_ids.h"
 #include "host/workspace.h"
 #include "ui/canvas/canvas_panel.h"
@@ -58,6 +59,10 @@ const Command kCommands[] = {
        return workspace.switches().labels ? wxTRANSLATE("Hide Labels") : wxTRANSLATE("Show Labels");
      },
      .run = flip<&EditorSwitches::labels>},
+    {.id = kZoomSelection, .menuText = wxTRANSLATE("Zoom to Se&lection\tCtrl+1"),
+     .menuHelp = wxTRANSLATE("Show what is selected as large as it goes"),
+     .menu = Command::Menu::View, .hand = Hand::Keeps, .enabled = hasSelection,
+     .run = [](Desk& desk) { desk.canvasPanel.canvas().fitSelection(); }},
     {.id = kView3D, .toolLabel = wxTRANSLATE("3D View")},
 };
 // clang-format on

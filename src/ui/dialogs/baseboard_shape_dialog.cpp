@@ -39,6 +39,7 @@ BaseboardShapeDialog::BaseboardShapeDialog(wxWindow* parent, trassix::Layout& la
   const int gap = FromDIP(10);
   auto* page = new wxBoxSizer(wxVERTICAL);
   page->Add(makeChoices(), wxSizerFlags().Border(wxALL, gap));
+  page->Add(makeTurns(), wxSizerFlags().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
   auto* entries = new wxBoxSizer(wxVERTICAL);
   measures_ = makeMeasures();
   free_ = makeFree();
@@ -78,6 +79,25 @@ wxSizer* BaseboardShapeDialog::makeChoices() {
     row->Add(button, wxSizerFlags().Border(wxRIGHT, FromDIP(16)));
     choices_[i] = button;
   }
+  return row;
+}
+
+wxSizer* BaseboardShapeDialog::makeTurns() {
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  const auto add = [&](const wxString& label, const char* name, void (BoardForm::*change)()) {
+    auto* button = new wxButton(this, wxID_ANY, label);
+    button->SetName(name);
+    button->Bind(wxEVT_BUTTON, [this, change](wxCommandEvent&) {
+      (form_.*change)();
+      for (std::size_t i = 0; i < fields_.size(); ++i) // a rectangle's change places
+        fields_[i]->ChangeValue(fromUtf8(form_.measure(i).text()));
+      refresh();
+    });
+    row->Add(button, wxSizerFlags().Border(wxRIGHT, FromDIP(8)));
+    return button;
+  };
+  mirror_ = add(_("&Mirror"), "boardMirror", &BoardForm::mirror);
+  turn_ = add(_("Turn Ri&ght"), "boardTurn", &BoardForm::turn);
   return row;
 }
 
@@ -142,6 +162,8 @@ void BaseboardShapeDialog::refresh() {
   const std::string problem = form_.problem();
   problem_->show(problem);
   ok_->Enable(problem.empty());
+  turn_->Enable(form_.choice() != Choice::None && corners != 0);
+  mirror_->Enable(turn_->IsEnabled() && form_.choice() != Choice::Rectangle);
   preview_->update();
 }
 

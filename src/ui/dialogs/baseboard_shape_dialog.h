@@ -29,6 +29,7 @@ class BaseboardShapeDialog : public wxDialog {
 
  private:
   wxSizer* makeChoices();
+  wxSizer* makeTurns();
   wxSizer* makeMeasures();
   wxSizer* makeFree();
   void showChoice();
@@ -44,6 +45,8 @@ class BaseboardShapeDialog : public wxDialog {
   wxStaticText* corners_ = nullptr;
   BoardPreview* preview_ = nullptr;
   ProblemText* problem_ = nullptr;
+  wxButton* mirror_ = nullptr;
+  wxButton* turn_ = nullptr;
   wxButton* ok_ = nullptr;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/dialogs/board_preview.h"
 
+#include "editing/canvas/halo.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/view_transform.h"
 #include "ui/canvas/gc_surface.h"
@@ -61,7 +62,7 @@ void paintDimension(Surface& surface, const BoardDimension& dimension, const Sca
   const Point ends[]{aside(from, 3),       aside(from, kOffset + kTick),
                      aside(to, 3),         aside(to, kOffset + kTick),
                      aside(from, kOffset), aside(to, kOffset)};
-  surface.segments(ends, line);
+  paintLinesWithHalo(surface, ends, line);
   const Point middle = aside({(from.x + to.x) / 2, (from.y + to.y) / 2}, kOffset + kTextGap);
   // A long text of a short measure must not run out of the picture.
   const double half = surface.textSize(dimension.text, kText).width / 2 + 4;
@@ -69,9 +70,9 @@ void paintDimension(Surface& surface, const BoardDimension& dimension, const Sca
     return half * 2 > length ? length / 2.0 : std::clamp(at, half, length - half);
   };
   if (out.x != 0)
-    surface.text(dimension.text, {middle.x, within(middle.y, size.y)}, -90, kText);
+    paintTextWithHalo(surface, dimension.text, {middle.x, within(middle.y, size.y)}, -90, kText);
   else
-    surface.text(dimension.text, {within(middle.x, size.x), middle.y}, 0, kText);
+    paintTextWithHalo(surface, dimension.text, {within(middle.x, size.x), middle.y}, 0, kText);
 }
 
 } // namespace
@@ -91,9 +92,9 @@ void BoardPreview::update() {
   if (!faded_) {
     outline_ = form_.outline();
     dimensions_.clear();
-    if (const std::optional<LastShape> shape = form_.shape()) {
-      outline_ = boardOutline(*shape); // the dimensions have their corner at the origin
-      dimensions_ = boardDimensions(*shape, form_.units());
+    if (form_.shape()) {
+      outline_ = form_.drawnOutline(); // the dimensions have their corner at the origin
+      dimensions_ = form_.dimensions();
     }
   }
   Refresh();

@@ -1,0 +1,118 @@
+#include "editing/arranging/aligning.h"
+
+#include "document/undo_scope.h"
+#include "editing/selection/record_body.h"
+#include "editing/selection/selection.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <vector>
+
+namespace trassix {
+
+namespace {
+
+/// What a selected record covers along an axis.
+struct Extent {
+  std::int32_t id = -1;
+  double low = 0;
+  double high = 0;
+};
+
+template <class Record>
+constexpr bool kCanAlign = Record::kKind == RecordKind::Scenery ||
+                           Record::kKind == RecordKind::Label || Record::kKind == RecordKind::Shape;
+
+template <class Content, class Visit>
+void forEachAligned(Content& content, Visit visit) {
+  forEachSelectable(content, [&visit](auto& records) {
+    if constexpr (kCanAlign<typename std::remove_cvref_t<decltype(records)>::value_type>)
+      for (auto& record : records)
+        if (record.sel)
+          visit(record);
+  });
+}
+
+std::vector<Extent> extentsOf(const Layout& layout, Axis axis) {
+  std::vector<Extent> extents;
+  forEachAligned(layout.content(), [&](const auto& record) {
+    const Polygon outline = bodyOf(layout, record, 0).outline;
+    const auto [low, high] =
+        std::ranges::minmax(outline, {}, axis == Axis::Across ? &Point::x : &Point::y);
+    extents.push_back(axis == Axis::Across ? Extent{record.id, low.x, high.x}
+                                           : Extent{record.id, low.y, high.y});
+  });
+  return extents;
+}
+
+std::size_t alignedCount(const Layout& layout) {
+  std::size_t count = 0;
+  forEachAligned(layout.content(), [&count](const auto&) { ++count; });
+  return count;
+}
+
+/// Each of these records goes so far along the axis.
+ChangeResult shift(Layout& layout, Axis axis, const std::map<std::int32_t, double>& ways) {
+  if (std::optional<Notice> locked = lockGuard(layout, "move"))
+    return *locked;
+  UndoScope step(layout);
+  forEachAligned(layout.edit(), [&](auto& record) {
+    constexpr double kStill = 1e-9; // mm
+    const double way = ways.at(record.id);
+    if (std::abs(way) > kStill)
+      moveRecord(record, RigidMotion{{}, axis == Axis::Across ? Pose{way, 0, 0} : Pose{0, way, 0}});
+  });
+  return step.keep();
+}
+
+} // namespace
+
+bool canAlign(const Layout& layout) {
+  return alignedCount(layout) >= 2;
+}
+
+bool canDistribute(const Layout& layout) {
+  return alignedCount(layout) >= 3;
+}
+
+ChangeResult alignSelection(Layout& layout, AlignTo to) {
+  if (!canAlign(layout))
+    return false;
+  const Axis axis = to == AlignTo::Left || to == AlignTo::Centre || to == AlignTo::Right
+                        ? Axis::Across
+                        : Axis::Down;
+  const std::vector<Extent> extents = extentsOf(layout, axis);
+  const double low = std::ranges::min(extents, {}, &Extent::low).low;
+  const double high = std::ranges::max(extents, {}, &Extent::high).high;
+  std::map<std::int32_t, double> ways;
+  for (const Extent& extent : extents) {
+    const bool toLow = to == AlignTo::Left || to == AlignTo::Top;
+    const bool toHigh = to == AlignTo::Right || to == AlignTo::Bottom;
+    ways[extent.id] = toLow    ? low - extent.low
+                      : toHigh ? high - extent.high
+                               : (low + high - extent.low - extent.high) / 2;
+  }
+  return shift(layout, axis, ways);
+}
+
+ChangeResult distributeSelection(Layout& layout, Axis axis) {
+  if (!canDistribute(layout))
+    return false;
+  std::vector<Extent> extents = extentsOf(layout, axis);
+  std::ranges::stable_sort(extents, {}, [](const Extent& e) { return e.low + e.high; });
+  double covered = 0;
+  for (const Extent& extent : extents)
+    covered += extent.high - extent.low;
+  const double gap = (extents.back().high - extents.front().low - covered) /
+                     static_cast<double>(extents.size() - 1);
+  std::map<std::int32_t, double> ways;
+  double at = extents.front().low;
+  for (const Extent& extent : extents) {
+    ways[extent.id] = at - extent.low;
+    at += extent.high - extent.low + gap;
+  }
+  return shift(layout, axis, ways);
+}
+
+} // namespace trassix

@@ -1,0 +1,15 @@
+// Texts and lines of measures, which have to be read on any ground.
+#pragma once
+
+#include "editing/canvas/surface.h"
+
+namespace trassix {
+
+/// The text, centred and turned as on the surface, with a light edge around its letters.
+void paintTextWithHalo(Surface& surface, std::string_view text, Point centre, double degrees,
+                       const TextStyle& style);
+
+/// Separate lines with a light edge along them.
+void paintLinesWithHalo(Surface& surface, std::span<const Point> ends, const Stroke& stroke);
+
+} // namespace trassix
