@@ -23,7 +23,9 @@ class PlanningTest : public FrameTest {
     const auto& rows = list->rows();
     const auto row = static_cast<std::size_t>(
         std::find_if(rows.begin(), rows.end(),
-                     [&](const CatalogRow& r) { return r.title == title; }) -
+                     [&](const CatalogRow& r) {
+                       return r.title == title || r.detail.BeforeFirst(' ') == title;
+                     }) -
         rows.begin());
     list->select(row, 1);
     wxRect rect;

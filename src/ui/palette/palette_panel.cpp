@@ -3,9 +3,9 @@
 #include "app/desktop/path_text.h"
 #include "app/desktop/user_paths.h"
 #include "editing/canvas/carried.h"
+#include "editing/track/short_name.h"
 #include "measures/measure_format.h"
 #include "panels/block_library.h"
-#include "panels/piece_names.h"
 #include "ui/palette/catalog_list.h"
 #include "ui/palette/palette_drawings.h"
 #include "ui/widgets/file_boxes.h"
@@ -29,7 +29,8 @@ wxString headingOf(const PaletteGroup& group, std::int32_t units) {
   const wxString name = wxGetTranslation(fromUtf8(groupName(group.group)));
   if (group.group != PieceGroup::Curves)
     return name;
-  return wxString::Format(_("%s, radius %s"), name, fromUtf8(formatLength(group.radius, units)));
+  return wxString::Format(_("%s, radius %s"), name,
+                          fromUtf8(formatBriefLength(group.radius, units)));
 }
 
 wxString sizeText(const Footprint& size, std::int32_t units) {
@@ -42,6 +43,21 @@ CatalogRow heading(const wxString& title) {
   CatalogRow row;
   row.heading = true;
   row.title = title;
+  return row;
+}
+
+/// `scale` in px per mm of a drawing in full width.
+CatalogRow rowOf(const PieceDef& piece, double scale, std::int32_t units) {
+  const ShortName name = shortNameOf(piece, units);
+  CatalogRow row;
+  row.bold = true;
+  row.title = fromUtf8(name.text);
+  row.detail = fromUtf8(piece.article + (name.rest.empty() ? "" : "  " + name.rest));
+  row.tip = fromUtf8(piece.name);
+  row.picture = [&piece, scale](Surface& surface, const PictureRoom& room) {
+    drawPiece(surface, room, piece, scale * room.size.width / CatalogList::kPictureWidth);
+  };
+  row.pictureHeight = drawnHeight(piece, scale);
   return row;
 }
 
@@ -250,17 +266,12 @@ void PalettePanel::fillTrack() {
   const std::int32_t units = workspace_.units();
   std::vector<CatalogRow> rows;
   pieces_.clear();
-  const double widest = widestToScale(model_.system());
   for (const PaletteGroup& group : model_.groups()) {
     rows.push_back(heading(headingOf(group, units)));
     pieces_.push_back(nullptr);
+    const double scale = scaleOfGroup(group.pieces, CatalogList::kPictureWidth);
     for (const PieceDef* piece : group.pieces) {
-      rows.push_back({false, true, fromUtf8(piece->article),
-                      fromUtf8(nameAfterArticle(piece->name, piece->article)),
-                      fromUtf8(piece->name),
-                      [piece, widest](Surface& surface, const PictureRoom& room) {
-                        drawPiece(surface, room, *piece, widest);
-                      }});
+      rows.push_back(rowOf(*piece, scale, units));
       pieces_.push_back(piece);
     }
   }
@@ -275,9 +286,9 @@ void PalettePanel::fillScenery() {
   for (const SceneryGroup& group : model_.scenery()) {
     rows.push_back(heading(wxGetTranslation(fromUtf8(categoryName(group.category)))));
     scenery_.push_back(nullptr);
-    double widest = 0;
+    double widest = 1;
     for (const SceneryDef* item : group.items)
-      widest = std::max(widest, item->footprint(shown).width);
+      widest = std::max({widest, item->footprint(shown).width, item->footprint(shown).depth});
     for (const SceneryDef* item : group.items) {
       const Footprint size = item->footprint(shown);
       wxString name = fromUtf8(item->name);
@@ -287,7 +298,8 @@ void PalettePanel::fillScenery() {
       rows.push_back({false, false, name, measures, name + "\n" + measures,
                       [item, size, widest](Surface& surface, const PictureRoom& room) {
                         drawScenery(surface, room, *item, size, widest);
-                      }});
+                      },
+                      size.depth / widest * CatalogList::kPictureWidth});
       scenery_.push_back(item);
     }
   }
@@ -312,7 +324,8 @@ void PalettePanel::fillLibrary() {
                     entry.problem.empty() ? name : fromUtf8(entry.problem),
                     [&entry](Surface& surface, const PictureRoom& room) {
                       drawBlock(surface, room, entry.block);
-                    }});
+                    },
+                    0});
     blocks_.push_back(&entry);
   }
   lists_[kLibraryTab]->setRows(
