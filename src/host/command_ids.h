@@ -40,6 +40,7 @@ enum CommandId : int {
   kLayoutWizardHelp = 2028,
   kOptions = 2029,
   kOlderVersions = 2030,
+  kFind = 2040,
 };
 
 /// What the mouse does on the plan.

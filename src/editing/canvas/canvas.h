@@ -76,6 +76,8 @@ class Canvas {
   /// About the pointer while something is carried, else about the middle.
   void zoomStep(double factor);
   void fit();
+  /// Brings a box (mm) into the middle, or only if it is out of view.
+  void show(const Box& box, bool inTheMiddle);
   void resetView();
   void resetViewForSmall();
 

@@ -38,6 +38,7 @@ class CanvasPanel : public wxPanel, private PlanObserver {
   void unitsChanged() override { update(); }
   void switchesChanged() override;
   void pictureChanged() override { update(); }
+  void shown(const Box& part, bool inTheMiddle) override { canvas_.show(part, inTheMiddle); }
 
   PointerInput inputOf(const wxMouseEvent& event) const;
   /// Pixels of the window for one of the canvas, where the toolkit leaves a display's resolution to

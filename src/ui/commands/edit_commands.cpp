@@ -6,7 +6,9 @@
 #include "ui/canvas/canvas_panel.h"
 #include "ui/commands/command.h"
 #include "ui/commands/desk.h"
+#include "ui/dialogs/find_dialog.h"
 
+#include <wx/frame.h>
 #include <wx/intl.h>
 
 namespace trassix {
@@ -50,6 +52,10 @@ const Command kCommands[] = {
      .run = [](Desk& desk) { deleteSelected(desk.canvasPanel.canvas().site()); }},
     {.id = kSelectAll, .menuText = wxTRANSLATE("Select &All\tCtrl+A"),
      .menuHelp = wxTRANSLATE("Select everything that is visible"), .run = selectEverything},
+    {.id = kFind, .menuText = wxTRANSLATE("&Find...\tCtrl+F"),
+     .menuHelp = wxTRANSLATE("Find pieces, scenery and labels on the plan"),
+     .menu = Command::Menu::Edit,
+     .run = [](Desk& desk) { FindDialog(&desk.window, desk.workspace).ShowModal(); }},
 };
 // clang-format on
 

@@ -6,6 +6,7 @@
 #include "editing/track/short_name.h"
 #include "measures/measure_format.h"
 #include "panels/block_library.h"
+#include "ui/canvas/canvas_panel.h"
 #include "ui/palette/catalog_list.h"
 #include "ui/palette/palette_drawings.h"
 #include "ui/widgets/file_boxes.h"
@@ -67,6 +68,7 @@ PalettePanel::PalettePanel(wxWindow* parent, Workspace& workspace, Actions actio
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, "palette"),
       PlanObserver(workspace), workspace_(workspace), actions_(std::move(actions)) {
   Bind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
+  wxGetTopLevelParent(this)->Bind(wxEVT_CHAR_HOOK, &PalettePanel::onKeyAnywhere, this);
 }
 
 PalettePanel::~PalettePanel() = default;
@@ -86,6 +88,9 @@ void PalettePanel::build() {
   search_ = new wxSearchCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                              wxTE_PROCESS_ENTER, wxDefaultValidator, "search");
   search_->SetDescriptiveText(_("Article, name or number"));
+  search_->SetToolTip(
+      _("For example \"24130\", \"R2 30\" or \"turnout left\"; with \"6x24130\", Enter "
+        "places six"));
   search_->ShowCancelButton(true);
   auto* tabRow = new wxBoxSizer(wxHORIZONTAL);
   const wxString titles[] = {_("Track"), _("Scenery"), _("Library")};
@@ -108,11 +113,20 @@ void PalettePanel::build() {
   SetSizer(sizer);
 
   choice_->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
+    emptySearch();
     showSystem(systems_[static_cast<std::size_t>(event.GetSelection())]);
   });
   search_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { searchFor(search_->GetValue()); });
   search_->Bind(wxEVT_SEARCHCTRL_CANCEL_BTN, [this](wxCommandEvent&) { search_->Clear(); });
   search_->Bind(wxEVT_CHAR_HOOK, &PalettePanel::onSearchKey, this);
+  search_->Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
+    event.Skip();
+    // Later: a click that brings the focus sets the cursor after that.
+    if (!std::exchange(typedElsewhere_, false)) {
+      before_ = nullptr;
+      CallAfter([this] { search_->SelectAll(); });
+    }
+  });
   markSystem();
   showTab(kTrackTab);
   Layout();
@@ -120,16 +134,15 @@ void PalettePanel::build() {
 
 CatalogList* PalettePanel::makeList(Tab tab) {
   const auto typed = [this](const wxString& text) {
-    search_->SetFocus();
-    search_->SetValue(search_->GetValue() + text);
-    search_->SetInsertionPointEnd();
+    before_ = nullptr;
+    typeInSearch(text, true);
   };
   switch (tab) {
   case kTrackTab:
     return new CatalogList(pages_, "pieces",
                            {[this](std::size_t row) {
                               const std::string article = pieces_[row]->article;
-                              actions_.drag(CarriedPiece{article});
+                              actions_.drag(CarriedPiece{article, model_.count()});
                               model_.noteUse(article);
                               CallAfter([this] { fillTrack(); });
                             },
@@ -187,6 +200,7 @@ void PalettePanel::populate() {
 }
 
 void PalettePanel::planReplaced() {
+  emptySearch();
   if (const std::optional<TrackSystem> system = chiefSystem(workspace_.layout()))
     showSystem(*system);
 }
@@ -243,6 +257,29 @@ void PalettePanel::searchFor(const wxString& text) {
     fill(tab);
 }
 
+void PalettePanel::emptySearch() {
+  if (search_ && !search_->IsEmpty())
+    search_->Clear();
+}
+
+void PalettePanel::typeInSearch(const wxString& text, bool behind) {
+  typedElsewhere_ = true;
+  search_->SetFocus();
+  search_->SetValue(behind ? search_->GetValue() + text : text);
+  search_->SetInsertionPointEnd();
+}
+
+void PalettePanel::onKeyAnywhere(wxKeyEvent& event) {
+  const int key = event.GetKeyCode();
+  const int digit = key >= WXK_NUMPAD0 && key <= WXK_NUMPAD9 ? key - WXK_NUMPAD0 : key - '0';
+  if (digit < 0 || digit > 9 || event.GetModifiers() != wxMOD_NONE || !search_ ||
+      !dynamic_cast<CanvasPanel*>(FindFocus()))
+    return event.Skip();
+  showTab(kTrackTab);
+  before_ = FindFocus();
+  typeInSearch(wxString::Format("%d", digit), false);
+}
+
 void PalettePanel::onSearchKey(wxKeyEvent& event) {
   switch (event.GetKeyCode()) {
   case WXK_UP:
@@ -253,10 +290,11 @@ void PalettePanel::onSearchKey(wxKeyEvent& event) {
     return listOf(shownTab_).moveSelection(1);
   case WXK_RETURN:
   case WXK_NUMPAD_ENTER:
-    return listOf(shownTab_).activateSelected();
+    listOf(shownTab_).activateSelected();
+    return search_->SelectAll();
   case WXK_ESCAPE:
     search_->Clear();
-    return listOf(shownTab_).SetFocus();
+    return before_ ? before_->SetFocus() : listOf(shownTab_).SetFocus();
   default:
     event.Skip();
   }
@@ -337,7 +375,7 @@ void PalettePanel::fillLibrary() {
 
 void PalettePanel::usePiece(std::size_t row) {
   noteUse(*pieces_[row]);
-  actions_.use(CarriedPiece{pieces_[row]->article});
+  actions_.use(CarriedPiece{pieces_[row]->article, model_.count()});
 }
 
 void PalettePanel::noteUse(const PieceDef& piece) {

@@ -59,6 +59,8 @@ void PropertiesPanel::recompute() {
 void PropertiesPanel::selectionChanged() {
   if (fields_)
     fields_->show(propertySheetOf(workspace_.layout()));
+  if (tally_)
+    tally_->selectionChanged();
 }
 
 void PropertiesPanel::enterPending() {

@@ -4,6 +4,7 @@
 #include "app/desktop/standard_folders.h"
 #include "app/services/text_file.h"
 #include "catalog/track_catalog.h"
+#include "editing/selection/finding.h"
 #include "editing/track/short_name.h"
 #include "host/clipboard.h"
 #include "host/workspace.h"
@@ -226,10 +227,28 @@ TallyPanel::TallyPanel(wxWindow* parent, Workspace& workspace)
   sizer->Add(summary_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, gap));
   sizer->Add(buttons, wxSizerFlags().Border(wxALL, gap));
   SetSizer(sizer);
+  list_->Bind(wxEVT_LIST_ITEM_SELECTED,
+              [this](wxListEvent& event) { showOnPlan(event.GetIndex()); });
   list_->Bind(wxEVT_LIST_COL_CLICK, [this](wxListEvent& event) {
     if (event.GetColumn() >= 0)
       sortBy(kColumns.at(static_cast<std::size_t>(event.GetColumn())).column);
   });
+}
+
+void TallyPanel::showOnPlan(long row) {
+  const std::string& article = tally_.rows.at(static_cast<std::size_t>(row)).article;
+  const std::vector<Pick> pieces = piecesOfArticle(workspace_.layout(), article);
+  const auto box = selectThese(workspace_.layout(), pieces);
+  selecting_ = true;
+  workspace_.selectionChanged();
+  selecting_ = false;
+  if (box)
+    workspace_.show(*box);
+}
+
+void TallyPanel::selectionChanged() {
+  if (!selecting_)
+    list_->SetItemState(-1, 0, wxLIST_STATE_SELECTED);
 }
 
 void TallyPanel::recompute() {

@@ -14,19 +14,24 @@ constexpr int kMargin = 6;
 } // namespace
 
 WrappedList::WrappedList(wxWindow* parent, const wxArrayString& rows, const wxString& name)
-    : wxVListBox(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_THEME), rows_(rows) {
+    : wxVListBox(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxBORDER_THEME) {
   SetName(name);
   SetFont(parent->GetFont());
   SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_LISTBOX));
-  SetItemCount(rows_.size());
-  if (!rows_.empty())
-    SetSelection(0);
+  setRows(rows);
   Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
     event.Skip();
     const int chosen = GetSelection();
     SetItemCount(rows_.size()); // the rows are as high as the width lets them be
     SetSelection(chosen);
   });
+}
+
+void WrappedList::setRows(const wxArrayString& rows) {
+  rows_ = rows;
+  SetItemCount(rows_.size());
+  SetSelection(rows_.empty() ? wxNOT_FOUND : 0);
+  RefreshAll();
 }
 
 wxArrayString WrappedList::linesOf(const wxDC& dc, size_t row) const {

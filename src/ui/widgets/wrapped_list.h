@@ -9,6 +9,9 @@ class WrappedList : public wxVListBox {
  public:
   WrappedList(wxWindow* parent, const wxArrayString& rows, const wxString& name);
 
+  /// Shows these and selects the first one.
+  void setRows(const wxArrayString& rows);
+
  private:
   wxArrayString linesOf(const wxDC& dc, size_t row) const;
   void OnDrawItem(wxDC& dc, const wxRect& rect, size_t row) const override;
