@@ -41,6 +41,9 @@ enum CommandId : int {
   kOptions = 2029,
   kOlderVersions = 2030,
   kFind = 2040,
+  kShowPalette = 2041,
+  kShowProperties = 2042,
+  kOpenSample = 2043,
 };
 
 /// What the mouse does on the plan.

@@ -80,7 +80,7 @@ class Finder {
       Names& names = entry->second;
       names.shown = article;
       if (piece != nullptr)
-        names.shown += "  " + shortNameOf(*piece, layout_.settings().units).text;
+        names.shown += "  " + nameInList(*piece, layout_.settings().units);
       names.wanted = holds(names.shown + (piece != nullptr ? ' ' + piece->name : ""));
     }
     return entry->second;

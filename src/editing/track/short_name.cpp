@@ -159,6 +159,14 @@ Words wordsOf(const PieceDef& piece, std::int32_t units) {
 
 } // namespace
 
+std::string nameInList(const PieceDef& piece, std::int32_t units) {
+  const std::string text = shortNameOf(piece, units).text;
+  const bool turnout =
+      piece.kind == PieceKind::TurnoutLeft || piece.kind == PieceKind::TurnoutRight ||
+      piece.kind == PieceKind::CurvedTurnout || piece.kind == PieceKind::CurvedTurnoutSpaced;
+  return turnout ? lineUp({text, tr("turnout")}) : text;
+}
+
 ShortName shortNameOf(const PieceDef& piece, std::int32_t units) {
   const Words words = wordsOf(piece, units);
   const std::string text = lineUp(words.said);

@@ -18,4 +18,7 @@ struct ShortName {
 /// length the texts differ as well. Lengths are in `units` (`measures/measure_format.h`).
 ShortName shortNameOf(const PieceDef& piece, std::int32_t units);
 
+/// The text for a list without headings, which tells that a turnout is one: "left, slim, turnout".
+std::string nameInList(const PieceDef& piece, std::int32_t units);
+
 } // namespace trassix

@@ -2,6 +2,7 @@
 
 #include "host/command_ids.h"
 #include "ui/canvas/gc_surface.h"
+#include "ui/canvas/level_switcher.h"
 
 #include <wx/dcbuffer.h>
 #include <wx/dcmemory.h>
@@ -125,6 +126,7 @@ CanvasPanel::CanvasPanel(wxWindow* parent, Workspace& workspace)
       edgeTimer_.Start(kEdgeScrollMs);
   });
   wxGetTopLevelParent(this)->Bind(wxEVT_ACTIVATE, &CanvasPanel::onActivate, this);
+  new LevelSwitcher(this, workspace);
 }
 
 double CanvasPanel::pixelScale() const {

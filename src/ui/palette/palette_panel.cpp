@@ -1,7 +1,9 @@
 #include "ui/palette/palette_panel.h"
 
 #include "app/desktop/path_text.h"
+#include "app/desktop/standard_folders.h"
 #include "app/desktop/user_paths.h"
+#include "app/services/program_memory.h"
 #include "editing/canvas/carried.h"
 #include "editing/track/short_name.h"
 #include "measures/measure_format.h"
@@ -25,6 +27,8 @@
 namespace trassix {
 
 namespace {
+
+const std::string kTopic = "palette"; ///< of what the program remembers
 
 wxString headingOf(const PaletteGroup& group, std::int32_t units) {
   const wxString name = wxGetTranslation(fromUtf8(groupName(group.group)));
@@ -80,6 +84,8 @@ void PalettePanel::onFirstPaint(wxPaintEvent& event) {
 }
 
 void PalettePanel::build() {
+  if (search_)
+    return;
   choice_ = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
                          wxDefaultValidator, "systems");
   choice_->SetToolTip(_("Track system"));
@@ -115,6 +121,10 @@ void PalettePanel::build() {
   choice_->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
     emptySearch();
     showSystem(systems_[static_cast<std::size_t>(event.GetSelection())]);
+    // Not worth a word when it fails.
+    ProgramMemory(StandardFolders::memoryFile()).remember(kTopic, [this](auto& kept) {
+      kept["system"] = systemName(system());
+    });
   });
   search_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { searchFor(search_->GetValue()); });
   search_->Bind(wxEVT_SEARCHCTRL_CANCEL_BTN, [this](wxCommandEvent&) { search_->Clear(); });
@@ -196,7 +206,11 @@ void PalettePanel::fill(Tab tab) {
 
 void PalettePanel::populate() {
   systems_ = paletteSystems();
-  showSystem(systems_.front());
+  const auto kept = ProgramMemory(StandardFolders::memoryFile()).recall(kTopic);
+  const auto name = kept ? valueIn<std::string>(*kept, "system") : std::nullopt;
+  const auto known = std::ranges::find_if(
+      systems_, [&name](TrackSystem system) { return name && systemName(system) == *name; });
+  showSystem(known == systems_.end() ? systems_.front() : *known);
 }
 
 void PalettePanel::planReplaced() {
@@ -272,9 +286,13 @@ void PalettePanel::typeInSearch(const wxString& text, bool behind) {
 void PalettePanel::onKeyAnywhere(wxKeyEvent& event) {
   const int key = event.GetKeyCode();
   const int digit = key >= WXK_NUMPAD0 && key <= WXK_NUMPAD9 ? key - WXK_NUMPAD0 : key - '0';
-  if (digit < 0 || digit > 9 || event.GetModifiers() != wxMOD_NONE || !search_ ||
+  if (digit < 0 || digit > 9 || event.GetModifiers() != wxMOD_NONE ||
       !dynamic_cast<CanvasPanel*>(FindFocus()))
     return event.Skip();
+  EditorSwitches switches = workspace_.switches();
+  if (!std::exchange(switches.palette, true))
+    workspace_.setSwitches(switches);
+  build(); // it may have been folded away from the start
   showTab(kTrackTab);
   before_ = FindFocus();
   typeInSearch(wxString::Format("%d", digit), false);

@@ -78,7 +78,7 @@ class PalettePanel : public wxPanel, private PlanObserver {
   void showEntryMenu(const LibraryEntry& entry);
   void deleteEntry(const LibraryEntry& entry);
 
-  const Workspace& workspace_;
+  Workspace& workspace_;
   Actions actions_;
   PaletteModel model_;
   std::vector<TrackSystem> systems_;

@@ -21,7 +21,8 @@ constexpr double kFieldsShare = 0.45; ///< where there is too little room for bo
 } // namespace
 
 PropertiesPanel::PropertiesPanel(wxWindow* parent, Workspace& workspace)
-    : wxPanel(parent), PlanObserver(workspace), workspace_(workspace) {
+    : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, "properties"),
+      PlanObserver(workspace), workspace_(workspace) {
   Bind(wxEVT_PAINT, &PropertiesPanel::onFirstPaint, this);
 }
 

@@ -12,6 +12,7 @@
 #include "panels/piece_names.h"
 #include "ui/dialogs/purchase_list_dialog.h"
 #include "ui/widgets/file_boxes.h"
+#include "ui/widgets/remembered_folder.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/button.h>
@@ -71,7 +72,7 @@ wxString systemText(const TallyRow& row) {
 
 wxString nameText(const TallyRow& row, std::int32_t units) {
   const PieceDef* piece = row.system ? TrackCatalog::instance().find(row.article) : nullptr;
-  return piece ? fromUtf8(shortNameOf(*piece, units).text) : _("not in the catalogue");
+  return piece ? fromUtf8(nameInList(*piece, units)) : _("not in the catalogue");
 }
 
 wxString cellText(const TallyRow& row, TallyColumn column, std::int32_t units) {
@@ -288,11 +289,13 @@ void TallyPanel::copy() {
 }
 
 void TallyPanel::saveAsCsv() {
-  wxFileDialog dialog(this, _("Save Tally"), toText(StandardFolders::documents()), _("Tally.csv"),
-                      _("Comma-separated values (*.csv)|*.csv"), wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+  wxFileDialog dialog(
+      this, _("Save Tally"), toText(rememberedFolder("tally", StandardFolders::documents())),
+      _("Tally.csv"), _("Comma-separated values (*.csv)|*.csv"), wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
   if (dialog.ShowModal() != wxID_OK)
     return;
   std::filesystem::path file = toPath(dialog.GetPath());
+  rememberFolder("tally", file.parent_path());
   if (!file.has_extension()) {
     // The dialog has asked about the name as it was typed only.
     file += ".csv";

@@ -16,8 +16,8 @@ TEST(Finding, FindsWhatIsVisibleByArticleNameAndText) {
   item.id = 77;
   layout.edit().scenery.push_back(item);
   const std::pair<const char*, const char*> kSearches[] = {
-      {"slim", "Slim yard|24711  left, slim|"},
-      {"TURNOUT 247", "24711  left, slim|"},
+      {"slim", "Slim yard|24711  left, slim, turnout|"},
+      {"TURNOUT 247", "24711  left, slim, turnout|"},
       {"arch", "74636T  arch bridge, 360 mm|"},
       {"a-9", "A-9|"},
       {"roundhouse", "roundhouse, 3 stalls at 12 degrees|"},
