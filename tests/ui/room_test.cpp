@@ -89,5 +89,20 @@ TEST_F(FrameTest, LevelsAreSwitchedOnThePlan) {
   }
 }
 
+TEST_F(FrameTest, AnEmptyPlanOffersASample) {
+  startLaidOut();
+  const auto welcomes = [] { return findNamed("welcome") != nullptr; };
+  ASSERT_TRUE(welcomes());
+  dialogs.drive("Open a Sample", [](wxDialog&) { pressKey(WXK_RETURN); });
+  click(*findNamed("welcome"));
+  EXPECT_TRUE(waitUntil("the sample is open", [this] { return pieces() > 10; }));
+  EXPECT_TRUE(frame().dirty() && frame().workspace().plan().file().empty());
+  EXPECT_FALSE(welcomes());
+  put(wxID_NEW, {{"Unsaved Changes", wxID_NO}});
+  EXPECT_TRUE(welcomes());
+  placePiece();
+  EXPECT_FALSE(welcomes());
+}
+
 } // namespace
 } // namespace trassix::test
