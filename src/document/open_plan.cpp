@@ -35,6 +35,10 @@ FileResult OpenPlan::take(PlanFile plan, const PlanOrigin& origin, bool unsaved)
   return plan.result;
 }
 
+FileResult OpenPlan::startFrom(std::string text) {
+  return take(planFromText(std::move(text)), {}, true);
+}
+
 FileResult OpenPlan::load(const fs::path& path) {
   PlanFile plan = readPlanFile(path);
   const PlanOrigin origin = PlanOrigin::of(path, plan.text);

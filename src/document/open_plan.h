@@ -29,6 +29,9 @@ class OpenPlan {
   /// An empty plan. The name stays, to be offered by the next save.
   void startNew(std::int32_t units);
 
+  /// A plan from the text of a file, unsaved and without a file of its own.
+  FileResult startFrom(std::string text);
+
   /// Takes over the plan in a file; a failure leaves the open one alone. What is wrong with a plan
   /// that can be read all the same is among the notices. A file that was not understood whole does
   /// not become the plan's file, so that what is left in it is not lost by a save.

@@ -14,8 +14,13 @@ bool PlanFile::whole() const {
 PlanFile readPlanFile(const std::filesystem::path& path) {
   PlanFile plan;
   plan.result.message = readTextFile(path, plan.text, &plan.result);
-  if (!plan.result.failed())
-    plan.result.message = readLayout(plan.text, plan.layout, plan.name);
+  return plan.result.failed() ? std::move(plan) : planFromText(std::move(plan.text));
+}
+
+PlanFile planFromText(std::string text) {
+  PlanFile plan;
+  plan.text = std::move(text);
+  plan.result.message = readLayout(plan.text, plan.layout, plan.name);
   if (plan.result.failed())
     return plan;
   plan.unread = unreadPart(plan.text);

@@ -31,6 +31,7 @@ struct PlanFile {
   bool whole() const;
 };
 
+PlanFile planFromText(std::string text);
 PlanFile readPlanFile(const std::filesystem::path& path);
 
 } // namespace trassix

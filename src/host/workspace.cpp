@@ -77,6 +77,10 @@ void Workspace::repaint() {
   tell(&PlanObserver::pictureChanged);
 }
 
+void Workspace::show(const Box& part, bool inTheMiddle) {
+  tell(&PlanObserver::shown, part, inTheMiddle);
+}
+
 void Workspace::setHint(const std::string& hint) {
   tell(&PlanObserver::hintChanged, hint);
 }

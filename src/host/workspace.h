@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geometry/box.h"
 #include "geometry/point.h"
 #include "host/editor_switches.h"
 
@@ -35,6 +36,8 @@ class PlanObserver {
   virtual void switchesChanged() {}
   /// Only the picture is out of date.
   virtual void pictureChanged() {}
+  /// A part of the plan (mm) is to be seen.
+  virtual void shown(const Box& /*part*/, bool /*inTheMiddle*/) {}
   /// What the mouse and keys do now.
   virtual void hintChanged(const std::string& /*hint*/) {}
   /// Also when the plan moved below the pointer.
@@ -73,6 +76,9 @@ class Workspace {
   void setSwitches(const EditorSwitches& switches);
   void setToolMode(ToolMode mode, const PolygonUse& use = {});
   void repaint();
+  /// Brings a part of the plan (mm) into view; one that is in view stays where it is, unless it has
+  /// to be in the middle.
+  void show(const Box& part, bool inTheMiddle = false);
   void setHint(const std::string& hint);
   void setPointer(Point world);
 

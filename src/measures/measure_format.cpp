@@ -55,6 +55,14 @@ std::string formatLength(double mm, std::int32_t units) {
   return lengthNumber(mm, units) + " " + unitName(units);
 }
 
+std::string formatBriefLength(double mm, std::int32_t units) {
+  std::string number = lengthNumber(mm, units);
+  number.erase(number.find_last_not_of('0') + 1);
+  if (number.ends_with('.'))
+    number.pop_back();
+  return number + " " + unitName(units);
+}
+
 std::string formatSize(double width, double depth, std::int32_t units) {
   return lengthNumber(width, units) + " \u00d7 " + formatLength(depth, units);
 }

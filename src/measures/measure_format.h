@@ -19,6 +19,9 @@ const char* unitName(std::int32_t units);
 /// A length as the user reads it, for example "188.3 mm", "18.83 cm" or "7.413 in".
 std::string formatLength(double mm, std::int32_t units);
 
+/// The same without zeros at the end, as makers write it: "180 mm".
+std::string formatBriefLength(double mm, std::int32_t units);
+
 /// Two lengths in mm with one unit, for example "2410.0 × 1100.0 mm".
 std::string formatSize(double width, double depth, std::int32_t units);
 

@@ -3,6 +3,9 @@
 #include "catalog/plain_track.h"
 #include "catalog/track_catalog.h"
 #include "document/layout.h"
+#include "editing/placing/runs.h"
+#include "editing/track/short_name.h"
+#include "measures/measure_format.h"
 #include "texts/texts.h"
 
 #include <algorithm>
@@ -49,6 +52,26 @@ std::vector<std::string> wordsOf(std::string_view text) {
     }
   }
   return words;
+}
+
+/// Takes "6x" or "6 x " off the front; 1 where there is nothing of the kind.
+int takeCount(std::string_view& text) {
+  const auto skipBlanks = [](std::string_view from) {
+    return from.substr(std::min(from.find_first_not_of(' '), from.size()));
+  };
+  const std::string_view typed = skipBlanks(text);
+  int count = 0;
+  const auto end = std::from_chars(typed.data(), typed.data() + typed.size(), count);
+  if (end.ec != std::errc() || count < 1 || count > kLongestRun)
+    return 1;
+  std::string_view rest =
+      skipBlanks(typed.substr(static_cast<std::size_t>(end.ptr - typed.data())));
+  for (const std::string_view sign : {"x", "X", "*", "\u00d7"})
+    if (rest.starts_with(sign)) {
+      text = rest.substr(sign.size());
+      return count;
+    }
+  return 1;
 }
 
 std::string numberText(double value) {
@@ -168,7 +191,9 @@ void PaletteModel::setSystem(TrackSystem system) {
     if (piece.system != system) {
       continue;
     }
-    Entry entry{&piece, groupOf(piece), joined(piece.article, piece.name, sortWords(piece)), {}};
+    const ShortName shown = shortNameOf(piece, kMillimetres);
+    const std::string names = piece.name + '\n' + shown.text + '\n' + shown.rest;
+    Entry entry{&piece, groupOf(piece), joined(piece.article, names, sortWords(piece)), {}};
     // The length of a curve is computed and nowhere written.
     const double length = piece.kind == PieceKind::Curve ? 0 : piece.length;
     for (const double value : {length, piece.radius, std::abs(piece.angle)}) {
@@ -183,6 +208,7 @@ void PaletteModel::setSystem(TrackSystem system) {
 }
 
 void PaletteModel::setSearch(std::string_view text) {
+  count_ = takeCount(text);
   search_ = wordsOf(text);
   fillPieces();
   fillScenery();

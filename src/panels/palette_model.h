@@ -58,7 +58,7 @@ std::optional<TrackSystem> chiefSystem(const Layout& layout);
 /// A search is a row of words that must all be found, in any case: as part of the article, of the
 /// name or of a word for the sort of piece ("turnout", "slip", "buffer"), or, for a number, as the
 /// beginning of the length, radius or angle ("437" finds 437.5). A decimal comma is taken as a
-/// point.
+/// point. "6x" before it asks for six of what is chosen.
 class PaletteModel {
  public:
   explicit PaletteModel(TrackSystem system = TrackSystem::CTrack) { setSystem(system); }
@@ -67,6 +67,8 @@ class PaletteModel {
   TrackSystem system() const { return system_; }
 
   void setSearch(std::string_view text);
+  /// How many of a piece are asked for, 1 to `kLongestRun`.
+  int count() const { return count_; }
 
   /// Puts a piece on top of the recent ones, of which the last eight are remembered. Those of the
   /// chosen system are shown.
@@ -89,6 +91,7 @@ class PaletteModel {
 
   TrackSystem system_ = TrackSystem::CTrack;
   std::vector<std::string> search_; ///< lower-case words
+  int count_ = 1;
   std::vector<Entry> entries_;
   std::vector<const PieceDef*> recent_; ///< newest first, of any system
   std::vector<PaletteGroup> groups_;

@@ -9,7 +9,7 @@
 #include "editing/joining/joining.h"
 #include "editing/placing/block_placing.h"
 #include "editing/placing/inserting.h"
-#include "editing/placing/placing.h"
+#include "editing/placing/runs.h"
 #include "editing/placing/swapping.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/moving.h"
@@ -252,6 +252,11 @@ const R::Edit R::kEdits[] = {
     {"insert", [](R& r) { return r.insert(); }},
     {"clone", [](R& r) { return cloneAndExtend(r.plan, r.piece.id).changed(); }},
     {"extend", [](R& r) { return extendSelected(r.plan, r.article->article).changed(); }},
+    {"run",
+     [](R& r) {
+       const auto first = [&] { return extendSelected(r.plan, r.article->article); };
+       return placeRun(r.plan, r.article->article, r.any(2, 8), {}, first).result.changed();
+     }},
     {"fill", [](R& r) { return r.fill(); }},
     {"swap", [](R& r) { return r.swap(); }, true},
     {"move", [](R& r) { return r.move(false); }, true},

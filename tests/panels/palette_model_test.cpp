@@ -65,6 +65,13 @@ TEST(PaletteModel, findsByArticleNameSortAndNumbers) {
   EXPECT_EQ(found("437 30"), "Curves 437: 24230\nTurnouts: 24630\nBridges and ramps: 74623");
   EXPECT_EQ(found("24,3 CURVE"), "Curves 437: 24224");
   EXPECT_EQ(found("turnout left"), "Turnouts: 24611 24671 24711 24771");
+  EXPECT_EQ(found("r9 slim"), "Turnouts: 24711 24712");
+  EXPECT_EQ(palette.count(), 1);
+  for (const char* counted : {"6x24130", " 6 X 24130", "6*24130", "6\u00d724130"}) {
+    EXPECT_EQ(found(counted), "Curves 360: 24130") << counted;
+    EXPECT_EQ(palette.count(), 6);
+  }
+  EXPECT_EQ(found("100x24130") + found("0x24130") + found("x24130"), "");
   EXPECT_EQ(found("103.3"), "Crossings and slips: 24649");
   EXPECT_EQ(found("buffer"), "Specials: 24977 24978");
   EXPECT_EQ(found("nothing like it"), "");

@@ -35,10 +35,13 @@ const char* const kMenus[] = {
     "Save &As...\tCtrl+Shift+S 5004|-|&Import Layout... 1900|&Export Layout... 1901|-|"
     "&Close Layout\tCtrl+W 5001|-|Page Set&up... 5012|Print Pre&view... 5013|"
     "&Print...\tCtrl+P 5010|-|Save as &Library Block... 2001|-|E&xit 5006|-|"
-    "Ol&der Versions... 2030|Recen&t Plans|None yet 5050",
-    "&Edit|&Undo\tCtrl+Z 2002|&Redo\tCtrl+Y 2003|-|&Delete\tDel 2004|Select &All\tCtrl+A 2005",
+    "Ol&der Versions... 2030|Recen&t Plans|None yet 5050|Open a Sa&mple... 2043",
+    "&Edit|&Undo\tCtrl+Z 2002|&Redo\tCtrl+Y 2003|-|&Delete\tDel 2004|Select &All\tCtrl+A 2005|-|"
+    "&Find...\tCtrl+F 2040",
     "&View|Zoom &In\t+ 2006|Zoom &Out\t- 2007|Zoom to &Fit\tCtrl+0 2008|-|"
-    "Show &Grid\tCtrl+G 2009 check on|&Snap\tCtrl+Shift+G 2010 check on|Show &Rails 2012 check on",
+    "Show &Grid\tCtrl+G 2009 check on|&Snap\tCtrl+Shift+G 2010 check on|Show &Rails 2012 check "
+    "on|-|"
+    "&Palette\tF9 2041 check on|Properties and &Tally\tShift+F9 2042 check on",
     "&Layout|Units of Measure|Millimetres (mm) 2021 radio on|Centimetres (cm) 2022 radio|"
     "Inches (in) 2023 radio|-|Layout &Shape... 2020|Layout &Wizard (Experimental)... 2018|"
     "&Bridge Wizard (Experimental)... 2019",
@@ -110,8 +113,8 @@ std::string traceOf(MainFrame& frame, const Canceller& dialogs) {
   const ViewTransform& view = frame.canvasPanel().canvas().view();
   const EditorSwitches& switches = frame.workspace().switches();
   trace << frame.layout().revision() << frame.GetTitle() << view.zoom() << view.origin().x
-        << switches.grid << switches.snap << switches.labels << switches.rails
-        << static_cast<int>(switches.mode) << frame.layout().settings().units
+        << switches.grid << switches.snap << switches.labels << switches.rails << switches.palette
+        << switches.properties << static_cast<int>(switches.mode) << frame.layout().settings().units
         << frame.canvasPanel().GetParent() << dialogs.titles.size()
         << (findNamed("help") != nullptr);
   return trace.str();

@@ -225,7 +225,7 @@ TEST_F(PanelsTest, ThePanesKeepTheirSizesAndShowTheTally) {
   EXPECT_GT(tally.GetClientSize().y, 100);
   ASSERT_EQ(tally.GetItemCount(), 1);
   EXPECT_EQ(tally.GetItemText(0, 0), "3");
-  EXPECT_EQ(tally.GetItemText(0, 2), "188.3mm");
+  EXPECT_EQ(tally.GetItemText(0, 2), "188.3 mm");
   EXPECT_EQ(tally.GetItemText(0, 4), wxString::FromUTF8("Märklin C"));
   const std::string row = "24188\t24188 - 188.3mm\t3\t3\n";
   click(control<wxWindow>("tally.copy"));

@@ -1,10 +1,13 @@
 #include "catalog/track_catalog.h"
 #include "document/block_file.h"
 #include "frame_test.h"
+#include "host/command_ids.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 #include "ui/palette/catalog_list.h"
 
+#include <wx/choice.h>
+#include <wx/srchctrl.h>
 #include <wx/statusbr.h>
 
 #include <algorithm>
@@ -23,7 +26,9 @@ class PlanningTest : public FrameTest {
     const auto& rows = list->rows();
     const auto row = static_cast<std::size_t>(
         std::find_if(rows.begin(), rows.end(),
-                     [&](const CatalogRow& r) { return r.title == title; }) -
+                     [&](const CatalogRow& r) {
+                       return r.title == title || r.detail.BeforeFirst(' ') == title;
+                     }) -
         rows.begin());
     list->select(row, 1);
     wxRect rect;
@@ -95,6 +100,76 @@ TEST_F(PlanningTest, AnOvalIsPlannedSavedAndFoundAgainAllJoined) {
   }
   EXPECT_EQ(frame().GetTitle(), "Trassix v1.7.1 by Quorrail - Evening oval");
   finish();
+}
+
+TEST_F(PlanningTest, TheSearchIsTypedFromThePlanAndPlacesSeveralAtOnce) {
+  startLaidOut();
+  auto& search = dynamic_cast<wxSearchCtrl&>(*findNamed("search"));
+  const auto shows = [&](const char* text) {
+    return waitUntil(std::string("the search shows ") + text,
+                     [&] { return search.GetValue() == text; });
+  };
+  click(onPlan({100, 100}));
+  typeText("3x24188");
+  EXPECT_TRUE(shows("3x24188"));
+  pressKey(WXK_RETURN);
+  waitUntil("the first one hangs on the pointer", [&] { return canvas().carrying(); });
+  click(onPlan({300, 300}));
+  waitForPieces(3);
+  typeText("2");
+  EXPECT_TRUE(shows("2")) << "in place of what was there";
+  typeText("4130");
+  EXPECT_TRUE(shows("24130"));
+  pressKey(WXK_RETURN);
+  waitForPieces(4);
+  typeText("6x24130"); // Enter took the whole text
+  EXPECT_TRUE(shows("6x24130"));
+  pressKey(WXK_RETURN);
+  waitForPieces(10);
+  put(kUndo);
+  EXPECT_EQ(pieces(), 4U) << "one step";
+  pressKey(WXK_ESCAPE);
+  EXPECT_TRUE(shows(""));
+  EXPECT_TRUE(frame().canvasPanel().HasFocus()) << "back where it was typed";
+  for (const auto& empty : std::initializer_list<std::function<void()>>{
+           [] {
+             auto& systems = dynamic_cast<wxChoice&>(*findNamed("systems"));
+             systems.SetSelection(2);
+             wxCommandEvent chosen(wxEVT_CHOICE, systems.GetId());
+             chosen.SetInt(2);
+             systems.ProcessWindowEvent(chosen);
+           },
+           [this] {
+             put(wxID_NEW, {{"Unsaved Changes", wxID_NO}});
+           }}) {
+    search.SetValue("24");
+    empty();
+    EXPECT_EQ(search.GetValue(), "");
+  }
+}
+
+TEST_F(PlanningTest, WhatIsFoundIsSelectedAndInView) {
+  startLaidOut();
+  for (const double x : {0, 5000, 9000})
+    placePiece(x);
+  const auto selected = [this](std::initializer_list<std::size_t> places) {
+    for (std::size_t i = 0; i < pieces(); ++i)
+      if (plan().pieces()[i].sel != (std::ranges::count(places, i) > 0))
+        return false;
+    const Point px = canvas().view().toScreen({plan().pieces()[*(places.end() - 1)].x, 0});
+    return frame().canvasPanel().GetClientRect().Contains(static_cast<int>(px.x),
+                                                          static_cast<int>(px.y));
+  };
+  dialogs.drive("Find", [&](wxDialog&) {
+    typeText("24188");
+    pressKey(WXK_DOWN);
+    waitUntil("the second one is shown", [&] { return selected({1}); });
+    pressKey(WXK_RETURN);
+  });
+  pressKey('F', wxMOD_CONTROL);
+  waitUntil("it was found", [this] { return dialogs.finished(); });
+  click({*findNamed("tally"), {60, 40}});
+  waitUntil("all of the article are shown", [&] { return selected({0, 1, 2}); });
 }
 
 TEST_F(PlanningTest, MouseAndKeysShapeThePlan) {

@@ -12,7 +12,7 @@
 #include "editing/canvas/polygon_tool.h"
 #include "editing/canvas/select_tool.h"
 #include "editing/canvas/selection_commands.h"
-#include "editing/placing/placing.h"
+#include "editing/placing/runs.h"
 #include "editing/placing/ways.h"
 #include "editing/selection/content_box.h"
 #include "editing/selection/open_ends.h"
@@ -63,7 +63,7 @@ struct CarryToolMaker {
     const PieceDef* definition = TrackCatalog::instance().find(piece.article);
     if (definition == nullptr)
       return nullptr;
-    auto carry = std::make_unique<CarryPieceTool>(site, *definition, held);
+    auto carry = std::make_unique<CarryPieceTool>(site, *definition, piece.count, held);
     // Another piece taken up in place of one that hangs on the pointer lies as that was turned.
     if (dynamic_cast<const CarryPieceTool*>(before) != nullptr)
       carry->keepHeading(*before);
@@ -315,11 +315,15 @@ bool Canvas::goOnWith(const Carried& what) {
   const auto* piece = std::get_if<CarriedPiece>(&what);
   if (piece == nullptr || selectedPieces(site_->layout()).empty())
     return false;
-  const EditResult result =
-      extendSelected(site_->layout(), piece->article, site_->choice.wishFor(piece->article));
-  site_->reportExtension(result);
-  if (!result.changed() && !result.refusal)
+  const ExtensionWish wish = site_->choice.wishFor(piece->article);
+  const Run run = placeRun(site_->layout(), piece->article, piece->count, wish,
+                           [&] { return extendSelected(site_->layout(), piece->article, wish); });
+  site_->reportExtension(run.result);
+  if (run.count == 0 && !run.result.refusal)
     site_->workspace.setHint(tr("The selected piece has no free end to go on from"));
+  else if (run.count > 0 && run.count < piece->count)
+    site_->workspace.setHint(
+        tr("Placed %1% of %2%: there is no free end to go on from", {run.count, piece->count}));
   return true;
 }
 
@@ -374,6 +378,14 @@ bool Canvas::scrollAtEdge() {
   site_->view.panTo({origin.x + by.x, origin.y + by.y});
   viewChanged();
   return true;
+}
+
+void Canvas::show(const Box& box, bool inTheMiddle) {
+  const SizePx size = site_->size;
+  if (!inTheMiddle && site_->view.holds(box, size.width, size.height))
+    return;
+  site_->view.centre(box, size.width, size.height);
+  viewChanged();
 }
 
 void Canvas::pointAt(const PointerInput& input) {

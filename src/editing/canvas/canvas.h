@@ -77,6 +77,8 @@ class Canvas {
   void zoomStep(double factor);
   void fit();
   void fitSelection();
+  /// Brings a box (mm) into the middle, or only if it is out of view.
+  void show(const Box& box, bool inTheMiddle);
   void resetView();
   void resetViewForSmall();
 

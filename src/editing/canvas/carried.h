@@ -9,6 +9,7 @@ namespace trassix {
 
 struct CarriedPiece {
   std::string article;
+  int count = 1; ///< pieces in a row, of which the first one hangs on the pointer
 };
 
 struct CarriedScenery {

@@ -2,7 +2,7 @@
 
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
-#include "editing/placing/placing.h"
+#include "editing/placing/runs.h"
 #include "editing/placing/ways.h"
 #include "editing/selection/open_ends.h"
 #include "texts/texts.h"
@@ -29,8 +29,8 @@ SnapResult joinedBy(const Layout& layout, const PieceDef& definition, std::int32
 
 } // namespace
 
-CarryPieceTool::CarryPieceTool(ToolSite& site, const PieceDef& definition, bool held)
-    : CarryTool(site, held), definition_(definition) {
+CarryPieceTool::CarryPieceTool(ToolSite& site, const PieceDef& definition, int count, bool held)
+    : CarryTool(site, held), definition_(definition), count_(count) {
   site_.choice.takeUp(definition.article);
 }
 
@@ -65,6 +65,12 @@ bool CarryPieceTool::turnRound(int step) {
 }
 
 EditResult CarryPieceTool::drop() {
+  const ExtensionWish wish{{}, site_.choice.way(definition_.article)};
+  return placeRun(site_.layout(), definition_.article, count_, wish, [this] { return dropFirst(); })
+      .result;
+}
+
+EditResult CarryPieceTool::dropFirst() {
   if (insert_)
     return insertPiece(site_.layout(), definition_.article, *insert_);
   const EditResult result = dropPiece(site_.layout(), definition_.article, hanging(), snap_,
@@ -104,7 +110,9 @@ std::string CarryPieceTool::hint() const {
                      : snap_.snapped ? trLater("Let go to join %1%")
                                      : trLater("Click or let go to place %1%");
   const bool hasWays = waysOf(definition_).size() > 1;
-  return hintOf({tr(what, {definition_.article}), landing,
+  const std::string article =
+      count_ > 1 ? tr("%1% \u00d7 %2%", {count_, definition_.article}) : definition_.article;
+  return hintOf({tr(what, {article}), landing,
                  hasWays ? tr("F: the other way round") : std::string(), turningHint()});
 }
 

@@ -13,7 +13,7 @@ namespace trassix {
 class CarryPieceTool : public CarryTool {
  public:
   /// The definition is the catalogue's own.
-  CarryPieceTool(ToolSite& site, const PieceDef& definition, bool held);
+  CarryPieceTool(ToolSite& site, const PieceDef& definition, int count, bool held);
 
   void paint(Surface& surface) const override;
   std::string hint() const override;
@@ -23,6 +23,8 @@ class CarryPieceTool : public CarryTool {
   bool turnRound(int step) override;
   EditResult drop() override;
 
+  EditResult dropFirst();
+
   /// Where the piece is while it joins nothing: it hangs by the end that was chosen.
   Pose hanging() const;
   Pose landing() const;
@@ -30,6 +32,7 @@ class CarryPieceTool : public CarryTool {
   std::int32_t joiningEnd() const;
 
   const PieceDef& definition_;
+  int count_; ///< pieces in a row
   SnapResult snap_;
   std::optional<InsertSpot> insert_; ///< where it would go into finished track
 };

@@ -50,6 +50,21 @@ void ViewTransform::reveal(const Box& content, double widthPx, double heightPx) 
   origin_.y += shift(low.y, high.y, heightPx);
 }
 
+bool ViewTransform::holds(const Box& content, double widthPx, double heightPx) const {
+  const Point low = toScreen({content.minX, content.minY});
+  const Point high = toScreen({content.maxX, content.maxY});
+  return low.x >= kRevealMarginPx && high.x <= widthPx - kRevealMarginPx &&
+         low.y >= kRevealMarginPx && high.y <= heightPx - kRevealMarginPx;
+}
+
+void ViewTransform::centre(const Box& content, double widthPx, double heightPx) {
+  const double before = zoom_;
+  fit(content, widthPx, heightPx);
+  zoom_ = std::min(before, zoom_);
+  origin_ = {widthPx / 2 - (content.minX + content.maxX) / 2 * zoom_,
+             heightPx / 2 - (content.minY + content.maxY) / 2 * zoom_};
+}
+
 ViewTransform ViewTransform::ofScale(double zoom, Point origin) {
   ViewTransform view;
   view.zoom_ = zoom;

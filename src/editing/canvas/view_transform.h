@@ -40,6 +40,11 @@ class ViewTransform {
   /// which it has no room.
   void reveal(const Box& content, double widthPx, double heightPx);
 
+  /// Whether all of `content` (mm) is in a window of the given size, with a margin.
+  bool holds(const Box& content, double widthPx, double heightPx) const;
+  /// Centres it at the present scale, or from as far away as it takes to see all of it.
+  void centre(const Box& content, double widthPx, double heightPx);
+
   /// A fixed scale outside the limits for zooming by hand, for small pictures.
   static ViewTransform ofScale(double zoom, Point origin);
 

@@ -1,7 +1,11 @@
 #include "ui/canvas/canvas_panel.h"
 
+#include "editing/canvas/canvas_tool.h"
+#include "editing/selection/content_box.h"
 #include "host/command_ids.h"
 #include "ui/canvas/gc_surface.h"
+#include "ui/canvas/level_switcher.h"
+#include "ui/canvas/welcome.h"
 
 #include <wx/dcbuffer.h>
 #include <wx/dcmemory.h>
@@ -125,6 +129,8 @@ CanvasPanel::CanvasPanel(wxWindow* parent, Workspace& workspace)
       edgeTimer_.Start(kEdgeScrollMs);
   });
   wxGetTopLevelParent(this)->Bind(wxEVT_ACTIVATE, &CanvasPanel::onActivate, this);
+  new LevelSwitcher(this, workspace);
+  welcome_ = new Welcome(this);
 }
 
 double CanvasPanel::pixelScale() const {
@@ -153,8 +159,15 @@ PointerInput CanvasPanel::inputOf(const wxMouseEvent& event) const {
   return input;
 }
 
+bool CanvasPanel::invites() {
+  const trassix::Layout& layout = canvas_.site().layout();
+  return layout.pieces().empty() && !contentBox(layout) && !canvas_.wantsCapture() &&
+         canvas_.site().workspace.switches().mode == ToolMode::Select;
+}
+
 void CanvasPanel::update() {
   syncCapture();
+  welcome_->Show(invites());
   if (const CursorShape wanted = canvas_.cursor(); wanted != cursorShown_) {
     cursorShown_ = wanted;
     SetCursor(wxCursor(stockCursor(wanted)));
@@ -317,6 +330,8 @@ void CanvasPanel::onPaint(wxPaintEvent&) {
   context->Scale(pixelScale(), pixelScale());
   GcSurface surface(*context, pixelScale() * GetContentScaleFactor());
   canvas_.paintOverlay(surface);
+  if (welcome_->IsShown())
+    Welcome::paintWords(surface, {size.x / pixelScale(), size.y / pixelScale()});
 }
 
 } // namespace trassix

@@ -9,6 +9,8 @@
 
 namespace trassix {
 
+class Welcome;
+
 /// The plan in the middle of the main window: turns the toolkit's events into plain input for
 /// `Canvas` and shows what it draws. The plan itself is kept as a picture, so that carrying
 /// something over a large plan repaints only what moves.
@@ -38,6 +40,7 @@ class CanvasPanel : public wxPanel, private PlanObserver {
   void unitsChanged() override { update(); }
   void switchesChanged() override;
   void pictureChanged() override { update(); }
+  void shown(const Box& part, bool inTheMiddle) override { canvas_.show(part, inTheMiddle); }
 
   PointerInput inputOf(const wxMouseEvent& event) const;
   /// Pixels of the window for one of the canvas, where the toolkit leaves a display's resolution to
@@ -61,7 +64,11 @@ class CanvasPanel : public wxPanel, private PlanObserver {
   /// Keeps the plan scrolling while something carried rests at the edge.
   void watchEdge();
 
+  /// True while the plan is empty and nothing is going on.
+  bool invites();
+
   Canvas canvas_;
+  Welcome* welcome_;
   wxBitmap picture_;
   std::uint64_t pictureStamp_ = 0;
   wxTimer edgeTimer_;

@@ -48,6 +48,7 @@ struct Command {
 // The rows, in a file for each topic.
 std::span<const Command> fileCommands();
 std::span<const Command> transferCommands();
+std::span<const Command> sampleCommands();
 std::span<const Command> editCommands();
 std::span<const Command> arrangeCommands();
 std::span<const Command> viewCommands();

@@ -6,7 +6,9 @@
 #include "ui/canvas/canvas_panel.h"
 #include "ui/commands/command.h"
 #include "ui/commands/desk.h"
+#include "ui/dialogs/find_dialog.h"
 
+#include <wx/frame.h>
 #include <wx/intl.h>
 
 namespace trassix {
@@ -77,6 +79,10 @@ const Command kCommands[] = {
     {.id = kDuplicate, .menuText = wxTRANSLATE("D&uplicate\tCtrl+D"),
      .menuHelp = wxTRANSLATE("Hang a copy of what is selected on the pointer"), .menu = Menu::Edit,
      .enabled = hasSelection, .run = [](Desk& desk) { duplicateSelection(siteOf(desk)); }},
+    {.id = kFind, .menuText = wxTRANSLATE("&Find...\tCtrl+F"),
+     .menuHelp = wxTRANSLATE("Find pieces, scenery and labels on the plan"),
+     .menu = Command::Menu::Edit,
+     .run = [](Desk& desk) { FindDialog(&desk.window, desk.workspace).ShowModal(); }},
 };
 // clang-format on
 

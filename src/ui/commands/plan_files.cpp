@@ -141,6 +141,10 @@ bool PlanFiles::openVersion(const std::filesystem::path& copy) {
   return take(workspace_.plan().loadCopy(copy, {}));
 }
 
+void PlanFiles::startFrom(std::string_view text) {
+  take(workspace_.plan().startFrom(std::string(text)));
+}
+
 bool PlanFiles::take(FileResult opened) {
   if (opened.failed()) {
     showFailure(&window_, _("Open Failed"), fromUtf8(opened.message), opened.reason);

@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <set>
+#include <string_view>
 
 class wxTopLevelWindow;
 
@@ -24,6 +25,8 @@ class PlanFiles {
 
   /// An empty plan in place of the present one.
   void startNew();
+  /// A plan from the text of a sample, unsaved and without a file.
+  void startFrom(std::string_view text);
   /// Opens a plan file in place of the present one, or unsaved changes to it that were rescued, if
   /// the user wants them; false, after telling why, when it cannot be read.
   bool load(const std::filesystem::path& path);

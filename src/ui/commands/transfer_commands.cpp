@@ -17,6 +17,7 @@
 #include "ui/dialogs/saved_layouts.h"
 #include "ui/palette/palette_panel.h"
 #include "ui/widgets/file_boxes.h"
+#include "ui/widgets/remembered_folder.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/frame.h>
@@ -44,10 +45,11 @@ NameAdvice adviseOnBlock(const std::filesystem::path& folder, const wxString& ty
 }
 
 void importLayout(Desk& desk) {
-  ImportDialog dialog(&desk.window, StandardFolders::downloads());
+  ImportDialog dialog(&desk.window, rememberedFolder("import", StandardFolders::downloads()));
   if (dialog.ShowModal() != wxID_OK)
     return;
   const std::filesystem::path source = dialog.source();
+  rememberFolder("import", source.parent_path());
   const wxString name = dialog.layoutName();
   const std::filesystem::path target = layoutFile(UserPaths::layoutsFolder(), toUtf8(name));
   if (!desk.files.confirmReplace(target, name))
@@ -78,7 +80,8 @@ void exportLayout(Desk& desk) {
                  wxOK | wxICON_INFORMATION, &desk.window);
     return;
   }
-  ExportDialog dialog(&desk.window, saved, StandardFolders::downloads());
+  ExportDialog dialog(&desk.window, saved,
+                      rememberedFolder("export", StandardFolders::downloads()));
   if (dialog.ShowModal() != wxID_OK)
     return;
   const std::filesystem::path folder = dialog.destination();
@@ -88,6 +91,7 @@ void exportLayout(Desk& desk) {
                  wxOK | wxICON_ERROR, &desk.window);
     return;
   }
+  rememberFolder("export", folder);
   const std::filesystem::path target = layoutFile(folder, toUtf8(dialog.fileName()));
   if (std::filesystem::exists(target, none) &&
       wxMessageBox(wxString::Format(_("\"%s\" already exists in that folder.\n\nReplace it?"),

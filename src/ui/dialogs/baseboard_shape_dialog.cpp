@@ -53,6 +53,8 @@ BaseboardShapeDialog::BaseboardShapeDialog(wxWindow* parent, trassix::Layout& la
   page->Add(columns, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT, gap));
   problem_ = new ProblemText(this, FromDIP(680));
   page->Add(problem_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, gap));
+  page->Add(new wxStaticText(this, wxID_ANY, _("Undo does not bring the present baseboard back.")),
+            wxSizerFlags().Border(wxLEFT | wxRIGHT | wxTOP, gap));
   auto* buttons = new wxStdDialogButtonSizer;
   ok_ = new wxButton(this, wxID_OK);
   buttons->AddButton(ok_);

@@ -2,10 +2,10 @@
 
 #include "ui/widgets/accept_later.h"
 #include "ui/widgets/utf8.h"
+#include "ui/widgets/wrapped_list.h"
 
 #include <wx/button.h>
 #include <wx/display.h>
-#include <wx/listbox.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
@@ -20,15 +20,14 @@ ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
   wxArrayString texts;
   for (const std::string& row : choice.rows)
     texts.Add(fromUtf8(row));
-  rows_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(460, 220)), texts,
-                        wxLB_SINGLE | wxLB_HSCROLL);
+  rows_ = new WrappedList(this, texts, "rows");
   int widest = 0;
   for (const wxString& text : texts)
     widest = std::max(widest, rows_->GetTextExtent(text).x);
-  const wxSize least = FromDIP(wxSize(460, 220));
-  rows_->SetMinSize({std::clamp(widest + FromDIP(30), least.x, FromDIP(900)), least.y});
-  if (!texts.empty())
-    rows_->SetSelection(0);
+  // The plan, on which the rows are shown, is to be seen beside it.
+  const wxSize least = FromDIP(wxSize(320, 180));
+  const int most = wxDisplay(parent).GetClientArea().width * 3 / 5;
+  rows_->SetMinSize({std::clamp(widest + FromDIP(30), least.x, std::max(least.x, most)), least.y});
   note_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                            wxST_NO_AUTORESIZE);
   auto* buttons = new wxStdDialogButtonSizer;
@@ -50,6 +49,13 @@ ChoiceDialog::ChoiceDialog(wxWindow* parent, const Choice& choice)
 
   rows_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { highlight(); });
   rows_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptLater(*this); });
+  // This sort of list keeps Enter from the dialog.
+  rows_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
+    if (event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER)
+      acceptLater(*this);
+    else
+      event.Skip();
+  });
   CallAfter([this] { highlight(); });
 }
 

@@ -4,10 +4,11 @@
 
 #include <wx/dialog.h>
 
-class wxListBox;
 class wxStaticText;
 
 namespace trassix {
+
+class WrappedList;
 
 /// One of several rows, the first one highlighted at the start; tells which row is highlighted so
 /// that the plan can show it, and shows that row's note.
@@ -24,7 +25,7 @@ class ChoiceDialog : public wxDialog {
   void highlight();
 
   Choice choice_;
-  wxListBox* rows_;
+  WrappedList* rows_;
   wxStaticText* note_;
 };
 

@@ -51,6 +51,10 @@ LevelManagerDialog::LevelManagerDialog(wxWindow* parent, trassix::Layout& layout
   auto* page = new wxBoxSizer(wxVERTICAL);
   page->Add(columns, wxSizerFlags(1).Expand().Border(wxALL, gap));
   page->Add(problem_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, gap));
+  page->Add(new wxStaticText(this, wxID_ANY,
+                             _("Undo brings back what stands on the levels, but not the levels "
+                               "themselves.")),
+            wxSizerFlags().Border(wxLEFT | wxRIGHT, gap));
   page->Add(makeButtons(), wxSizerFlags().Expand().Border(wxALL, gap));
   bindFields();
   fillList();

@@ -13,20 +13,18 @@
 #include "ui/docks/dock_area.h"
 #include "ui/frame/plan_drop.h"
 #include "ui/frame/program_icon.h"
+#include "ui/frame/side_panels.h"
 #include "ui/frame/status_line.h"
+#include "ui/frame/window_place.h"
 #include "ui/frame/window_title.h"
 #include "ui/palette/palette_panel.h"
 #include "ui/properties/properties_panel.h"
 #include "ui/widgets/sash_rule.h"
 #include "ui/widgets/utf8.h"
-#include "ui/widgets/whole_window.h"
 
-#include <wx/display.h>
 #include <wx/sizer.h>
 #include <wx/splitter.h>
 #include <wx/toolbar.h>
-
-#include <algorithm>
 
 namespace trassix {
 
@@ -58,7 +56,7 @@ MainFrame::MainFrame()
   FrameTrace::write("D: Panels done");
   status_ = std::make_unique<StatusLine>(*this, workspace_);
   FrameTrace::write("E: StatusBar done");
-  fitToDisplay();
+  placeWindow(*this, kSize);
   FrameTrace::write("F: MainFrame constructor complete");
 
   desk_.reset(new Desk{*this, workspace_, *canvas_, *palette_, *docks_,
@@ -93,14 +91,13 @@ void MainFrame::buildPanels() {
   docks_->surround(*canvas_, workspace_);
   properties_ = new PropertiesPanel(inner, workspace_);
   FrameTrace::write("BuildPanels: properties created");
-  const int propertiesWidth = FromDIP(kPropertiesWidth);
-  inner->SetMinimumPaneSize(FromDIP(kInnerMinWidth));
-  inner->SetSashGravity(1.0);
-  inner->SplitVertically(canvas_, properties_, -propertiesWidth);
-  keepSash(*inner, [propertiesWidth](int width) { return width - propertiesWidth; });
-  outer->SetMinimumPaneSize(FromDIP(kPaletteMinWidth));
-  outer->SetSashGravity(0.0);
+  inner->SplitVertically(canvas_, properties_, -FromDIP(kPropertiesWidth));
   outer->SplitVertically(palette_, inner, FromDIP(kPaletteWidth));
+  sides_ = std::make_unique<SidePanels>(workspace_);
+  sides_->add(*inner, *properties_, &EditorSwitches::properties, FromDIP(kPropertiesWidth),
+              FromDIP(kInnerMinWidth));
+  sides_->add(*outer, *palette_, &EditorSwitches::palette, FromDIP(kPaletteWidth),
+              FromDIP(kPaletteMinWidth));
   FrameTrace::write("BuildPanels: split done");
   FrameTrace::write("BuildPanels: adding to sizer");
   auto* sizer = new wxBoxSizer(wxHORIZONTAL);
@@ -114,28 +111,6 @@ void MainFrame::buildPanels() {
   palette_->populate();
   FrameTrace::write("BuildPanels: palette populated");
   refreshTitle();
-}
-
-void MainFrame::fitToDisplay() {
-  const int display = wxDisplay::GetFromWindow(this);
-  const wxRect area =
-      wxDisplay(display == wxNOT_FOUND ? 0u : static_cast<unsigned>(display)).GetClientArea();
-  const wxSize size(std::min(GetSize().x, area.width), std::min(GetSize().y, area.height));
-  const wxRect place = wxRect(size).CentreIn(area);
-  SetSize(place);
-#ifdef __WXGTK__
-  // Its decorations come on top of its size and are taken off again.
-  showWhole(*this);
-  Bind(wxEVT_SIZE,
-       [this, place, client = GetClientSize(), done = false](wxSizeEvent& event) mutable {
-         event.Skip();
-         if (done || !IsShown() || GetSize() == place.GetSize())
-           return;
-         done = true;
-         if (GetClientSize() == client) // else the window manager has a size of its own for it
-           CallAfter([this, place] { SetSize(place); }); // once the greater size has settled
-       });
-#endif
 }
 
 void MainFrame::readPreferences() {
@@ -194,6 +169,7 @@ void MainFrame::onClose(wxCloseEvent& event) {
     return;
   }
   canvas_->canvas().cancel();
+  rememberPlace(*this);
   desk_->files.rescue().end();
   Destroy();
 }

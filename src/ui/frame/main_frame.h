@@ -19,6 +19,7 @@ class DockArea;
 class PalettePanel;
 class PlanFiles;
 class PropertiesPanel;
+class SidePanels;
 class StatusLine;
 class WindowTitle;
 
@@ -49,7 +50,6 @@ class MainFrame : public wxFrame {
 
  private:
   void buildPanels();
-  void fitToDisplay();
   void readPreferences();
   void bindCommands();
   void run(const Command& command);
@@ -65,6 +65,7 @@ class MainFrame : public wxFrame {
   SystemClipboard clipboard_;
   Workspace workspace_;
   std::unique_ptr<DockArea> docks_;
+  std::unique_ptr<SidePanels> sides_;
   std::unique_ptr<CommandBars> bars_;
   std::unique_ptr<StatusLine> status_;
   std::unique_ptr<WindowTitle> title_;

@@ -45,6 +45,9 @@ constexpr const char* kMouseAndKeys[] = {
     wxTRANSLATE("Ctrl+0|Show the whole plan"),
     wxTRANSLATE("Ctrl+drag|Move the view"),
     wxTRANSLATE("Space+drag|Move the view"),
+    wxTRANSLATE("F9, Shift+F9|Fold the palette, or properties and tally, away or back; so does a "
+                "double-click on the edge"),
+    wxTRANSLATE("Ctrl+F|Find pieces, scenery and labels on the plan"),
     wxTRANSLATE("# Selecting"),
     wxTRANSLATE("Click|Select what is there; click again for what lies below"),
     wxTRANSLATE("Ctrl+click|Add to the selection or take out of it"),
@@ -62,6 +65,8 @@ constexpr const char* kMouseAndKeys[] = {
     wxTRANSLATE("Ctrl+Z, Ctrl+Y|Undo, redo"),
     wxTRANSLATE("Right-click|More of what can be done here"),
     wxTRANSLATE("# Carrying something from the palette"),
+    wxTRANSLATE("A number|Goes to the search; Enter then places the article, with \"6x\" before it "
+                "six of them in a row"),
     wxTRANSLATE("Wheel, R|Turn it by 30°, the wheel with Shift by 15°"),
     wxTRANSLATE("Arrow keys|Move it, with Shift by 1 mm"),
     wxTRANSLATE("Enter|Let it go where it is"),
@@ -94,10 +99,12 @@ constexpr const char* kAutofill[] = {
 
 constexpr const char* kLevelsAndBaseboard[] = {
     wxTRANSLATE("# Levels"),
-    wxTRANSLATE("A layout can have several decks, each with a name, a height, and a colour for its "
-                "track. \"Levels\" in the tool bar lists them. A hidden level is neither drawn nor "
-                "can it be changed by mistake. A new piece takes the level of the track it snaps "
-                "to, and the highest visible level where it snaps to nothing."),
+    wxTRANSLATE(
+        "A layout can have several decks, each with a name, a height, and a colour for its "
+        "track. \"Levels\" in the tool bar lists them. A hidden level is neither drawn nor "
+        "can it be changed by mistake. A new piece takes the level of the track it snaps "
+        "to, and the highest visible level where it snaps to nothing. The list in the corner of "
+        "the plan shows and hides levels, and makes one active, by one click."),
     wxTRANSLATE("Track rides with its level: change the height of a level, and its track is lifted "
                 "or lowered with it. Where it is joined to track of another level it comes apart, "
                 "as the ends no longer meet. A level that is deleted hands what stands on it to "

@@ -1,6 +1,7 @@
 #include "ui/palette/catalog_list.h"
 
 #include "ui/canvas/gc_surface.h"
+#include "ui/widgets/wrapped_text.h"
 
 #include <wx/dcclient.h>
 #include <wx/dcmemory.h>
@@ -15,8 +16,7 @@ namespace trassix {
 
 namespace {
 
-constexpr int kPicture = 64; ///< width of the drawings, device independent
-constexpr int kEntry = 40;
+constexpr int kEntry = 46;
 constexpr int kHeading = 24;
 constexpr int kPadding = 4;
 constexpr int kDragThreshold = 4;
@@ -185,8 +185,25 @@ void CatalogList::onMouse(wxMouseEvent& event) {
   }
 }
 
-wxCoord CatalogList::OnMeasureItem(size_t row) const {
-  return FromDIP(rows_[row].heading ? kHeading : kEntry);
+int CatalogList::pictureWidth() const {
+  // The words come first where there is too little room for both.
+  return std::min(FromDIP(kPictureWidth), GetClientSize().x * 2 / 5);
+}
+
+wxArrayString CatalogList::titleLines(wxDC& dc, const CatalogRow& row) const {
+  dc.SetFont(row.bold ? GetFont().Bold() : GetFont());
+  return wrappedLines(dc, row.title, GetClientSize().x - pictureWidth() - FromDIP(4 * kPadding));
+}
+
+wxCoord CatalogList::OnMeasureItem(size_t index) const {
+  const CatalogRow& row = rows_[index];
+  if (row.heading)
+    return FromDIP(kHeading);
+  wxClientDC dc(const_cast<CatalogList*>(this));
+  const int lines = static_cast<int>(titleLines(dc, row).size()) + (row.detail.empty() ? 0 : 1);
+  const double picture = row.pictureHeight * pictureWidth() / FromDIP(kPictureWidth);
+  return std::max({FromDIP(kEntry), FromDIP(static_cast<int>(picture) + 2 * kPadding),
+                   lines * dc.GetCharHeight() + FromDIP(kPadding)});
 }
 
 void CatalogList::OnDrawBackground(wxDC& dc, const wxRect& rect, size_t row) const {
@@ -213,7 +230,7 @@ void CatalogList::OnDrawItem(wxDC& dc, const wxRect& rect, size_t row) const {
 
 void CatalogList::drawEntry(wxDC& dc, const wxRect& rect, const CatalogRow& row,
                             bool chosen) const {
-  const int picture = FromDIP(kPicture);
+  const int picture = pictureWidth();
   const int padding = FromDIP(kPadding);
   const wxRect frame(rect.x, rect.y, picture + 2 * padding, rect.height);
   if (row.picture) {
@@ -231,7 +248,7 @@ void CatalogList::drawEntry(wxDC& dc, const wxRect& rect, const CatalogRow& row,
     if (context != nullptr) {
       context->PushState();
       context->Clip(frame.x, frame.y, frame.width, frame.height);
-      GcSurface surface(*context);
+      GcSurface surface(*context, GetContentScaleFactor());
       row.picture(surface,
                   {{frame.x + frame.width / 2.0, frame.y + frame.height / 2.0},
                    {static_cast<double>(picture), static_cast<double>(rect.height - 2 * padding)}});
@@ -242,20 +259,19 @@ void CatalogList::drawEntry(wxDC& dc, const wxRect& rect, const CatalogRow& row,
   const int room = rect.GetRight() - left - padding;
   dc.SetTextForeground(
       systemColour(chosen ? wxSYS_COLOUR_HIGHLIGHTTEXT : wxSYS_COLOUR_LISTBOXTEXT));
-  const auto draw = [&](const wxString& text, const wxFont& font, int middle) {
-    dc.SetFont(font);
-    const wxSize extent = dc.GetTextExtent(text);
-    const wxString shown = extent.x <= room ? text
-                                            : wxControl::Ellipsize(text, dc, wxELLIPSIZE_END, room,
-                                                                   wxELLIPSIZE_FLAGS_NONE);
-    dc.DrawText(shown, left, middle - extent.y / 2);
-  };
-  if (row.detail.empty()) {
-    draw(row.title, GetFont(), rect.y + rect.height / 2);
-    return;
+  const wxArrayString title = titleLines(dc, row);
+  const int line = dc.GetCharHeight();
+  const int lines = static_cast<int>(title.size()) + (row.detail.empty() ? 0 : 1);
+  int top = rect.y + (rect.height - lines * line) / 2;
+  for (const wxString& text : title) {
+    dc.DrawText(text, left, top);
+    top += line;
   }
-  draw(row.title, row.bold ? GetFont().Bold() : GetFont(), rect.y + rect.height * 3 / 10);
-  draw(row.detail, GetFont().Smaller(), rect.y + rect.height * 7 / 10);
+  if (row.detail.empty())
+    return;
+  dc.SetFont(GetFont());
+  dc.DrawText(wxControl::Ellipsize(row.detail, dc, wxELLIPSIZE_END, room, wxELLIPSIZE_FLAGS_NONE),
+              left, top);
 }
 
 void CatalogList::paintEmptyText(wxPaintEvent& event) {

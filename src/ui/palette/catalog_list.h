@@ -15,20 +15,24 @@ struct PictureRoom {
   SizePx size;
 };
 
-/// One line of a `CatalogList`: a heading, or an entry with drawing, title and a line of detail.
+/// One line of a `CatalogList`: a heading, or an entry with drawing, title and a line of detail. A
+/// title that is too long is wrapped, a detail is cut.
 struct CatalogRow {
   bool heading = false;
-  bool bold = false; ///< an article number stands out, a name need not
+  bool bold = false; ///< what tells pieces apart stands out, a name need not
   wxString title;
   wxString detail;
   wxString tip;
   std::function<void(Surface&, const PictureRoom&)> picture;
+  double pictureHeight = 0; ///< device independent; of a drawing that is higher than usual
 };
 
 /// A list of drawn entries under headings, used by mouse and keyboard alike. Headings are passed
 /// over: they are never selected.
 class CatalogList : public wxVListBox {
  public:
+  static constexpr int kPictureWidth = 88; ///< device independent
+
   /// Rows are told by their place among all rows, headings included. Each action may be empty.
   struct Actions {
     std::function<void(std::size_t row)> drag; ///< the mouse leaves an entry with its button down
@@ -64,6 +68,8 @@ class CatalogList : public wxVListBox {
   void onChar(wxKeyEvent& event);
   bool isEntry(int row) const;
   int rowsOnPage() const;
+  int pictureWidth() const;
+  wxArrayString titleLines(wxDC& dc, const CatalogRow& row) const;
 
   std::vector<CatalogRow> rows_;
   wxString whenEmpty_;

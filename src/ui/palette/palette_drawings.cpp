@@ -17,6 +17,8 @@ namespace {
 
 /// Small things stay visible: nothing is drawn narrower than this.
 constexpr double kLeastPx = 5;
+constexpr double kThinnestBedPx = 8;
+constexpr double kWidestBedPx = 15;
 
 Box boxOf(const std::vector<std::vector<Point>>& outlines) {
   constexpr double kFar = std::numeric_limits<double>::max();
@@ -37,6 +39,22 @@ ViewTransform centred(const Box& box, const PictureRoom& room, double zoom) {
                                           room.middle.y - (box.minY + box.maxY) / 2 * fitting});
 }
 
+/// A torn edge: the piece goes on beyond its picture.
+void breakOff(Surface& surface, const PictureRoom& room, double over) {
+  constexpr double kTooth = 4;
+  const double top = room.middle.y - room.size.height / 2;
+  const double right = room.middle.x + room.size.width / 2;
+  std::vector<Point> edge;
+  for (int i = 0; top + i * kTooth <= top + room.size.height + kTooth; ++i) {
+    edge.push_back({right - (i % 2 == 0 ? kTooth : 0), top + i * kTooth});
+  }
+  std::vector<Point> beyond = edge;
+  beyond.push_back({right + over + kTooth, edge.back().y});
+  beyond.push_back({right + over + kTooth, top});
+  surface.polygon(beyond, plan_colors::kBoard, {});
+  surface.polyline(edge, Stroke{plan_colors::kBedEdge, 1});
+}
+
 PieceLook lookOf(const PieceDef& piece) {
   PieceLook look;
   look.bed = opaque(piece.ramp     ? plan_colors::kRampBed
@@ -47,25 +65,43 @@ PieceLook lookOf(const PieceDef& piece) {
 
 } // namespace
 
-double widestToScale(TrackSystem system) {
-  constexpr double kWidestByHalfBed = 20;
-  return kWidestByHalfBed * trackHalfWidth(system);
+double scaleOfGroup(std::span<const PieceDef* const> pieces, double width) {
+  const double bed = 2 * trackHalfWidth(pieces.front()->system);
+  double widest = 1;
+  for (const PieceDef* piece : pieces) {
+    const Box box = boxOf(trackGeometryOf(*piece).beds);
+    // What does not fit at any scale makes no other piece smaller.
+    if ((box.maxX - box.minX) * kThinnestBedPx / bed <= width)
+      widest = std::max(widest, box.maxX - box.minX);
+  }
+  return std::clamp(width / widest, kThinnestBedPx / bed, kWidestBedPx / bed);
 }
 
-void drawPiece(Surface& surface, const PictureRoom& room, const PieceDef& piece, double widest) {
+double drawnHeight(const PieceDef& piece, double scale) {
+  const Box box = boxOf(trackGeometryOf(piece).beds);
+  return (box.maxY - box.minY) * scale;
+}
+
+void drawPiece(Surface& surface, const PictureRoom& room, const PieceDef& piece, double scale) {
   const TrackGeometry& geometry = trackGeometryOf(piece);
   if (geometry.beds.empty()) {
     return;
   }
-  const ViewTransform view = centred(boxOf(geometry.beds), room, room.size.width / widest);
+  const Box box = boxOf(geometry.beds);
+  const double over = (box.maxX - box.minX) * scale - room.size.width;
+  const bool broken = over > 1 && piece.kind == PieceKind::Straight;
+  const ViewTransform view =
+      broken ? ViewTransform::ofScale(scale, {room.middle.x - room.size.width / 2, room.middle.y})
+             : centred(box, room, scale);
   PiecePainter(surface, view).paint(geometry, {}, lookOf(piece));
+  if (broken) {
+    breakOff(surface, room, over);
+  }
 }
 
 void drawScenery(Surface& surface, const PictureRoom& room, const SceneryDef& item,
                  const Footprint& size, double widest) {
-  const double zoom = std::min({room.size.width / std::max(widest, 1.0),
-                                room.size.width / std::max(size.width, 1.0),
-                                room.size.height / std::max(size.depth, 1.0)});
+  const double zoom = room.size.width / widest;
   const Footprint drawn{std::max(size.width * zoom, kLeastPx),
                         std::max(size.depth * zoom, kLeastPx), 0};
   const Rgba ink = plan_colors::sceneryColor(&item);

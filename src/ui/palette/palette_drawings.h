@@ -5,16 +5,22 @@
 #include "catalog/scenery_catalog.h"
 #include "ui/palette/catalog_list.h"
 
+#include <span>
+
 namespace trassix {
 
 struct Block;
 
-/// Width of track pieces, in mm, that the drawings of a system are to hold: longer pieces are drawn
-/// to a smaller scale instead of making all others tiny.
-double widestToScale(TrackSystem system);
+/// The one scale to which the pieces of a group, never empty, are drawn, px per mm: all of them fit
+/// the width, unless track would get too thin to be told apart; then the longest straights show
+/// their beginning only.
+double scaleOfGroup(std::span<const PieceDef* const> pieces, double width);
 
-/// `widest` mm fill the room; what does not fit so is drawn smaller.
-void drawPiece(Surface& surface, const PictureRoom& room, const PieceDef& piece, double widest);
+/// How high a piece is at a scale, px.
+double drawnHeight(const PieceDef& piece, double scale);
+
+void drawPiece(Surface& surface, const PictureRoom& room, const PieceDef& piece, double scale);
+/// `widest` mm, at least the item's own width and depth, fill the room's width.
 void drawScenery(Surface& surface, const PictureRoom& room, const SceneryDef& item,
                  const Footprint& size, double widest);
 

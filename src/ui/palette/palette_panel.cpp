@@ -1,11 +1,14 @@
 #include "ui/palette/palette_panel.h"
 
 #include "app/desktop/path_text.h"
+#include "app/desktop/standard_folders.h"
 #include "app/desktop/user_paths.h"
+#include "app/services/program_memory.h"
 #include "editing/canvas/carried.h"
+#include "editing/track/short_name.h"
 #include "measures/measure_format.h"
 #include "panels/block_library.h"
-#include "panels/piece_names.h"
+#include "ui/canvas/canvas_panel.h"
 #include "ui/palette/catalog_list.h"
 #include "ui/palette/palette_drawings.h"
 #include "ui/widgets/file_boxes.h"
@@ -25,11 +28,14 @@ namespace trassix {
 
 namespace {
 
+const std::string kTopic = "palette"; ///< of what the program remembers
+
 wxString headingOf(const PaletteGroup& group, std::int32_t units) {
   const wxString name = wxGetTranslation(fromUtf8(groupName(group.group)));
   if (group.group != PieceGroup::Curves)
     return name;
-  return wxString::Format(_("%s, radius %s"), name, fromUtf8(formatLength(group.radius, units)));
+  return wxString::Format(_("%s, radius %s"), name,
+                          fromUtf8(formatBriefLength(group.radius, units)));
 }
 
 wxString sizeText(const Footprint& size, std::int32_t units) {
@@ -45,12 +51,28 @@ CatalogRow heading(const wxString& title) {
   return row;
 }
 
+/// `scale` in px per mm of a drawing in full width.
+CatalogRow rowOf(const PieceDef& piece, double scale, std::int32_t units) {
+  const ShortName name = shortNameOf(piece, units);
+  CatalogRow row;
+  row.bold = true;
+  row.title = fromUtf8(name.text);
+  row.detail = fromUtf8(piece.article + (name.rest.empty() ? "" : "  " + name.rest));
+  row.tip = fromUtf8(piece.name);
+  row.picture = [&piece, scale](Surface& surface, const PictureRoom& room) {
+    drawPiece(surface, room, piece, scale * room.size.width / CatalogList::kPictureWidth);
+  };
+  row.pictureHeight = drawnHeight(piece, scale);
+  return row;
+}
+
 } // namespace
 
 PalettePanel::PalettePanel(wxWindow* parent, Workspace& workspace, Actions actions)
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, "palette"),
       PlanObserver(workspace), workspace_(workspace), actions_(std::move(actions)) {
   Bind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
+  wxGetTopLevelParent(this)->Bind(wxEVT_CHAR_HOOK, &PalettePanel::onKeyAnywhere, this);
 }
 
 PalettePanel::~PalettePanel() = default;
@@ -62,6 +84,8 @@ void PalettePanel::onFirstPaint(wxPaintEvent& event) {
 }
 
 void PalettePanel::build() {
+  if (search_)
+    return;
   choice_ = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
                          wxDefaultValidator, "systems");
   choice_->SetToolTip(_("Track system"));
@@ -70,6 +94,9 @@ void PalettePanel::build() {
   search_ = new wxSearchCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                              wxTE_PROCESS_ENTER, wxDefaultValidator, "search");
   search_->SetDescriptiveText(_("Article, name or number"));
+  search_->SetToolTip(
+      _("For example \"24130\", \"R2 30\" or \"turnout left\"; with \"6x24130\", Enter "
+        "places six"));
   search_->ShowCancelButton(true);
   auto* tabRow = new wxBoxSizer(wxHORIZONTAL);
   const wxString titles[] = {_("Track"), _("Scenery"), _("Library")};
@@ -92,11 +119,24 @@ void PalettePanel::build() {
   SetSizer(sizer);
 
   choice_->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
+    emptySearch();
     showSystem(systems_[static_cast<std::size_t>(event.GetSelection())]);
+    // Not worth a word when it fails.
+    ProgramMemory(StandardFolders::memoryFile()).remember(kTopic, [this](auto& kept) {
+      kept["system"] = systemName(system());
+    });
   });
   search_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { searchFor(search_->GetValue()); });
   search_->Bind(wxEVT_SEARCHCTRL_CANCEL_BTN, [this](wxCommandEvent&) { search_->Clear(); });
   search_->Bind(wxEVT_CHAR_HOOK, &PalettePanel::onSearchKey, this);
+  search_->Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
+    event.Skip();
+    // Later: a click that brings the focus sets the cursor after that.
+    if (!std::exchange(typedElsewhere_, false)) {
+      before_ = nullptr;
+      CallAfter([this] { search_->SelectAll(); });
+    }
+  });
   markSystem();
   showTab(kTrackTab);
   Layout();
@@ -104,16 +144,15 @@ void PalettePanel::build() {
 
 CatalogList* PalettePanel::makeList(Tab tab) {
   const auto typed = [this](const wxString& text) {
-    search_->SetFocus();
-    search_->SetValue(search_->GetValue() + text);
-    search_->SetInsertionPointEnd();
+    before_ = nullptr;
+    typeInSearch(text, true);
   };
   switch (tab) {
   case kTrackTab:
     return new CatalogList(pages_, "pieces",
                            {[this](std::size_t row) {
                               const std::string article = pieces_[row]->article;
-                              actions_.drag(CarriedPiece{article});
+                              actions_.drag(CarriedPiece{article, model_.count()});
                               model_.noteUse(article);
                               CallAfter([this] { fillTrack(); });
                             },
@@ -167,10 +206,15 @@ void PalettePanel::fill(Tab tab) {
 
 void PalettePanel::populate() {
   systems_ = paletteSystems();
-  showSystem(systems_.front());
+  const auto kept = ProgramMemory(StandardFolders::memoryFile()).recall(kTopic);
+  const auto name = kept ? valueIn<std::string>(*kept, "system") : std::nullopt;
+  const auto known = std::ranges::find_if(
+      systems_, [&name](TrackSystem system) { return name && systemName(system) == *name; });
+  showSystem(known == systems_.end() ? systems_.front() : *known);
 }
 
 void PalettePanel::planReplaced() {
+  emptySearch();
   if (const std::optional<TrackSystem> system = chiefSystem(workspace_.layout()))
     showSystem(*system);
 }
@@ -227,6 +271,33 @@ void PalettePanel::searchFor(const wxString& text) {
     fill(tab);
 }
 
+void PalettePanel::emptySearch() {
+  if (search_ && !search_->IsEmpty())
+    search_->Clear();
+}
+
+void PalettePanel::typeInSearch(const wxString& text, bool behind) {
+  typedElsewhere_ = true;
+  search_->SetFocus();
+  search_->SetValue(behind ? search_->GetValue() + text : text);
+  search_->SetInsertionPointEnd();
+}
+
+void PalettePanel::onKeyAnywhere(wxKeyEvent& event) {
+  const int key = event.GetKeyCode();
+  const int digit = key >= WXK_NUMPAD0 && key <= WXK_NUMPAD9 ? key - WXK_NUMPAD0 : key - '0';
+  if (digit < 0 || digit > 9 || event.GetModifiers() != wxMOD_NONE ||
+      !dynamic_cast<CanvasPanel*>(FindFocus()))
+    return event.Skip();
+  EditorSwitches switches = workspace_.switches();
+  if (!std::exchange(switches.palette, true))
+    workspace_.setSwitches(switches);
+  build(); // it may have been folded away from the start
+  showTab(kTrackTab);
+  before_ = FindFocus();
+  typeInSearch(wxString::Format("%d", digit), false);
+}
+
 void PalettePanel::onSearchKey(wxKeyEvent& event) {
   switch (event.GetKeyCode()) {
   case WXK_UP:
@@ -237,10 +308,11 @@ void PalettePanel::onSearchKey(wxKeyEvent& event) {
     return listOf(shownTab_).moveSelection(1);
   case WXK_RETURN:
   case WXK_NUMPAD_ENTER:
-    return listOf(shownTab_).activateSelected();
+    listOf(shownTab_).activateSelected();
+    return search_->SelectAll();
   case WXK_ESCAPE:
     search_->Clear();
-    return listOf(shownTab_).SetFocus();
+    return before_ ? before_->SetFocus() : listOf(shownTab_).SetFocus();
   default:
     event.Skip();
   }
@@ -250,17 +322,12 @@ void PalettePanel::fillTrack() {
   const std::int32_t units = workspace_.units();
   std::vector<CatalogRow> rows;
   pieces_.clear();
-  const double widest = widestToScale(model_.system());
   for (const PaletteGroup& group : model_.groups()) {
     rows.push_back(heading(headingOf(group, units)));
     pieces_.push_back(nullptr);
+    const double scale = scaleOfGroup(group.pieces, CatalogList::kPictureWidth);
     for (const PieceDef* piece : group.pieces) {
-      rows.push_back({false, true, fromUtf8(piece->article),
-                      fromUtf8(nameAfterArticle(piece->name, piece->article)),
-                      fromUtf8(piece->name),
-                      [piece, widest](Surface& surface, const PictureRoom& room) {
-                        drawPiece(surface, room, *piece, widest);
-                      }});
+      rows.push_back(rowOf(*piece, scale, units));
       pieces_.push_back(piece);
     }
   }
@@ -275,9 +342,9 @@ void PalettePanel::fillScenery() {
   for (const SceneryGroup& group : model_.scenery()) {
     rows.push_back(heading(wxGetTranslation(fromUtf8(categoryName(group.category)))));
     scenery_.push_back(nullptr);
-    double widest = 0;
+    double widest = 1;
     for (const SceneryDef* item : group.items)
-      widest = std::max(widest, item->footprint(shown).width);
+      widest = std::max({widest, item->footprint(shown).width, item->footprint(shown).depth});
     for (const SceneryDef* item : group.items) {
       const Footprint size = item->footprint(shown);
       wxString name = fromUtf8(item->name);
@@ -287,7 +354,8 @@ void PalettePanel::fillScenery() {
       rows.push_back({false, false, name, measures, name + "\n" + measures,
                       [item, size, widest](Surface& surface, const PictureRoom& room) {
                         drawScenery(surface, room, *item, size, widest);
-                      }});
+                      },
+                      size.depth / widest * CatalogList::kPictureWidth});
       scenery_.push_back(item);
     }
   }
@@ -312,7 +380,8 @@ void PalettePanel::fillLibrary() {
                     entry.problem.empty() ? name : fromUtf8(entry.problem),
                     [&entry](Surface& surface, const PictureRoom& room) {
                       drawBlock(surface, room, entry.block);
-                    }});
+                    },
+                    0});
     blocks_.push_back(&entry);
   }
   lists_[kLibraryTab]->setRows(
@@ -324,7 +393,7 @@ void PalettePanel::fillLibrary() {
 
 void PalettePanel::usePiece(std::size_t row) {
   noteUse(*pieces_[row]);
-  actions_.use(CarriedPiece{pieces_[row]->article});
+  actions_.use(CarriedPiece{pieces_[row]->article, model_.count()});
 }
 
 void PalettePanel::noteUse(const PieceDef& piece) {

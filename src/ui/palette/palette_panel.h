@@ -64,6 +64,10 @@ class PalettePanel : public wxPanel, private PlanObserver {
   void markSystem();
   void showTab(Tab tab);
   void searchFor(const wxString& text);
+  void emptySearch();
+  /// Text that was typed elsewhere: in place of what the search holds, or behind it.
+  void typeInSearch(const wxString& text, bool behind);
+  void onKeyAnywhere(wxKeyEvent& event);
   void onSearchKey(wxKeyEvent& event);
   void fillTrack();
   void fillScenery();
@@ -74,7 +78,7 @@ class PalettePanel : public wxPanel, private PlanObserver {
   void showEntryMenu(const LibraryEntry& entry);
   void deleteEntry(const LibraryEntry& entry);
 
-  const Workspace& workspace_;
+  Workspace& workspace_;
   Actions actions_;
   PaletteModel model_;
   std::vector<TrackSystem> systems_;
@@ -85,6 +89,8 @@ class PalettePanel : public wxPanel, private PlanObserver {
   // The controls, none before the first paint.
   wxChoice* choice_ = nullptr;
   wxSearchCtrl* search_ = nullptr;
+  bool typedElsewhere_ = false;           ///< the search gets the focus to be typed on
+  wxWindow* before_ = nullptr;            ///< that was typed on, to which Esc leads back
   std::array<wxToggleButton*, 3> tabs_{}; ///< by Tab; narrower than the toolkit's own
   Tab shownTab_ = kTrackTab;
   std::int32_t units_ = 0; ///< of the measures in the lists

@@ -21,7 +21,8 @@ constexpr double kFieldsShare = 0.45; ///< where there is too little room for bo
 } // namespace
 
 PropertiesPanel::PropertiesPanel(wxWindow* parent, Workspace& workspace)
-    : wxPanel(parent), PlanObserver(workspace), workspace_(workspace) {
+    : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, "properties"),
+      PlanObserver(workspace), workspace_(workspace) {
   Bind(wxEVT_PAINT, &PropertiesPanel::onFirstPaint, this);
 }
 
@@ -59,6 +60,8 @@ void PropertiesPanel::recompute() {
 void PropertiesPanel::selectionChanged() {
   if (fields_)
     fields_->show(propertySheetOf(workspace_.layout()));
+  if (tally_)
+    tally_->selectionChanged();
 }
 
 void PropertiesPanel::enterPending() {

@@ -3,12 +3,16 @@
 #include "app/desktop/path_text.h"
 #include "app/desktop/standard_folders.h"
 #include "app/services/text_file.h"
+#include "catalog/track_catalog.h"
+#include "editing/selection/finding.h"
+#include "editing/track/short_name.h"
 #include "host/clipboard.h"
 #include "host/workspace.h"
 #include "measures/measure_format.h"
 #include "panels/piece_names.h"
 #include "ui/dialogs/purchase_list_dialog.h"
 #include "ui/widgets/file_boxes.h"
+#include "ui/widgets/remembered_folder.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/button.h>
@@ -62,15 +66,23 @@ bool severalSystems(const std::vector<TallyRow>& rows) {
   });
 }
 
-wxString cellText(const TallyRow& row, TallyColumn column) {
+wxString systemText(const TallyRow& row) {
+  return row.system ? fromUtf8(systemShortName(*row.system)) : wxString();
+}
+
+wxString nameText(const TallyRow& row, std::int32_t units) {
+  const PieceDef* piece = row.system ? TrackCatalog::instance().find(row.article) : nullptr;
+  return piece ? fromUtf8(nameInList(*piece, units)) : _("not in the catalogue");
+}
+
+wxString cellText(const TallyRow& row, TallyColumn column, std::int32_t units) {
   switch (column) {
   case TallyColumn::System:
-    return row.system ? fromUtf8(systemShortName(*row.system)) : wxString();
+    return systemText(row);
   case TallyColumn::Article:
     return fromUtf8(row.article);
   case TallyColumn::Name:
-    return row.name.empty() ? _("not in the catalogue")
-                            : fromUtf8(nameAfterArticle(row.name, row.article));
+    return nameText(row, units);
   case TallyColumn::Placed:
     return wxString::Format("%d", row.placed);
   case TallyColumn::Sold:
@@ -85,10 +97,10 @@ wxString cellText(const TallyRow& row, TallyColumn column) {
 /// for the panel is shown in full where the pointer rests on it.
 class TallyList : public wxListCtrl {
  public:
-  TallyList(wxWindow* parent, const std::vector<TallyRow>& rows)
+  TallyList(wxWindow* parent, const Workspace& workspace, const std::vector<TallyRow>& rows)
       : wxListCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                    wxLC_REPORT | wxLC_SINGLE_SEL | wxLC_VIRTUAL, wxDefaultValidator, "tally"),
-        rows_(rows) {
+        workspace_(workspace), rows_(rows) {
     for (const ColumnLook& look : kColumns)
       AppendColumn(wxGetTranslation(look.heading), look.align, FromDIP(look.width));
     Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
@@ -111,7 +123,8 @@ class TallyList : public wxListCtrl {
   wxString OnGetItemText(long item, long column) const override {
     const auto row = static_cast<std::size_t>(item);
     return row < rows_.size()
-               ? cellText(rows_[row], kColumns.at(static_cast<std::size_t>(column)).column)
+               ? cellText(rows_[row], kColumns.at(static_cast<std::size_t>(column)).column,
+                          workspace_.units())
                : wxString();
   }
 
@@ -130,7 +143,7 @@ class TallyList : public wxListCtrl {
     std::optional<TrackSystem> measured;
     for (const TallyRow& row : rows_) {
       if (std::exchange(measured, row.system) != row.system)
-        widest = std::max(widest, GetTextExtent(cellText(row, TallyColumn::System)).x);
+        widest = std::max(widest, GetTextExtent(systemText(row)).x);
     }
     return std::min(widest + FromDIP(kCellMargin), FromDIP(kWidestSystem));
   }
@@ -172,20 +185,22 @@ class TallyList : public wxListCtrl {
       return;
     }
     const TallyRow& row = rows_[index];
-    const wxString name = cellText(row, TallyColumn::Name);
-    const wxString system = cellText(row, TallyColumn::System);
+    const wxString name = row.name.empty() ? nameText(row, workspace_.units())
+                                           : fromUtf8(nameAfterArticle(row.name, row.article));
+    const wxString system = systemText(row);
     area.SetToolTip(fromUtf8(row.article) + "  " + name + "\n" +
                     (system.empty() ? system : system + "\n") +
                     wxString::Format(_("%d on the plan, %d to order"), row.placed, row.sold));
   }
 
+  const Workspace& workspace_;
   const std::vector<TallyRow>& rows_;
   int fitted_ = -1;  ///< what was left for the name
   long tipped_ = -1; ///< the row that the tool tip tells of
 };
 
 TallyPanel::TallyPanel(wxWindow* parent, Workspace& workspace)
-    : wxPanel(parent), workspace_(workspace), list_(new TallyList(this, tally_.rows)),
+    : wxPanel(parent), workspace_(workspace), list_(new TallyList(this, workspace, tally_.rows)),
       summary_(new wxStaticText(this, wxID_ANY, wxEmptyString)) {
   auto* title = new wxStaticText(this, wxID_ANY, _("Pieces on the plan"));
   title->SetFont(title->GetFont().Bold());
@@ -213,10 +228,28 @@ TallyPanel::TallyPanel(wxWindow* parent, Workspace& workspace)
   sizer->Add(summary_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, gap));
   sizer->Add(buttons, wxSizerFlags().Border(wxALL, gap));
   SetSizer(sizer);
+  list_->Bind(wxEVT_LIST_ITEM_SELECTED,
+              [this](wxListEvent& event) { showOnPlan(event.GetIndex()); });
   list_->Bind(wxEVT_LIST_COL_CLICK, [this](wxListEvent& event) {
     if (event.GetColumn() >= 0)
       sortBy(kColumns.at(static_cast<std::size_t>(event.GetColumn())).column);
   });
+}
+
+void TallyPanel::showOnPlan(long row) {
+  const std::string& article = tally_.rows.at(static_cast<std::size_t>(row)).article;
+  const std::vector<Pick> pieces = piecesOfArticle(workspace_.layout(), article);
+  const auto box = selectThese(workspace_.layout(), pieces);
+  selecting_ = true;
+  workspace_.selectionChanged();
+  selecting_ = false;
+  if (box)
+    workspace_.show(*box);
+}
+
+void TallyPanel::selectionChanged() {
+  if (!selecting_)
+    list_->SetItemState(-1, 0, wxLIST_STATE_SELECTED);
 }
 
 void TallyPanel::recompute() {
@@ -256,11 +289,13 @@ void TallyPanel::copy() {
 }
 
 void TallyPanel::saveAsCsv() {
-  wxFileDialog dialog(this, _("Save Tally"), toText(StandardFolders::documents()), _("Tally.csv"),
-                      _("Comma-separated values (*.csv)|*.csv"), wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+  wxFileDialog dialog(
+      this, _("Save Tally"), toText(rememberedFolder("tally", StandardFolders::documents())),
+      _("Tally.csv"), _("Comma-separated values (*.csv)|*.csv"), wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
   if (dialog.ShowModal() != wxID_OK)
     return;
   std::filesystem::path file = toPath(dialog.GetPath());
+  rememberFolder("tally", file.parent_path());
   if (!file.has_extension()) {
     // The dialog has asked about the name as it was typed only.
     file += ".csv";

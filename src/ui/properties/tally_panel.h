@@ -19,6 +19,8 @@ class TallyPanel : public wxPanel {
   TallyPanel(wxWindow* parent, Workspace& workspace);
 
   void recompute();
+  /// Something else is selected: no row tells of it any more.
+  void selectionChanged();
 
   /// Tells the user when the file cannot be written.
   void saveCsv(const std::filesystem::path& file);
@@ -26,6 +28,8 @@ class TallyPanel : public wxPanel {
  private:
   void sortBy(TallyColumn column);
   void fill();
+  /// Selects the pieces of a row on the plan and brings them into view.
+  void showOnPlan(long row);
   void showSummary();
   void copy();
   void saveAsCsv();
@@ -35,6 +39,7 @@ class TallyPanel : public wxPanel {
   Tally tally_;
   TallyColumn column_ = TallyColumn::System;
   bool ascending_ = true;
+  bool selecting_ = false; ///< the pieces of a row
   TallyList* list_;
   wxStaticText* summary_;
 };

@@ -1,5 +1,5 @@
 #include "editing/joining/joining.h"
-#include "editing/placing/placing.h"
+#include "editing/placing/runs.h"
 #include "editing/selection/selection.h"
 #include "support/plan.h"
 
@@ -176,6 +176,18 @@ TEST(Extending, FromThePaletteGoesOnAtTheNewestSelectedPiece) {
 
   Plan adapters = Plan().place("2200");
   EXPECT_TRUE(extendSelected(adapters.layout, "24188").refusal.has_value());
+  selectOnly(plan.layout, 1);
+  const auto run = [&plan](const char* article, int count) {
+    return placeRun(plan.layout, article, count, {},
+                    [&] { return extendSelected(plan.layout, article); });
+  };
+  const std::size_t before = plan.layout.pieces().size();
+  EXPECT_EQ(run("24130", 6).count, 6);
+  EXPECT_TRUE(plan.layout.undo() && plan.layout.pieces().size() == before) << "one step";
+  plan.layout.redo();
+  EXPECT_EQ(run("24188", 1).count + run("24130", 9).count, 7) << "the oval closes";
+  EXPECT_EQ(run("24130", 2).count, 0);
+
   extendSelected(adapters.layout, "24922"); // turned round, because its K end is connector 1
   EXPECT_EQ(adapters.layout.findPiece(2)->joints[1], (Joint{1, 1}));
 }

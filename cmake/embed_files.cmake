@@ -1,7 +1,7 @@
-# Compiles picture files into a target, so that the program finds them wherever it stands:
-#   embed_pictures(TARGET NAME FILE...)
+# Compiles files into a target, so that the program finds them wherever it stands:
+#   embed_files(TARGET NAME FILE...)
 # declares trassix::NAME() in "embedded/NAME.h", which gives their bytes in the order of the files.
-function(embed_pictures target name)
+function(embed_files target name)
   set(source "${CMAKE_CURRENT_BINARY_DIR}/embedded/${name}.cpp")
   set(header "${CMAKE_CURRENT_BINARY_DIR}/embedded/${name}.h")
   set(arrays "")
@@ -11,8 +11,8 @@ function(embed_pictures target name)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${file}")
     file(READ "${file}" bytes HEX)
     string(REGEX REPLACE "(..)" "0x\\1," bytes "${bytes}")
-    string(APPEND arrays "constexpr unsigned char kPicture${number}[] = {${bytes}};\n")
-    string(APPEND table "    std::span<const unsigned char>(kPicture${number}),\n")
+    string(APPEND arrays "constexpr unsigned char kFile${number}[] = {${bytes}};\n")
+    string(APPEND table "    std::span<const unsigned char>(kFile${number}),\n")
     math(EXPR number "${number} + 1")
   endforeach()
   file(CONFIGURE OUTPUT "${header}" @ONLY CONTENT [[
@@ -34,13 +34,13 @@ namespace trassix {
 namespace {
 
 @arrays@
-constexpr std::span<const unsigned char> kPictures[] = {
+constexpr std::span<const unsigned char> kFiles[] = {
 @table@};
 
 } // namespace
 
 std::span<const std::span<const unsigned char>> @name@() {
-  return kPictures;
+  return kFiles;
 }
 
 } // namespace trassix
