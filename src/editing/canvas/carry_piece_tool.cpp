@@ -2,6 +2,7 @@
 
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/elevation/inheritance.h"
 #include "editing/placing/placing.h"
 #include "editing/placing/ways.h"
 #include "editing/selection/open_ends.h"
@@ -104,8 +105,11 @@ std::string CarryPieceTool::hint() const {
                      : snap_.snapped ? trLater("Let go to join %1%")
                                      : trLater("Click or let go to place %1%");
   const bool hasWays = waysOf(definition_).size() > 1;
-  return hintOf({tr(what, {definition_.article}), landing,
-                 hasWays ? tr("F: the other way round") : std::string(), turningHint()});
+  std::vector<EndContact> meetings;
+  if (snap_.snapped)
+    meetings = site_.snapIndex().findMeetings(landedEnds(layout, definition_, snap_), {});
+  return hintOf({tr(what, {definition_.article}), missText(meetings, layout.settings().units),
+                 landing, hasWays ? tr("F: the other way round") : std::string(), turningHint()});
 }
 
 } // namespace trassix
