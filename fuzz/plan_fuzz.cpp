@@ -8,6 +8,8 @@
 #include "document/repairs.h"
 #include "editing/autofill/autofill.h"
 #include "editing/canvas/layout_painter.h"
+#include "editing/elevation/grade_edits.h"
+#include "editing/elevation/grade_runs.h"
 #include "editing/placing/block_placing.h"
 #include "editing/placing/inserting.h"
 #include "editing/placing/placing.h"
@@ -223,7 +225,7 @@ class Session {
     if (fits.empty())
       return false;
     swapped_ = id;
-    return swapPiece(layout_, id, dice_.of(fits));
+    return swapPiece(layout_, id, dice_.of(fits)).changed;
   }
   bool fill() {
     const auto found = solveAutofill(layout_, piece(), piece());
@@ -265,17 +267,47 @@ class Session {
         typed ? PropertyValue(std::string(dice_.of(kValues))) : PropertyValue(dice_.below(3));
     return row.edit(layout_, value, [](const Question&) { return true; }).changed;
   }
+  TrackEnd end() { return {piece(), static_cast<std::int32_t>(dice_.below(4))}; }
+  bool heights() {
+    constexpr double kSlopes[] = {0, 0.02, -0.05, 0.9};
+    const LoopRule rule = dice_.oneIn(2) ? LoopRule::Spread : LoopRule::Refuse;
+    const TrainWay way = wayThrough(layout_, piece());
+    GradeTask grade = gradeOfPiece(layout_, piece(), static_cast<std::int32_t>(dice_.below(3)));
+    grade.slope = dice_.of(kSlopes);
+    grade.open = dice_.oneIn(2);
+    grade.loops = rule;
+    grade.limit = 1;
+    TargetTask target{way, offset()};
+    target.limit = 1;
+    target.loops = rule;
+    switch (dice_.below(6)) {
+    case 0:
+      return applyHeights(layout_, planGrade(layout_, grade)).changed;
+    case 1:
+      return applyHeights(layout_, planTarget(layout_, target).heights).changed;
+    case 2:
+      return applyHeights(layout_, planEase(layout_, way, rule)).changed;
+    case 3:
+      return applyHeights(layout_, planRaise(layout_, piece(), offset() * 1e4)).changed;
+    case 4:
+      return endGradeHere(layout_, piece());
+    default:
+      return applyHeights(layout_,
+                          planEndHeight(layout_, end(), offset(), EndRule::TiltPiece, rule))
+          .changed;
+    }
+  }
   bool notes() {
     const Point at = place();
     return (dice_.oneIn(2) ? addLabel(layout_, at, "note")
                            : addMeasurement(layout_, at, place())) != -1;
   }
-  static constexpr Kind kKinds[] = {&Session::move,     &Session::turn,      &Session::nudge,
-                                    &Session::clone,    &Session::extend,    &Session::drop,
-                                    &Session::drop,     &Session::swap,      &Session::fill,
-                                    &Session::erase,    &Session::scenery,   &Session::paste,
-                                    &Session::levels,   &Session::duplicate, &Session::notes,
-                                    &Session::property, &Session::property};
+  static constexpr Kind kKinds[] = {&Session::move,    &Session::turn,      &Session::nudge,
+                                    &Session::clone,   &Session::extend,    &Session::drop,
+                                    &Session::drop,    &Session::swap,      &Session::fill,
+                                    &Session::erase,   &Session::scenery,   &Session::paste,
+                                    &Session::levels,  &Session::duplicate, &Session::notes,
+                                    &Session::heights, &Session::property,  &Session::property};
 
   Layout& layout_;
   Dice& dice_;

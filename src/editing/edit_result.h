@@ -36,6 +36,7 @@ struct EditResult {
 struct ChangeResult {
   bool changed = false;
   std::optional<Notice> refusal;
+  std::optional<Notice> remark = {}; ///< what the user should know of an edit that was done
 
   ChangeResult(bool didChange) : changed(didChange) {}
   ChangeResult(Notice reason) : refusal(std::move(reason)) {}

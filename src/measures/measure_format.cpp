@@ -5,17 +5,6 @@
 
 namespace trassix {
 
-namespace {
-
-std::string fixed(double value, int decimals) {
-  std::array<char, 64> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
-                                 std::chars_format::fixed, decimals);
-  return {text.data(), end.ptr};
-}
-
-} // namespace
-
 double millimetresPer(std::int32_t units) {
   switch (units) {
   case kCentimetres:
@@ -38,11 +27,18 @@ const char* unitName(std::int32_t units) {
   }
 }
 
+std::string formatFixed(double value, int decimals) {
+  std::array<char, 340> text; // holds any double
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
+                                 std::chars_format::fixed, decimals);
+  return {text.data(), end.ptr};
+}
+
 namespace {
 
 std::string lengthNumber(double mm, std::int32_t units) {
   const int decimals = units == kInches ? 3 : units == kCentimetres ? 2 : 1;
-  std::string text = fixed(mm / millimetresPer(units), decimals);
+  std::string text = formatFixed(mm / millimetresPer(units), decimals);
   // What rounds to nothing has no sign.
   if (text.starts_with('-') && text.find_first_not_of("-0.") == std::string::npos)
     text.erase(0, 1);

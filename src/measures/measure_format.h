@@ -16,6 +16,9 @@ double millimetresPer(std::int32_t units);
 /// "mm", "cm" or "in".
 const char* unitName(std::int32_t units);
 
+/// A number with so many decimals, never an exponent.
+std::string formatFixed(double value, int decimals);
+
 /// A length as the user reads it, for example "188.3 mm", "18.83 cm" or "7.413 in".
 std::string formatLength(double mm, std::int32_t units);
 

@@ -232,9 +232,9 @@ TEST(PropertyChange, refusedInputChangesNothing) {
   sample.layout.undo();
 
   sample.layout.editPiece(3)->helix = 1;
-  EXPECT_EQ(enter(sample.layout, "height", "9", answers.confirm).refusal->title,
-            "Helix track is locked");
   sample.select({3});
+  EXPECT_EQ(enter(sample.layout, "height", "9", answers.confirm).refusal.value().title,
+            "Helix track is locked");
   EXPECT_TRUE(enter(sample.layout, "heading", "9", answers.confirm).refusal);
   sample.layout.edit().tunnels.emplace_back().portalA = sample.scenery;
   sample.select({sample.scenery}); // a portal

@@ -239,6 +239,7 @@ TEST_F(FrameTest, UnitsViewAndThePointersPlaceFollowThePlan) {
   };
   const auto field = [this] { return frame().GetStatusBar()->GetStatusText(2); };
   dropPiece(plan(), "8500", {9000, 0, 0}, {}, false);
+  plan().startGradeRun(plan().pieces().back().id, 1, 2);
   const wxString name(L'\u00fc', 300);
   ASSERT_EQ(saveLayout(plan(), home() / "mm.txl", name.utf8_string()), "");
   moveMouse({frame().canvasPanel(), {300, 200}});
@@ -249,6 +250,10 @@ TEST_F(FrameTest, UnitsViewAndThePointersPlaceFollowThePlan) {
   EXPECT_EQ(field(), place(inches, 25.4));
   ASSERT_TRUE(frame().loadLayout(home() / "mm.txl"));
   EXPECT_EQ(field(), place("x: %.0f  y: %.0f mm", 1));
+  const wxString runs = "[ELEV] 2.0 deg  (right-click piece to stop)";
+  EXPECT_EQ(frame().GetStatusBar()->GetStatusText(0), runs);
+  frame().workspace().setHint("a hint");
+  EXPECT_EQ(frame().GetStatusBar()->GetStatusText(0), runs + "    a hint");
   EXPECT_TRUE(frame().canvasPanel().GetClientRect().Contains(onPlan({9055, 0}).client))
       << "small track far out is brought into view";
   frame().workspace().changed();

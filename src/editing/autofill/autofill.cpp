@@ -5,6 +5,7 @@
 #include "document/undo_scope.h"
 #include "editing/autofill/arc_fill.h"
 #include "editing/autofill/straight_fill.h"
+#include "editing/elevation/inheritance.h"
 #include "editing/joining/joining.h"
 #include "editing/placing/placing.h"
 #include "editing/selection/selection.h"
@@ -199,14 +200,22 @@ bool Rest::joins() const {
   return reaches() && height <= (graded ? kClosingDistance : kSameHeight);
 }
 
-Rest restOf(const Gap& gap, const FillCandidate& candidate) {
+Rest restOf(const Gap& gap, const FillCandidate& candidate, double limit) {
   WorldConnector last = gap.start;
-  for (const FillPiece& piece : fillPieces(gap, candidate))
+  double run = 0;
+  for (const FillPiece& piece : fillPieces(gap, candidate)) {
     last = farEnd(piece, candidate);
-  return {std::hypot(last.x - gap.end.x, last.y - gap.end.y), std::abs(gap.rise), gap.graded};
+    run += runTo(*piece.definition, 1);
+  }
+  Rest rest{std::hypot(last.x - gap.end.x, last.y - gap.end.y), std::abs(gap.rise), 0, gap.graded};
+  if (rest.reaches() && rest.height > kSameHeight && rest.height <= run * limit) {
+    rest.slope = gap.rise / run;
+    rest.height = 0;
+  }
+  return rest;
 }
 
-EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candidate) {
+EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candidate, double limit) {
   const std::vector<FillPiece> pieces = fillPieces(gap, candidate);
   if (pieces.size() != candidate.articles.size())
     return {{},
@@ -231,7 +240,11 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
     placed.push_back(id);
     before = {id, 1 - enter};
   }
-  if (restOf(gap, candidate).joins() && openAt(layout, gap.endPiece, gap.end.index))
+  const Rest rest = restOf(gap, candidate, limit);
+  if (rest.reaches())
+    layBetween(layout, placed, {placed.front(), enter}, {before.target, before.tconn}, height,
+               rest.slope == 0 ? height : height + gap.rise);
+  if (rest.joins() && openAt(layout, gap.endPiece, gap.end.index))
     join(layout, before.target, before.tconn, gap.endPiece, gap.end.index);
   std::vector<std::int32_t> sorted = placed; // ids may have started over
   std::ranges::sort(sorted);

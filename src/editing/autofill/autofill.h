@@ -4,6 +4,7 @@
 
 #include "document/layout.h"
 #include "editing/edit_result.h"
+#include "editing/elevation/grades.h"
 #include "editing/track/connector_geometry.h"
 
 #include <cstdint>
@@ -51,21 +52,24 @@ bool canAutofill(const Layout& layout);
 /// them is missing or not in the catalogue: then there is nothing to say either.
 std::optional<Autofill> solveAutofill(const Layout& layout, std::int32_t a, std::int32_t b);
 
-/// What a fill leaves between its last end and the gap's end.
+/// What a fill leaves between its last end and the gap's end. It climbs to that where it reaches it
+/// and need not be steeper than `limit`; else it lies level.
 struct Rest {
   double distance = 0; ///< mm in the plan
   double height = 0;   ///< mm
+  double slope = 0;    ///< of the fill, rise over length of way
   bool graded = false; ///< of the gap's end
 
   bool reaches() const; ///< near enough in the plan, within 1.0 mm
   bool joins() const;   ///< and in height: where the end climbs at most 1.0 mm, else none
 };
-Rest restOf(const Gap& gap, const FillCandidate& candidate);
+Rest restOf(const Gap& gap, const FillCandidate& candidate, double limit = kSteepestSlope);
 
 /// Places the fill as one undo step, joined from piece to piece and, where the rest allows it, to
-/// the gap's end. It lies on the level of the start piece, at the height of the end where it
-/// starts. Refused when an article is missing or has fewer than two ends; nothing happens when the
-/// gap's start is joined by now.
-EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candidate);
+/// the gap's end. It lies on the level of the start piece and goes on at the height of the end
+/// where it starts, with the one grade that the rest tells. Refused when an article is missing or
+/// has fewer than two ends; nothing happens when the gap's start is joined by now.
+EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candidate,
+                     double limit = kSteepestSlope);
 
 } // namespace trassix

@@ -1,23 +1,14 @@
 #include "editing/autofill/autofill_messages.h"
 
 #include "catalog/track_catalog.h"
+#include "measures/measure_format.h"
 #include "texts/texts.h"
-
-#include <array>
-#include <charconv>
 
 namespace trassix {
 
 namespace {
 
 constexpr const char* kNoSolution = trLater("Autofill - No Solution");
-
-std::string oneDecimal(double value) {
-  std::array<char, 340> text; // holds any double
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 1);
-  return {text.data(), end.ptr};
-}
 
 std::string describe(const PlacedPiece& piece) {
   const PieceDef* definition = definitionOf(piece);
@@ -50,7 +41,7 @@ std::optional<Notice> autofillNotice(const Layout& layout, std::int32_t a, std::
            "Autofill can bridge a straight gap, or a gap spanned by a single arc (a corner, "
            "a semicircle, or the rest of a circle). Gaps needing an S-curve, or a mix of "
            "curves and straights, are not supported.")};
-  const std::string distance = oneDecimal(result.gap->distance);
+  const std::string distance = formatFixed(result.gap->distance, 1);
   if (result.gap->kind == GapKind::Straight)
     return Notice{tr(kNoSolution), tr("Gap is %1%mm. No combination of catalog straights fills it "
                                       "within tolerance.",
@@ -65,26 +56,30 @@ std::optional<Notice> autofillNotice(const Layout& layout, std::int32_t a, std::
 }
 
 std::string autofillPrompt(const Gap& gap) {
-  return tr("Gap: %1% mm. Select fill:", {oneDecimal(gap.distance)});
+  return tr("Gap: %1% mm. Select fill:", {formatFixed(gap.distance, 1)});
 }
 
 std::string autofillRow(GapKind kind, const FillCandidate& candidate) {
   if (kind == GapKind::Arc)
     return std::to_string(candidate.articles.size()) + " x " +
            (candidate.articles.empty() ? "" : displayName(candidate.articles.front())) + "  (" +
-           oneDecimal(candidate.total) + " deg)";
+           formatFixed(candidate.total, 1) + " deg)";
   std::string row;
   for (const std::string& article : candidate.articles)
     row += (row.empty() ? "" : " + ") + displayName(article);
-  return row + "  (" + oneDecimal(candidate.total) + " mm)";
+  return row + "  (" + formatFixed(candidate.total, 1) + " mm)";
 }
 
 std::string autofillRest(const Rest& rest) {
   constexpr double kShown = 0.05; // mm: less would read 0.0
   const auto apart = [](double mm, const char* text) {
-    return mm < kShown ? std::string() : tr(text, {oneDecimal(mm)});
+    return mm < kShown ? std::string() : tr(text, {formatFixed(mm, 1)});
   };
-  return joinTexts({rest.joins() ? tr("Joins both ends") : tr("Leaves the far end open"),
+  const std::string percent = formatFixed(std::abs(percentOf(rest.slope)), 1);
+  const std::string climb = rest.slope == 0  ? std::string()
+                            : rest.slope > 0 ? tr("climbing %1% %%", {percent})
+                                             : tr("falling %1% %%", {percent});
+  return joinTexts({rest.joins() ? tr("Joins both ends") : tr("Leaves the far end open"), climb,
                     apart(rest.distance, trLater("%1% mm apart")),
                     apart(rest.height, trLater("%1% mm apart in height"))},
                    ", ") +

@@ -2,6 +2,7 @@
 
 #include "editing/autofill/autofill.h"
 #include "editing/autofill/autofill_messages.h"
+#include "editing/canvas/selection_commands.h"
 #include "editing/selection/selection.h"
 #include "host/plan_preview.h"
 #include "texts/texts.h"
@@ -52,7 +53,14 @@ void runAutofill(ToolSite& site) {
   const std::optional<std::size_t> chosen = chooseFill(site, *fills);
   if (!chosen)
     return;
-  const EditResult result = placeFill(site.layout(), *fills->gap, fills->candidates[*chosen]);
+  // A fill that only too steep a grade would join may be laid level instead.
+  const FillCandidate& fill = fills->candidates[*chosen];
+  const Rest rest = restOf(*fills->gap, fill);
+  const Rest steep = restOf(*fills->gap, fill, 1);
+  const bool steepens =
+      !rest.joins() && steep.joins() && maySteepen(site, tr("Autofill Gap"), steep.slope);
+  const EditResult result =
+      placeFill(site.layout(), *fills->gap, fill, steepens ? 1 : kSteepestSlope);
   if (result.refusal)
     endUnfilled(site, result.refusal);
   else

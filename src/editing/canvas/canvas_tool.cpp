@@ -34,6 +34,8 @@ void ToolSite::report(const ChangeResult& result) {
     questions().show(*result.refusal);
   if (result.changed)
     workspace.changed();
+  if (result.remark)
+    questions().show(*result.remark);
 }
 
 void ToolSite::reportExtension(const EditResult& result) {

@@ -2,6 +2,7 @@
 
 #include "editing/canvas/carried_painter.h"
 #include "editing/canvas/meetings.h"
+#include "editing/elevation/inheritance.h"
 #include "editing/placing/block_placing.h"
 #include "texts/texts.h"
 
@@ -13,24 +14,30 @@ CarryBlockTool::CarryBlockTool(ToolSite& site, Block block, bool held)
 void CarryBlockTool::posed() {
   landing_ = pose();
   meetings_.clear();
+  landsOn_.reset();
   if (!site_.workspace.switches().snap)
     return;
-  const auto endsAt = [this](const Pose& at) {
+  const auto endsAt = [this](const Pose& at, double rise) {
     const RigidMotion motion{{}, at};
     std::vector<PlacedEnd> ends = ends_;
     for (PlacedEnd& end : ends) {
       end.at = motion(end.at);
       end.heading = normaliseHeading(end.heading + at.heading);
+      end.height += rise;
     }
     return ends;
   };
-  if (const auto snap = site_.snapIndex().findGroupSnap(endsAt(pose()), {}))
-    landing_ = motionOnto(snap->own, snap->target)(pose());
-  meetings_ = site_.snapIndex().findMeetings(endsAt(landing_), {});
+  const auto snap = site_.snapIndex().findGroupSnap(endsAt(pose(), 0), {});
+  if (!snap)
+    return;
+  landing_ = motionOnto(snap->own, snap->target)(pose());
+  landsOn_ = TrackEnd{snap->target.piece, snap->target.connector};
+  const double rise = snap->target.height - snap->own.height;
+  meetings_ = site_.snapIndex().findMeetings(endsAt(landing_, rise), {});
 }
 
 EditResult CarryBlockTool::drop() {
-  return placeBlock(site_.layout(), block_, landing_);
+  return placeBlock(site_.layout(), block_, landing_, landsOn_);
 }
 
 void CarryBlockTool::paint(Surface& surface) const {
@@ -47,7 +54,8 @@ std::string CarryBlockTool::hint() const {
   });
   return hintOf({block_.name.empty() ? tr("Click to place the copy")
                                      : tr("Click to place %1%", {block_.name}),
-                 meetingsHint(meetings_), site_.landingHint(levels), turningHint()});
+                 meetingsHint(meetings_), missText(meetings_, site_.layout().settings().units),
+                 site_.landingHint(levels), turningHint()});
 }
 
 } // namespace trassix

@@ -2,7 +2,9 @@
 
 #include "document/block_file.h"
 #include "editing/canvas/carry_tool.h"
+#include "editing/track/track_end.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,7 +27,8 @@ class CarryBlockTool : public CarryTool {
   Block block_;
   std::vector<PlacedEnd> ends_; ///< those that are open or will be, as they lie in the block
   Pose landing_;
-  std::vector<EndContact> meetings_; ///< ends that will be joined there
+  std::optional<TrackEnd> landsOn_;  ///< the end that it has snapped to
+  std::vector<EndContact> meetings_; ///< ends that lie on others there
 };
 
 } // namespace trassix

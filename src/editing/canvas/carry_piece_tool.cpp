@@ -2,6 +2,8 @@
 
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/elevation/inheritance.h"
+#include "editing/placing/placing.h"
 #include "editing/placing/runs.h"
 #include "editing/placing/ways.h"
 #include "editing/selection/open_ends.h"
@@ -112,7 +114,10 @@ std::string CarryPieceTool::hint() const {
   const bool hasWays = waysOf(definition_).size() > 1;
   const std::string article =
       count_ > 1 ? tr("%1% \u00d7 %2%", {count_, definition_.article}) : definition_.article;
-  return hintOf({tr(what, {article}), landing,
+  std::vector<EndContact> meetings;
+  if (snap_.snapped)
+    meetings = site_.snapIndex().findMeetings(landedEnds(layout, definition_, snap_), {});
+  return hintOf({tr(what, {article}), missText(meetings, layout.settings().units), landing,
                  hasWays ? tr("F: the other way round") : std::string(), turningHint()});
 }
 

@@ -1,4 +1,5 @@
-// Ends of a carried group that will be joined where it is, marked and counted.
+// Ends of a carried group that will be joined where it is, marked and counted. Those of its
+// meetings that are off in height stay open.
 #pragma once
 
 #include "editing/canvas/surface.h"
@@ -12,6 +13,8 @@ namespace trassix {
 
 void paintMeetings(Surface& surface, const ViewTransform& view,
                    std::span<const EndContact> meetings);
+
+std::size_t joiningEnds(std::span<const EndContact> meetings);
 
 /// "2 ends join"; empty when none does.
 std::string meetingsHint(std::span<const EndContact> meetings);

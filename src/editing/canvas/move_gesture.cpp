@@ -4,6 +4,7 @@
 #include "editing/canvas/meetings.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/selection_commands.h"
+#include "editing/elevation/inheritance.h"
 #include "editing/selection/selection.h"
 #include "texts/texts.h"
 
@@ -92,7 +93,9 @@ std::string MoveGesture::hint() const {
   const std::int32_t level = layout.findPiece(move_.snap()->target)->level;
   const bool stays = layout.findPiece(move_.snappingPiece())->level == level;
   const std::vector<EndContact> meetings = move_.meetings(site_.snapIndex());
-  return hintOf({tr("Let go to join"), meetings.size() > 1 ? meetingsHint(meetings) : std::string(),
+  return hintOf({tr("Let go to join"),
+                 joiningEnds(meetings) > 1 ? meetingsHint(meetings) : std::string(),
+                 missText(meetings, layout.settings().units),
                  stays ? std::string() : site_.landingHint({level}), tr("Esc: as it was")});
 }
 

@@ -1,5 +1,6 @@
 #include "editing/canvas/selection_commands.h"
 
+#include "editing/elevation/grades.h"
 #include "editing/levels/level_edits.h"
 #include "editing/placing/block_placing.h"
 #include "editing/records_by_id.h"
@@ -8,7 +9,10 @@
 #include "editing/selection/property_edits.h"
 #include "editing/selection/selection.h"
 #include "host/shape_answer.h"
+#include "measures/measure_format.h"
 #include "texts/texts.h"
+
+#include <cmath>
 
 namespace trassix {
 
@@ -17,6 +21,15 @@ bool refuseLocked(ToolSite& site, const char* verb) {
   if (refusal)
     site.questions().show(*refusal);
   return refusal.has_value();
+}
+
+bool maySteepen(ToolSite& site, const std::string& title, double slope) {
+  return std::abs(slope) <= kSteepestSlope ||
+         site.questions().confirm(
+             {title, tr("The track would be %1% %% steep, and more than %2% %% is too much for any "
+                        "train. Go on?",
+                        {formatFixed(std::abs(percentOf(slope)), 1),
+                         formatFixed(percentOf(kSteepestSlope), 0)})});
 }
 
 bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const std::string& title) {

@@ -6,6 +6,7 @@
 #include "editing/canvas/autofill_command.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/canvas/swap_command.h"
+#include "editing/elevation/grade_runs.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
@@ -29,6 +30,11 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
                     }});
     rows.push_back({tr("Select Joined Track"), tr("Alt+Double-click"), true,
                     [&site, piece] { selectChain(site, piece); }});
+    if (runOver(layout, piece) != -1)
+      rows.push_back({tr("End Grade Here"), "", true, [&site, piece] {
+                        if (endGradeHere(site.layout(), piece))
+                          site.workspace.changed();
+                      }});
   }
   if (onPiece && canSwap(layout, under.front().id))
     rows.push_back(

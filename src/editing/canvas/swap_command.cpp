@@ -1,9 +1,11 @@
 #include "editing/canvas/swap_command.h"
 
 #include "editing/canvas/selection_commands.h"
+#include "editing/elevation/grades.h"
 #include "editing/placing/flipping.h"
 #include "editing/placing/swapping.h"
 #include "host/plan_preview.h"
+#include "measures/measure_format.h"
 #include "texts/texts.h"
 
 #include <algorithm>
@@ -13,10 +15,13 @@ namespace trassix {
 
 namespace {
 
+constexpr double kShownChange = 0.0005; // of a slope: less would read the same
+
 /// One way in which something takes the piece's place.
 struct SwapRow {
   std::string text;
   std::function<ChangeResult(Layout&)> edit;
+  double steeper = 0; ///< slope of the piece when that gets more, rise over length
 };
 
 /// What is placed, where, and by which of its ends it takes the place of the present one's first
@@ -89,7 +94,7 @@ std::vector<SwapRow> swapRows(const Layout& layout, std::int32_t id) {
     return {};
   std::vector<SwapRow> rows;
   const auto add = [&rows](const PieceDef& definition, const std::string& words, auto edit) {
-    rows.push_back({joinTexts({definition.name, words}, ": "), edit});
+    rows.push_back({joinTexts({definition.name, words}, ": "), edit, 0});
   };
   const std::int32_t joined = firstJoined(*piece);
   // The curve's other side and the turnout's other ends.
@@ -101,7 +106,10 @@ std::vector<SwapRow> swapRows(const Layout& layout, std::int32_t id) {
   for (const SwapFit& fit : fits) {
     const std::int32_t enter = fit.ends[static_cast<std::size_t>(joined)];
     add(*fit.definition, lies({*fit.definition, fit.pose, std::max(enter, 0)}),
-        [id, fit](Layout& plan) { return ChangeResult(swapPiece(plan, id, fit)); });
+        [id, fit](Layout& plan) { return swapPiece(plan, id, fit); });
+    if (const double slope = std::abs(slopeAfterSwap(layout, id, fit));
+        slope > std::abs(slopeOf(*piece)) + kShownChange)
+      rows.back().steeper = slope;
   }
   // Where words do not tell two apart, their ends do.
   const std::vector<SwapRow> before = rows;
@@ -126,14 +134,19 @@ void runSwap(ToolSite& site, std::int32_t piece) {
   Choice choice;
   choice.title = tr("Swap");
   choice.line = tr("What takes the place of %1%:", {definitionOf(*present)->name});
-  for (const SwapRow& row : rows)
+  for (const SwapRow& row : rows) {
     choice.rows.push_back(row.text);
+    choice.notes.push_back(
+        row.steeper == 0 ? std::string()
+                         : tr("It will climb %1% %%.", {formatFixed(percentOf(row.steeper), 1)}));
+  }
   choice.accept = tr("Swap");
   choice.about = {present->x, present->y};
   choice.highlighted = [&](std::size_t row) {
     preview.showEdit([&](Layout& scratch) { rows[row].edit(scratch); });
   };
-  if (const std::optional<std::size_t> chosen = site.questions().choose(choice))
+  const std::optional<std::size_t> chosen = site.questions().choose(choice);
+  if (chosen && maySteepen(site, tr("Swap"), rows[*chosen].steeper))
     site.report(rows[*chosen].edit(site.layout()));
 }
 

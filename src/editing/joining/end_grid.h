@@ -26,6 +26,13 @@ struct PlacedEnd {
   bool graded = false;        ///< the piece has a grade
 };
 
+/// Two ends that would join.
+struct EndContact {
+  PlacedEnd own;
+  PlacedEnd target;
+  double distance = 0; ///< mm between them in the plan
+};
+
 /// Appends the ends of a piece in index order. A piece whose article is unknown has none.
 void appendEnds(std::vector<PlacedEnd>& ends, const PlacedPiece& piece, std::int32_t position,
                 bool visible);

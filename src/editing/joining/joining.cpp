@@ -2,12 +2,12 @@
 
 #include "catalog/track_catalog.h"
 #include "editing/joining/end_grid.h"
-#include "editing/track/routes.h"
 #include "geometry/box.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
+#include <tuple>
+#include <utility>
 
 namespace trassix {
 
@@ -29,12 +29,6 @@ bool hasOpenEnd(const Layout& layout, std::int32_t id, std::int32_t connector) {
   const std::size_t ends =
       definition == nullptr ? piece->joints.size() : definition->connectors.size();
   return slot < ends && piece->joint(slot).open();
-}
-
-bool meet(const PlacedEnd& a, const PlacedEnd& b, double distance, MeetingPlay play) {
-  return a.piece != b.piece && a.system == b.system && distance <= play.distance &&
-         std::abs(a.height - b.height) <= (a.graded || b.graded ? play.height : kSameHeight) &&
-         180.0 - headingDifference(a.heading, b.heading) <= play.facing;
 }
 
 /// Where the pieces lie that can have an end within `distance` mm of one of these, of which there
@@ -64,22 +58,6 @@ void visitOutwardJoints(const Layout& layout, std::span<const std::int32_t> piec
 
 bool containsId(std::span<const std::int32_t> sortedIds, std::int32_t id) {
   return std::binary_search(sortedIds.begin(), sortedIds.end(), id);
-}
-
-bool isGraded(const PlacedPiece& piece) {
-  return std::abs(piece.grade) > 0.001;
-}
-
-double endHeight(const PlacedPiece& piece, const PieceDef& definition, std::int32_t connector) {
-  if (piece.grade == 0)
-    return piece.z;
-  for (const Route& route : routesOf(definition)) {
-    if (route.to == connector) {
-      const double rise = routeLength(route) * std::sin(toRadians(piece.grade));
-      return piece.rev ? piece.z - rise : piece.z + rise;
-    }
-  }
-  return piece.z;
 }
 
 const PlacedPiece* joinedPiece(const Layout& layout, const PlacedPiece& piece,
@@ -133,7 +111,20 @@ Detachment detachmentOf(const Layout& layout, std::span<const std::int32_t> piec
   return result;
 }
 
-int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces, MeetingPlay play) {
+bool meetsInPlan(const EndContact& contact, const MeetingPlay& play) {
+  const PlacedEnd& a = contact.own;
+  const PlacedEnd& b = contact.target;
+  return a.piece != b.piece && a.system == b.system && contact.distance <= play.distance &&
+         180.0 - headingDifference(a.heading, b.heading) <= play.facing;
+}
+
+bool meetsInHeight(const EndContact& contact, const MeetingPlay& play) {
+  const double apart = std::abs(contact.own.height - contact.target.height);
+  return apart <= (contact.own.graded || contact.target.graded ? play.height : kSameHeight);
+}
+
+std::vector<EndContact> openContacts(const Layout& layout, std::span<const std::int32_t> pieces,
+                                     const MeetingPlay& play) {
   std::vector<PlacedEnd> own;
   std::vector<PlacedEnd> others;
   std::int32_t position = 0;
@@ -145,7 +136,7 @@ int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces, Meeti
   }
   std::erase_if(own, [](const PlacedEnd& end) { return end.joinedTo != -1; });
   if (own.empty())
-    return 0;
+    return {};
   const EndGrid ownGrid(own);
   const Box mayMeet = aroundPiecesOf(own, play.distance);
   position = 0;
@@ -165,27 +156,32 @@ int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces, Meeti
     }
   }
 
-  int made = 0;
+  std::vector<EndContact> contacts;
   const EndGrid grid(std::move(others));
-  for (const PlacedEnd& mine : own) {
-    const PlacedEnd* nearest = nullptr;
-    double best = std::numeric_limits<double>::max();
+  for (const PlacedEnd& mine : own)
     grid.visitNear(mine.at, play.distance, [&](const PlacedEnd& end) {
-      const double distance = std::hypot(end.at.x - mine.at.x, end.at.y - mine.at.y);
-      if (!meet(mine, end, distance, play) || distance > best ||
-          (distance == best && std::pair(nearest->position, nearest->connector) <
-                                   std::pair(end.position, end.connector)))
-        return;
-      const PlacedPiece* other = layout.findPiece(end.piece);
-      if (other == nullptr || !other->joint(static_cast<std::size_t>(end.connector)).open())
-        return;
-      nearest = &end;
-      best = distance;
+      const EndContact contact{mine, end, std::hypot(end.at.x - mine.at.x, end.at.y - mine.at.y)};
+      if (meetsInPlan(contact, play))
+        contacts.push_back(contact);
     });
-    const PlacedPiece* piece = layout.findPiece(mine.piece);
-    if (nearest == nullptr || !piece->joint(static_cast<std::size_t>(mine.connector)).open())
+  std::ranges::stable_sort(contacts, {}, [](const EndContact& contact) {
+    return std::tuple(contact.own.position, contact.own.connector, contact.distance,
+                      contact.target.position, contact.target.connector);
+  });
+  return contacts;
+}
+
+int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces, MeetingPlay play) {
+  const auto isOpen = [&layout](const PlacedEnd& end) {
+    const PlacedPiece* piece = layout.findPiece(end.piece);
+    return piece != nullptr && piece->joint(static_cast<std::size_t>(end.connector)).open();
+  };
+  int made = 0;
+  for (const EndContact& contact : openContacts(layout, pieces, play)) {
+    if (!meetsInHeight(contact, play) || !isOpen(contact.own) || !isOpen(contact.target))
       continue;
-    join(layout, mine.piece, mine.connector, nearest->piece, nearest->connector);
+    join(layout, contact.own.piece, contact.own.connector, contact.target.piece,
+         contact.target.connector);
     ++made;
   }
   return made;

@@ -2,25 +2,18 @@
 #pragma once
 
 #include "document/layout.h"
+#include "editing/elevation/end_heights.h"
+#include "editing/joining/end_grid.h"
 #include "editing/track/connector_geometry.h"
 
 #include <span>
+#include <vector>
 
 namespace trassix {
 
 /// Tolerances within which ends that meet by geometry are joined although nobody snapped them.
 inline constexpr double kClosingDistance = 1.0; ///< mm, in the plan; of grades also in height
 inline constexpr double kClosingFacing = 1.0;   ///< degrees off exactly opposite
-
-/// Grades below a thousandth of a degree count as level.
-bool isGraded(const PlacedPiece& piece);
-
-/// Height of an end in mm: a graded piece rises by length times sin(grade) from connector 0 towards
-/// its other ends, and falls when its grade is reversed.
-double endHeight(const PlacedPiece& piece, const PieceDef& definition, std::int32_t connector);
-
-/// Level ends whose heights differ by more, in mm, are at different heights.
-inline constexpr double kSameHeight = 0.001;
 
 /// How far apart ends may be that count as meeting.
 struct MeetingPlay {
@@ -60,6 +53,16 @@ Detachment detachmentOf(const Layout& layout, std::span<const std::int32_t> piec
 /// document order. Level track is joined only where it leaves no step. No pose changes. Returns the
 /// number of joints made.
 int closeMeetingEnds(Layout& layout, std::span<const std::int32_t> pieces, MeetingPlay play = {});
+
+/// Whether the two ends of a contact, which are of different pieces, meet within the play but for
+/// their heights, and whether their heights do: those of level track leave no step.
+bool meetsInPlan(const EndContact& contact, const MeetingPlay& play = {});
+bool meetsInHeight(const EndContact& contact, const MeetingPlay& play = {});
+
+/// The open ends of any other piece that the open ends of `pieces` (sorted ids) meet within the
+/// play but for their heights, same system.
+std::vector<EndContact> openContacts(const Layout& layout, std::span<const std::int32_t> pieces,
+                                     const MeetingPlay& play = {});
 
 /// True when `id` is among the sorted ids.
 bool containsId(std::span<const std::int32_t> sortedIds, std::int32_t id);

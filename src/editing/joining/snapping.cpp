@@ -154,20 +154,21 @@ std::optional<EndContact> SnapIndex::findGroupSnap(std::span<const PlacedEnd> en
 
 std::vector<EndContact> SnapIndex::findMeetings(std::span<const PlacedEnd> ends,
                                                 std::span<const std::int32_t> group) const {
+  const auto rank = [](const EndContact& contact) {
+    return std::pair(!meetsInHeight(contact), contact.distance);
+  };
   std::vector<EndContact> meetings;
   for (const PlacedEnd& mine : ends) {
-    std::optional<EndContact> nearest;
+    std::optional<EndContact> best;
     data_->grid.visitNear(mine.at, kClosingDistance, [&](const PlacedEnd& end) {
-      const double distance = distanceBetween(end.at, mine.at);
-      if (end.system == mine.system && !containsId(group, end.piece) &&
+      const EndContact contact{mine, end, distanceBetween(end.at, mine.at)};
+      if (!containsId(group, end.piece) && meetsInPlan(contact) &&
           (end.joinedTo == -1 || (containsId(group, end.joinedTo) && leaves(ends, end))) &&
-          distance <= kClosingDistance && std::abs(end.height - mine.height) <= kClosingDistance &&
-          headingDifference(end.heading, mine.heading + 180) <= kClosingFacing &&
-          (!nearest || distance < nearest->distance))
-        nearest = EndContact{mine, end, distance};
+          (!best || rank(contact) < rank(*best)))
+        best = contact;
     });
-    if (nearest)
-      meetings.push_back(*nearest);
+    if (best)
+      meetings.push_back(*best);
   }
   return meetings;
 }

@@ -36,13 +36,6 @@ SnapResult FindSnap(const PieceDef& carried, const Pose& pose,
 /// The ends of a piece that is not on the plan.
 std::vector<PlacedEnd> endsOfCarried(const PieceDef& carried, const Pose& pose);
 
-/// Two ends that would join.
-struct EndContact {
-  PlacedEnd own;
-  PlacedEnd target;
-  double distance = 0; ///< mm between them
-};
-
 /// The motion that lays one end on the other, facing it.
 RigidMotion motionOnto(const PlacedEnd& own, const PlacedEnd& target);
 
@@ -80,7 +73,8 @@ class SnapIndex {
   std::optional<EndContact> findGroupSnap(std::span<const PlacedEnd> ends,
                                           std::span<const std::int32_t> group) const;
 
-  /// Every end of the group that would lie on a free end of the rest, close enough to be joined.
+  /// Every end of the group that would lie on a free end of the rest, close enough to be joined but
+  /// for its height; where there are several on one that it would be joined with.
   std::vector<EndContact> findMeetings(std::span<const PlacedEnd> ends,
                                        std::span<const std::int32_t> group) const;
 

@@ -3,6 +3,8 @@
 #include "document/layout.h"
 #include "document/limits.h"
 #include "document/undo_scope.h"
+#include "editing/elevation/deck_ramps.h"
+#include "editing/elevation/grade_runs.h"
 #include "editing/joining/joining.h"
 #include "editing/selection/selection.h"
 #include "geometry/polygons.h"
@@ -17,7 +19,6 @@ namespace trassix {
 namespace {
 
 constexpr std::size_t kFewestCorners = 3;
-constexpr double kStep = 1e-6; // mm: anything less is rounding
 
 /// What becomes of a level and what stands there.
 struct Fate {
@@ -69,37 +70,39 @@ void removeDoomed(PlanContent& content, const Fates& fates) {
 /// Pieces that rise, by id.
 using Rises = std::unordered_map<std::int32_t, double>;
 
-Rises moveToFates(PlanContent& content, const Fates& fates) {
+Rises risesOf(const PlanContent& content, const Fates& fates) {
   Rises rises;
-  for (PlacedPiece& piece : content.pieces) {
-    const auto fate = fates.find(piece.level);
-    if (fate == fates.end() || fate->second.rise == 0)
-      continue;
-    piece.z += fate->second.rise;
-    rises[piece.id] = fate->second.rise;
-  }
+  for (const PlacedPiece& piece : content.pieces)
+    if (const auto fate = fates.find(piece.level); fate != fates.end() && fate->second.rise != 0)
+      rises[piece.id] = fate->second.rise;
+  return rises;
+}
+
+/// Records come to the levels that they go to; track rises.
+void moveToFates(PlanContent& content, const Fates& fates, const Rises& rises) {
+  for (PlacedPiece& piece : content.pieces)
+    if (const auto rise = rises.find(piece.id); rise != rises.end())
+      piece.z += rise->second;
   forEachOnLevels(content, [&fates](auto& records) {
     for (auto& record : records)
       if (const auto fate = fates.find(record.level); fate != fates.end())
         record.level = *fate->second.level;
   });
-  return rises;
 }
 
-void openSteps(Layout& layout, const Rises& rises) {
-  const auto riseOf = [&rises](std::int32_t piece) {
-    const auto found = rises.find(piece);
-    return found == rises.end() ? 0.0 : found->second;
-  };
+void liftTrack(Layout& layout, const Fates& fates) {
+  const Rises rises = risesOf(layout.content(), fates);
+  const DeckPlan plan = planDecks(layout, rises);
+  moveToFates(layout.edit(), fates, rises);
+  for (const PieceHeight& ramp : plan.ramps)
+    lay(*layout.editPiece(ramp.piece), ramp);
+  for (const LoopGap& step : plan.steps)
+    openJoint(layout, step.end.piece, step.end.connector);
   std::vector<std::int32_t> risen;
-  for (const auto& [id, rise] : rises) {
+  for (const auto& [id, rise] : rises)
     risen.push_back(id);
-    const JointTable joints = layout.findPiece(id)->joints;
-    for (std::size_t i = 0; i < joints.size(); ++i)
-      if (!joints[i].open() && std::abs(rise - riseOf(joints[i].target)) > kStep)
-        openJoint(layout, id, static_cast<std::int32_t>(i));
-  }
   std::ranges::sort(risen);
+  dropStaleRuns(layout, risen);
   closeMeetingEnds(layout, risen, MeetingPlay::none());
 }
 
@@ -152,6 +155,13 @@ std::string levelLock(const Layout& layout, std::int32_t level) {
   return {};
 }
 
+std::vector<LoopGap> stepsBetweenLevels(const Layout& layout, const LevelChange& wanted) {
+  Layout scratch = layout;
+  const Fates fates = fatesOf(scratch, wanted);
+  removeDoomed(scratch.edit(), fates);
+  return planDecks(scratch, risesOf(scratch.content(), fates)).steps;
+}
+
 ChangeResult setLevels(Layout& layout, const LevelChange& wanted) {
   const PlanSettings& present = layout.settings();
   if (wanted.levels.empty() ||
@@ -163,7 +173,7 @@ ChangeResult setLevels(Layout& layout, const LevelChange& wanted) {
     return beyondPlan();
   UndoScope step(layout);
   removeDoomed(layout.edit(), fates);
-  openSteps(layout, moveToFates(layout.edit(), fates));
+  liftTrack(layout, fates);
   if (wanted.usedShape)
     removeShape(layout, *wanted.usedShape);
   PlanSettings& settings = layout.editSettings();

@@ -16,6 +16,7 @@
 namespace trassix {
 
 class Layout;
+struct LoopGap;
 struct Shape;
 
 /// Number of pieces, scenery items and shapes on a level.
@@ -42,9 +43,14 @@ struct LevelChange {
   bool operator==(const LevelChange&) const = default;
 };
 
+/// The joints that the change would open, because nothing between two levels can take up their
+/// difference: to be told, with their places, before.
+std::vector<LoopGap> stepsBetweenLevels(const Layout& layout, const LevelChange& wanted);
+
 /// Track rides with its level: it stays as high above it when the level is lifted, and comes to lie
 /// as high above the level that takes it over. Where track runs on to a level that does not ride
-/// along, the joint opens; ends that come to lie on others are joined. What is on a hidden level
+/// along, a ramp there takes up the difference, or else the joint opens; ends that come to lie on
+/// others are joined. What is on a hidden level
 /// does not stay selected.
 /// Refused when a level or its track would lie beyond the limits of a plan.
 ChangeResult setLevels(Layout& layout, const LevelChange& wanted);

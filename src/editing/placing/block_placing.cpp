@@ -3,6 +3,7 @@
 #include "document/limits.h"
 #include "document/repairs.h"
 #include "document/undo_scope.h"
+#include "editing/elevation/inheritance.h"
 #include "editing/joining/joining.h"
 #include "texts/texts.h"
 
@@ -122,7 +123,8 @@ Notice openedJoints(int count) {
 
 } // namespace
 
-EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose) {
+EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose,
+                      const std::optional<TrackEnd>& landsOn) {
   EditResult result;
   if (placed.empty())
     return result;
@@ -156,7 +158,10 @@ EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose) {
   createLevels(layout, block.content.pieces);
   if (const int opened = block.onLevels ? standOnLevels(layout, placedPieces) : 0; opened != 0)
     result.remark = openedJoints(opened);
+  landWhereMeeting(layout, placedPieces, landsOn);
   closeMeetingEnds(layout, placedPieces);
+  if (!result.remark)
+    result.remark = missedEndsNotice(layout, missedEnds(layout, placedPieces));
   step.keep();
   return result;
 }

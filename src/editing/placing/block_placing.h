@@ -5,6 +5,9 @@
 #include "document/layout.h"
 #include "editing/edit_result.h"
 #include "editing/track/connector_geometry.h"
+#include "editing/track/track_end.h"
+
+#include <optional>
 
 namespace trassix {
 
@@ -15,6 +18,10 @@ namespace trassix {
 /// not take their helix along, which is more than its track. Levels that the pieces are on and the
 /// plan lacks are created. Of a block that stands on its levels, joints between levels of different
 /// heights are opened, which the result remarks.
-EditResult placeBlock(Layout& layout, const Block& block, const Pose& pose);
+/// What hangs together comes to lie as high as an open end that it meets: `landsOn` if it does,
+/// else the one that is nearest in height. Ends that then are off in height stay open; the result
+/// names them.
+EditResult placeBlock(Layout& layout, const Block& block, const Pose& pose,
+                      const std::optional<TrackEnd>& landsOn = std::nullopt);
 
 } // namespace trassix

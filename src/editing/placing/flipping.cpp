@@ -2,6 +2,7 @@
 
 #include "document/limits.h"
 #include "document/undo_scope.h"
+#include "editing/elevation/grade_runs.h"
 #include "editing/joining/joining.h"
 #include "editing/placing/placing.h"
 #include "editing/placing/ways.h"
@@ -58,9 +59,12 @@ PlacedPiece flipped(const PlacedPiece& before, const PieceDef& definition, const
   piece.joints = {};
   piece.joints.resize(definition.connectors.size());
   // The track goes on climbing, or falling, away from the joint.
-  if ((how.from == 0) != (how.to == 0))
-    piece.rev = !piece.rev;
-  piece.z += endHeight(before, definition, how.from) - endHeight(piece, definition, how.to);
+  const double height = endHeight(before, definition, how.from);
+  if (before.grade != 0)
+    lay(piece, layTowards(piece, definition, how.to, oppositeEnd(definition, how.to), height,
+                          -slopeOut(before, definition, how.from)));
+  else
+    piece.z = height;
   return piece;
 }
 
@@ -125,6 +129,7 @@ ChangeResult flip(Layout& layout, const Flip& how) {
   *layout.editPiece(how.piece) = std::move(after);
   if (const Joint joint = before.joint(static_cast<std::size_t>(how.from)); !joint.open())
     join(layout, how.piece, how.to, joint.target, joint.tconn);
+  dropStaleRuns(layout, std::array{how.piece});
   closeMeetingEnds(layout, std::array{how.piece});
   return step.keep();
 }

@@ -3,6 +3,8 @@
 #include "catalog/track_catalog.h"
 #include "document/limits.h"
 #include "document/undo_scope.h"
+#include "editing/elevation/inheritance.h"
+#include "editing/elevation/propagation.h"
 #include "editing/joining/joining.h"
 #include "editing/placing/placing.h"
 #include "editing/selection/rigid_motion.h"
@@ -11,42 +13,12 @@
 #include "texts/texts.h"
 
 #include <algorithm>
-#include <unordered_set>
+#include <cmath>
+#include <span>
 
 namespace trassix {
 
 namespace {
-
-/// The end at which a train leaves that enters here, on the first way through; -1 when it ends in
-/// the piece.
-std::int32_t exitOf(const PieceDef& definition, std::int32_t enter) {
-  for (const Route& route : routesOf(definition)) {
-    if (route.from == enter)
-      return route.to;
-    if (route.to == enter)
-      return route.from;
-  }
-  return -1;
-}
-
-/// Sorted ids of what hangs together with `piece` when its joint at `connector` is open.
-std::vector<std::int32_t> sideOf(const Layout& layout, std::int32_t piece, std::int32_t connector) {
-  const Joint cut = layout.findPiece(piece)->joint(static_cast<std::size_t>(connector));
-  std::unordered_set<std::int32_t> met{piece};
-  std::vector<std::int32_t> side{piece};
-  for (std::size_t k = 0; k < side.size(); ++k) {
-    const PlacedPiece& from = *layout.findPiece(side[k]);
-    for (std::size_t i = 0; i < from.joints.size(); ++i) {
-      const PlacedPiece* next = joinedPiece(layout, from, i);
-      const bool isCut = (from.id == piece && static_cast<std::int32_t>(i) == connector) ||
-                         (from.id == cut.target && static_cast<std::int32_t>(i) == cut.tconn);
-      if (next != nullptr && !isCut && met.insert(next->id).second)
-        side.push_back(next->id);
-    }
-  }
-  std::sort(side.begin(), side.end());
-  return side;
-}
 
 /// mm of track along the main ways.
 double trackLength(const Layout& layout, const std::vector<std::int32_t>& pieces) {
@@ -103,7 +75,7 @@ std::optional<InsertSpot> findInsertSpot(const Layout& layout, const SnapIndex& 
   std::optional<EndContact> best;
   std::int32_t exit = -1;
   for (const PlacedEnd& own : endsOfCarried(carried, pose)) {
-    const std::int32_t leave = exitOf(carried, own.connector);
+    const std::int32_t leave = oppositeEnd(carried, own.connector);
     if (leave == -1)
       continue;
     const std::optional<EndContact> contact = index.findJoint(own, kInsertReach, kInsertFacing);
@@ -131,13 +103,13 @@ EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpo
       joinedTrack(layout, *near, spot.connector) == nullptr)
     return {};
   const Joint far = near->joint(static_cast<std::size_t>(spot.connector));
-  const std::vector<std::int32_t> nearSide = sideOf(layout, spot.piece, spot.connector);
+  const std::vector<std::int32_t> nearSide = hangingBeyond(layout, {far.target, far.tconn});
   if (containsId(nearSide, far.target))
     return {
         {},
         Notice{tr("Insert Piece"), tr("The track on both sides hangs together elsewhere, so that "
                                       "neither side can make room. Open the loop first.")}};
-  const std::vector<std::int32_t> farSide = sideOf(layout, far.target, far.tconn);
+  const std::vector<std::int32_t> farSide = hangingBeyond(layout, {spot.piece, spot.connector});
   const bool farMoves = trackLength(layout, farSide) <= trackLength(layout, nearSide);
   const std::vector<std::int32_t>& moving = farMoves ? farSide : nearSide;
   if (auto refusal = lockGuard(layout, moving, "move"))
@@ -160,8 +132,11 @@ EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpo
   const std::int32_t id = addPiece(layout, *definition, pose, fixed.level, height);
   movePieces(layout, moving, motion);
   join(layout, id, ownStays, stays.target, stays.tconn);
-  inheritElevation(layout, id, stays.target, stays.tconn);
-  join(layout, id, ownMoves, moves.target, moves.tconn);
+  const TrackEnd last{id, ownMoves};
+  const TrackEnd goesOn{moves.target, moves.tconn};
+  layBetween(layout, std::span(&id, 1), {id, ownStays}, last, height, endHeight(layout, goesOn));
+  if (std::abs(endHeight(layout, goesOn) - endHeight(layout, last)) <= kClosingDistance)
+    join(layout, id, ownMoves, moves.target, moves.tconn);
 
   std::vector<std::int32_t> touched = moving;
   touched.push_back(id);

@@ -4,6 +4,7 @@
 #include "catalog/track_catalog.h"
 #include "document/limits.h"
 #include "document/undo_scope.h"
+#include "editing/elevation/inheritance.h"
 #include "editing/joining/joining.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/selection.h"
@@ -61,8 +62,8 @@ Notice incompatible(TrackSystem added, TrackSystem present) {
           Notice::Icon::Warning};
 }
 
-/// Appends a piece joined by its connector `own` to `connector` of `from`, on the same level and at
-/// the same height.
+/// Appends a piece joined by its connector `own` to `connector` of `from`, on the same level, which
+/// goes on as high and as steep.
 std::int32_t attach(Layout& layout, const PieceDef& definition, std::int32_t own, std::int32_t from,
                     std::int32_t connector) {
   const PlacedPiece& source = *layout.findPiece(from);
@@ -70,6 +71,7 @@ std::int32_t attach(Layout& layout, const PieceDef& definition, std::int32_t own
   const std::int32_t id =
       addPiece(layout, definition, AttachPose(definition, own, end), source.level, source.z);
   join(layout, id, own, from, connector);
+  inheritElevation(layout, id, from, connector);
   return id;
 }
 
@@ -92,13 +94,15 @@ void attachSecondOfPair(Layout& layout, const PieceDef& definition, std::int32_t
   if (!definition.pair || !hasEnd(definition, 1) || !openAt(*layout.findPiece(first), 1))
     return;
   placed.push_back(attach(layout, definition, 0, first, 1));
-  inheritElevation(layout, placed.back(), first, 1);
   layout.edit().pairs.push_back({first, placed.back()});
 }
 
 EditResult finish(Layout& layout, UndoScope& step, std::vector<std::int32_t> placed) {
   std::vector<std::int32_t> sorted = placed;
   std::sort(sorted.begin(), sorted.end());
+  if (!std::ranges::all_of(
+          sorted, [&layout](std::int32_t id) { return isLength(layout.findPiece(id)->z); }))
+    return {{}, beyondPlan()};
   closeMeetingEnds(layout, sorted);
   selectOnly(layout, placed.front());
   step.keep();
@@ -145,7 +149,6 @@ EditResult extend(Layout& layout, const Extension& place, const PieceDef& defini
     return {{}, beyondPlan()};
   UndoScope step(layout);
   std::vector<std::int32_t> placed{attach(layout, definition, own, from, connector)};
-  inheritElevation(layout, placed.front(), from, connector);
   if (withPair)
     attachSecondOfPair(layout, definition, placed.front(), placed);
   return finish(layout, step, std::move(placed));
@@ -351,7 +354,5 @@ bool wantsSmallTrackView(const Layout& layout) {
   const PieceDef* definition = definitionOf(layout.pieces().front());
   return definition != nullptr && definition->system == TrackSystem::ZTrack;
 }
-
-void inheritElevation(Layout&, std::int32_t, std::int32_t, std::int32_t) {}
 
 } // namespace trassix

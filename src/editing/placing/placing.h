@@ -73,9 +73,4 @@ EditResult dropScenery(Layout& layout, std::string_view key, const Pose& pose);
 /// at a scale that suits it.
 bool wantsSmallTrackView(const Layout& layout);
 
-/// Called after each join made here so that a graded run goes on across the joint. Does nothing as
-/// long as grades are set by hand only.
-void inheritElevation(Layout& layout, std::int32_t newPiece, std::int32_t from,
-                      std::int32_t connector);
-
 } // namespace trassix

@@ -3,6 +3,8 @@
 #include "catalog/track_catalog.h"
 #include "document/limits.h"
 #include "document/undo_scope.h"
+#include "editing/elevation/propagation.h"
+#include "editing/elevation/train_way.h"
 #include "editing/joining/joining.h"
 #include "editing/track/routes.h"
 
@@ -13,6 +15,8 @@
 namespace trassix {
 
 namespace {
+
+constexpr double kRounding = 1e-7; // mm
 
 bool coincide(const WorldConnector& a, const WorldConnector& b) {
   return std::hypot(a.x - b.x, a.y - b.y) <= kClosingDistance &&
@@ -106,24 +110,49 @@ void keepHeights(PlacedPiece& piece, const PlacedPiece& before, const SwapFit& f
     for (std::size_t i = 0; i < fit.ends.size(); ++i)
       if (fit.ends[i] != -1 && before.joint(i).open() == open)
         ends.push_back(i);
-  PlacedPiece fromZero = piece;
-  fromZero.z = 0;
-  fromZero.rev = false;
   const auto was = [&](std::size_t i) {
     return endHeight(before, *definitionOf(before), static_cast<std::int32_t>(i));
   };
-  const auto rise = [&](std::size_t i) {
-    return endHeight(fromZero, *fit.definition, fit.ends[i]);
-  };
+  const auto run = [&](std::size_t i) { return runTo(*fit.definition, fit.ends[i]); };
   const auto other =
-      std::ranges::find_if(ends, [&](std::size_t i) { return rise(i) != rise(ends.front()); });
+      std::ranges::find_if(ends, [&](std::size_t i) { return run(i) != run(ends.front()); });
   if (other == ends.end())
     return;
-  const double ratio = (was(*other) - was(ends.front())) / (rise(*other) - rise(ends.front()));
-  piece.rev = ratio < 0;
-  const double slope = std::abs(ratio) * std::sin(toRadians(before.grade));
-  piece.grade = toDegrees(std::asin(std::clamp(slope, -1.0, 1.0)));
-  piece.z = was(ends.front()) - ratio * rise(ends.front());
+  const double rise = was(*other) - was(ends.front());
+  const double slope = rise / std::abs(run(*other) - run(ends.front()));
+  if (std::abs(slope) < 1)
+    lay(piece, layTowards(piece, *fit.definition, fit.ends[ends.front()], fit.ends[*other],
+                          was(ends.front()), slope));
+}
+
+/// Lifts what hangs on the piece's ends where these do not lie as high as before, such as the
+/// branch of a turnout that is longer than another. Refused where that would leave a step.
+ChangeResult liftAlong(Layout& layout, std::int32_t piece, const PlacedPiece& before,
+                       const SwapFit& fit) {
+  std::vector<PieceHeight> wanted{heightOf(*layout.findPiece(piece))};
+  for (std::size_t i = 0; i < fit.ends.size(); ++i) {
+    const TrackEnd end{piece, fit.ends[i]};
+    const PlacedPiece* neighbour = layout.findPiece(beyond(layout, end).piece);
+    const double rise = endHeight(layout, end) -
+                        endHeight(before, *definitionOf(before), static_cast<std::int32_t>(i));
+    if (neighbour == nullptr || std::abs(rise) < kRounding)
+      continue;
+    wanted.push_back(heightOf(*neighbour));
+    wanted.back().z += rise;
+  }
+  if (wanted.size() == 1)
+    return true;
+  return applyHeights(layout, planHeights(layout, wanted));
+}
+
+/// A run that starts at the piece goes on from the end that takes the place of its own.
+void keepRun(Layout& layout, std::int32_t piece, const SwapFit& fit) {
+  PlanContent& content = layout.edit();
+  for (GradeRun& run : content.gradeRuns)
+    if (run.anchor == piece && static_cast<std::size_t>(run.conn) < fit.ends.size())
+      run.conn = fit.ends[static_cast<std::size_t>(run.conn)];
+  std::erase_if(content.gradeRuns, [](const GradeRun& run) { return run.conn == -1; });
+  content.mirrorLastGradeRun();
 }
 
 /// True when all ends of the one lie on ends of the other.
@@ -151,6 +180,11 @@ PlacedPiece exchanged(const PlacedPiece& before, const SwapFit& fit) {
 
 } // namespace
 
+double slopeAfterSwap(const Layout& layout, std::int32_t piece, const SwapFit& fit) {
+  const PlacedPiece* present = layout.findPiece(piece);
+  return present == nullptr ? 0 : slopeOf(exchanged(*present, fit));
+}
+
 std::vector<SwapFit> swapFits(const Layout& layout, std::int32_t piece) {
   const PlacedPiece* present = layout.findPiece(piece);
   const PieceDef* presentDefinition = present == nullptr ? nullptr : definitionOf(*present);
@@ -177,7 +211,7 @@ std::vector<SwapFit> swapFits(const Layout& layout, std::int32_t piece) {
   return fits;
 }
 
-bool swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit) {
+ChangeResult swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit) {
   const std::vector<SwapFit> fits = swapFits(layout, piece);
   if (std::ranges::find(fits, fit) == fits.end())
     return false;
@@ -200,6 +234,10 @@ bool swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit) {
   std::erase_if(layout.edit().pairs, [piece](const PiecePair& pair) { return pair.has(piece); });
   for (const auto& [end, joint] : joined)
     join(layout, piece, end, joint.target, joint.tconn);
+  if (ChangeResult lifted = liftAlong(layout, piece, before, fit); lifted.refusal)
+    return lifted;
+  if (!layout.content().gradeRuns.empty())
+    keepRun(layout, piece, fit);
   closeMeetingEnds(layout, std::span(&piece, 1));
   return step.keep();
 }

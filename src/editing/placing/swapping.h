@@ -3,6 +3,7 @@
 
 #include "catalog/piece_def.h"
 #include "document/layout.h"
+#include "editing/edit_result.h"
 #include "editing/track/connector_geometry.h"
 
 #include <cstdint>
@@ -28,7 +29,11 @@ std::vector<SwapFit> swapFits(const Layout& layout, std::int32_t piece);
 
 /// Exchanges the piece as one undo step. It keeps its id and all that is not given by its article;
 /// its joints go over to the new ends, and new ends that meet others are joined. False and nothing
-/// changed when the fit is not one of the piece's fits.
-bool swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit);
+/// changed when the fit is not one of the piece's fits; refused when it would leave a step in
+/// height.
+ChangeResult swapPiece(Layout& layout, std::int32_t piece, const SwapFit& fit);
+
+/// The slope that the piece would have, which keeps the heights of its ends; rise over length.
+double slopeAfterSwap(const Layout& layout, std::int32_t piece, const SwapFit& fit);
 
 } // namespace trassix

@@ -1,6 +1,7 @@
 #include "editing/selection/moving.h"
 
 #include "document/undo_scope.h"
+#include "editing/elevation/inheritance.h"
 #include "editing/selection/selection.h"
 
 #include <algorithm>
@@ -106,16 +107,18 @@ ChangeResult SelectionMove::commit(Layout& layout) const {
   if (target != nullptr) {
     const std::int32_t from = layout.findPiece(snappingPiece_)->level;
     const std::int32_t to = target->level;
-    for (PlacedPiece& piece : layout.edit().pieces)
-      if (piece.sel)
-        piece.z += rise_;
+    landGroup(layout, pieces_, {snappingPiece_, snap_->newConnector},
+              {snap_->target, snap_->targetConnector});
     if (from != to)
       changeLevel(layout.edit(), from, to);
     join(layout, snappingPiece_, snap_->newConnector, snap_->target, snap_->targetConnector);
   }
   // Let go of by hand, ends that were joined a moment ago must not be joined again with a gap.
   closeMeetingEnds(layout, pieces_, snap_ ? MeetingPlay{} : MeetingPlay::none());
-  return step.keep();
+  ChangeResult result = step.keep();
+  if (result && snap_)
+    result.remark = missedEndsNotice(layout, missedEnds(layout, pieces_));
+  return result;
 }
 
 ChangeResult nudgeSelection(Layout& layout, double dx, double dy, bool continued) {

@@ -2,6 +2,7 @@
 
 #include "document/limits.h"
 #include "document/undo_scope.h"
+#include "editing/elevation/propagation.h"
 #include "editing/joining/joining.h"
 #include "editing/selection/rigid_motion.h"
 #include "editing/selection/selection.h"
@@ -64,21 +65,9 @@ ChangeResult setTrackHeight(Layout& layout, std::int32_t piece, double z) {
   const PlacedPiece* present = layout.findPiece(piece);
   if (present == nullptr || present->z == z)
     return false;
-  const double rise = z - present->z;
-  const std::vector<std::int32_t> chain = chainOf(layout, piece);
-  if (!isLength(z) || !std::ranges::all_of(chain, [&layout, rise](std::int32_t id) {
-        return isLength(layout.findPiece(id)->z + rise);
-      }))
-    return beyondPlan();
-  UndoScope step(layout);
-  for (PlacedPiece& joined : layout.edit().pieces) {
-    if (joined.id == piece)
-      joined.z = z;
-    else if (containsId(chain, joined.id))
-      joined.z += rise;
-  }
-  closeMeetingEnds(layout, chain, MeetingPlay::none());
-  return step.keep();
+  PieceHeight wanted = heightOf(*present);
+  wanted.z = z;
+  return applyHeights(layout, planHeights(layout, std::span(&wanted, 1)));
 }
 
 bool levelLiftsSelection(const Layout& layout) {

@@ -69,15 +69,8 @@ std::optional<Notice> guard(const Layout& layout, std::span<const std::int32_t> 
   }
   locked.erase(-1);
   const auto isLocked = [&locked](std::int32_t id) { return locked.contains(id); };
-  const bool inHelix = std::ranges::any_of(pieces, [&layout](std::int32_t id) {
-    const PlacedPiece* piece = layout.findPiece(id);
-    return piece != nullptr && piece->helix != -1;
-  });
-  if (inHelix)
-    return Notice{tr("Helix track is locked"),
-                  tr("Selection includes track that is part of a helix. Helix track cannot be "
-                     "%1%ed individually.",
-                     {verb})};
+  if (std::optional<Notice> notice = helixGuard(layout, pieces, verb))
+    return notice;
   if (std::ranges::any_of(pieces, isLocked) || std::ranges::any_of(scenery, isLocked))
     return Notice{tr("Tunnel is locked"),
                   tr("Selection includes tunnel track or portals. Remove the tunnel first, then "
@@ -189,6 +182,20 @@ std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb) {
 std::optional<Notice> lockGuard(const Layout& layout, std::span<const std::int32_t> pieces,
                                 const std::string& verb) {
   return guard(layout, pieces, {}, verb);
+}
+
+std::optional<Notice> helixGuard(const Layout& layout, std::span<const std::int32_t> pieces,
+                                 const std::string& verb) {
+  const bool inHelix = std::ranges::any_of(pieces, [&layout](std::int32_t id) {
+    const PlacedPiece* piece = layout.findPiece(id);
+    return piece != nullptr && piece->helix != -1;
+  });
+  if (!inHelix)
+    return std::nullopt;
+  return Notice{tr("Helix track is locked"),
+                tr("Selection includes track that is part of a helix. Helix track cannot be "
+                   "%1%ed individually.",
+                   {verb})};
 }
 
 bool selectionHasGrades(const Layout& layout) {

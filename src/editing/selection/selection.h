@@ -51,6 +51,10 @@ std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb);
 std::optional<Notice> lockGuard(const Layout& layout, std::span<const std::int32_t> pieces,
                                 const std::string& verb);
 
+/// Of that only what concerns helices.
+std::optional<Notice> helixGuard(const Layout& layout, std::span<const std::int32_t> pieces,
+                                 const std::string& verb);
+
 bool selectionHasGrades(const Layout& layout);
 
 /// Removes everything selected as one undo step; neighbours' joints open. A piece that came as one

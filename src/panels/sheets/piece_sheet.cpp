@@ -67,7 +67,7 @@ auto posing(const PlacedPiece& piece, double Pose::*part) {
 
 auto lifting(const PlacedPiece& piece) {
   return [id = piece.id](Layout& layout, double z, const Confirm&) {
-    std::optional<Notice> refusal = lockGuard(layout, chainOf(layout, id), "lift");
+    std::optional<Notice> refusal = lockGuard(layout, std::array{id}, "lift");
     return refusal ? ChangeResult(std::move(*refusal)) : setTrackHeight(layout, id, z);
   };
 }

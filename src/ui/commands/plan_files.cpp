@@ -36,17 +36,6 @@ bool holdsSmallTrack(const Layout& layout) {
   });
 }
 
-/// What the status bar says of a plan just opened.
-std::string openedHint(const Layout& layout) {
-  const auto& runs = layout.content().gradeRuns;
-  if (runs.empty())
-    return tr("Ready");
-  wxString hint = "[ELEV]";
-  for (const GradeRun& run : runs)
-    hint += wxString::Format(" %.1f deg", run.deg);
-  return toUtf8(hint + "  (right-click piece to stop)");
-}
-
 ProgramMemory memory() {
   return ProgramMemory(StandardFolders::memoryFile());
 }
@@ -158,7 +147,8 @@ bool PlanFiles::take(FileResult opened) {
   else
     canvasPanel_.canvas().fit();
   workspace_.selectionChanged();
-  workspace_.setHint(openedHint(workspace_.layout()));
+  // Open grade runs stand before any hint, and alone until there is another one.
+  workspace_.setHint(workspace_.layout().content().gradeRuns.empty() ? tr("Ready") : "");
   const std::filesystem::path& file = workspace_.plan().file();
   if (!file.empty() && openElsewhere(StandardFolders::rescueSessions(), rescue_.session(), file))
     opened.notices.push_back(tr("This plan is also open in another window of the program. What "

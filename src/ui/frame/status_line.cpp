@@ -1,7 +1,9 @@
 #include "ui/frame/status_line.h"
 
 #include "document/layout.h"
+#include "editing/elevation/grade_runs.h"
 #include "measures/measure_format.h"
+#include "texts/texts.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/frame.h>
@@ -10,14 +12,14 @@
 namespace trassix {
 
 StatusLine::StatusLine(wxFrame& window, Workspace& workspace)
-    : PlanObserver(workspace), window_(window), workspace_(workspace) {
+    : PlanObserver(workspace), window_(window), workspace_(workspace), hint_(tr("Ready")) {
   wxStatusBar* bar = window_.CreateStatusBar(3);
   const wxString widestCount = "Pieces: 000000";
   const wxString widestPlace = "x: -00000.00  y: -00000.00 mm";
   const int widths[] = {-1, bar->GetTextExtent(widestCount).x + 24,
                         bar->GetTextExtent(widestPlace).x + 24};
   bar->SetStatusWidths(3, widths);
-  window_.SetStatusText(_("Ready"), kHintField);
+  showHint();
   window_.SetStatusText(_("Pieces: 0"), kPiecesField);
   window_.SetStatusText("x: 0  y: 0 mm", kPointerField);
 }
@@ -25,10 +27,17 @@ StatusLine::StatusLine(wxFrame& window, Workspace& workspace)
 void StatusLine::planChanged() {
   window_.SetStatusText(wxString::Format(_("Pieces: %zu"), workspace_.layout().pieces().size()),
                         kPiecesField);
+  showHint();
 }
 
 void StatusLine::hintChanged(const std::string& hint) {
-  const wxString text = fromUtf8(hint);
+  hint_ = hint;
+  showHint();
+}
+
+/// Open grade runs lead.
+void StatusLine::showHint() {
+  const wxString text = fromUtf8(joinTexts({elevationStatus(workspace_.layout()), hint_}, "    "));
   if (window_.GetStatusBar()->GetStatusText(kHintField) != text)
     window_.SetStatusText(text, kHintField);
 }

@@ -18,10 +18,12 @@ class StatusLine : private PlanObserver {
   void planReplaced() override { planChanged(); }
   void unitsChanged() override { pointerMoved(pointer_); }
   void hintChanged(const std::string& hint) override;
+  void showHint();
   void pointerMoved(Point world) override;
 
   wxFrame& window_;
   const Workspace& workspace_;
+  std::string hint_;
   Point pointer_; ///< on the plan, mm
 };
 

@@ -2,6 +2,7 @@
 #include "editing/autofill/autofill.h"
 #include "editing/autofill/autofill_messages.h"
 #include "editing/autofill/straight_fill.h"
+#include "editing/elevation/end_heights.h"
 #include "editing/selection/selection.h"
 #include "support/plan.h"
 
@@ -141,9 +142,9 @@ TEST(Autofill, JoinsTheFarEndWhereItComesNearEnough) {
       {360, 0, 0, 0, "Joins both ends."},
       {360.9, 0, 0, 0, "Joins both ends, 0.9 mm apart."},
       {361.3, 0, 0, 0, "Leaves the far end open, 1.3 mm apart."},
-      {360, 0.5, 0, 0, "Leaves the far end open, 0.5 mm apart in height."},
-      {360, 0.5, 0, 2, "Joins both ends, 0.5 mm apart in height."},
-      {360, 1.1, 0, 2, "Leaves the far end open, 1.1 mm apart in height."},
+      {360, 0.5, 0, 0, "Joins both ends, climbing 0.1 %."},
+      {360.9, -18, 0, 2, "Joins both ends, falling 5.0 %, 0.9 mm apart."},
+      {360, 18.1, 0, 2, "Leaves the far end open, 18.1 mm apart in height."},
       {361, -100, 0, 0, "Leaves the far end open, 1.0 mm apart, 100.0 mm apart in height."},
       {360, 188.3 / 2, 30, 0, "Joins both ends."}, // so high is the end where the fill starts
   };
@@ -156,7 +157,8 @@ TEST(Autofill, JoinsTheFarEndWhereItComesNearEnough) {
     EXPECT_EQ(autofillRest(restOf(*fills.gap, fills.candidates[0])), line);
     placeFill(layout, *fills.gap, fills.candidates[0]);
     EXPECT_EQ(openEnds(layout), line[0] == 'J' ? 2 : 4) << line;
-    EXPECT_NEAR(layout.pieces().back().z, grade == 0 ? 0 : height, 1e-9);
+    EXPECT_NEAR(endHeight(layout, {3, 0}), grade == 0 ? 0 : height, 1e-9);
+    EXPECT_LT(largestPlay(layout).step, 1e-9);
   }
 }
 

@@ -282,7 +282,7 @@ TEST(SelectTool, WhatIsCutComesBackWhateverItIs) {
   }
 }
 
-TEST(SelectTool, TheMenuSwapsAPieceForOneThatFits) {
+TEST(SelectTool, TheMenuSwapsAPieceForOneThatFitsAndEndsAGrade) {
   CanvasScript script(row());
   script.takeFromMenu(kOnSecond, "Swap...");
   EXPECT_EQ(script.pieces()[1].cat, "24188") << "cancelled";
@@ -294,6 +294,9 @@ TEST(SelectTool, TheMenuSwapsAPieceForOneThatFits) {
   EXPECT_EQ(script.pieces()[1].cat, "74620");
   EXPECT_EQ(openEnds(script.host.plan), 2);
   EXPECT_EQ(script.host.seen.changes, 1);
+  script.host.plan.startGradeRun(2, 1, 2);
+  script.takeFromMenu(kOnSecond, "End Grade Here");
+  EXPECT_TRUE(script.content().gradeRuns.empty());
 }
 
 TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
@@ -324,6 +327,13 @@ TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
   EXPECT_EQ(script.pieces().size(), 3u);
   EXPECT_FALSE(drawn());
   EXPECT_EQ(openEnds(script.host.plan), 2);
+  script.host.answers = {false, true}; // whether it may be too steep
+  for (const int open : {4, 2}) {
+    script.host.plan.undo();
+    script.host.plan.editPiece(2)->z = 40;
+    script.takeFromMenu({90, 0}, "Autofill Gap...");
+    EXPECT_EQ(openEnds(script.host.plan), open);
+  }
 }
 
 TEST(PlanPreview, ShowsWhatAnEditAddsOrMovesOfAnyKind) {

@@ -1,4 +1,5 @@
 // Changing finished track: swapping a piece in place, inserting one at a joint.
+#include "editing/elevation/grade_edits.h"
 #include "editing/joining/joining.h"
 #include "editing/placing/inserting.h"
 #include "editing/placing/swapping.h"
@@ -33,6 +34,12 @@ TEST(Swapping, OffersWhatFitsTheSameEnds) {
   Plan branch; // a crossing has the same ends, but no way to the branch
   branch.place("24612").extend("24188").at(1, 2).extend("24188").at(1, 0).extend("24188");
   EXPECT_EQ(swapsOf(branch.layout, 1), (Articles{"24630", "24624"}));
+  applyHeights(branch.layout, planGrade(branch.layout, {{1}, {1, 0}, 1, 0.04}));
+  for (const SwapFit& fit : swapFits(branch.layout, 1)) { // their branches differ in length
+    ASSERT_TRUE(swapPiece(branch.layout, 1, fit));
+    EXPECT_LT(largestPlay(branch.layout).step, 1e-6) << fit.definition->article;
+    branch.layout.undo();
+  }
   Plan edge = Plan().place("24188", {999'600, 0, 0}).extend("24188");
   for (PlacedPiece& piece : edge.layout.edit().pieces)
     piece.x += 200;
