@@ -5,6 +5,8 @@
 #include "document/repairs.h"
 #include "document/unread_part.h"
 
+#include <utility>
+
 namespace trassix {
 
 bool PlanFile::whole() const {

@@ -35,7 +35,7 @@ const char* const kMenus[] = {
     "Save &As...\tCtrl+Shift+S 5004|-|&Import Layout... 1900|&Export Layout... 1901|-|"
     "&Close Layout\tCtrl+W 5001|-|Page Set&up... 5012|Print Pre&view... 5013|"
     "&Print...\tCtrl+P 5010|-|Save as &Library Block... 2001|-|E&xit 5006|-|"
-    "Ol&der Versions... 2030|Recen&t Plans|None yet 5050|Open a Sa&mple... 2043",
+    "Ol&der Versions... 2030|Open a Sa&mple... 2043|Recen&t Plans|None yet 5050",
     "&Edit|&Undo\tCtrl+Z 2002|&Redo\tCtrl+Y 2003|-|&Delete\tDel 2004|Select &All\tCtrl+A 2005|-|"
     "&Find...\tCtrl+F 2040",
     "&View|Zoom &In\t+ 2006|Zoom &Out\t- 2007|Zoom to &Fit\tCtrl+0 2008|-|"
@@ -84,7 +84,7 @@ TEST_F(FrameTest, MenusAndToolsAreAsAgreed) {
   const wxMenuBar& bar = *frame().GetMenuBar();
   ASSERT_EQ(bar.GetMenuCount(), std::size(kMenus));
   for (size_t i = 0; i < bar.GetMenuCount(); ++i)
-    EXPECT_EQ(bar.GetMenuLabel(i) + listMenu(*bar.GetMenu(i)), kMenus[i]);
+    EXPECT_EQ((bar.GetMenuLabel(i) + listMenu(*bar.GetMenu(i))).utf8_string(), kMenus[i]);
 
   wxString tools;
   wxToolBar& toolBar = *frame().GetToolBar();
