@@ -90,14 +90,6 @@ std::optional<double> askDistance(ToolSite& site, double usual) {
   }
 }
 
-/// Whether something is selected that can be mirrored without the pieces that have no mirror image.
-bool leavesRest(const Layout& layout) {
-  const std::vector<std::int32_t> without = selectedWithoutTwin(layout);
-  return !without.empty() && anySelectable(layout.content(), [&without](const auto& record) {
-    return record.sel && !containsId(without, record.id);
-  });
-}
-
 void layChosen(ToolSite& site, double distance) {
   ParallelResult result = layParallel(site.layout(), distance);
   if (!result.gaps.empty() && result.edit.changed())
@@ -118,7 +110,8 @@ void runMirror(ToolSite& site, MirrorWay way) {
           {tr("Mirror"), tr("This takes the selection apart from graded track. Go on?"), true}))
     return;
   ChangeResult result = mirrorSelection(layout, *line);
-  if (result.refusal && leavesRest(layout)) {
+  const std::vector<std::int32_t> without = selectedWithoutTwin(layout);
+  if (!without.empty() && selectsMoreThan(layout, without)) {
     if (!site.questions().confirm(
             {tr("Mirror"), joinTexts({result.refusal->text,
                                       tr("Mirror the rest and leave these pieces as they are?")},
