@@ -142,17 +142,22 @@ void runParallelTrack(ToolSite& site) {
 
 std::vector<MenuRow> arrangeRows(ToolSite& site) {
   std::vector<MenuRow> rows;
-  const auto add = [&rows](const char* text, const char* submenu, bool enabled, auto action) {
-    rows.push_back({tr(text), "", enabled, action, submenu ? tr(submenu) : std::string()});
+  const auto add = [&rows](const char* text, const char* submenu, bool enabled, auto action,
+                           const std::string& keys = {}) {
+    rows.push_back({tr(text), keys, enabled, action, submenu ? tr(submenu) : std::string()});
   };
   const Layout& layout = site.layout();
   if (!selectedPieces(layout).empty())
-    add(trLater("Parallel Track..."), nullptr, true, [&site] { runParallelTrack(site); });
+    add(
+        trLater("Parallel Track..."), nullptr, true, [&site] { runParallelTrack(site); },
+        tr("Ctrl+L"));
   constexpr auto kMirror = trLater("Mirror");
-  add(trLater("Left to Right"), kMirror, true,
-      [&site] { runMirror(site, MirrorWay::LeftToRight); });
-  add(trLater("Top to Bottom"), kMirror, true,
-      [&site] { runMirror(site, MirrorWay::TopToBottom); });
+  add(
+      trLater("Left to Right"), kMirror, true, [&site] { runMirror(site, MirrorWay::LeftToRight); },
+      tr("Ctrl+M"));
+  add(
+      trLater("Top to Bottom"), kMirror, true, [&site] { runMirror(site, MirrorWay::TopToBottom); },
+      tr("Ctrl+Shift+M"));
   add(trLater("To the Other Side of Its Track"), kMirror,
       mirrorLine(layout, MirrorWay::AcrossTrack).has_value(),
       [&site] { runMirror(site, MirrorWay::AcrossTrack); });
