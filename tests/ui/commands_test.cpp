@@ -1,3 +1,4 @@
+#include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
 #include "frame_test.h"
 #include "host/command_ids.h"
@@ -37,14 +38,20 @@ const char* const kMenus[] = {
     "&Print...\tCtrl+P 5010|-|Save as &Library Block... 2001|-|E&xit 5006|-|"
     "Ol&der Versions... 2030|Open a Sa&mple... 2043|Recen&t Plans|None yet 5050",
     "&Edit|&Undo\tCtrl+Z 2002|&Redo\tCtrl+Y 2003|-|&Delete\tDel 2004|Select &All\tCtrl+A 2005|-|"
-    "&Find...\tCtrl+F 2040",
+    "&Find...\tCtrl+F 2040|"
+    "Cu&t\tCtrl+X 2060|&Copy\tCtrl+C 2061|&Paste\tCtrl+V 2062|Dup&licate\tCtrl+D 2063|"
+    "Parallel Trac&k...\tCtrl+L 2065|&Mirror|&Left to Right\tCtrl+M 2066|"
+    "&Top to Bottom\tCtrl+Shift+M 2067|To the &Other Side of Its Track 2068|Ali&gn|&Left 2069|"
+    "&Centre 2070|&Right 2071|&Top 2072|&Middle 2073|&Bottom 2074|Even Gaps &Across 2075|"
+    "Even Gaps &Down 2076",
     "&View|Zoom &In\t+ 2006|Zoom &Out\t- 2007|Zoom to &Fit\tCtrl+0 2008|-|"
     "Show &Grid\tCtrl+G 2009 check on|&Snap\tCtrl+Shift+G 2010 check on|Show &Rails 2012 check "
     "on|-|"
-    "&Palette\tF9 2041 check on|Properties and &Tally\tShift+F9 2042 check on",
+    "&Palette\tF9 2041 check on|Properties and &Tally\tShift+F9 2042 check on|"
+    "Zoom to Se&lection\tCtrl+1 2064",
     "&Layout|Units of Measure|Millimetres (mm) 2021 radio on|Centimetres (cm) 2022 radio|"
     "Inches (in) 2023 radio|-|Layout &Shape... 2020|Layout &Wizard (Experimental)... 2018|"
-    "&Bridge Wizard (Experimental)... 2019",
+    "&Bridge Wizard (Experimental)... 2019|-|Baseboard &Corners 2077 check",
     "&Help|&Help\tF1 2027|Layout &Wizard Help 2028|-|&Options... 2029"};
 
 const char* const kTools =
@@ -114,7 +121,8 @@ std::string traceOf(MainFrame& frame, const Canceller& dialogs) {
   const EditorSwitches& switches = frame.workspace().switches();
   trace << frame.layout().revision() << frame.GetTitle() << view.zoom() << view.origin().x
         << switches.grid << switches.snap << switches.labels << switches.rails << switches.palette
-        << switches.properties << static_cast<int>(switches.mode) << frame.layout().settings().units
+        << switches.properties << frame.canvasPanel().canvas().carrying()
+        << static_cast<int>(switches.mode) << frame.layout().settings().units
         << frame.canvasPanel().GetParent() << dialogs.titles.size()
         << (findNamed("help") != nullptr);
   return trace.str();
@@ -133,6 +141,10 @@ TEST_F(FrameTest, EveryCommandDoesSomething) {
     EXPECT_TRUE(key.empty() || keys.insert(key).second);
     frame().layout().clear(); // one piece that stays, one to take back and one to do again
     frame().layout().ensureLevel();
+    for (const Point at : {Point{0, 0}, {70, 300}, {300, 350}})
+      addLabel(frame().layout(), at, "label");
+    frame().layout().editSettings().baseboard = {{0, 0}, {900, 0}, {900, 900}};
+    frame().canvasPanel().canvas().cancel();
     placePiece();
     placePiece(500);
     placePiece(1000);
@@ -153,8 +165,14 @@ TEST_F(FrameTest, EveryCommandDoesSomething) {
       put(kUnitsInch);
     if (command.id == kSelectAll)
       frame().layout().clearSelection();
+    if (command.id == kCopy) // which leaves no other trace
+      frame().workspace().clipboard().put("");
     const std::string before = traceOf(frame(), canceller);
     put(command.id);
+    if (command.id == kCopy) {
+      EXPECT_NE(frame().workspace().clipboard().text(), "");
+      continue;
+    }
     EXPECT_NE(traceOf(frame(), canceller), before);
   }
   for (const int later : std::initializer_list<int>{
@@ -175,6 +193,9 @@ TEST_F(FrameTest, KeysTypedIntoATextStayThere) {
   typeText("24-1+8");
   waitUntil("the text is typed", [&] { return search->GetValue() == "24-1+8"; });
   pressKey('A', wxMOD_CONTROL);
+  pressKey('C', wxMOD_CONTROL);
+  waitUntil("the text is copied",
+            [this] { return frame().workspace().clipboard().text() == "24-1+8"; });
   pressKey(WXK_DELETE);
   waitUntil("the text is gone", [&] { return search->IsEmpty(); });
   EXPECT_EQ(pieces(), 1u);

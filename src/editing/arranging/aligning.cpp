@@ -7,15 +7,19 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace trassix {
 
 namespace {
 
+/// Ids of files are unique among their kind only.
+using RecordName = std::pair<RecordKind, std::int32_t>;
+
 /// What a selected record covers along an axis.
 struct Extent {
-  std::int32_t id = -1;
+  RecordName record;
   double low = 0;
   double high = 0;
 };
@@ -34,14 +38,19 @@ void forEachAligned(Content& content, Visit visit) {
   });
 }
 
+template <class Record>
+RecordName nameOf(const Record& record) {
+  return {Record::kKind, record.id};
+}
+
 std::vector<Extent> extentsOf(const Layout& layout, Axis axis) {
   std::vector<Extent> extents;
   forEachAligned(layout.content(), [&](const auto& record) {
     const Polygon outline = bodyOf(layout, record, 0).outline;
     const auto [low, high] =
         std::ranges::minmax(outline, {}, axis == Axis::Across ? &Point::x : &Point::y);
-    extents.push_back(axis == Axis::Across ? Extent{record.id, low.x, high.x}
-                                           : Extent{record.id, low.y, high.y});
+    extents.push_back(axis == Axis::Across ? Extent{nameOf(record), low.x, high.x}
+                                           : Extent{nameOf(record), low.y, high.y});
   });
   return extents;
 }
@@ -53,13 +62,13 @@ std::size_t alignedCount(const Layout& layout) {
 }
 
 /// Each of these records goes so far along the axis.
-ChangeResult shift(Layout& layout, Axis axis, const std::map<std::int32_t, double>& ways) {
+ChangeResult shift(Layout& layout, Axis axis, const std::map<RecordName, double>& ways) {
   if (std::optional<Notice> locked = lockGuard(layout, "move"))
     return *locked;
   UndoScope step(layout);
   forEachAligned(layout.edit(), [&](auto& record) {
     constexpr double kStill = 1e-9; // mm
-    const double way = ways.at(record.id);
+    const double way = ways.at(nameOf(record));
     if (std::abs(way) > kStill)
       moveRecord(record, RigidMotion{{}, axis == Axis::Across ? Pose{way, 0, 0} : Pose{0, way, 0}});
   });
@@ -85,13 +94,13 @@ ChangeResult alignSelection(Layout& layout, AlignTo to) {
   const std::vector<Extent> extents = extentsOf(layout, axis);
   const double low = std::ranges::min(extents, {}, &Extent::low).low;
   const double high = std::ranges::max(extents, {}, &Extent::high).high;
-  std::map<std::int32_t, double> ways;
+  std::map<RecordName, double> ways;
   for (const Extent& extent : extents) {
     const bool toLow = to == AlignTo::Left || to == AlignTo::Top;
     const bool toHigh = to == AlignTo::Right || to == AlignTo::Bottom;
-    ways[extent.id] = toLow    ? low - extent.low
-                      : toHigh ? high - extent.high
-                               : (low + high - extent.low - extent.high) / 2;
+    ways[extent.record] = toLow    ? low - extent.low
+                          : toHigh ? high - extent.high
+                                   : (low + high - extent.low - extent.high) / 2;
   }
   return shift(layout, axis, ways);
 }
@@ -106,10 +115,10 @@ ChangeResult distributeSelection(Layout& layout, Axis axis) {
     covered += extent.high - extent.low;
   const double gap = (extents.back().high - extents.front().low - covered) /
                      static_cast<double>(extents.size() - 1);
-  std::map<std::int32_t, double> ways;
+  std::map<RecordName, double> ways;
   double at = extents.front().low;
   for (const Extent& extent : extents) {
-    ways[extent.id] = at - extent.low;
+    ways[extent.record] = at - extent.low;
     at += extent.high - extent.low + gap;
   }
   return shift(layout, axis, ways);

@@ -21,11 +21,13 @@ const std::vector<Point>* cornersOf(const Layout& layout, const Outlined& what) 
 std::optional<Outlined> outlinedSelection(const Layout& layout) {
   const auto& shapes = layout.content().shapes;
   const auto found = std::ranges::find(shapes, true, &Shape::sel);
-  if (found == shapes.end() || !layout.levelVisible(found->level) ||
-      anySelectable(layout.content(),
-                    [found](const auto& record) { return record.sel && record.id != found->id; }))
+  if (found == shapes.end() || !layout.levelVisible(found->level))
     return {};
-  return Outlined{found->id};
+  std::ptrdiff_t selected = 0;
+  forEachSelectable(layout.content(), [&selected](const auto& records) {
+    selected += std::ranges::count_if(records, [](const auto& record) { return record.sel; });
+  });
+  return selected == 1 ? std::optional(Outlined{found->id}) : std::nullopt;
 }
 
 ChangeResult setCorners(Layout& layout, const Outlined& what, std::vector<Point> corners) {

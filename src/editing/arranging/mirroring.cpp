@@ -237,6 +237,13 @@ std::vector<std::int32_t> selectedWithoutTwin(const Layout& layout) {
   return without;
 }
 
+bool selectsMoreThan(const Layout& layout, const std::vector<std::int32_t>& pieces) {
+  return anySelectable(layout.content(), [&pieces](const auto& record) {
+    constexpr bool kPiece = std::remove_cvref_t<decltype(record)>::kKind == RecordKind::Piece;
+    return record.sel && !(kPiece && containsId(pieces, record.id));
+  });
+}
+
 ChangeResult mirrorSelection(Layout& layout, const MirrorLine& line, bool leaveOut) {
   if (std::optional<Notice> locked = lockGuard(layout, "mirror"))
     return *locked;
@@ -244,8 +251,8 @@ ChangeResult mirrorSelection(Layout& layout, const MirrorLine& line, bool leaveO
   if (!without.empty() && !leaveOut)
     return withoutTwin(layout, without);
   UndoScope step(layout);
-  layout.reselect(
-      [&without](const auto& record) { return record.sel && !containsId(without, record.id); });
+  for (const std::int32_t id : without)
+    layout.select(RecordKind::Piece, id, false);
   const std::vector<std::int32_t> pieces = selectedPieces(layout);
   detach(layout, pieces);
   const Reflection reflection{line};

@@ -28,6 +28,9 @@ std::optional<MirrorLine> mirrorLine(const Layout& layout, MirrorWay way);
 /// The selected pieces of which no piece of their system is the mirror image; ids, sorted.
 std::vector<std::int32_t> selectedWithoutTwin(const Layout& layout);
 
+/// Whether anything else is selected than these.
+bool selectsMoreThan(const Layout& layout, const std::vector<std::int32_t>& pieces);
+
 /// Mirrors all that is selected at the line, as one undo step. Each piece becomes its twin; heights
 /// of all ends stay, and so do joints inside the selection. Joints to the rest open unless their
 /// ends still meet; ends that meet others where they land are joined. Refused for locked track,

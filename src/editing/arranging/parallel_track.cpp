@@ -245,23 +245,23 @@ std::vector<ParallelGap> openBetween(const Layout& layout, const Layer& layer,
   return gaps;
 }
 
-/// Which side a positive or negative distance is, in words that need no direction of travel.
+/// What the side is called on which a track at this distance lies. The user sees no direction of
+/// travel, so it is told by the bend or by the plan.
 std::string sideOf(const TrackChain& chain, double distance) {
-  if (chain.closed) {
-    double turned = 0;
-    for (const ChainPart& part : chain.parts)
-      turned += part.sweep;
-    return (turned > 0) == (distance > 0) ? tr("Inside") : tr("Outside");
-  }
+  double right = 0; // degrees
+  double left = 0;
+  for (const ChainPart& part : chain.parts)
+    (part.sweep > 0 ? right : left) += std::abs(part.sweep);
+  constexpr double kBend = 25;
+  if (chain.closed || (right > kBend && left == 0) || (left > kBend && right == 0))
+    return (right > left) == (distance > 0) ? tr("Inside") : tr("Outside");
   const ChainPart& middle = chain.parts[chain.parts.size() / 2];
   const Pose there = beside(middle.start, distance);
   const double x = there.x - middle.start.x;
   const double y = there.y - middle.start.y;
-  const std::string onPlan =
-      std::abs(x) > std::abs(y)
-          ? (x > 0 ? tr("to the right on the plan") : tr("to the left on the plan"))
-          : (y > 0 ? tr("below on the plan") : tr("above on the plan"));
-  return distance > 0 ? tr("Right (%1%)", {onPlan}) : tr("Left (%1%)", {onPlan});
+  if (std::abs(x) > std::abs(y))
+    return x > 0 ? tr("To the right") : tr("To the left");
+  return y > 0 ? tr("Below") : tr("Above");
 }
 
 /// True when each arc of the chain has a radius of the system beside it.
@@ -342,7 +342,9 @@ ParallelResult layParallel(Layout& layout, double distance) {
   std::ranges::sort(placed);
   closeMeetingEnds(layout, placed);
   std::ranges::move(openBetween(layout, layer, chain, distance), std::back_inserter(result.gaps));
-  layout.reselect([&placed](const auto& record) { return containsId(placed, record.id); });
+  layout.clearSelection();
+  for (const std::int32_t id : placed)
+    layout.select(RecordKind::Piece, id, true);
   result.edit.placed = layer.placed();
   step.keep();
   return result;

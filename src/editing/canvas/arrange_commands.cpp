@@ -90,14 +90,6 @@ std::optional<double> askDistance(ToolSite& site, double usual) {
   }
 }
 
-/// Whether something is selected that can be mirrored without the pieces that have no mirror image.
-bool leavesRest(const Layout& layout) {
-  const std::vector<std::int32_t> without = selectedWithoutTwin(layout);
-  return !without.empty() && anySelectable(layout.content(), [&without](const auto& record) {
-    return record.sel && !containsId(without, record.id);
-  });
-}
-
 void layChosen(ToolSite& site, double distance) {
   ParallelResult result = layParallel(site.layout(), distance);
   if (!result.gaps.empty() && result.edit.changed())
@@ -118,7 +110,8 @@ void runMirror(ToolSite& site, MirrorWay way) {
           {tr("Mirror"), tr("This takes the selection apart from graded track. Go on?"), true}))
     return;
   ChangeResult result = mirrorSelection(layout, *line);
-  if (result.refusal && leavesRest(layout)) {
+  const std::vector<std::int32_t> without = selectedWithoutTwin(layout);
+  if (!without.empty() && selectsMoreThan(layout, without)) {
     if (!site.questions().confirm(
             {tr("Mirror"), joinTexts({result.refusal->text,
                                       tr("Mirror the rest and leave these pieces as they are?")},
@@ -149,17 +142,22 @@ void runParallelTrack(ToolSite& site) {
 
 std::vector<MenuRow> arrangeRows(ToolSite& site) {
   std::vector<MenuRow> rows;
-  const auto add = [&rows](const char* text, const char* submenu, bool enabled, auto action) {
-    rows.push_back({tr(text), "", enabled, action, submenu ? tr(submenu) : std::string()});
+  const auto add = [&rows](const char* text, const char* submenu, bool enabled, auto action,
+                           const std::string& keys = {}) {
+    rows.push_back({tr(text), keys, enabled, action, submenu ? tr(submenu) : std::string()});
   };
   const Layout& layout = site.layout();
   if (!selectedPieces(layout).empty())
-    add(trLater("Parallel Track..."), nullptr, true, [&site] { runParallelTrack(site); });
+    add(
+        trLater("Parallel Track..."), nullptr, true, [&site] { runParallelTrack(site); },
+        tr("Ctrl+L"));
   constexpr auto kMirror = trLater("Mirror");
-  add(trLater("Left to Right"), kMirror, true,
-      [&site] { runMirror(site, MirrorWay::LeftToRight); });
-  add(trLater("Top to Bottom"), kMirror, true,
-      [&site] { runMirror(site, MirrorWay::TopToBottom); });
+  add(
+      trLater("Left to Right"), kMirror, true, [&site] { runMirror(site, MirrorWay::LeftToRight); },
+      tr("Ctrl+M"));
+  add(
+      trLater("Top to Bottom"), kMirror, true, [&site] { runMirror(site, MirrorWay::TopToBottom); },
+      tr("Ctrl+Shift+M"));
   add(trLater("To the Other Side of Its Track"), kMirror,
       mirrorLine(layout, MirrorWay::AcrossTrack).has_value(),
       [&site] { runMirror(site, MirrorWay::AcrossTrack); });

@@ -32,7 +32,6 @@ class CornerEditor {
   /// True when another handle than before is under the pointer.
   bool hover(const PointerInput& input);
   void leave() { pointed_.reset(); }
-  bool pointed() const { return pointed_.has_value(); }
   /// A drag that begins on a handle; null when there is none.
   std::unique_ptr<Gesture> grab(const PointerInput& input);
   /// These are false when they are not meant for a handle.

@@ -43,7 +43,7 @@ void distribute(Desk& desk) {
 
 // clang-format off
 const Command kCommands[] = {
-    {.id = kParallelTrack, .menuText = wxTRANSLATE("Pa&rallel Track...\tCtrl+L"),
+    {.id = kParallelTrack, .menuText = wxTRANSLATE("Parallel Trac&k...\tCtrl+L"),
      .menuHelp = wxTRANSLATE("Lay a second track beside the selected chain"), .menu = Menu::Edit,
      .enabled = tracksSelected, .run = [](Desk& desk) { runParallelTrack(siteOf(desk)); }},
     {.id = kMirrorLeftRight, .menuText = wxTRANSLATE("&Left to Right\tCtrl+M"),

@@ -76,7 +76,7 @@ const Command kCommands[] = {
     {.id = kPaste, .menuText = wxTRANSLATE("&Paste\tCtrl+V"),
      .menuHelp = wxTRANSLATE("Hang what was copied on the pointer, to be dropped on the plan"),
      .menu = Menu::Edit, .run = paste},
-    {.id = kDuplicate, .menuText = wxTRANSLATE("D&uplicate\tCtrl+D"),
+    {.id = kDuplicate, .menuText = wxTRANSLATE("Dup&licate\tCtrl+D"),
      .menuHelp = wxTRANSLATE("Hang a copy of what is selected on the pointer"), .menu = Menu::Edit,
      .enabled = hasSelection, .run = [](Desk& desk) { duplicateSelection(siteOf(desk)); }},
     {.id = kFind, .menuText = wxTRANSLATE("&Find...\tCtrl+F"),
