@@ -144,7 +144,7 @@ Notice withoutTwin(const Layout& layout, const std::vector<std::int32_t>& pieces
   }
   std::string lines;
   for (const std::string& name : names)
-    lines += "\n" + name;
+    lines.append("\n").append(name);
   return {tr("Mirror"), tr("No piece of the system is the mirror image of:%1%", {lines})};
 }
 

@@ -334,7 +334,7 @@ ParallelResult layParallel(Layout& layout, double distance) {
   if (layer.placed().empty()) {
     std::string text = tr("No piece of the system fits at this distance:");
     for (const ParallelGap& gap : result.gaps)
-      text += "\n" + gapText(layout, gap);
+      text.append("\n").append(gapText(layout, gap));
     result.edit.refusal = Notice{tr("Parallel Track"), text};
     return result;
   }

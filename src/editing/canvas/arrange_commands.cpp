@@ -22,10 +22,10 @@ constexpr std::size_t kGapsTold = 8;
 std::string linesOf(const Layout& layout, const std::vector<ParallelGap>& gaps) {
   std::string lines;
   for (std::size_t i = 0; i < std::min(gaps.size(), kGapsTold); ++i)
-    lines += "\n" + gapText(layout, gaps[i]);
-  return gaps.size() <= kGapsTold
-             ? lines
-             : lines + "\n" + trCount("and one more", "and %1% more", gaps.size() - kGapsTold);
+    lines.append("\n").append(gapText(layout, gaps[i]));
+  if (gaps.size() > kGapsTold)
+    lines.append("\n").append(trCount("and one more", "and %1% more", gaps.size() - kGapsTold));
+  return lines;
 }
 
 /// What comes of an offer, in one line.
@@ -36,7 +36,7 @@ std::string noteOf(const Layout& layout, double distance) {
     return result.gaps.empty() ? result.edit.refusal->text : gapText(layout, result.gaps.front());
   const std::string pieces = trCount("One piece", "%1% pieces", result.edit.placed.size());
   return result.gaps.empty() ? tr("%1%, all joints within 1 mm of the true parallel", {pieces})
-                             : pieces + ". " + gapText(layout, result.gaps.front());
+                             : joinTexts({pieces, gapText(layout, result.gaps.front())}, ". ");
 }
 
 Point placeOfSelection(const Layout& layout) {

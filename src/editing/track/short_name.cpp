@@ -39,15 +39,19 @@ std::string lowerCase(std::string_view word) {
 }
 
 /// The name without what stands in brackets together with a number.
-std::string withoutMeasures(std::string name) {
+std::string withoutMeasures(const std::string& name) {
+  std::string rest;
+  std::size_t from = 0;
   for (std::size_t open = name.find('('); open != std::string::npos;
        open = name.find('(', open + 1)) {
     const std::size_t close = std::min(name.find(')', open), name.size() - 1);
-    if (std::any_of(name.begin() + static_cast<std::ptrdiff_t>(open),
-                    name.begin() + static_cast<std::ptrdiff_t>(close), isDigit))
-      name.replace(open, close - open + 1, " ");
+    const std::string_view inside = std::string_view(name).substr(open, close - open);
+    if (open < from || !std::ranges::any_of(inside, isDigit))
+      continue;
+    rest.append(name, from, open - from).append(" ");
+    from = close + 1;
   }
-  return name;
+  return rest.append(name, from, std::string::npos);
 }
 
 /// What the name says beyond kind and measures, in small letters: "feeder", "slim", "arch bridge".
@@ -69,7 +73,8 @@ std::string remark(const PieceDef& piece) {
     if (lower.size() < 2 || std::ranges::find(kPlainWords, lower) != kPlainWords.end())
       continue;
     // What belongs to a turntable is filed beside it.
-    (lower == "turntable" ? turntable : said) += said.empty() ? lower : " " + lower;
+    std::string& words = lower == "turntable" ? turntable : said;
+    words.append(said.empty() ? "" : " ").append(lower);
   }
   return said.empty() ? turntable : said;
 }
@@ -78,7 +83,7 @@ std::string angleText(double degrees) {
   std::array<char, 32> text{};
   const double rounded = std::round(std::abs(degrees) * 100) / 100;
   const auto end = std::to_chars(text.data(), text.data() + text.size(), rounded);
-  return std::string(text.data(), end.ptr) + "\u00b0";
+  return std::string(text.data(), end.ptr).append("\u00b0");
 }
 
 /// "R2" where a name in the system calls the radius so, else "R 553.9 mm".
@@ -89,23 +94,23 @@ std::string radiusText(const PieceDef& piece, std::int32_t units) {
     const PieceDef& other = *catalog.at(i);
     if (other.system != piece.system || std::abs(other.radius - piece.radius) > kSame)
       continue;
-    const std::string name = other.name + " ";
+    const std::string name = std::string(other.name).append(" ");
     for (std::size_t at = name.find(" R"); at != std::string::npos; at = name.find(" R", at + 1))
       if (at + 3 < name.size() && isDigit(name[at + 2]) && !isDigit(name[at + 3]))
         return name.substr(at + 1, 2);
   }
-  return "R " + formatBriefLength(piece.radius, units);
+  return std::string("R ").append(formatBriefLength(piece.radius, units));
 }
 
 std::string arcText(const PieceDef& piece, std::int32_t units) {
-  return radiusText(piece, units) + " " + angleText(piece.angle);
+  return joinTexts({radiusText(piece, units), angleText(piece.angle)}, " ");
 }
 
 std::string lineUp(const std::vector<std::string>& words) {
   std::string line;
   for (const std::string& word : words)
     if (!word.empty())
-      line += (line.empty() ? "" : ", ") + word;
+      line.append(line.empty() ? "" : ", ").append(word);
   return line;
 }
 
