@@ -66,6 +66,10 @@ const Command kCommands[] = {
      .run = [](Desk& desk) { deleteSelected(desk.canvasPanel.canvas().site()); }},
     {.id = kSelectAll, .menuText = wxTRANSLATE("Select &All\tCtrl+A"),
      .menuHelp = wxTRANSLATE("Select everything that is visible"), .run = selectEverything},
+    {.id = kFind, .menuText = wxTRANSLATE("&Find...\tCtrl+F"),
+     .menuHelp = wxTRANSLATE("Find pieces, scenery and labels on the plan"),
+     .menu = Command::Menu::Edit,
+     .run = [](Desk& desk) { FindDialog(&desk.window, desk.workspace).ShowModal(); }},
     {.id = kCut, .menuText = wxTRANSLATE("Cu&t\tCtrl+X"),
      .menuHelp = wxTRANSLATE("Take what is selected away, to paste it elsewhere"),
      .menu = Menu::Edit, .enabled = hasSelection,
@@ -79,10 +83,6 @@ const Command kCommands[] = {
     {.id = kDuplicate, .menuText = wxTRANSLATE("Dup&licate\tCtrl+D"),
      .menuHelp = wxTRANSLATE("Hang a copy of what is selected on the pointer"), .menu = Menu::Edit,
      .enabled = hasSelection, .run = [](Desk& desk) { duplicateSelection(siteOf(desk)); }},
-    {.id = kFind, .menuText = wxTRANSLATE("&Find...\tCtrl+F"),
-     .menuHelp = wxTRANSLATE("Find pieces, scenery and labels on the plan"),
-     .menu = Command::Menu::Edit,
-     .run = [](Desk& desk) { FindDialog(&desk.window, desk.workspace).ShowModal(); }},
 };
 // clang-format on
 
