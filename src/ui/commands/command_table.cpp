@@ -37,9 +37,9 @@ void Command::perform(Desk& desk) const {
 const std::vector<const Command*>& commands() {
   static const std::vector<const Command*> all = [] {
     std::vector<const Command*> rows;
-    for (const auto topic : {fileCommands, transferCommands, sampleCommands, editCommands,
-                             arrangeCommands, viewCommands, layoutCommands, toolCommands,
-                             programCommands})
+    for (const auto topic :
+         {fileCommands, transferCommands, sampleCommands, editCommands, arrangeCommands,
+          viewCommands, layoutCommands, toolCommands, programCommands})
       for (const Command& command : topic())
         rows.push_back(&command);
     return rows;
