@@ -336,6 +336,7 @@ void Canvas::offer(const Carried* what) {
   if (!article.empty())
     site_->choice.takeUp(article);
   site_->workspace.repaint();
+  renewHint();
 }
 
 bool Canvas::flipOffered(int step) {
@@ -347,6 +348,17 @@ bool Canvas::flipOffered(int step) {
   site_->choice.chooseWay(offered_, wayAfter(*definition, place->own, step, system));
   site_->workspace.repaint();
   return true;
+}
+
+std::string Canvas::offerHint() const {
+  if (carry_ || gesture_ != Gesture::None || offered_.empty())
+    return {};
+  const auto place = extensionOf(site_->layout(), offered_, site_->choice.wishFor(offered_));
+  const PieceDef* definition = TrackCatalog::instance().find(offered_);
+  if (!place || place->own == -1 || definition == nullptr)
+    return {};
+  return hintOf({tr("Enter: %1% goes on where it is shown", {offered_}),
+                 waysOf(*definition).size() > 1 ? tr("F: the other way round") : std::string()});
 }
 
 void Canvas::paintOffer(Surface& surface) const {
@@ -522,6 +534,8 @@ std::string Canvas::hint() const {
     return tr("Panning: let go to stay here, Esc to go back");
   if (space_ && gesture_ == Gesture::None)
     return hintOf({tr("Drag: pan"), tr("Wheel: zoom")});
+  if (const std::string offer = offerHint(); !offer.empty())
+    return offer;
   return tool().hint();
 }
 

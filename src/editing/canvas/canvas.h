@@ -102,6 +102,7 @@ class Canvas {
   void pointAt(const PointerInput& input);
   void viewChanged();
   void paintOffer(Surface& surface) const;
+  std::string offerHint() const;
   /// Tools move the view as well.
   void followView();
   PaintOptions paintOptions() const;

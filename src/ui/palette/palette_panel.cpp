@@ -72,6 +72,10 @@ PalettePanel::PalettePanel(wxWindow* parent, Workspace& workspace, Actions actio
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, "palette"),
       PlanObserver(workspace), workspace_(workspace), actions_(std::move(actions)) {
   Bind(wxEVT_PAINT, &PalettePanel::onFirstPaint, this);
+  Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+    renewOffer();
+    event.Skip();
+  });
   wxGetTopLevelParent(this)->Bind(wxEVT_CHAR_HOOK, &PalettePanel::onKeyAnywhere, this);
 }
 
@@ -110,6 +114,10 @@ void PalettePanel::build() {
   }
   pages_ = new wxPanel(this);
   pages_->SetSizer(new wxBoxSizer(wxVERTICAL));
+  pages_->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+    if (!flipOffered(event))
+      event.Skip();
+  });
 
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   sizer->Add(choice_, wxSizerFlags().Expand().Border(wxALL, FromDIP(4)));
@@ -298,7 +306,31 @@ void PalettePanel::onKeyAnywhere(wxKeyEvent& event) {
   typeInSearch(wxString::Format("%d", digit), false);
 }
 
+void PalettePanel::renewOffer() {
+  const PieceDef* piece = nullptr;
+  if (lists_[kTrackTab] && shownTab_ == kTrackTab && IsDescendant(FindFocus())) {
+    const int row = lists_[kTrackTab]->GetSelection();
+    piece = row == wxNOT_FOUND ? nullptr : pieces_.at(static_cast<std::size_t>(row));
+  }
+  if (piece == offered_)
+    return;
+  offered_ = piece;
+  if (!piece)
+    return actions_.offer(nullptr);
+  const Carried what = CarriedPiece{piece->article, model_.count()};
+  actions_.offer(&what);
+}
+
+bool PalettePanel::flipOffered(const wxKeyEvent& event) {
+  const wxString text = search_->GetValue();
+  const bool isArticle = !text.empty() && text.find_first_not_of("0123456789xX ") == wxString::npos;
+  return event.GetKeyCode() == 'F' && !event.ControlDown() && !event.AltDown() &&
+         (isArticle || !search_->HasFocus()) && actions_.flip(event.ShiftDown() ? -1 : 1);
+}
+
 void PalettePanel::onSearchKey(wxKeyEvent& event) {
+  if (flipOffered(event))
+    return;
   switch (event.GetKeyCode()) {
   case WXK_UP:
   case WXK_NUMPAD_UP:

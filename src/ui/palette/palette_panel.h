@@ -30,6 +30,10 @@ class PalettePanel : public wxPanel, private PlanObserver {
   struct Actions {
     std::function<void(const Carried& what)> drag;
     std::function<void(const Carried& what)> use; ///< blocks are centred and never empty
+    /// What `use` would be given while the focus is here; null for nothing.
+    std::function<void(const Carried* what)> offer;
+    /// Turns what is offered to its next way, or with -1 the one before; false when it cannot.
+    std::function<bool(int step)> flip;
   };
 
   PalettePanel(wxWindow* parent, Workspace& workspace, Actions actions);
@@ -69,6 +73,9 @@ class PalettePanel : public wxPanel, private PlanObserver {
   void typeInSearch(const wxString& text, bool behind);
   void onKeyAnywhere(wxKeyEvent& event);
   void onSearchKey(wxKeyEvent& event);
+  void renewOffer();
+  /// F turns what is offered round, where it is no letter of a search.
+  bool flipOffered(const wxKeyEvent& event);
   void fillTrack();
   void fillScenery();
   void fillLibrary();
@@ -82,6 +89,7 @@ class PalettePanel : public wxPanel, private PlanObserver {
   Actions actions_;
   PaletteModel model_;
   std::vector<TrackSystem> systems_;
+  const PieceDef* offered_ = nullptr;
   std::vector<const PieceDef*> pieces_;     ///< by row of the list, null for a heading
   std::vector<const SceneryDef*> scenery_;  ///< likewise
   std::vector<LibraryEntry> library_;       ///< all blocks of the folder
