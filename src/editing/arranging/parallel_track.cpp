@@ -159,9 +159,6 @@ class Layer {
   }
 
   const std::vector<std::int32_t>& placed() const { return placed_; }
-  /// The end at which the last piece goes on.
-  std::int32_t exit() const { return exit_; }
-  std::int32_t entrance() const { return entrance_; }
 
  private:
   bool layOne(const PieceDef& piece, std::int32_t enter, const Place& from, const Place& to,
@@ -182,8 +179,6 @@ class Layer {
                enter == 0 ? to.height : from.height);
     if (follows)
       join(layout_, id, enter, placed_.back(), exit_);
-    else if (placed_.empty())
-      entrance_ = enter;
     placed_.push_back(id);
     exit_ = 1 - enter;
     return true;
@@ -213,8 +208,7 @@ class Layer {
   Layout& layout_;
   double distance_;
   std::vector<std::int32_t> placed_;
-  std::int32_t exit_ = -1;
-  std::int32_t entrance_ = -1;
+  std::int32_t exit_ = -1; ///< end at which the last piece goes on
 };
 
 /// Ends of the new track between which the chain goes on.

@@ -42,7 +42,7 @@ constexpr const char* kMouseAndKeys[] = {
     wxTRANSLATE("# Looking around"),
     wxTRANSLATE("Wheel|Zoom at the pointer"),
     wxTRANSLATE("+ and -|Zoom at the middle of the plan"),
-    wxTRANSLATE("Ctrl+0|Show the whole plan"),
+    wxTRANSLATE("Ctrl+0, Ctrl+1|Show the whole plan, what is selected"),
     wxTRANSLATE("Ctrl+drag|Move the view"),
     wxTRANSLATE("Space+drag|Move the view"),
     wxTRANSLATE("F9, Shift+F9|Fold the palette, or properties and tally, away or back; so does a "
@@ -62,6 +62,9 @@ constexpr const char* kMouseAndKeys[] = {
     wxTRANSLATE("Ctrl+wheel|Turn it by 15°, with Shift by 5°"),
     wxTRANSLATE("Arrow keys|Move it by 10 mm, with Shift by 1 mm"),
     wxTRANSLATE("Del, Backspace|Delete it"),
+    wxTRANSLATE("Ctrl+M, Ctrl+Shift+M|Mirror it left to right, top to bottom"),
+    wxTRANSLATE("Ctrl+L|Lay a parallel track beside the selected chain"),
+    wxTRANSLATE("Ctrl+X, Ctrl+C, Ctrl+V, Ctrl+D|Cut, copy, paste, duplicate"),
     wxTRANSLATE("Ctrl+Z, Ctrl+Y|Undo, redo"),
     wxTRANSLATE("Right-click|More of what can be done here"),
     wxTRANSLATE("# Carrying something from the palette"),
@@ -117,7 +120,8 @@ constexpr const char* kLevelsAndBaseboard[] = {
                 "exact measures, or a free outline that you draw corner by corner or take from a "
                 "shape selected before. It lies behind the track, never in the way of a click. A "
                 "table that is changed keeps its top left corner; the first one is put under what "
-                "is on the plan."),
+                "is on the plan. \"Mirror\" and \"Turn Right\" lay it the other way round. With "
+                "Layout > Baseboard Corners its corners are dragged on the plan."),
     wxTRANSLATE("# Shapes"),
     wxTRANSLATE(
         "\"Polygon\" in the tool bar draws any outline corner by corner: an access hatch, "
@@ -126,6 +130,9 @@ constexpr const char* kLevelsAndBaseboard[] = {
         "places one of an exact size in the middle of the "
         "view, selected, so that it can be moved to its place. Double-click a shape to give "
         "it a label, colour, opacity, height and level, or to make it the baseboard."),
+    wxTRANSLATE("A selected shape has handles: drag a corner, or pull a new one out of the middle "
+                "of an edge. Click a corner and press Del to remove it; right-click it to place it "
+                "by numbers."),
     wxTRANSLATE("Lengths can be typed in any unit: 120, 12 cm or 4.75 in."),
     wxTRANSLATE("# Measures"),
     wxTRANSLATE("Layout > Units of Measure changes how lengths are shown. The plan itself stays "
