@@ -1,5 +1,6 @@
 #include "catalog/track_catalog.h"
 #include "document/block_file.h"
+#include "editing/selection/open_ends.h"
 #include "frame_test.h"
 #include "host/command_ids.h"
 #include "support/plan.h"
@@ -11,6 +12,9 @@
 #include <wx/statusbr.h>
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <regex>
 #include <stdexcept>
 
 namespace trassix::test {
@@ -99,6 +103,65 @@ TEST_F(PlanningTest, AnOvalIsPlannedSavedAndFoundAgainAllJoined) {
     EXPECT_NEAR(plan().pieces()[i].x, saved.pieces[i].x, 1e-4);
   }
   EXPECT_EQ(frame().GetTitle(), "Trassix v1.7.1 by Quorrail - Evening oval");
+  finish();
+}
+
+/// What a reader of the README does to get an oval with a siding, in its words.
+std::vector<std::string> firstPlanOfTheReadme() {
+  std::ifstream file(std::string(TRASSIX_SOURCE_DIR) + "/README.md");
+  const std::string text{std::istreambuf_iterator<char>(file), {}};
+  const std::size_t begin = text.find("1. Type `24611`");
+  const std::string recipe = text.substr(begin, text.find("<kbd>S</kbd>") - begin);
+  const std::regex step(
+      "`([0-9x]+)`|<kbd>(Enter|F|0)</kbd>|(click in the middle|click the open end)");
+  std::vector<std::string> steps;
+  for (std::sregex_iterator at(recipe.begin(), recipe.end(), step), end; at != end; ++at)
+    for (const std::size_t group : {1U, 2U, 3U})
+      if ((*at)[group].matched)
+        steps.push_back((*at)[group]);
+  return steps;
+}
+
+TEST_F(PlanningTest, TheReadmesOvalComesOutAsItSays) {
+  startLaidOut();
+  auto& search = dynamic_cast<wxSearchCtrl&>(*findNamed("search"));
+  click(onPlan({100, 100}));
+  int actions = 0;
+  std::string typed;
+  for (const std::string& step : firstPlanOfTheReadme()) {
+    SCOPED_TRACE(step);
+    const std::size_t before = pieces();
+    if (step == "click in the middle") {
+      click(onPlan({600, 400}));
+      waitForPieces(1);
+      ++actions;
+    } else if (step == "click the open end") {
+      const auto end = endAt(plan(), {1, 2});
+      click(onPlan({end->x, end->y}));
+      waitUntil("the turnout is selected", [&] { return plan().findPiece(1)->sel; });
+      ++actions;
+    } else if (step == "Enter") {
+      pressKey(WXK_RETURN);
+      waitUntil("it is placed or carried",
+                [&] { return pieces() > before || canvas().carrying(); });
+    } else if (step == "F") {
+      const auto hint = [&] { return frame().GetStatusBar()->GetStatusText(0); };
+      waitUntil("it is shown where it will lie", [&] { return hint().Contains("F: the other"); });
+      pressKey('F');
+      ++actions;
+    } else if (step == "0") {
+      pressKey('0', wxMOD_CONTROL);
+      ++actions;
+    } else {
+      typeText(step.c_str());
+      waitUntil("the search has it", [&] { return search.GetValue() == step; });
+      ++actions;
+    }
+  }
+  EXPECT_EQ(pieces(), 28U);
+  EXPECT_EQ(openEnds(plan()), 0);
+  EXPECT_EQ(brokenRule(plan()), "");
+  EXPECT_LE(actions, 28);
   finish();
 }
 

@@ -8,6 +8,11 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+#include <map>
+#include <set>
+#include <string>
+
 namespace trassix::test {
 namespace {
 
@@ -185,6 +190,88 @@ TEST(Carrying, BlocksAndGroupsSnapAndSayHowManyEndsMeet) {
   script.canvas.release(Canvas::Button::Left, moved);
   EXPECT_EQ(script.pieces().size(), 3u);
   EXPECT_EQ(openEnds(script.host.plan), 2);
+}
+
+/// Plans by the fewest movements: what is typed with its Enter, a click, a key are one each.
+class FewMovements : public CanvasScript {
+ public:
+  int actions = 0;
+
+  void place(const char* article) { // typed, then dropped by a click
+    carry(article, {600, 400});
+    release({600, 400});
+    actions += 2;
+  }
+  /// "6x24130": what is typed; an F behind it turns what is offered round first.
+  void type(std::string text) {
+    const bool flipped = text.back() == 'F';
+    if (flipped)
+      text.pop_back();
+    const std::size_t times = text.find('x');
+    const bool several = times != std::string::npos;
+    const Carried what =
+        CarriedPiece{several ? text.substr(times + 1) : text, several ? std::stoi(text) : 1};
+    canvas.offer(&what);
+    EXPECT_EQ(flipped && canvas.flipOffered(1), flipped) << text;
+    EXPECT_TRUE(canvas.goOnWith(what)) << text;
+    actions += flipped ? 2 : 1;
+  }
+  void clickEnd(std::int32_t piece, std::int32_t connector) {
+    canvas.fit();
+    const auto at = endAt(host.plan, {piece, connector});
+    click({at->x, at->y});
+    ++actions;
+  }
+  std::map<std::string, int> counts() const {
+    std::map<std::string, int> counted;
+    for (const PlacedPiece& piece : pieces())
+      ++counted[piece.cat];
+    return counted;
+  }
+};
+
+TEST(FewMovements, MakeWholePlans) {
+  FewMovements eight;
+  eight.place("2258");
+  for (const char* text : {"5x2200", "2202", "2208", "7x2231", "2233", "2208", "2202", "5x2200"})
+    eight.type(text);
+  eight.clickEnd(1, 2);
+  for (const char* text : {"5x2200", "2202", "2208", "7x2231F", "2233", "2208", "2202", "5x2200"})
+    eight.type(text);
+  EXPECT_EQ(eight.counts(),
+            (std::map<std::string, int>{
+                {"2200", 20}, {"2202", 4}, {"2208", 4}, {"2231", 14}, {"2233", 2}, {"2258", 1}}));
+  EXPECT_EQ(openEnds(eight.host.plan), 0);
+  EXPECT_LE(eight.actions, 40);
+
+  // A ladder of two double slips into four tracks, each with a bumper at its end.
+  FewMovements station;
+  station.place("24611");
+  station.clickEnd(1, 2);
+  station.type("2x24624");
+  station.type("24224");
+  station.type("5x24188");
+  station.type("24977");
+  station.clickEnd(1, 1);
+  station.type("6x24188");
+  station.type("24977");
+  for (const std::int32_t slip : {2, 3}) {
+    station.clickEnd(slip, 3);
+    station.type("5x24188");
+    station.type("24977");
+    station.clickEnd(slip, 2);
+    station.type("24188");
+  }
+  EXPECT_EQ(station.counts(),
+            (std::map<std::string, int>{
+                {"24611", 1}, {"24624", 2}, {"24224", 1}, {"24188", 23}, {"24977", 4}}));
+  std::set<int> heads; // the tracks lie side by side
+  for (const PlacedPiece& piece : station.pieces())
+    if (piece.cat == "24977")
+      heads.insert(static_cast<int>(std::lround(piece.y - 400)));
+  EXPECT_EQ(heads, (std::set<int>{0, -78, -155, -232}));
+  EXPECT_EQ(openEnds(station.host.plan), 3);
+  EXPECT_LE(station.actions, 55);
 }
 
 } // namespace
