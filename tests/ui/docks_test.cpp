@@ -84,9 +84,9 @@ TEST_F(FrameTest, DocksFollowMouseAndKeys) {
   pressKey(WXK_ESCAPE);
   waitForFocus("canvas");
   docks.show(kUnder);
-  for (const char* next : {"b", "canvas", "u"}) {
+  for (const char* next : {"b", "palette", "properties", "canvas", "u"}) {
     pressKey(WXK_F6);
-    waitForFocus(next);
+    waitUntil(next, [&] { return findNamed(next)->IsDescendant(wxWindow::FindFocus()); });
   }
   docks.hide(kUnder);
   click(*findLabelled("Parts"));

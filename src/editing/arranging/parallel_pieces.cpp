@@ -28,8 +28,8 @@ std::vector<const PieceDef*> curvesOf(TrackSystem system) {
         piece.adapterSystems.empty() && piece.angle > 0)
       curves.push_back(&piece);
   }
-  std::ranges::stable_partition(curves,
-                                [](const PieceDef* piece) { return !hasOwnFunction(*piece); });
+  std::stable_partition(curves.begin(), curves.end(),
+                        [](const PieceDef* piece) { return !hasOwnFunction(*piece); });
   return curves;
 }
 

@@ -239,7 +239,8 @@ TrainWay wayThrough(const Layout& layout, std::int32_t piece,
   Steps on = onFrom(layout, {piece, enter}, met, branches);
   Steps back = onFrom(layout, beyond(layout, {piece, enter}), met, branches);
   Steps whole;
-  for (const Step& step : std::views::reverse(back))
+  std::ranges::reverse(back);
+  for (const Step& step : back)
     whole.push_back({step.left(), step.enter.connector});
   whole.insert(whole.end(), on.begin(), on.end());
   return wayOf(layout, whole);

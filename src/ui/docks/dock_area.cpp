@@ -39,6 +39,7 @@ void rememberSize(wxSplitterWindow& splitter, int& size) {
 void DockArea::surround(CanvasPanel& canvas, Workspace& workspace) {
   canvas_ = &canvas;
   workspace_ = &workspace;
+  wxGetTopLevelParent(&canvas)->Bind(wxEVT_CHAR_HOOK, &DockArea::onKey, this);
 }
 
 bool DockArea::shown(const DockedPanel& panel) const {
@@ -114,7 +115,6 @@ void DockArea::open(DockSide side) {
     dock.splitter->SplitVertically(inside, dock.tabs, -dock.size);
   keepSash(*dock.splitter, [&dock](int extent) { return extent - dock.size; });
   rememberSize(*dock.splitter, dock.size);
-  dock.splitter->Bind(wxEVT_CHAR_HOOK, &DockArea::onKey, this);
 }
 
 void DockArea::close(Dock& dock) {
@@ -165,6 +165,13 @@ void DockArea::focusNext(int by) {
     if (hasFocus(*dock.tabs))
       now = stops.size();
     stops.push_back(dock.tabs->page(*dock.tabs->front()));
+  }
+  for (wxWindow* window : others_) {
+    if (!window->IsShownOnScreen() || window->GetClientSize().x < 2)
+      continue;
+    if (hasFocus(*window))
+      now = stops.size();
+    stops.push_back(window);
   }
   const auto count = static_cast<int>(stops.size());
   stops[static_cast<std::size_t>((static_cast<int>(now) + by + count) % count)]->SetFocus();

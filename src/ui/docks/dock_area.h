@@ -4,6 +4,7 @@
 
 #include <array>
 #include <functional>
+#include <vector>
 
 class wxKeyEvent;
 class wxSplitterWindow;
@@ -14,12 +15,15 @@ class DockTabs;
 
 /// Panels under the canvas and beside it, which keeps what it shows at its place. A side without a
 /// panel has no windows at all, so the canvas stands in the window's splitter as if there were no
-/// docks. F6 and Shift+F6 go from the canvas through the docks, Ctrl+PageUp and Ctrl+PageDown
+/// docks. F6 and Shift+F6 go from the canvas through the docks and the windows named to `goOnTo`,
+/// Ctrl+PageUp and Ctrl+PageDown
 /// through the tabs of one, Esc goes back to the canvas.
 class DockArea {
  public:
   /// Where the canvas stands, in a splitter. Called once.
   void surround(CanvasPanel& canvas, Workspace& workspace);
+  /// F6 comes there as well, while the window is shown.
+  void goOnTo(wxWindow& window) { others_.push_back(&window); }
   /// Called whenever a panel was shown, or hidden, or brought to the front.
   void onChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
@@ -54,6 +58,7 @@ class DockArea {
   Workspace* workspace_ = nullptr;
   std::function<void()> changed_;
   std::array<Dock, 2> docks_;
+  std::vector<wxWindow*> others_;
 };
 
 } // namespace trassix

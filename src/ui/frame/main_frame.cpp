@@ -91,7 +91,9 @@ void MainFrame::buildPanels() {
   canvas_ = new CanvasPanel(inner, workspace_);
   FrameTrace::write("BuildPanels: canvas created");
   docks_->surround(*canvas_, workspace_);
+  docks_->goOnTo(*palette_);
   properties_ = new PropertiesPanel(inner, workspace_);
+  docks_->goOnTo(*properties_);
   FrameTrace::write("BuildPanels: properties created");
   inner->SplitVertically(canvas_, properties_, -FromDIP(kPropertiesWidth));
   outer->SplitVertically(palette_, inner, FromDIP(kPaletteWidth));

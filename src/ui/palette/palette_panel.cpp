@@ -182,11 +182,13 @@ CatalogList* PalettePanel::makeList(Tab tab) {
     break;
   }
   return new CatalogList(pages_, "library",
-                         {{},
+                         {[this](std::size_t row) {
+                            if (const LibraryEntry& entry = *blocks_[row]; !entry.block.empty())
+                              actions_.drag(entry.block);
+                          },
                           [this](std::size_t row) { loadEntry(*blocks_[row]); },
                           [this](std::size_t row) { showEntryMenu(*blocks_[row]); },
-                          [this](std::size_t row) { deleteEntry(*blocks_[row]); },
-                          typed});
+                          [this](std::size_t row) { deleteEntry(*blocks_[row]); }, typed});
 }
 
 CatalogList& PalettePanel::listOf(Tab tab) {
