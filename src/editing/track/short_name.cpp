@@ -9,6 +9,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <map>
 #include <string_view>
 #include <vector>
 
@@ -162,17 +163,7 @@ Words wordsOf(const PieceDef& piece, std::int32_t units) {
   return special ? Words{{remark(piece), measure}, ""} : Words{{measure, remark(piece)}, ""};
 }
 
-} // namespace
-
-std::string nameInList(const PieceDef& piece, std::int32_t units) {
-  const std::string text = shortNameOf(piece, units).text;
-  const bool turnout =
-      piece.kind == PieceKind::TurnoutLeft || piece.kind == PieceKind::TurnoutRight ||
-      piece.kind == PieceKind::CurvedTurnout || piece.kind == PieceKind::CurvedTurnoutSpaced;
-  return turnout ? lineUp({text, tr("turnout")}) : text;
-}
-
-ShortName shortNameOf(const PieceDef& piece, std::int32_t units) {
+ShortName derivedName(const PieceDef& piece, std::int32_t units) {
   const Words words = wordsOf(piece, units);
   const std::string text = lineUp(words.said);
   if (words.rest.empty())
@@ -188,6 +179,27 @@ ShortName shortNameOf(const PieceDef& piece, std::int32_t units) {
       return {lineUp({text, words.rest}), ""};
   }
   return {text, words.rest};
+}
+
+} // namespace
+
+std::string nameInList(const PieceDef& piece, std::int32_t units) {
+  const std::string text = shortNameOf(piece, units).text;
+  const bool turnout =
+      piece.kind == PieceKind::TurnoutLeft || piece.kind == PieceKind::TurnoutRight ||
+      piece.kind == PieceKind::CurvedTurnout || piece.kind == PieceKind::CurvedTurnoutSpaced;
+  return turnout ? lineUp({text, tr("turnout")}) : text;
+}
+
+ShortName shortNameOf(const PieceDef& piece, std::int32_t units) {
+  if (TrackCatalog::instance().find(piece.article) != &piece)
+    return derivedName(piece, units);
+  // Which words tell a piece from the others takes a look at all of them.
+  static std::map<std::pair<const PieceDef*, std::int32_t>, ShortName> kept;
+  const auto [name, isNew] = kept.try_emplace({&piece, units});
+  if (isNew)
+    name->second = derivedName(piece, units);
+  return name->second;
 }
 
 } // namespace trassix
