@@ -1,6 +1,7 @@
 // Finding things on large plans: where a carried piece snaps, what lies under the pointer, which
 // piece has an id; and what the indexes for it cost.
 #include "catalog/track_catalog.h"
+#include "document/record_kinds.h"
 #include "editing/joining/joining.h"
 #include "editing/joining/snapping.h"
 #include "editing/placing/placing.h"

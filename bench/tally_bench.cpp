@@ -1,6 +1,7 @@
 // What the side panels look through after each change of a large plan, against plain passes over
 // its pieces.
 #include "catalog/track_catalog.h"
+#include "document/record_kinds.h"
 #include "editing/selection/selection.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/piece_outline.h"

@@ -1,5 +1,6 @@
 // Whatever the bytes are, reading them must end well, and a block that was read can be saved and
 // read again.
+#include "document/block.h"
 #include "document/block_file.h"
 
 #include <cstdlib>

@@ -2,6 +2,7 @@
 // be undone exactly, one-sided joints are left alone, and what is saved can be loaded.
 #include "catalog/track_catalog.h"
 #include "damaged_plan.h"
+#include "document/block.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
 #include "document/limits.h"

@@ -3,6 +3,8 @@
 // mouse move costs until it is painted.
 #include "canvas/plain_drawing.h"
 #include "catalog/track_catalog.h"
+#include "document/block.h"
+#include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/joining/joining.h"
@@ -303,9 +305,9 @@ void takeFromPalette(BusyWindow& window, std::size_t) {
 }
 
 void carryBlock(BusyWindow& window, std::size_t pieces) {
-  Block block;
-  block.content.pieces = window.group(pieces);
-  window.script.canvas.carry(std::move(block), window.script.at({900, 700}), true);
+  const auto block = std::make_shared<Block>();
+  block->content.pieces = window.group(pieces);
+  window.script.canvas.carry(block, window.script.at({900, 700}), true);
 }
 
 void drag(BusyWindow& window, std::size_t pieces) {

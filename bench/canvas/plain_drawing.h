@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/layout.h"
+#include "document/record_kinds.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
 #include "plain_track.h"

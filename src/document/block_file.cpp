@@ -1,7 +1,9 @@
 #include "document/block_file.h"
 
+#include "document/block.h"
 #include "document/element_reader.h"
 #include "document/element_writer.h"
+#include "document/layout.h"
 #include "document/piece_lines.h"
 #include "document/piece_pairs.h"
 #include "document/record_kinds.h"
@@ -58,10 +60,14 @@ void readLines(ElementReader& reader, Block& block) {
 
 } // namespace
 
-bool Block::empty() const {
+bool isEmpty(const Block& block) {
   bool none = true;
-  forEachKind(content, [&none](const auto& records) { none = none && records.empty(); });
+  forEachKind(block.content, [&none](const auto& records) { none = none && records.empty(); });
   return none;
+}
+
+bool selectionFitsBlockFile(const Layout& layout) {
+  return blockFromSelection(layout).hasFilePart();
 }
 
 Block blockFromSelection(const Layout& layout) {

@@ -4,27 +4,25 @@
 
 #include "app/services/text_file.h"
 #include "document/element_writer.h"
-#include "document/layout.h"
+#include "geometry/point.h"
 
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace trassix {
 
-/// Complete records with the ids and joints they had in their plan, also joints that lead out of
-/// the block.
-struct Block {
-  std::string name;
-  PlanContent content;   ///< of it the file has pieces and scenery, without their heights
-  bool onLevels = false; ///< pieces have no height of their own, but that of their level
+struct Block;
+class Layout;
 
-  bool empty() const;
-  /// Whether there is something in it that a block file can hold.
-  bool hasFilePart() const { return !content.pieces.empty() || !content.scenery.empty(); }
-  bool operator==(const Block&) const = default;
-};
+/// A block that several hold and none changes.
+using SharedBlock = std::shared_ptr<const Block>;
+
+bool isEmpty(const Block& block);
+
+/// Whether anything is selected that a block file can hold.
+bool selectionFitsBlockFile(const Layout& layout);
 
 /// Everything selected, in document order.
 Block blockFromSelection(const Layout& layout);

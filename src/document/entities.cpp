@@ -1,5 +1,8 @@
 #include "document/entities.h"
 
+#include "document/block.h"
+#include "document/record_kinds.h"
+
 #include <array>
 
 namespace trassix {

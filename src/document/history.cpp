@@ -1,5 +1,7 @@
 #include "document/history.h"
 
+#include "document/plan_content.h"
+
 #include <utility>
 
 namespace trassix {
@@ -37,6 +39,10 @@ bool History::undo(PlanContent& content) {
 
 bool History::redo(PlanContent& content) {
   return step(redo_, undo_, content);
+}
+
+bool History::redoChanges(const PlanContent& content) const {
+  return !redo_.empty() && redo_.back() != content;
 }
 
 void History::clear() {

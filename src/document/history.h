@@ -25,6 +25,9 @@ class History {
   bool undo(PlanContent& content);
   bool redo(PlanContent& content);
 
+  /// Whether the newest step of redo differs from `content`.
+  bool redoChanges(const PlanContent& content) const;
+
   bool canUndo() const { return !undo_.empty(); }
   bool canRedo() const { return !redo_.empty(); }
   void clear();

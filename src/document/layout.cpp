@@ -1,6 +1,9 @@
 #include "document/layout.h"
 
+#include "document/history.h"
+#include "document/piece_index.h"
 #include "document/record_kinds.h"
+#include "document/reselecting.h"
 
 #include <algorithm>
 #include <atomic>
@@ -33,6 +36,22 @@ std::unordered_set<std::int32_t> usedIds(const PlanContent& content) {
 
 } // namespace
 
+struct Layout::Store {
+  PlanContent content;
+  History history;
+  PieceIndex index;
+};
+
+Layout::StoreOwner::StoreOwner() : store_(std::make_unique<Store>()) {}
+Layout::StoreOwner::StoreOwner(const StoreOwner& other)
+    : store_(std::make_unique<Store>(*other.store_)) {}
+Layout::StoreOwner::StoreOwner(StoreOwner&&) noexcept = default;
+Layout::StoreOwner& Layout::StoreOwner::operator=(const StoreOwner& other) {
+  return *this = StoreOwner(other);
+}
+Layout::StoreOwner& Layout::StoreOwner::operator=(StoreOwner&&) noexcept = default;
+Layout::StoreOwner::~StoreOwner() = default;
+
 Layout::Layout() = default;
 Layout::Layout(const Layout&) = default;
 Layout::Layout(Layout&&) noexcept = default;
@@ -40,9 +59,29 @@ Layout& Layout::operator=(const Layout&) = default;
 Layout& Layout::operator=(Layout&&) noexcept = default;
 Layout::~Layout() = default;
 
+const PlanContent& Layout::content() const {
+  return store_->content;
+}
+
+const std::vector<PlacedPiece>& Layout::pieces() const {
+  return store_->content.pieces;
+}
+
+std::size_t Layout::pieceCount() const {
+  return store_->content.pieces.size();
+}
+
+PlanContent& Layout::stored() {
+  return store_->content;
+}
+
+History& Layout::history() {
+  return store_->history;
+}
+
 PlanContent& Layout::edit() {
   stampArrangement();
-  return content_;
+  return store_->content;
 }
 
 PlanSettings& Layout::editSettings() {
@@ -51,7 +90,7 @@ PlanSettings& Layout::editSettings() {
 }
 
 const PlacedPiece* Layout::findPiece(std::int32_t id) const {
-  return id == -1 ? nullptr : index_.find(content_.pieces, id, arrangement_);
+  return id == -1 ? nullptr : store_->index.find(store_->content.pieces, id, arrangement_);
 }
 
 PlacedPiece* Layout::editPiece(std::int32_t id) {
@@ -59,7 +98,7 @@ PlacedPiece* Layout::editPiece(std::int32_t id) {
   if (piece == nullptr)
     return nullptr;
   stampContent();
-  return &content_.pieces[static_cast<std::size_t>(piece - content_.pieces.data())];
+  return &store_->content.pieces[static_cast<std::size_t>(piece - store_->content.pieces.data())];
 }
 
 const Level* Layout::findLevel(std::int32_t id) const {
@@ -108,8 +147,8 @@ std::int32_t Layout::freeLevelId() const {
         used.insert(record.level);
     });
   };
-  collect(content_);
-  history_.visit(collect);
+  collect(content());
+  store_->history.visit(collect);
   const std::int32_t largest = used.empty() ? 0 : std::max(0, *used.rbegin());
   if (largest < kLargestId)
     return largest + 1;
@@ -125,8 +164,8 @@ std::int32_t Layout::takeId() {
     reusingIds_ = true;
   }
   // The first ids in use are mostly followed by many more.
-  if (reusingIds_ && inUse(content_, nextPieceId_))
-    for (const auto used = usedIds(content_); used.contains(nextPieceId_);)
+  if (reusingIds_ && inUse(content(), nextPieceId_))
+    for (const auto used = usedIds(content()); used.contains(nextPieceId_);)
       ++nextPieceId_;
   return nextPieceId_++;
 }
@@ -155,10 +194,10 @@ void Layout::select(RecordKind kind, std::int32_t id, bool selected) {
   };
   if (kind == RecordKind::Piece) { // of which there are many
     if (const PlacedPiece* piece = findPiece(id))
-      set(content_.pieces[static_cast<std::size_t>(piece - content_.pieces.data())]);
+      set(store_->content.pieces[static_cast<std::size_t>(piece - store_->content.pieces.data())]);
     return;
   }
-  forEachSelectable(content_, [&](auto& records) {
+  forEachSelectable(stored(), [&](auto& records) {
     using Record = typename std::remove_cvref_t<decltype(records)>::value_type;
     if (Record::kKind != kind)
       return;
@@ -168,26 +207,42 @@ void Layout::select(RecordKind kind, std::int32_t id, bool selected) {
 }
 
 void Layout::clear() {
-  content_ = {};
+  store_->content = {};
   editSettings() = {};
   setNextPieceId(1);
-  history_.clear();
+  store_->history.clear();
   stampArrangement();
 }
 
 void Layout::pushHistory() {
-  history_.push(history_.snapshot(content_));
+  history().push(history().snapshot(content()));
+}
+
+bool Layout::lastUndoShows() const {
+  return store_->history.redoChanges(content());
+}
+
+bool Layout::canUndo() const {
+  return store_->history.canUndo();
+}
+
+bool Layout::canRedo() const {
+  return store_->history.canRedo();
+}
+
+void Layout::clearSelection() {
+  reselect([](const auto&) { return false; });
 }
 
 bool Layout::undo() {
-  if (!history_.undo(content_))
+  if (!history().undo(stored()))
     return false;
   stampArrangement();
   return true;
 }
 
 bool Layout::redo() {
-  if (!history_.redo(content_))
+  if (!history().redo(stored()))
     return false;
   stampArrangement();
   return true;

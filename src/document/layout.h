@@ -1,21 +1,23 @@
 #pragma once
 
-#include "document/history.h"
-#include "document/piece_index.h"
-#include "document/plan_content.h"
 #include "document/plan_settings.h"
-#include "document/record_kinds.h"
+#include "document/records_fwd.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
-#include <string>
-#include <utility>
+#include <memory>
 #include <vector>
 
 namespace trassix {
 
+class History;
+
 /// The open document: what is on the plan, its settings, and its undo and redo history. Holds
 /// storage and invariants only; what edits it are the topic functions in `editing/`.
+///
+/// What the records consist of is for those that work on them to include; whoever only hands a plan
+/// on need not be compiled anew when a record changes.
 ///
 /// Reading goes through the const accessors, writing through `edit()` and `editSettings()`,
 /// selecting through `reselect()` and `select()`. Each stamps what it may have changed, so that
@@ -25,19 +27,22 @@ class Layout {
  public:
   Layout();
   Layout(const Layout& other);
+  /// What was moved from can only be destroyed or assigned to.
   Layout(Layout&& other) noexcept;
   Layout& operator=(const Layout& other);
   Layout& operator=(Layout&& other) noexcept;
   ~Layout();
 
-  const PlanContent& content() const { return content_; }
-  const std::vector<PlacedPiece>& pieces() const { return content_.pieces; }
+  const PlanContent& content() const;
+  const std::vector<PlacedPiece>& pieces() const;
+  std::size_t pieceCount() const;
   const PlanSettings& settings() const { return settings_; }
 
   PlanContent& edit();
   PlanSettings& editSettings();
 
-  /// Selects the records of which `chosen` is true, and no others.
+  /// Selects the records of which `chosen` is true, and no others. Defined in
+  /// `document/reselecting.h`.
   template <class Chosen>
   void reselect(Chosen chosen);
   /// Selects or deselects one record; nothing happens when there is none.
@@ -93,9 +98,7 @@ class Layout {
   /// grade.
   void startGradeRun(std::int32_t anchor, std::int32_t connector, double degrees);
 
-  void clearSelection() {
-    reselect([](const auto&) { return false; });
-  }
+  void clearSelection();
 
   /// Empties everything and forgets the history; ids start at 1 again.
   void clear();
@@ -105,8 +108,11 @@ class Layout {
   void pushHistory();
   bool undo();
   bool redo();
-  bool canUndo() const { return history_.canUndo(); }
-  bool canRedo() const { return history_.canRedo(); }
+  /// Whether the step undone last changed any record. One of levels or the baseboard does not,
+  /// since those are not under undo.
+  bool lastUndoShows() const;
+  bool canUndo() const;
+  bool canRedo() const;
 
  private:
   friend class UndoScope;
@@ -114,31 +120,34 @@ class Layout {
   void stampContent();
   void stampArrangement();
 
-  PlanContent content_;
+  struct Store;
+  /// Owns the records and what is kept of them; copied with the layout.
+  class StoreOwner {
+   public:
+    StoreOwner();
+    StoreOwner(const StoreOwner& other);
+    StoreOwner(StoreOwner&& other) noexcept;
+    StoreOwner& operator=(const StoreOwner& other);
+    StoreOwner& operator=(StoreOwner&& other) noexcept;
+    ~StoreOwner();
+    Store* operator->() const { return store_.get(); }
+
+   private:
+    std::unique_ptr<Store> store_;
+  };
+
+  PlanContent& stored();
+  History& history();
+
+  StoreOwner store_;
   PlanSettings settings_;
   std::int32_t nextPieceId_ = 1;
   bool reusingIds_ = false; ///< the counter has started over and must pass over ids in use
-  History history_;
   std::uint64_t contentStamp_ = 0;
   std::uint64_t settingsStamp_ = 0;
   std::uint64_t selectionStamp_ = 0;
   bool inEdit_ = false;           ///< an undo scope is open
   std::uint64_t arrangement_ = 0; ///< the stamp since which pieces kept their places in the list
-  mutable PieceIndex index_;
 };
-
-template <class Chosen>
-void Layout::reselect(Chosen chosen) {
-  bool changed = false;
-  forEachSelectable(content_, [&](auto& records) {
-    for (auto& record : records) {
-      const bool wanted = chosen(std::as_const(record));
-      changed = changed || record.sel != wanted;
-      record.sel = wanted;
-    }
-  });
-  if (changed)
-    selectionStamp_ = newStamp();
-}
 
 } // namespace trassix

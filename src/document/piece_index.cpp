@@ -1,5 +1,7 @@
 #include "document/piece_index.h"
 
+#include "document/plan_content.h"
+
 #include <algorithm>
 
 namespace trassix {

@@ -1,6 +1,7 @@
 #include "document/piece_lines.h"
 
 #include "document/limits.h"
+#include "document/plan_content.h"
 #include "document/written_line.h"
 
 namespace trassix {

@@ -1,6 +1,7 @@
 #include "document/piece_pairs.h"
 
 #include "catalog/track_catalog.h"
+#include "document/plan_content.h"
 
 #include <algorithm>
 #include <unordered_map>

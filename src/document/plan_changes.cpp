@@ -1,5 +1,7 @@
 #include "document/plan_changes.h"
 
+#include "document/record_kinds.h"
+
 #include <algorithm>
 #include <functional>
 #include <unordered_map>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/layout.h"
+#include "document/plan_content.h"
 
 #include <array>
 #include <cstdint>

@@ -1,6 +1,7 @@
 #include "document/plan_format.h"
 
 #include "document/piece_lines.h"
+#include "document/plan_content.h"
 
 #include <array>
 #include <utility>

@@ -2,10 +2,12 @@
 // kinds, and asks of a kind what it has, not which one it is.
 #pragma once
 
+#include "document/limits.h"
 #include "document/plan_content.h"
 #include "geometry/pose.h"
 
 #include <algorithm>
+#include <cmath>
 #include <type_traits>
 
 namespace trassix {
@@ -101,6 +103,26 @@ void forEachPosition(const Record& record, Visit visit) {
     visit(Point{record.cx, record.cy});
   else if constexpr (requires { record.x; })
     visit(Point{record.x, record.y});
+}
+
+/// Whether a plan can hold whatever the record has of positions, heights, headings, grades and
+/// scales.
+template <class Record>
+requires requires {
+  Record::kKind;
+}
+bool inLimits(const Record& record) {
+  bool in = true;
+  forEachPosition(record, [&in](Point p) { in = in && inLimits(p); });
+  if constexpr (requires { record.z; })
+    in = in && isLength(record.z) && std::isfinite(record.grade);
+  if constexpr (requires { record.height; })
+    in = in && isLength(record.height);
+  if constexpr (requires { record.heading; })
+    in = in && std::isfinite(record.heading);
+  if constexpr (requires { record.scalex; })
+    in = in && isScale(record.scalex) && isScale(record.scaley);
+  return in;
 }
 
 /// Every text of the record that a file holds escaped.

@@ -4,19 +4,17 @@
 #pragma once
 
 #include "document/color.h"
+#include "document/grade_run.h"
 #include "document/joint_table.h"
+#include "document/records_fwd.h"
+#include "document/shape.h"
 #include "geometry/point.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 namespace trassix {
-
-/// A kind of record that a plan has many of.
-enum class RecordKind : std::uint8_t { Shape, Helix, Tunnel, Scenery, Piece, Measurement, Label };
-inline constexpr std::size_t kRecordKinds = 7;
 
 struct PlacedPiece {
   static constexpr RecordKind kKind = RecordKind::Piece;
@@ -95,23 +93,6 @@ struct Measurement {
   bool operator==(const Measurement&) const = default;
 };
 
-/// A coloured polygon.
-struct Shape {
-  static constexpr RecordKind kKind = RecordKind::Shape;
-
-  std::int32_t id = -1;
-  std::vector<Point> points;
-  Color color;
-  std::uint8_t a = 255; ///< opacity
-  bool outline = false; ///< drawn as outline only
-  std::int32_t level = 1;
-  double height = 0;
-  std::string label;
-  bool sel = false; ///< not saved
-
-  bool operator==(const Shape&) const = default;
-};
-
 struct Tunnel {
   static constexpr RecordKind kKind = RecordKind::Tunnel;
 
@@ -140,25 +121,6 @@ struct Helix {
   std::int32_t topR2 = -1;
 
   bool operator==(const Helix&) const = default;
-};
-
-/// A run of track on a constant grade.
-struct GradeRun {
-  double deg = 0;           ///< signed grade angle
-  std::int32_t anchor = -1; ///< id of the piece where the run starts
-  std::int32_t conn = 1;    ///< connector on that piece
-
-  bool operator==(const GradeRun&) const = default;
-};
-
-/// Mirrors the last grade run; off when there is none.
-struct CurrentGrade {
-  bool active = false;
-  double grade = 0;
-  std::int32_t anchor = -1;
-  std::int32_t conn = 1;
-
-  bool operator==(const CurrentGrade&) const = default;
 };
 
 } // namespace trassix

@@ -1,7 +1,9 @@
 #include "document/repairs.h"
 
 #include "catalog/track_catalog.h"
+#include "document/block.h"
 #include "document/piece_pairs.h"
+#include "document/record_kinds.h"
 #include "texts/texts.h"
 
 #include <algorithm>

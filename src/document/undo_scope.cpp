@@ -1,5 +1,8 @@
 #include "document/undo_scope.h"
 
+#include "document/history.h"
+#include "document/record_kinds.h"
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -21,7 +24,8 @@ bool sameRecords(const PlanContent& a, const PlanContent& b) {
 } // namespace
 
 UndoScope::UndoScope(Layout& layout)
-    : layout_(layout), content_(layout.history_.snapshot(layout.content_)),
+    : layout_(layout),
+      content_(std::make_unique<PlanContent>(layout.history().snapshot(layout.content()))),
       settings_(layout.settings_), nextPieceId_(layout.nextPieceId_),
       reusingIds_(layout.reusingIds_), revision_(layout.revision()),
       outermost_(!std::exchange(layout.inEdit_, true)) {}
@@ -37,7 +41,7 @@ bool UndoScope::keep() {
     return false;
   }
   if (outermost_) {
-    layout_.history_.push(std::move(content_));
+    layout_.history().push(std::move(*content_));
     layout_.inEdit_ = false;
   }
   ended_ = true;
@@ -46,12 +50,12 @@ bool UndoScope::keep() {
 
 bool UndoScope::changed() const {
   return layout_.revision() != revision_ &&
-         !(layout_.settings_ == settings_ && sameRecords(layout_.content_, content_));
+         !(layout_.settings_ == settings_ && sameRecords(layout_.content(), *content_));
 }
 
 void UndoScope::putBack() {
   if (layout_.revision() != revision_) {
-    layout_.edit() = std::move(content_);
+    layout_.edit() = std::move(*content_);
     layout_.editSettings() = std::move(settings_);
   }
   layout_.nextPieceId_ = nextPieceId_;

@@ -3,6 +3,7 @@
 #include "document/layout.h"
 
 #include <cstdint>
+#include <memory>
 
 namespace trassix {
 
@@ -27,7 +28,7 @@ class UndoScope {
   void putBack();
 
   Layout& layout_;
-  PlanContent content_;
+  std::unique_ptr<PlanContent> content_;
   PlanSettings settings_;
   std::int32_t nextPieceId_;
   bool reusingIds_;

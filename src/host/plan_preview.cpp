@@ -1,6 +1,7 @@
 #include "host/plan_preview.h"
 
 #include "document/plan_changes.h"
+#include "document/record_kinds.h"
 #include "host/workspace.h"
 
 #include <algorithm>
@@ -40,7 +41,8 @@ bool onlyJointsDiffer(const Layout&, const auto&) {
 } // namespace
 
 PlanPreview::PlanPreview(Workspace& workspace)
-    : workspace_(workspace), before_(std::exchange(workspace.preview_, this)) {}
+    : workspace_(workspace), before_(std::exchange(workspace.preview_, this)),
+      records_(std::make_unique<PlanContent>()) {}
 
 PlanPreview::~PlanPreview() {
   workspace_.preview_ = before_;
@@ -48,8 +50,12 @@ PlanPreview::~PlanPreview() {
 }
 
 void PlanPreview::show(PlanContent records) {
-  records_ = std::move(records);
+  *records_ = std::move(records);
   workspace_.repaint();
+}
+
+void PlanPreview::showNothing() {
+  show({});
 }
 
 void PlanPreview::showEdit(const std::function<void(Layout&)>& edit) {

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "document/plan_content.h"
+#include "document/records_fwd.h"
 
 #include <functional>
+#include <memory>
 
 namespace trassix {
 
@@ -23,12 +24,14 @@ class PlanPreview {
   /// Shows what the edit adds to the plan, or changes of its picture, when it is done to a copy.
   void showEdit(const std::function<void(Layout&)>& edit);
 
-  const PlanContent& records() const { return records_; }
+  void showNothing();
+
+  const PlanContent& records() const { return *records_; }
 
  private:
   Workspace& workspace_;
-  const PlanPreview* before_; ///< the one in whose place this is
-  PlanContent records_;
+  const PlanPreview* before_;            ///< the one in whose place this is
+  std::unique_ptr<PlanContent> records_; ///< never null
 };
 
 } // namespace trassix

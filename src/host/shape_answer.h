@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/records.h"
+#include "document/shape.h"
 
 namespace trassix {
 

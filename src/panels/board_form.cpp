@@ -2,6 +2,7 @@
 
 #include "document/layout.h"
 #include "document/limits.h"
+#include "document/shape.h"
 #include "document/undo_scope.h"
 #include "editing/levels/level_edits.h"
 #include "editing/selection/content_box.h"

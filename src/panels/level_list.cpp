@@ -2,6 +2,7 @@
 
 #include "document/layout.h"
 #include "document/limits.h"
+#include "document/shape.h"
 #include "texts/texts.h"
 
 #include <algorithm>
@@ -24,17 +25,6 @@ std::string trimmed(std::string_view text) {
 
 std::string numbered(std::int32_t number) {
   return tr("Level %1%", {number});
-}
-
-/// Levels that records stand on but the plan lacks.
-std::set<std::int32_t> lostLevels(const Layout& layout) {
-  std::set<std::int32_t> lost;
-  forEachOnLevels(layout.content(), [&](const auto& records) {
-    for (const auto& record : records)
-      if (layout.findLevel(record.level) == nullptr)
-        lost.insert(record.level);
-  });
-  return lost;
 }
 
 } // namespace

@@ -166,22 +166,6 @@ std::vector<TrackSystem> paletteSystems() {
   return systems;
 }
 
-std::optional<TrackSystem> chiefSystem(const Layout& layout) {
-  const TrackCatalog& catalog = TrackCatalog::instance();
-  std::vector<std::pair<TrackSystem, std::size_t>> counts;
-  for (const PlacedPiece& placed : layout.pieces()) {
-    if (const PieceDef* piece = catalog.find(placed.cat)) {
-      auto count = std::ranges::find(counts, piece->system, &decltype(counts)::value_type::first);
-      if (count == counts.end()) {
-        count = counts.insert(count, {piece->system, 0});
-      }
-      ++count->second;
-    }
-  }
-  const auto most = std::ranges::max_element(counts, {}, &decltype(counts)::value_type::second);
-  return most == counts.end() ? std::nullopt : std::optional(most->first);
-}
-
 void PaletteModel::setSystem(TrackSystem system) {
   system_ = system;
   entries_.clear();

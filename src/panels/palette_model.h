@@ -49,10 +49,6 @@ struct SceneryGroup {
 /// The systems that have pieces, in the order in which the catalogue begins them.
 std::vector<TrackSystem> paletteSystems();
 
-/// The system that most pieces of a plan belong to; none for a plan without known pieces. Of two
-/// with as many pieces the one met first.
-std::optional<TrackSystem> chiefSystem(const Layout& layout);
-
 /// Groups are never empty: one in which nothing is found is left out.
 ///
 /// A search is a row of words that must all be found, in any case: as part of the article, of the

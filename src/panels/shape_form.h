@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/plan_settings.h"
-#include "document/records.h"
+#include "document/shape.h"
 #include "panels/length_entry.h"
 
 #include <cstddef>

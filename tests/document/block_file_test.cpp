@@ -1,4 +1,6 @@
+#include "document/block.h"
 #include "document/block_file.h"
+#include "document/record_kinds.h"
 #include "support/documented_example.h"
 #include "support/loose_records.h"
 #include "support/print_records.h"

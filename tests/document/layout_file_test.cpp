@@ -1,6 +1,8 @@
 #include "catalog/track_catalog.h"
+#include "document/block.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/record_kinds.h"
 #include "document/repairs.h"
 #include "support/comma_locale.h"
 #include "support/documented_example.h"

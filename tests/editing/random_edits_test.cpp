@@ -1,7 +1,10 @@
 // Long runs of random edits: whatever the user does, the plan stays sound and undo is exact.
 #include "catalog/plain_track.h"
+#include "document/block.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/record_kinds.h"
+#include "document/reselecting.h"
 #include "document/undo_scope.h"
 #include "editing/arranging/aligning.h"
 #include "editing/arranging/corner_edits.h"

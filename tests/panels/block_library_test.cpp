@@ -1,3 +1,5 @@
+#include "document/block.h"
+#include "document/record_kinds.h"
 #include "panels/block_library.h"
 #include "support/loose_records.h"
 #include "support/temp_folder.h"
@@ -37,18 +39,19 @@ TEST(BlockLibrary, listsTheFilesOfAFolderByName) {
   EXPECT_EQ(entries[1].name, "Yard.v2");
   EXPECT_EQ(entries[2].name, "Züge");
   EXPECT_EQ(entries[2].problem, "");
-  ASSERT_EQ(entries[2].block.content.pieces.size(), 1U);
-  EXPECT_EQ(entries[2].block.content.pieces[0].x, 0);
-  EXPECT_EQ(entries[2].block.content.pieces[0].cat, "a & <b>");
-  EXPECT_EQ(entries[2].block.content.scenery.at(0).item, "c & d");
-  EXPECT_EQ(entries[2].block.name, "e & f");
+  ASSERT_EQ(entries[2].block->content.pieces.size(), 1U);
+  EXPECT_EQ(entries[2].block->content.pieces[0].x, 0);
+  EXPECT_EQ(entries[2].block->content.pieces[0].cat, "a & <b>");
+  EXPECT_EQ(entries[2].block->content.scenery.at(0).item, "c & d");
+  EXPECT_EQ(entries[2].block->name, "e & f");
 
-  Block mended;
   test::writeText(folder.path() / "Yard.v2.txl",
                   std::regex_replace(test::readText(entries[1].file), std::regex("item id=\"2"),
                                      "item id=\"-1"));
-  EXPECT_EQ(openBlock(entries[1].file, mended).notices.size(), 1U);
-  EXPECT_GE(mended.content.scenery.at(0).id, 0);
+  FileResult mended;
+  const SharedBlock block = openBlock(entries[1].file, mended);
+  EXPECT_EQ(mended.notices.size(), 1U);
+  EXPECT_GE(block->content.scenery.at(0).id, 0);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
 #include "geometry/polygons.h"
 #include "panels/board_form.h"

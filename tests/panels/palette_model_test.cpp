@@ -1,5 +1,7 @@
 #include "catalog/track_catalog.h"
 #include "document/layout.h"
+#include "document/record_kinds.h"
+#include "editing/selection/plan_systems.h"
 #include "panels/palette_model.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,5 @@
 #include "document/layout.h"
+#include "document/record_kinds.h"
 #include "panels/tally.h"
 #include "support/loose_records.h"
 

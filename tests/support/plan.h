@@ -2,6 +2,7 @@
 #pragma once
 
 #include "document/layout.h"
+#include "document/record_kinds.h"
 #include "editing/track/connector_geometry.h"
 
 #include <cstdint>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/layout.h"
+#include "document/record_kinds.h"
 
 #include <cstdint>
 

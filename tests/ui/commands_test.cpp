@@ -1,3 +1,4 @@
+#include "document/record_kinds.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
 #include "frame_test.h"

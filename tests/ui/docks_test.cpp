@@ -1,3 +1,4 @@
+#include "document/record_kinds.h"
 #include "driver.h"
 #include "editing/canvas/carried.h"
 #include "frame_test.h"

@@ -1,4 +1,5 @@
 #include "document/layout_writer.h"
+#include "document/record_kinds.h"
 #include "editing/scenery/annotations.h"
 #include "frame_test.h"
 #include "host/command_ids.h"

@@ -1,4 +1,5 @@
 // The right-hand side: properties, tally and purchase list, with real keys where a user types.
+#include "document/record_kinds.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
 #include "frame_test.h"

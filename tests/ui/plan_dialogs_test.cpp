@@ -1,4 +1,5 @@
 // The dialogs on levels, baseboard and shapes, by real clicks and keys.
+#include "document/record_kinds.h"
 #include "editing/canvas/selection_commands.h"
 #include "frame_test.h"
 #include "host/command_ids.h"

@@ -1,5 +1,6 @@
 #include "app/desktop/path_text.h"
 #include "document/layout_writer.h"
+#include "document/record_kinds.h"
 #include "document/rescue/rescue_session.h"
 #include "frame_test.h"
 #include "host/command_ids.h"

@@ -1,4 +1,5 @@
 // Room to plan: panels folded away, levels at hand, and what is found again at the next start.
+#include "document/record_kinds.h"
 #include "frame_test.h"
 #include "host/command_ids.h"
 

@@ -223,7 +223,7 @@ bool RescuedPlan::readCopy(std::vector<std::string>& problems) {
     if (plan.whole()) {
       copy = latest;
       name = plan.name;
-      pieces = plan.layout.pieces().size();
+      pieces = plan.layout.pieceCount();
       when = writtenAt(copy);
       return true;
     }

@@ -1,5 +1,6 @@
 #include "editing/arranging/aligning.h"
 
+#include "document/record_kinds.h"
 #include "document/undo_scope.h"
 #include "editing/selection/record_body.h"
 #include "editing/selection/selection.h"

@@ -1,5 +1,6 @@
 #include "editing/arranging/corner_edits.h"
 
+#include "document/record_kinds.h"
 #include "document/undo_scope.h"
 #include "editing/levels/level_edits.h"
 #include "editing/records_by_id.h"

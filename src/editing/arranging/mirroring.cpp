@@ -1,6 +1,7 @@
 #include "editing/arranging/mirroring.h"
 
 #include "document/limits.h"
+#include "document/record_kinds.h"
 #include "document/undo_scope.h"
 #include "editing/joining/joining.h"
 #include "editing/selection/record_body.h"

@@ -1,5 +1,6 @@
 #include "editing/arranging/parallel_track.h"
 
+#include "document/plan_content.h"
 #include "document/undo_scope.h"
 #include "editing/arranging/parallel_pieces.h"
 #include "editing/arranging/track_chain.h"

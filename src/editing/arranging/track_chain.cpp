@@ -1,5 +1,6 @@
 #include "editing/arranging/track_chain.h"
 
+#include "document/plan_content.h"
 #include "editing/joining/joining.h"
 #include "editing/selection/selection.h"
 #include "editing/track/connector_geometry.h"

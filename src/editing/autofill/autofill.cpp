@@ -2,6 +2,7 @@
 
 #include "catalog/plain_track.h"
 #include "catalog/track_catalog.h"
+#include "document/plan_content.h"
 #include "document/undo_scope.h"
 #include "editing/autofill/arc_fill.h"
 #include "editing/autofill/straight_fill.h"

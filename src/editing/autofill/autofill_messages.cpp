@@ -1,6 +1,7 @@
 #include "editing/autofill/autofill_messages.h"
 
 #include "catalog/track_catalog.h"
+#include "document/plan_content.h"
 #include "measures/measure_format.h"
 #include "texts/texts.h"
 

@@ -67,7 +67,7 @@ std::optional<std::size_t> chooseOffer(ToolSite& site, const std::vector<Paralle
     if (row < offers.size())
       preview.showEdit([&](Layout& scratch) { layParallel(scratch, offers[row].distance); });
     else
-      preview.show({});
+      preview.showNothing();
   };
   return site.questions().choose(choice);
 }

@@ -75,8 +75,8 @@ struct CarryToolMaker {
       return nullptr;
     return std::make_unique<CarrySceneryTool>(site, *definition, held);
   }
-  std::unique_ptr<CarryTool> operator()(const Block& block) const {
-    if (block.empty())
+  std::unique_ptr<CarryTool> operator()(const SharedBlock& block) const {
+    if (isEmpty(*block))
       return nullptr;
     return std::make_unique<CarryBlockTool>(site, block, held);
   }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "document/records.h"
 #include "editing/canvas/canvas_input.h"
 #include "editing/canvas/carried.h"
 #include "editing/canvas/placing_choice.h"

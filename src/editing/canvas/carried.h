@@ -16,8 +16,9 @@ struct CarriedScenery {
   std::string key; ///< in the scenery catalogue
 };
 
-/// What can hang on the pointer on its way to the plan. A block's origin hangs on it.
-struct Carried : std::variant<CarriedPiece, CarriedScenery, Block> {
+/// What can hang on the pointer on its way to the plan. A block, which is never null, hangs on it
+/// by its origin.
+struct Carried : std::variant<CarriedPiece, CarriedScenery, SharedBlock> {
   using variant::variant;
 };
 

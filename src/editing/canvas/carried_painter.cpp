@@ -1,5 +1,7 @@
 #include "editing/canvas/carried_painter.h"
 
+#include "document/record_kinds.h"
+
 namespace trassix {
 
 CarriedPainter::CarriedPainter(Surface& surface, const ViewTransform& view, const Layout& layout,

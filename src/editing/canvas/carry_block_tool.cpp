@@ -1,5 +1,7 @@
 #include "editing/canvas/carry_block_tool.h"
 
+#include "document/block.h"
+#include "document/record_kinds.h"
 #include "editing/canvas/carried_painter.h"
 #include "editing/canvas/meetings.h"
 #include "editing/elevation/inheritance.h"
@@ -8,8 +10,8 @@
 
 namespace trassix {
 
-CarryBlockTool::CarryBlockTool(ToolSite& site, Block block, bool held)
-    : CarryTool(site, held), block_(std::move(block)), ends_(openEndsOf(block_.content.pieces)) {}
+CarryBlockTool::CarryBlockTool(ToolSite& site, SharedBlock block, bool held)
+    : CarryTool(site, held), block_(std::move(block)), ends_(openEndsOf(block_->content.pieces)) {}
 
 void CarryBlockTool::posed() {
   landing_ = pose();
@@ -37,23 +39,23 @@ void CarryBlockTool::posed() {
 }
 
 EditResult CarryBlockTool::drop() {
-  return placeBlock(site_.layout(), block_, landing_, landsOn_);
+  return placeBlock(site_.layout(), *block_, landing_, landsOn_);
 }
 
 void CarryBlockTool::paint(Surface& surface) const {
   CarriedPainter(surface, site_.view, site_.layout(), !meetings_.empty())
-      .paint(block_.content, {{}, landing_});
+      .paint(block_->content, {{}, landing_});
   paintMeetings(surface, site_.view, meetings_);
 }
 
 std::string CarryBlockTool::hint() const {
   std::set<std::int32_t> levels;
-  forEachOnLevels(block_.content, [&levels](const auto& records) {
+  forEachOnLevels(block_->content, [&levels](const auto& records) {
     for (const auto& record : records)
       levels.insert(record.level);
   });
-  return hintOf({block_.name.empty() ? tr("Click to place the copy")
-                                     : tr("Click to place %1%", {block_.name}),
+  return hintOf({block_->name.empty() ? tr("Click to place the copy")
+                                      : tr("Click to place %1%", {block_->name}),
                  meetingsHint(meetings_), missText(meetings_, site_.layout().settings().units),
                  site_.landingHint(levels), turningHint()});
 }

@@ -15,7 +15,7 @@ namespace trassix {
 class CarryBlockTool : public CarryTool {
  public:
   /// The block's origin hangs on the pointer.
-  CarryBlockTool(ToolSite& site, Block block, bool held);
+  CarryBlockTool(ToolSite& site, SharedBlock block, bool held);
 
   void paint(Surface& surface) const override;
   std::string hint() const override;
@@ -24,7 +24,7 @@ class CarryBlockTool : public CarryTool {
   void posed() override;
   EditResult drop() override;
 
-  Block block_;
+  SharedBlock block_;
   std::vector<PlacedEnd> ends_; ///< those that are open or will be, as they lie in the block
   Pose landing_;
   std::optional<TrackEnd> landsOn_;  ///< the end that it has snapped to

@@ -1,5 +1,6 @@
 #include "editing/canvas/carry_piece_tool.h"
 
+#include "document/plan_content.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/elevation/inheritance.h"

@@ -2,6 +2,7 @@
 
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/record_pictures.h"
+#include "editing/selection/any_record.h"
 #include "editing/selection/record_body.h"
 
 namespace trassix {

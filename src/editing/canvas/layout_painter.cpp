@@ -1,11 +1,13 @@
 #include "editing/canvas/layout_painter.h"
 
 #include "catalog/scenery_catalog.h"
+#include "document/record_kinds.h"
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/record_pictures.h"
 #include "editing/scenery/scenery_footprint.h"
+#include "editing/selection/any_record.h"
 #include "editing/selection/selection.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/track_geometry.h"

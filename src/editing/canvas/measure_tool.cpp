@@ -1,5 +1,6 @@
 #include "editing/canvas/measure_tool.h"
 
+#include "document/plan_content.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/record_pictures.h"
 #include "editing/scenery/annotations.h"

@@ -1,4 +1,5 @@
 #include "catalog/track_catalog.h"
+#include "document/plan_content.h"
 #include "editing/canvas/carried_painter.h"
 #include "editing/canvas/gesture.h"
 #include "editing/canvas/meetings.h"

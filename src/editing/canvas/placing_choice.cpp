@@ -1,5 +1,6 @@
 #include "editing/canvas/placing_choice.h"
 
+#include "document/plan_content.h"
 #include "editing/selection/open_ends.h"
 
 namespace trassix {

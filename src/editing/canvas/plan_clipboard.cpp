@@ -1,14 +1,16 @@
 #include "editing/canvas/plan_clipboard.h"
 
+#include "document/block.h"
 #include "document/entities.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/plan_content.h"
 
 namespace trassix {
 
-Block copyOfSelection(const Layout& layout) {
-  Block block = blockFromSelection(layout);
-  centreBlock(block);
+SharedBlock copyOfSelection(const Layout& layout) {
+  auto block = std::make_shared<Block>(blockFromSelection(layout));
+  centreBlock(*block);
   return block;
 }
 
@@ -35,12 +37,12 @@ Block blockFromText(const std::string& text) {
 } // namespace
 
 bool PlanClipboard::copy(const Layout& layout, Clipboard& clipboard) {
-  Block block = copyOfSelection(layout);
-  if (block.empty())
+  SharedBlock block = copyOfSelection(layout);
+  if (isEmpty(*block))
     return false;
   std::string text;
   Layout whole;
-  whole.edit() = block.content;
+  whole.edit() = block->content;
   if (!writeLayout(whole, "", text).empty())
     return false;
   copied_ = std::move(block);
@@ -49,12 +51,12 @@ bool PlanClipboard::copy(const Layout& layout, Clipboard& clipboard) {
   return true;
 }
 
-Block PlanClipboard::paste(Clipboard& clipboard) const {
+SharedBlock PlanClipboard::paste(Clipboard& clipboard) const {
   const std::string text = clipboard.text();
   if (!text_.empty() && text == text_)
     return copied_;
-  Block block = blockFromText(text);
-  centreBlock(block);
+  auto block = std::make_shared<Block>(blockFromText(text));
+  centreBlock(*block);
   return block;
 }
 

@@ -8,7 +8,7 @@
 namespace trassix {
 
 /// What is selected, as a block that is centred on its origin.
-Block copyOfSelection(const Layout& layout);
+SharedBlock copyOfSelection(const Layout& layout);
 
 /// Copies of the selection by way of the system's clipboard, as the text of a plan file, so that
 /// they can be carried from one running program to another. What this program copied itself comes
@@ -19,10 +19,10 @@ class PlanClipboard {
   bool copy(const Layout& layout, Clipboard& clipboard);
 
   /// Centred on its origin; empty when the clipboard holds neither plan nor block.
-  Block paste(Clipboard& clipboard) const;
+  SharedBlock paste(Clipboard& clipboard) const;
 
  private:
-  Block copied_;
+  SharedBlock copied_;
   std::string text_;
 };
 

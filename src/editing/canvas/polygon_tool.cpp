@@ -1,6 +1,7 @@
 #include "editing/canvas/polygon_tool.h"
 
 #include "document/limits.h"
+#include "document/plan_content.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/levels/level_edits.h"
 #include "editing/scenery/annotations.h"

@@ -2,6 +2,7 @@
 
 #include "catalog/helix_kits.h"
 #include "catalog/scenery_catalog.h"
+#include "document/plan_content.h"
 #include "editing/canvas/halo.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/selection/record_body.h"

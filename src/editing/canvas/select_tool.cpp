@@ -1,6 +1,7 @@
 #include "editing/canvas/select_tool.h"
 
 #include "document/piece_lines.h"
+#include "document/plan_content.h"
 #include "editing/canvas/hover.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/selection_commands.h"

@@ -1,5 +1,6 @@
 #include "editing/canvas/selection_commands.h"
 
+#include "document/plan_content.h"
 #include "editing/elevation/grades.h"
 #include "editing/levels/level_edits.h"
 #include "editing/placing/block_placing.h"
@@ -61,7 +62,7 @@ bool copySelection(ToolSite& site) {
   return site.clipboard.copy(site.layout(), site.workspace.clipboard());
 }
 
-Block pastedBlock(const ToolSite& site) {
+SharedBlock pastedBlock(const ToolSite& site) {
   return site.clipboard.paste(site.workspace.clipboard());
 }
 

@@ -26,7 +26,7 @@ void deleteSelected(ToolSite& site);
 /// To the clipboard; false when nothing is selected that can be copied.
 bool copySelection(ToolSite& site);
 /// What the clipboard holds, centred on its origin; empty when that is no block.
-Block pastedBlock(const ToolSite& site);
+SharedBlock pastedBlock(const ToolSite& site);
 void cutSelection(ToolSite& site);
 
 /// Hangs a copy of the selection on the pointer.

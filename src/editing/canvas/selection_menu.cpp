@@ -1,6 +1,7 @@
 #include "editing/canvas/selection_menu.h"
 
 #include "document/limits.h"
+#include "document/plan_content.h"
 #include "editing/autofill/autofill.h"
 #include "editing/canvas/arrange_commands.h"
 #include "editing/canvas/autofill_command.h"
@@ -69,9 +70,9 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
     rows.push_back({tr("Delete"), tr("Del"), true, [&site] { deleteSelected(site); }});
   }
   separator();
-  const Block pasted = pastedBlock(site);
+  const SharedBlock pasted = pastedBlock(site);
   rows.push_back(
-      {tr("Paste"), tr("Ctrl+V"), !pasted.empty(), [&site, pasted] { site.carry(pasted); }});
+      {tr("Paste"), tr("Ctrl+V"), !isEmpty(*pasted), [&site, pasted] { site.carry(pasted); }});
   rows.push_back({tr("Select All"), tr("Ctrl+A"), true, [&site] {
                     selectAll(site.layout());
                     site.workspace.selectionChanged();

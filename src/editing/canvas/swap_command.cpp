@@ -1,5 +1,6 @@
 #include "editing/canvas/swap_command.h"
 
+#include "document/plan_content.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/elevation/grades.h"
 #include "editing/placing/flipping.h"

@@ -1,6 +1,7 @@
 #include "editing/elevation/climbing.h"
 
 #include "document/layout.h"
+#include "document/plan_content.h"
 #include "editing/elevation/train_way.h"
 #include "editing/joining/joining.h"
 #include "editing/track/connector_geometry.h"

@@ -2,6 +2,7 @@
 
 #include "catalog/track_catalog.h"
 #include "document/layout.h"
+#include "document/plan_content.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/routes.h"
 

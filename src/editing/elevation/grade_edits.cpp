@@ -2,6 +2,7 @@
 
 #include "catalog/plain_track.h"
 #include "document/layout.h"
+#include "document/plan_content.h"
 #include "editing/elevation/climbing.h"
 #include "editing/elevation/easing.h"
 #include "editing/joining/joining.h"

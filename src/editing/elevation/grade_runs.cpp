@@ -1,6 +1,7 @@
 #include "editing/elevation/grade_runs.h"
 
 #include "document/layout.h"
+#include "document/plan_content.h"
 #include "document/undo_scope.h"
 #include "editing/elevation/grades.h"
 #include "editing/elevation/train_way.h"

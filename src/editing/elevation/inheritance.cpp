@@ -2,6 +2,7 @@
 
 #include "document/layout.h"
 #include "document/limits.h"
+#include "document/plan_content.h"
 #include "editing/elevation/climbing.h"
 #include "editing/elevation/grade_runs.h"
 #include "editing/elevation/propagation.h"

@@ -1,7 +1,7 @@
 // New heights of some track and what they bring about in all that is joined to it.
 #pragma once
 
-#include "document/records.h"
+#include "document/grade_run.h"
 #include "editing/edit_result.h"
 #include "editing/elevation/end_heights.h"
 #include "geometry/point.h"

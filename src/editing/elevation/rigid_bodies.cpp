@@ -1,6 +1,7 @@
 #include "editing/elevation/rigid_bodies.h"
 
 #include "document/layout.h"
+#include "document/plan_content.h"
 #include "editing/joining/joining.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "editing/joining/joining.h"
 
 #include "catalog/track_catalog.h"
+#include "document/plan_content.h"
 #include "editing/joining/end_grid.h"
 #include "geometry/box.h"
 

@@ -1,5 +1,6 @@
 #include "editing/joining/snapping.h"
 
+#include "document/plan_content.h"
 #include "editing/joining/end_grid.h"
 #include "editing/joining/joining.h"
 

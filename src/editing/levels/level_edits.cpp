@@ -2,6 +2,7 @@
 
 #include "document/layout.h"
 #include "document/limits.h"
+#include "document/record_kinds.h"
 #include "document/undo_scope.h"
 #include "editing/elevation/deck_ramps.h"
 #include "editing/elevation/grade_runs.h"
@@ -224,6 +225,16 @@ const Shape* selectedShape(const Layout& layout) {
       std::ranges::count(shapes, true, &Shape::sel) > 1)
     return nullptr;
   return &*found;
+}
+
+std::set<std::int32_t> lostLevels(const Layout& layout) {
+  std::set<std::int32_t> lost;
+  forEachOnLevels(layout.content(), [&](const auto& records) {
+    for (const auto& record : records)
+      if (layout.findLevel(record.level) == nullptr)
+        lost.insert(record.level);
+  });
+  return lost;
 }
 
 } // namespace trassix

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -67,5 +68,8 @@ bool useAsBaseboard(Layout& layout, std::int32_t shape);
 /// The only selected shape, when its outline can be that of a level or the baseboard; null when
 /// there is none or more than one.
 const Shape* selectedShape(const Layout& layout);
+
+/// Levels that records stand on but the plan lacks.
+std::set<std::int32_t> lostLevels(const Layout& layout);
 
 } // namespace trassix

@@ -1,6 +1,9 @@
 #include "editing/placing/block_placing.h"
 
+#include "document/block.h"
+#include "document/block_file.h"
 #include "document/limits.h"
+#include "document/record_kinds.h"
 #include "document/repairs.h"
 #include "document/undo_scope.h"
 #include "editing/elevation/inheritance.h"
@@ -126,7 +129,7 @@ Notice openedJoints(int count) {
 EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose,
                       const std::optional<TrackEnd>& landsOn) {
   EditResult result;
-  if (placed.empty())
+  if (isEmpty(placed))
     return result;
   Block block = placed; // which may come straight from the clipboard
   makeSound(block);

@@ -1,6 +1,7 @@
 #include "editing/placing/flipping.h"
 
 #include "document/limits.h"
+#include "document/plan_content.h"
 #include "document/undo_scope.h"
 #include "editing/elevation/grade_runs.h"
 #include "editing/joining/joining.h"

@@ -2,6 +2,7 @@
 
 #include "catalog/track_catalog.h"
 #include "document/limits.h"
+#include "document/plan_content.h"
 #include "document/undo_scope.h"
 #include "editing/elevation/inheritance.h"
 #include "editing/elevation/propagation.h"

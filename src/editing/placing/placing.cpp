@@ -3,6 +3,7 @@
 #include "catalog/compatibility.h"
 #include "catalog/track_catalog.h"
 #include "document/limits.h"
+#include "document/record_kinds.h"
 #include "document/undo_scope.h"
 #include "editing/elevation/inheritance.h"
 #include "editing/joining/joining.h"

@@ -2,6 +2,7 @@
 
 #include "catalog/track_catalog.h"
 #include "document/limits.h"
+#include "document/record_kinds.h"
 #include "document/undo_scope.h"
 #include "editing/elevation/propagation.h"
 #include "editing/elevation/train_way.h"

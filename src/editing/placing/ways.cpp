@@ -1,5 +1,6 @@
 #include "editing/placing/ways.h"
 
+#include "document/records.h"
 #include "editing/joining/joining.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "editing/scenery/annotations.h"
 
 #include "document/limits.h"
+#include "document/record_kinds.h"
 #include "document/undo_scope.h"
 #include "geometry/polygons.h"
 

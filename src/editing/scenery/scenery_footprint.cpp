@@ -1,6 +1,7 @@
 #include "editing/scenery/scenery_footprint.h"
 
 #include "catalog/track_catalog.h"
+#include "document/plan_content.h"
 #include "editing/track/connector_geometry.h"
 
 #include <cmath>

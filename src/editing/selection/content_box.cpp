@@ -1,5 +1,6 @@
 #include "editing/selection/content_box.h"
 
+#include "document/record_kinds.h"
 #include "editing/selection/record_body.h"
 
 #include <algorithm>

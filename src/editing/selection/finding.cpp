@@ -2,6 +2,8 @@
 
 #include "catalog/scenery_catalog.h"
 #include "catalog/track_catalog.h"
+#include "document/plan_content.h"
+#include "editing/selection/any_record.h"
 #include "editing/selection/selection.h"
 #include "editing/track/short_name.h"
 #include "texts/texts.h"

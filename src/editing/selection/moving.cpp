@@ -1,5 +1,6 @@
 #include "editing/selection/moving.h"
 
+#include "document/record_kinds.h"
 #include "document/undo_scope.h"
 #include "editing/elevation/inheritance.h"
 #include "editing/selection/selection.h"

@@ -1,5 +1,6 @@
 #include "editing/selection/open_ends.h"
 
+#include "document/plan_content.h"
 #include "editing/track/track_geometry.h"
 
 #include <algorithm>

@@ -1,5 +1,9 @@
 #include "editing/selection/picking.h"
 
+#include "document/record_kinds.h"
+#include "document/reselecting.h"
+#include "editing/selection/any_record.h"
+#include "editing/selection/plan_index.h"
 #include "editing/selection/record_body.h"
 #include "editing/selection/selection.h"
 #include "geometry/polygons.h"

@@ -1,5 +1,6 @@
 #include "editing/selection/plan_index.h"
 
+#include "document/plan_content.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/piece_outline.h"
 #include "geometry/box_tree.h"

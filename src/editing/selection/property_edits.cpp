@@ -1,6 +1,7 @@
 #include "editing/selection/property_edits.h"
 
 #include "document/limits.h"
+#include "document/record_kinds.h"
 #include "document/undo_scope.h"
 #include "editing/elevation/propagation.h"
 #include "editing/joining/joining.h"

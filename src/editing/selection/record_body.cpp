@@ -1,6 +1,7 @@
 #include "editing/selection/record_body.h"
 
 #include "catalog/helix_kits.h"
+#include "document/plan_content.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/track_geometry.h"

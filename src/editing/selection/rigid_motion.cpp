@@ -1,6 +1,7 @@
 #include "editing/selection/rigid_motion.h"
 
 #include "document/limits.h"
+#include "document/record_kinds.h"
 
 namespace trassix {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/plan_content.h"
+#include "document/records_fwd.h"
 #include "geometry/pose.h"
 
 namespace trassix {

@@ -1,8 +1,11 @@
 #include "editing/selection/selection.h"
 
+#include "document/record_kinds.h"
+#include "document/reselecting.h"
 #include "document/undo_scope.h"
 #include "editing/joining/joining.h"
 #include "editing/scenery/scenery_footprint.h"
+#include "editing/selection/any_record.h"
 #include "editing/selection/rigid_motion.h"
 #include "editing/track/connector_geometry.h"
 #include "texts/texts.h"

@@ -12,15 +12,6 @@
 
 namespace trassix {
 
-/// On no hidden level.
-template <class Record>
-bool isVisible(const Layout& layout, const Record& record) {
-  if constexpr (OnLevel<Record>)
-    return layout.levelVisible(record.level);
-  else
-    return true;
-}
-
 bool hasSelection(const Layout& layout);                        ///< any record at all
 std::vector<std::int32_t> selectedPieces(const Layout& layout); ///< ids, sorted
 void selectOnly(Layout& layout, std::int32_t piece);

@@ -1,6 +1,8 @@
 #include "editing/track/connector_geometry.h"
 
 #include "catalog/track_catalog.h"
+#include "document/plan_content.h"
+#include "document/records.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,6 +11,10 @@ namespace trassix {
 
 const PieceDef* definitionOf(const PlacedPiece& piece) {
   return TrackCatalog::instance().find(piece.cat);
+}
+
+Pose poseOf(const PlacedPiece& piece) {
+  return {piece.x, piece.y, piece.heading};
 }
 
 PlacedPiece pieceAt(const Pose& pose) {

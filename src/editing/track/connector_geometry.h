@@ -2,9 +2,10 @@
 #pragma once
 
 #include "catalog/piece_def.h"
-#include "document/records.h"
+#include "document/records_fwd.h"
 #include "geometry/pose.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace trassix {
@@ -12,9 +13,7 @@ namespace trassix {
 /// The definition a placed piece names; null when its article is not in the catalogue.
 const PieceDef* definitionOf(const PlacedPiece& piece);
 
-inline Pose poseOf(const PlacedPiece& piece) {
-  return {piece.x, piece.y, piece.heading};
-}
+Pose poseOf(const PlacedPiece& piece);
 
 /// A piece of no article that lies there.
 PlacedPiece pieceAt(const Pose& pose);

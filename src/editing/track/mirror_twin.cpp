@@ -1,6 +1,7 @@
 #include "editing/track/mirror_twin.h"
 
 #include "catalog/track_catalog.h"
+#include "document/records.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/routes.h"
 

@@ -1,3 +1,4 @@
+#include "document/plan_content.h"
 #include "panels/sheets/sheet_builder.h"
 #include "texts/texts.h"
 

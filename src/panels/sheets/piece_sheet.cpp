@@ -1,3 +1,4 @@
+#include "document/plan_content.h"
 #include "editing/joining/joining.h"
 #include "editing/selection/selection.h"
 #include "panels/sheets/sheet_builder.h"

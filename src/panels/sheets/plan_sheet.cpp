@@ -1,3 +1,4 @@
+#include "document/plan_content.h"
 #include "editing/selection/content_box.h"
 #include "measures/measure_format.h"
 #include "panels/sheets/sheet_builder.h"

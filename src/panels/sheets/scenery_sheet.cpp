@@ -1,4 +1,5 @@
 #include "document/limits.h"
+#include "document/plan_content.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/selection.h"
 #include "panels/sheets/sheet_builder.h"

@@ -1,3 +1,4 @@
+#include "document/record_kinds.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/routes.h"
 #include "panels/sheets/sheet_builder.h"

@@ -1,3 +1,4 @@
+#include "document/plan_content.h"
 #include "editing/arranging/corner_edits.h"
 #include "geometry/lengths.h"
 #include "panels/sheets/sheet_builder.h"

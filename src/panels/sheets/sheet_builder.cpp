@@ -1,6 +1,7 @@
 #include "panels/sheets/sheet_builder.h"
 
 #include "document/limits.h"
+#include "document/plan_content.h"
 #include "measures/measure_format.h"
 #include "texts/texts.h"
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "document/layout.h"
+#include "document/record_kinds.h"
 #include "editing/records_by_id.h"
 #include "editing/selection/property_edits.h"
 #include "measures/measure_input.h"

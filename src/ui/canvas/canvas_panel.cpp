@@ -161,7 +161,7 @@ PointerInput CanvasPanel::inputOf(const wxMouseEvent& event) const {
 
 bool CanvasPanel::invites() {
   const trassix::Layout& layout = canvas_.site().layout();
-  return layout.pieces().empty() && !contentBox(layout) && !canvas_.wantsCapture() &&
+  return layout.pieceCount() == 0 && !contentBox(layout) && !canvas_.wantsCapture() &&
          canvas_.site().workspace.switches().mode == ToolMode::Select;
 }
 

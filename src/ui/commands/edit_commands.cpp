@@ -1,3 +1,5 @@
+#include "document/block_file.h"
+#include "document/layout.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/selection/selection.h"
 #include "host/command_ids.h"
@@ -17,10 +19,9 @@ namespace {
 
 void undo(Desk& desk) {
   Layout& layout = desk.workspace.layout();
-  const PlanContent before = layout.content();
   if (!layout.undo())
     return;
-  const bool visible = layout.content() != before;
+  const bool visible = layout.lastUndoShows();
   deselectHidden(layout);
   desk.workspace.changed();
   if (!visible)
@@ -46,8 +47,8 @@ ToolSite& siteOf(Desk& desk) {
 }
 
 void paste(Desk& desk) {
-  const Block pasted = pastedBlock(siteOf(desk));
-  if (pasted.empty())
+  const SharedBlock pasted = pastedBlock(siteOf(desk));
+  if (isEmpty(*pasted))
     return desk.workspace.setHint(tr("There is nothing on the clipboard that goes onto a plan"));
   siteOf(desk).carry(pasted);
   desk.canvasPanel.SetFocus();

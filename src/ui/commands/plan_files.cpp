@@ -6,8 +6,9 @@
 #include "app/services/app_prefs.h"
 #include "app/services/local_time.h"
 #include "app/services/program_memory.h"
-#include "catalog/track_catalog.h"
 #include "document/open_plan.h"
+#include "editing/elevation/grade_runs.h"
+#include "editing/selection/plan_systems.h"
 #include "host/questions.h"
 #include "host/workspace.h"
 #include "panels/recent_plans.h"
@@ -22,19 +23,11 @@
 #include <wx/msgdlg.h>
 #include <wx/toplevel.h>
 
-#include <algorithm>
 #include <ctime>
 
 namespace trassix {
 
 namespace {
-
-bool holdsSmallTrack(const Layout& layout) {
-  return std::any_of(layout.pieces().begin(), layout.pieces().end(), [](const PlacedPiece& piece) {
-    const PieceDef* definition = TrackCatalog::instance().find(piece.cat);
-    return definition && definition->system == TrackSystem::ZTrack;
-  });
-}
 
 ProgramMemory memory() {
   return ProgramMemory(StandardFolders::memoryFile());
@@ -142,13 +135,13 @@ bool PlanFiles::take(FileResult opened) {
   workspace_.planReplaced();
   rememberRecent();
   workspace_.fileChanged();
-  if (holdsSmallTrack(workspace_.layout()))
+  if (holdsTrackOf(workspace_.layout(), TrackSystem::ZTrack))
     canvasPanel_.canvas().resetViewForSmall();
   else
     canvasPanel_.canvas().fit();
   workspace_.selectionChanged();
   // Open grade runs stand before any hint, and alone until there is another one.
-  workspace_.setHint(workspace_.layout().content().gradeRuns.empty() ? tr("Ready") : "");
+  workspace_.setHint(elevationStatus(workspace_.layout()).empty() ? tr("Ready") : "");
   const std::filesystem::path& file = workspace_.plan().file();
   if (!file.empty() && openElsewhere(StandardFolders::rescueSessions(), rescue_.session(), file))
     opened.notices.push_back(tr("This plan is also open in another window of the program. What "

@@ -111,7 +111,7 @@ void exportLayout(Desk& desk) {
 }
 
 void saveSelectionAsBlock(Desk& desk) {
-  if (!blockFromSelection(desk.workspace.layout()).hasFilePart()) {
+  if (!selectionFitsBlockFile(desk.workspace.layout())) {
     wxMessageBox(_("Select pieces first to save as library block."), _("Save Block"),
                  wxOK | wxICON_INFORMATION, &desk.window);
     return;

@@ -25,7 +25,7 @@ StatusLine::StatusLine(wxFrame& window, Workspace& workspace)
 }
 
 void StatusLine::planChanged() {
-  window_.SetStatusText(wxString::Format(_("Pieces: %zu"), workspace_.layout().pieces().size()),
+  window_.SetStatusText(wxString::Format(_("Pieces: %zu"), workspace_.layout().pieceCount()),
                         kPiecesField);
   showHint();
 }

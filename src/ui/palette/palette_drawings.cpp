@@ -1,6 +1,8 @@
 #include "ui/palette/palette_drawings.h"
 
+#include "document/block.h"
 #include "document/block_file.h"
+#include "document/plan_content.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/scenery/scenery_footprint.h"

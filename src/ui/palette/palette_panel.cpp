@@ -5,6 +5,7 @@
 #include "app/desktop/user_paths.h"
 #include "app/services/program_memory.h"
 #include "editing/canvas/carried.h"
+#include "editing/selection/plan_systems.h"
 #include "editing/track/short_name.h"
 #include "measures/measure_format.h"
 #include "panels/block_library.h"
@@ -183,7 +184,7 @@ CatalogList* PalettePanel::makeList(Tab tab) {
   }
   return new CatalogList(pages_, "library",
                          {[this](std::size_t row) {
-                            if (const LibraryEntry& entry = *blocks_[row]; !entry.block.empty())
+                            if (const LibraryEntry& entry = *blocks_[row]; !isEmpty(*entry.block))
                               actions_.drag(entry.block);
                           },
                           [this](std::size_t row) { loadEntry(*blocks_[row]); },
@@ -404,16 +405,15 @@ void PalettePanel::fillLibrary() {
     const wxString name = fromUtf8(entry.name);
     if (!name.Lower().Contains(wanted))
       continue;
-    const wxString content =
-        !entry.problem.empty()
-            ? _("Cannot be read")
-            : wxString::Format(wxPLURAL("%zu piece", "%zu pieces",
-                                        static_cast<unsigned>(entry.block.content.pieces.size())),
-                               entry.block.content.pieces.size());
+    const wxString content = !entry.problem.empty()
+                                 ? _("Cannot be read")
+                                 : wxString::Format(wxPLURAL("%zu piece", "%zu pieces",
+                                                             static_cast<unsigned>(entry.pieces)),
+                                                    entry.pieces);
     rows.push_back({false, false, name, content,
                     entry.problem.empty() ? name : fromUtf8(entry.problem),
                     [&entry](Surface& surface, const PictureRoom& room) {
-                      drawBlock(surface, room, entry.block);
+                      drawBlock(surface, room, *entry.block);
                     },
                     0});
     blocks_.push_back(&entry);
@@ -443,15 +443,15 @@ void PalettePanel::noteUse(const PieceDef& piece) {
 }
 
 void PalettePanel::loadEntry(const LibraryEntry& entry) {
-  Block block;
-  const FileResult opened = openBlock(entry.file, block);
+  FileResult opened;
+  SharedBlock block = openBlock(entry.file, opened);
   if (opened.failed()) {
     showFailure(this, _("Load Block Failed"), fromUtf8(opened.message), opened.reason);
     return;
   }
   showNotices(this, _("Load Block"), opened.notices);
-  if (!block.empty())
-    actions_.use(block);
+  if (!isEmpty(*block))
+    actions_.use(std::move(block));
 }
 
 void PalettePanel::showEntryMenu(const LibraryEntry& entry) {

@@ -1,3 +1,4 @@
+#include "document/reselecting.h"
 #include "editing/arranging/aligning.h"
 #include "editing/arranging/mirroring.h"
 #include "editing/arranging/parallel_track.h"

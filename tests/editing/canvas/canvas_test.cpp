@@ -1,3 +1,5 @@
+#include "document/block.h"
+#include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/recording_surface.h"
@@ -259,9 +261,9 @@ TEST(CarryTools, SayWhatLandsOutOfSightOrOnAnotherLevel) {
   levels.push_back({2, "Upper", true, 90, false, {}, {}});
   levels.push_back({3, "Cellar", false, 0, false, {}, {}});
   const auto landing = [&script](std::string_view carried, Point at) {
-    Block block;
-    block.content.pieces = script.pieces();
-    block.content.scenery = {{9, "", 0, 0, 0, 1, 1, 3}};
+    const auto block = std::make_shared<Block>();
+    block->content.pieces = script.pieces();
+    block->content.scenery = {{9, "", 0, 0, 0, 1, 1, 3}};
     if (carried == "block")
       script.canvas.carry(block, script.at(at), false);
     else if (carried == "scenery")

@@ -1,3 +1,4 @@
+#include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/scenery/annotations.h"
 

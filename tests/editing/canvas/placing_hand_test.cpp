@@ -1,5 +1,7 @@
 // Left or right, which end, what will happen: the hand movements around the next piece.
 #include "catalog/track_catalog.h"
+#include "document/block.h"
+#include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/recording_surface.h"
 #include "editing/placing/ways.h"
@@ -178,7 +180,7 @@ TEST(Carrying, BlocksAndGroupsSnapAndSayHowManyEndsMeet) {
   // A gap of one piece, closed by a block of one straight.
   CanvasScript script(Plan().place("24188").extend("24188", 2).layout);
   selectOnly(script.host.plan, 2);
-  const Block block = blockFromSelection(script.host.plan);
+  const auto block = std::make_shared<Block>(blockFromSelection(script.host.plan));
   ASSERT_TRUE(deleteSelection(script.host.plan));
   const PointerInput near = script.at({188.3 + 6, 5});
   script.canvas.carry(block, near, false);

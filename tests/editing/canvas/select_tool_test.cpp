@@ -1,3 +1,5 @@
+#include "document/block.h"
+#include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/recording_surface.h"

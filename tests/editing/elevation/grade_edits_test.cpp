@@ -1,3 +1,5 @@
+#include "document/block.h"
+#include "document/record_kinds.h"
 #include "editing/elevation/grade_edits.h"
 #include "editing/elevation/grade_runs.h"
 #include "editing/elevation/inheritance.h"

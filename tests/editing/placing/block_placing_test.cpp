@@ -1,3 +1,5 @@
+#include "document/block.h"
+#include "document/record_kinds.h"
 #include "editing/placing/block_placing.h"
 #include "editing/selection/selection.h"
 #include "support/loose_records.h"

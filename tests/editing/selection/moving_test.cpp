@@ -1,3 +1,5 @@
+#include "document/block.h"
+#include "document/record_kinds.h"
 #include "editing/autofill/autofill.h"
 #include "editing/levels/level_edits.h"
 #include "editing/placing/block_placing.h"

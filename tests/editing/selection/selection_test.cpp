@@ -1,5 +1,7 @@
+#include "document/block.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/record_kinds.h"
 #include "editing/placing/block_placing.h"
 #include "editing/placing/placing.h"
 #include "editing/selection/selection.h"
