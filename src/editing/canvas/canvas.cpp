@@ -1,21 +1,13 @@
 #include "editing/canvas/canvas.h"
 
-#include "catalog/track_catalog.h"
-#include "editing/canvas/board_corners_tool.h"
+#include "editing/canvas/canvas_tools.h"
 #include "editing/canvas/carried_painter.h"
-#include "editing/canvas/carry_block_tool.h"
-#include "editing/canvas/carry_piece_tool.h"
-#include "editing/canvas/carry_scenery_tool.h"
+#include "editing/canvas/carry_tool.h"
 #include "editing/canvas/layout_painter.h"
-#include "editing/canvas/measure_tool.h"
-#include "editing/canvas/piece_painter.h"
-#include "editing/canvas/polygon_tool.h"
-#include "editing/canvas/select_tool.h"
+#include "editing/canvas/placing_offer.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/placing/runs.h"
-#include "editing/placing/ways.h"
 #include "editing/selection/content_box.h"
-#include "editing/selection/open_ends.h"
 #include "editing/selection/selection.h"
 #include "host/plan_preview.h"
 #include "texts/texts.h"
@@ -38,54 +30,11 @@ bool beyondThreshold(Point a, Point b) {
   return std::abs(a.x - b.x) > kDragThresholdPx || std::abs(a.y - b.y) > kDragThresholdPx;
 }
 
-/// The tools of the modes: the one place that a new one is listed in.
-std::unique_ptr<CanvasTool> makeTool(ToolMode mode, ToolSite& site) {
-  switch (mode) {
-  case ToolMode::Measure:
-    return std::make_unique<MeasureTool>(site);
-  case ToolMode::Polygon:
-    return std::make_unique<PolygonTool>(site);
-  case ToolMode::BoardCorners:
-    return std::make_unique<BoardCornersTool>(site);
-  case ToolMode::Select:
-    break;
-  }
-  return std::make_unique<SelectTool>(site);
-}
-
-/// Null for what cannot be carried. `before` is what hangs on the pointer yet, if anything.
-struct CarryToolMaker {
-  ToolSite& site;
-  bool held;
-  const CarryTool* before;
-
-  std::unique_ptr<CarryTool> operator()(const CarriedPiece& piece) const {
-    const PieceDef* definition = TrackCatalog::instance().find(piece.article);
-    if (definition == nullptr)
-      return nullptr;
-    auto carry = std::make_unique<CarryPieceTool>(site, *definition, piece.count, held);
-    // Another piece taken up in place of one that hangs on the pointer lies as that was turned.
-    if (dynamic_cast<const CarryPieceTool*>(before) != nullptr)
-      carry->keepHeading(*before);
-    return carry;
-  }
-  std::unique_ptr<CarryTool> operator()(const CarriedScenery& item) const {
-    const SceneryDef* definition = findScenery(item.key);
-    if (definition == nullptr)
-      return nullptr;
-    return std::make_unique<CarrySceneryTool>(site, *definition, held);
-  }
-  std::unique_ptr<CarryTool> operator()(const SharedBlock& block) const {
-    if (isEmpty(*block))
-      return nullptr;
-    return std::make_unique<CarryBlockTool>(site, block, held);
-  }
-};
-
 } // namespace
 
 Canvas::Canvas(Workspace& workspace)
-    : site_(std::make_unique<ToolSite>(workspace)), base_(makeTool(ToolMode::Select, *site_)) {
+    : site_(std::make_unique<ToolSite>(workspace)), offer_(std::make_unique<PlacingOffer>(*site_)),
+      base_(makeTool(ToolMode::Select, *site_)) {
   site_->carry = [this](const Carried& what) { carry(what, last_, false); };
 }
 
@@ -307,7 +256,7 @@ void Canvas::startCarry(std::unique_ptr<CarryTool> carry, const PointerInput& at
 }
 
 void Canvas::carry(const Carried& what, const PointerInput& at, bool held) {
-  if (auto tool = std::visit(CarryToolMaker{*site_, held, carry_.get()}, what))
+  if (auto tool = makeCarryTool(*site_, what, held, carry_.get()))
     startCarry(std::move(tool), at);
 }
 
@@ -327,52 +276,17 @@ bool Canvas::goOnWith(const Carried& what) {
   return true;
 }
 
-void Canvas::offer(const Carried* what) {
-  const auto* piece = what ? std::get_if<CarriedPiece>(what) : nullptr;
-  const std::string article = piece ? piece->article : std::string();
-  if (article == offered_)
-    return;
-  offered_ = article;
-  if (!article.empty())
-    site_->choice.takeUp(article);
+void Canvas::offer(std::optional<Offer> what) {
+  offer_->take(std::move(what));
   site_->workspace.repaint();
   renewHint();
 }
 
 bool Canvas::flipOffered(int step) {
-  const auto place = extensionOf(site_->layout(), offered_, site_->choice.wishFor(offered_));
-  const PieceDef* definition = TrackCatalog::instance().find(offered_);
-  if (!place || place->own == -1 || definition == nullptr)
+  if (!offer_->flip(step))
     return false;
-  const auto system = definition->connectorSystem(static_cast<std::size_t>(place->own));
-  site_->choice.chooseWay(offered_, wayAfter(*definition, place->own, step, system));
   site_->workspace.repaint();
   return true;
-}
-
-std::string Canvas::offerHint() const {
-  if (carry_ || gesture_ != Gesture::None || offered_.empty())
-    return {};
-  const auto place = extensionOf(site_->layout(), offered_, site_->choice.wishFor(offered_));
-  const PieceDef* definition = TrackCatalog::instance().find(offered_);
-  if (!place || place->own == -1 || definition == nullptr)
-    return {};
-  return hintOf({tr("Enter: %1% goes on where it is shown", {offered_}),
-                 waysOf(*definition).size() > 1 ? tr("F: the other way round") : std::string()});
-}
-
-void Canvas::paintOffer(Surface& surface) const {
-  const Layout& layout = site_->layout();
-  const auto place = extensionOf(layout, offered_, site_->choice.wishFor(offered_));
-  const auto end = place ? endAt(layout, place->at) : std::nullopt;
-  if (!end || place->own == -1)
-    return;
-  const PieceDef& definition = *TrackCatalog::instance().find(offered_);
-  PieceLook look = carriedLook(true);
-  look.bed.a = 110;
-  look.accent->a = 150;
-  PiecePainter(surface, site_->view)
-      .paint(trackGeometryOf(definition), AttachPose(definition, place->own, *end), look);
 }
 
 bool Canvas::scrollAtEdge() {
@@ -508,8 +422,8 @@ void Canvas::paintPlan(Surface& surface) {
 void Canvas::paintOverlay(Surface& surface) {
   if (const PlanPreview* preview = site_->workspace.preview())
     CarriedPainter(surface, site_->view, site_->layout(), true).paint(preview->records());
-  if (!carry_ && !offered_.empty())
-    paintOffer(surface);
+  if (!carry_)
+    offer_->paint(surface);
   tool().paint(surface);
 }
 
@@ -534,8 +448,9 @@ std::string Canvas::hint() const {
     return tr("Panning: let go to stay here, Esc to go back");
   if (space_ && gesture_ == Gesture::None)
     return hintOf({tr("Drag: pan"), tr("Wheel: zoom")});
-  if (const std::string offer = offerHint(); !offer.empty())
-    return offer;
+  if (!carry_ && gesture_ == Gesture::None)
+    if (std::string offered = offer_->hint(); !offered.empty())
+      return offered;
   return tool().hint();
 }
 

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,9 +16,11 @@ namespace trassix {
 
 class CanvasTool;
 class CarryTool;
+class PlacingOffer;
 class ToolSite;
 class Workspace;
 struct Carried;
+struct Offer;
 struct PaintOptions;
 
 /// The plan as the user handles it, without a window: the view, panning, zooming, and one active
@@ -61,8 +64,8 @@ class Canvas {
   bool goOnWith(const Carried& what);
   bool carrying() const { return carry_ != nullptr; }
 
-  /// What the palette would go on with, shown faintly where it would lie; null for nothing.
-  void offer(const Carried* what);
+  /// What the palette would do; none while the keys go elsewhere.
+  void offer(std::optional<Offer> what);
   /// Turns what is offered round to its next way, or with -1 the one before.
   bool flipOffered(int step);
 
@@ -101,8 +104,6 @@ class Canvas {
   void afterInput();
   void pointAt(const PointerInput& input);
   void viewChanged();
-  void paintOffer(Surface& surface) const;
-  std::string offerHint() const;
   /// Tools move the view as well.
   void followView();
   PaintOptions paintOptions() const;
@@ -124,13 +125,13 @@ class Canvas {
   enum class Gesture : std::uint8_t { None, Pending, Drag, PanPending, Pan };
 
   std::unique_ptr<ToolSite> site_;
+  std::unique_ptr<PlacingOffer> offer_;
   ViewTransform told_; ///< the view for which the window knows the pointer's place
   std::unique_ptr<CanvasTool> base_;
   std::unique_ptr<CarryTool> carry_;
   /// Tools that were put away while one of their functions ran, until it is back.
   std::vector<std::unique_ptr<CanvasTool>> retired_;
   int inputDepth_ = 0;
-  std::string offered_; ///< article
   ToolMode mode_ = ToolMode::Select;
   Gesture gesture_ = Gesture::None;
   Button button_ = Button::Left; ///< that began the gesture

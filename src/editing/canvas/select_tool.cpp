@@ -95,7 +95,7 @@ void SelectTool::startGesture(const PointerInput& input) {
   }
   if (!picks.empty() && !anySelected(picks))
     select(picks.front());
-  gesture_ = std::make_unique<MoveGesture>(site_, input, input.alt);
+  gesture_ = std::make_unique<MoveGesture>(site_, input, input.alt || input.shift);
 }
 
 void SelectTool::release(const PointerInput& input, bool dragged) {
@@ -357,7 +357,8 @@ std::string SelectTool::hint() const {
     const auto doubleClick = [pick]() -> std::string {
       switch (pick->kind) {
       case RecordKind::Piece:
-        return hintOf({tr("Double-click: extend"), tr("Alt+double-click: all joined track")});
+        return hintOf(
+            {tr("Double-click: extend"), tr("Alt+double-click or menu: all joined track")});
       case RecordKind::Label:
         return tr("Double-click: edit the text");
       case RecordKind::Shape:
@@ -369,7 +370,7 @@ std::string SelectTool::hint() const {
     return hintOf({name, below(), tr("Drag: move"), doubleClick(), tr("Right-click: more")});
   }
   if (hasSelection(layout))
-    return hintOf({tr("Drag: move"), tr("Alt+drag: turn"),
+    return hintOf({tr("Drag: move"), tr("Alt+drag or Shift+drag: turn"),
                    tr("Ctrl+wheel: turn 15\u00b0 (Shift: 5\u00b0)"),
                    tr("Arrows: nudge (Shift: finer)"), tr("Del: delete"), tr("Esc: deselect")});
   return hintOf({tr("Drag: select in a box"), tr("Wheel: zoom"), tr("Ctrl+drag or Space+drag: pan"),

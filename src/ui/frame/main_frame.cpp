@@ -79,11 +79,12 @@ void MainFrame::buildPanels() {
   root_ = new wxPanel(this);
   FrameTrace::write("BuildPanels: root panel created");
   auto* outer = makeSplitter(root_, "outerSplitter");
-  palette_ = new PalettePanel(outer, workspace_,
-                              {[this](const Carried& what) { canvas_->drag(what); },
-                               [this](const Carried& what) { canvas_->use(what); },
-                               [this](const Carried* what) { canvas_->canvas().offer(what); },
-                               [this](int step) { return canvas_->canvas().flipOffered(step); }});
+  palette_ =
+      new PalettePanel(outer, workspace_,
+                       {[this](const Carried& what) { canvas_->drag(what); },
+                        [this](const Carried& what) { canvas_->use(what); },
+                        [this](const std::optional<Offer>& what) { canvas_->canvas().offer(what); },
+                        [this](int step) { return canvas_->canvas().flipOffered(step); }});
   palette_->SetMinSize(FromDIP(wxSize(kPaletteMinWidth, -1)));
   FrameTrace::write("BuildPanels: palette created");
   auto* inner = makeSplitter(outer, "innerSplitter");

@@ -52,13 +52,15 @@ constexpr const char* kMouseAndKeys[] = {
     wxTRANSLATE("Click|Select what is there; click again for what lies below"),
     wxTRANSLATE("Ctrl+click|Add to the selection or take out of it"),
     wxTRANSLATE("Drag on empty plan|Select everything inside the frame"),
-    wxTRANSLATE("Alt+double-click|Select all track that is joined"),
+    wxTRANSLATE("Alt+double-click|Select all track that is joined; so does the menu of a "
+                "right-click, where the desktop keeps Alt for itself"),
     wxTRANSLATE("Ctrl+A|Select all"),
     wxTRANSLATE("Esc|Select nothing; break off what is under way"),
     wxTRANSLATE("# Changing"),
     wxTRANSLATE("Double-click|Add another piece of the same article"),
     wxTRANSLATE("Drag|Move the selection"),
-    wxTRANSLATE("Alt+drag|Turn the selection freely"),
+    wxTRANSLATE(
+        "Alt+drag, Shift+drag|Turn the selection freely, in steps of 15° while Shift is held"),
     wxTRANSLATE("Ctrl+wheel|Turn it by 15°, with Shift by 5°"),
     wxTRANSLATE("Arrow keys|Move it by 10 mm, with Shift by 1 mm"),
     wxTRANSLATE("Del, Backspace|Delete it"),

@@ -9,6 +9,7 @@
 #include "editing/track/short_name.h"
 #include "measures/measure_format.h"
 #include "panels/block_library.h"
+#include "texts/texts.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/palette/catalog_list.h"
 #include "ui/palette/palette_drawings.h"
@@ -310,25 +311,48 @@ void PalettePanel::onKeyAnywhere(wxKeyEvent& event) {
 }
 
 void PalettePanel::renewOffer() {
-  const PieceDef* piece = nullptr;
-  if (lists_[kTrackTab] && shownTab_ == kTrackTab && IsDescendant(FindFocus())) {
-    const int row = lists_[kTrackTab]->GetSelection();
-    piece = row == wxNOT_FOUND ? nullptr : pieces_.at(static_cast<std::size_t>(row));
+  std::optional<Offer> offer;
+  wxWindow* focus = FindFocus();
+  if (const CatalogList* list = lists_.at(shownTab_);
+      list && focus && (search_->IsDescendant(focus) || list == focus)) {
+    const int row = list->GetSelection();
+    offer = row == wxNOT_FOUND ? Offer{} : offerOfRow(static_cast<std::size_t>(row));
+    offer->typing = list != focus;
+    offer->flips = flipsByF();
   }
-  if (piece == offered_)
+  if (offer == offered_)
     return;
-  offered_ = piece;
-  if (!piece)
-    return actions_.offer(nullptr);
-  const Carried what = CarriedPiece{piece->article, model_.count()};
-  actions_.offer(&what);
+  offered_ = offer;
+  actions_.offer(offered_);
+}
+
+Offer PalettePanel::offerOfRow(std::size_t row) const {
+  Offer offer;
+  switch (shownTab_) {
+  case kTrackTab:
+    offer.article = pieces_[row]->article;
+    offer.name =
+        model_.count() > 1 ? tr("%1% \u00d7 %2%", {model_.count(), offer.article}) : offer.article;
+    break;
+  case kSceneryTab:
+    offer.name = scenery_[row]->name;
+    break;
+  case kLibraryTab:
+    offer.name = blocks_[row]->name;
+    break;
+  }
+  return offer;
+}
+
+bool PalettePanel::flipsByF() const {
+  const wxString text = search_->GetValue();
+  return !search_->HasFocus() ||
+         (!text.empty() && text.find_first_not_of("0123456789xX ") == wxString::npos);
 }
 
 bool PalettePanel::flipOffered(const wxKeyEvent& event) {
-  const wxString text = search_->GetValue();
-  const bool isArticle = !text.empty() && text.find_first_not_of("0123456789xX ") == wxString::npos;
-  return event.GetKeyCode() == 'F' && !event.ControlDown() && !event.AltDown() &&
-         (isArticle || !search_->HasFocus()) && actions_.flip(event.ShiftDown() ? -1 : 1);
+  return event.GetKeyCode() == 'F' && !event.ControlDown() && !event.AltDown() && flipsByF() &&
+         actions_.flip(event.ShiftDown() ? -1 : 1);
 }
 
 void PalettePanel::onSearchKey(wxKeyEvent& event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editing/canvas/placing_offer.h"
 #include "host/workspace.h"
 #include "panels/palette_model.h"
 
@@ -9,6 +10,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -30,8 +32,8 @@ class PalettePanel : public wxPanel, private PlanObserver {
   struct Actions {
     std::function<void(const Carried& what)> drag;
     std::function<void(const Carried& what)> use; ///< blocks are centred and never empty
-    /// What `use` would be given while the focus is here; null for nothing.
-    std::function<void(const Carried* what)> offer;
+    /// What Enter would do while the focus is here; none while it is elsewhere.
+    std::function<void(const std::optional<Offer>& what)> offer;
     /// Turns what is offered to its next way, or with -1 the one before; false when it cannot.
     std::function<bool(int step)> flip;
   };
@@ -74,7 +76,9 @@ class PalettePanel : public wxPanel, private PlanObserver {
   void onKeyAnywhere(wxKeyEvent& event);
   void onSearchKey(wxKeyEvent& event);
   void renewOffer();
-  /// F turns what is offered round, where it is no letter of a search.
+  Offer offerOfRow(std::size_t row) const;
+  /// F turns the piece round where it is no letter of a search.
+  bool flipsByF() const;
   bool flipOffered(const wxKeyEvent& event);
   void fillTrack();
   void fillScenery();
@@ -89,7 +93,7 @@ class PalettePanel : public wxPanel, private PlanObserver {
   Actions actions_;
   PaletteModel model_;
   std::vector<TrackSystem> systems_;
-  const PieceDef* offered_ = nullptr;
+  std::optional<Offer> offered_;
   std::vector<const PieceDef*> pieces_;     ///< by row of the list, null for a heading
   std::vector<const SceneryDef*> scenery_;  ///< likewise
   std::vector<LibraryEntry> library_;       ///< all blocks of the folder

@@ -3,6 +3,7 @@
 #include "document/block.h"
 #include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
+#include "editing/canvas/placing_offer.h"
 #include "editing/canvas/recording_surface.h"
 #include "editing/placing/ways.h"
 #include "editing/selection/open_ends.h"
@@ -137,14 +138,37 @@ TEST(Offer, ShowsWhatThePaletteWillDo) {
     return surface.lines.size() + surface.hatches.size();
   };
   const auto nothing = drawn();
-  const Carried curve = CarriedPiece{"24130"};
-  script.canvas.offer(&curve);
+  script.canvas.offer(Offer{false, true, "24130", "24130"});
   EXPECT_GT(drawn(), nothing);
   EXPECT_TRUE(script.canvas.flipOffered(1));
-  EXPECT_TRUE(script.canvas.goOnWith(curve));
+  EXPECT_TRUE(script.canvas.goOnWith(CarriedPiece{"24130"}));
   EXPECT_EQ(script.pieces()[1].joint(1), (Joint{1, 1})) << "as it was shown";
-  script.canvas.offer(nullptr);
+  script.canvas.offer({});
   EXPECT_FALSE(script.canvas.flipOffered(1));
+}
+
+TEST(Offer, SaysWhatTheKeysDo) {
+  const std::pair<std::int32_t, Layout> plans[] = {
+      {0, Layout()},
+      {1, Plan().place("24188").layout},
+      {2, Plan().place("24188").extend("24188", 2).layout}};
+  const Offer piece{true, true, "24130", "24130"};
+  const std::tuple<std::size_t, Offer, const char*, const char*> kCases[] = {
+      {0, piece, "Enter: 24130 hangs on the pointer", "F:"},
+      {1, piece, "Enter: 24130 goes on where it is shown    F:", "Del"},
+      {1, {true, false, "24130", "24130"}, "Enter: 24130 goes on", "F:"}, // a letter of the search
+      {1, {true, true, "24188", "24188"}, "Enter: 24188 goes on", "F:"},  // lies alike
+      {2, piece, "What is selected has no free end for 24130", "Enter"},
+      {1, {false, false, "", "Station"}, "Enter: Station hangs on the pointer", "Esc"},
+      {0, {true, true, "", ""}, "Nothing fits what is typed    Esc: empty", "Enter"},
+  };
+  for (const auto& [plan, offer, begins, lacks] : kCases) {
+    CanvasScript script(plans[plan].second);
+    selectOnly(script.host.plan, plans[plan].first);
+    script.canvas.offer(offer);
+    EXPECT_THAT(script.host.seen.hint,
+                testing::AllOf(StartsWith(begins), testing::Not(testing::HasSubstr(lacks))));
+  }
 }
 
 TEST(Carrying, PansScrollsAndZoomsAtThePointer) {
@@ -213,7 +237,8 @@ class FewMovements : public CanvasScript {
     const bool several = times != std::string::npos;
     const Carried what =
         CarriedPiece{several ? text.substr(times + 1) : text, several ? std::stoi(text) : 1};
-    canvas.offer(&what);
+    const std::string& article = std::get<CarriedPiece>(what).article;
+    canvas.offer(Offer{true, true, article, article});
     EXPECT_EQ(flipped && canvas.flipOffered(1), flipped) << text;
     EXPECT_TRUE(canvas.goOnWith(what)) << text;
     actions += flipped ? 2 : 1;
