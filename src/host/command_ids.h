@@ -62,6 +62,7 @@ enum CommandId : int {
   kDistributeAcross = 2075,
   kDistributeDown = 2076,
   kBoardCorners = 2077,
+  kLevelCorners = 2078,
 };
 
 /// What the mouse does on the plan.

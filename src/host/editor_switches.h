@@ -6,7 +6,7 @@
 
 namespace trassix {
 
-/// What becomes of the polygon that is drawn.
+/// What becomes of the polygon that is drawn, or has the corners that are edited.
 struct PolygonUse {
   enum class Kind : std::uint8_t { Shape, Baseboard, LevelOutline };
 

@@ -27,8 +27,8 @@ struct Question {
 /// One row of a context menu; an empty text is a separator.
 struct MenuRow {
   std::string text;
-  std::string keys; ///< shown at the right, for example "Del"
-  bool enabled = true;
+  std::string keys;         ///< shown at the right, for example "Del"
+  std::string problem = {}; ///< why it cannot be taken; empty when it can
   std::function<void()> action;
   std::string submenu =
       {}; ///< neighbouring rows with the same text here stand in a menu of that name

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <wx/menu.h>
 #include <wx/srchctrl.h>
+#include <wx/statusbr.h>
 #include <wx/toolbar.h>
 
 #include <cmath>
@@ -52,7 +53,8 @@ const char* const kMenus[] = {
     "Zoom to Se&lection\tCtrl+1 2064",
     "&Layout|Units of Measure|Millimetres (mm) 2021 radio on|Centimetres (cm) 2022 radio|"
     "Inches (in) 2023 radio|-|Layout &Shape... 2020|Layout &Wizard (Experimental)... 2018|"
-    "&Bridge Wizard (Experimental)... 2019|-|Baseboard &Corners 2077 check",
+    "&Bridge Wizard (Experimental)... 2019|-|Baseboard &Corners 2077 check|"
+    "Le&vel Corners 2078 check",
     "&Help|&Help\tF1 2027|Layout &Wizard Help 2028|-|&Options... 2029"};
 
 const char* const kTools =
@@ -104,8 +106,8 @@ TEST_F(FrameTest, MenusAndToolsAreAsAgreed) {
       continue;
     }
     wxString tip = tool.GetShortHelp();
-    if (const Command* command = findCommand(tool.GetId()); command->run == nullptr) {
-      EXPECT_TRUE(tip.EndsWith("Not available in this version"));
+    if (const char* why = whyUnusable(*findCommand(tool.GetId()), canvas().site())) {
+      EXPECT_TRUE(tip.EndsWith(why));
       EXPECT_FALSE(tool.IsEnabled());
       tip = tip.BeforeLast('\n');
     }
@@ -152,7 +154,7 @@ TEST_F(FrameTest, EveryCommandDoesSomething) {
     frame().layout().undo();
     selectAll(frame().layout());
     const bool recentPlan = command.id >= wxID_FILE1 && command.id <= wxID_FILE9; // there is none
-    if (recentPlan || !commandEnabled(command, frame().layout()))
+    if (recentPlan || whyUnusable(command, canvas().site()))
       continue;
     if (wxWindow* help = findNamed("help"))
       help->Hide();
@@ -178,9 +180,44 @@ TEST_F(FrameTest, EveryCommandDoesSomething) {
   }
   for (const int later : std::initializer_list<int>{
            wxID_PREVIEW, wxID_PRINT, kView3D, kLayoutWizard, kBridgeWizard, kElevation, kTunnel}) {
-    EXPECT_FALSE(commandEnabled(*findCommand(later), frame().layout()));
+    EXPECT_NE(whyUnusable(*findCommand(later), canvas().site()), nullptr);
   }
   EXPECT_THAT(canceller.titles, testing::IsSupersetOf({"Validate", "Properties", "Save Layout"}));
+}
+
+TEST_F(FrameTest, WhatCannotBeUsedSaysWhy) {
+  start();
+  frame().workspace().clipboard().put("no plan");
+  const auto status = [this] { return frame().GetStatusBar()->GetStatusText(0); };
+  const auto told = [this](int id) {
+    frame().UpdateWindowUI(wxUPDATE_UI_RECURSE);
+    const wxMenuItem* item = frame().GetMenuBar()->FindItem(id);
+    return item ? item->GetHelp() : frame().GetToolBar()->GetToolShortHelp(id);
+  };
+  const std::tuple<int, const char*, int> kCases[] = {
+      {kUndo, "Nothing to undo", 'Z'},
+      {kRedo, "Nothing to redo", 'Y'},
+      {kCopy, "Nothing selected", 'C'},
+      {kPaste, "Nothing to paste", 'V'},
+      {kParallelTrack, "No track", 'L'},
+      {kLevelCorners, "The active level has no outline", 0},
+      {wxID_PRINT, "Not available in this", 0},
+      {kView3D, "Not available in this", 0},
+  };
+  for (const auto& [id, why, key] : kCases) {
+    EXPECT_TRUE(told(id).StartsWith(why)) << told(id);
+    frame().canvasPanel().SetFocus();
+    if (key != 0)
+      pressKey(key, wxMOD_CONTROL);
+    EXPECT_TRUE(key == 0 || status().StartsWith(why)) << status();
+  }
+  EXPECT_EQ(frame().GetToolBar()->GetToolShortHelp(kUndo), "Nothing to undo");
+  placePiece();
+  put(kCopy);
+  frame().layout().undo();
+  frame().workspace().changed();
+  for (const int id : {+kRedo, +kPaste})
+    EXPECT_EQ(told(id), findCommand(id)->menuHelp);
 }
 
 TEST_F(FrameTest, KeysTypedIntoATextStayThere) {

@@ -81,7 +81,7 @@ class MonkeyTest : public FrameTest {
         *all[static_cast<std::size_t>(dice.upTo(static_cast<int>(all.size()) - 1))];
     // Printing asks the system, and the exit would end the game.
     if (command.id == wxID_EXIT || command.id == wxID_PAGE_SETUP ||
-        !commandEnabled(command, frame().layout()))
+        whyUnusable(command, canvas().site()))
       return;
     if (command.kind == Command::Kind::Check && command.menuText != nullptr)
       frame().GetMenuBar()->Check(command.id, dice.oneIn(2));

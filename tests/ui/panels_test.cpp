@@ -177,7 +177,7 @@ TEST_F(PanelsTest, NamesShowAsTheyAre) {
     row = event.GetMenu()->FindItemByPosition(0)->GetItemLabelText();
     event.GetMenu()->GetInvokingWindow()->CallAfter([] { pressKey(WXK_ESCAPE); });
   });
-  frame().workspace().questions().popupMenu({{"Yard & Co", "", true, [] {}}});
+  frame().workspace().questions().popupMenu({{"Yard & Co", "", {}, [] {}}});
   EXPECT_EQ(row, "Yard & Co");
 }
 

@@ -277,7 +277,7 @@ TEST_F(PlanningTest, MouseAndKeysShapeThePlan) {
   finish();
 }
 
-TEST_F(PlanningTest, SceneryAndBlocksAreCarriedToo) {
+TEST_F(PlanningTest, EachKindIsCarriedPannedZoomedTurnedAndDropped) {
   const std::filesystem::path library = layoutsFolder() / "library" / "Marklin_C-Track";
   std::filesystem::create_directories(library);
   Plan throat;
@@ -286,32 +286,79 @@ TEST_F(PlanningTest, SceneryAndBlocksAreCarriedToo) {
     piece.sel = true;
   ASSERT_EQ(saveBlock(throat.layout, library / "Throat.txl", "Throat"), "");
   startLaidOut();
-  inPalette("24188"); // the palette has its places then
+  inPalette("24188");                         // the palette has its places then
+  pressKey('G', wxMOD_CONTROL | wxMOD_SHIFT); // nothing snaps
+  waitUntil("snapping is off", [this] { return !frame().workspace().switches().snap; });
 
-  click(*findLabelled("Scenery"));
-  drag(inPalette("Branch station", "scenery"), {onPlan({300, 200}), onPlan({500, 260})});
-  const std::vector<SceneryItem>& scenery = plan().content().scenery;
-  ASSERT_TRUE(waitUntil("the station stands", [&] { return scenery.size() == 1; }));
-  EXPECT_NEAR(scenery[0].x, 500, 3);
-  EXPECT_NEAR(scenery[0].y, 260, 3);
-
-  click(*findLabelled("Library"));
-  // The click that drops keeps the double-clicks apart: so quick on one spot they would count as a
-  // triple one.
-  for (const bool dropped : {true, false}) {
-    doubleClick(inPalette("Throat", "library"));
-    ASSERT_TRUE(waitUntil("carrying", [&] { return canvas().carrying(); }));
-    moveMouse(onPlan({700, 800}));
+  struct Kind {
+    const char *tab, *title, *list; ///< none to paste what was dropped last
+    std::size_t pieces, scenery;    ///< then on the plan
+    double heading;
+  };
+  for (const Kind& kind : {Kind{"Track", "24130", "pieces", 1, 0, 180},
+                           Kind{"Scenery", "Branch station", "scenery", 1, 1, 30},
+                           Kind{"Library", "Throat", "library", 3, 1, 30},
+                           Kind{nullptr, "Throat", nullptr, 5, 1, 60}}) {
+    SCOPED_TRACE(kind.list ? kind.list : "paste");
+    const Spot middle(frame().canvasPanel(), {500, 400});
+    const auto takeUp = [&] {
+      if (kind.tab)
+        click(*findLabelled(kind.tab)), doubleClick(inPalette(kind.title, kind.list));
+      else
+        pressKey('V', wxMOD_CONTROL);
+      waitUntil("it hangs on the pointer", [this] { return canvas().carrying(); });
+      moveMouse(middle);
+    };
+    if (!kind.tab)
+      pressKey('C', wxMOD_CONTROL);
+    takeUp();
+    pressKey(WXK_ESCAPE);
+    ASSERT_TRUE(waitUntil("given up", [this] { return !canvas().carrying(); }));
+    takeUp();
+    for (const bool ctrl : {false, true}) {
+      const Point before = canvas().view().origin();
+      if (ctrl)
+        holdKey(WXK_CONTROL);
+      drag(middle, {Spot(*middle.window, {560, 440})},
+           ctrl ? wxMOUSE_BTN_LEFT : wxMOUSE_BTN_MIDDLE);
+      if (ctrl)
+        releaseKey(WXK_CONTROL);
+      waitUntil("panned", [&] {
+        return canvas().view().origin() == Point{before.x + 60, before.y + 40};
+      });
+    }
+    const double zoom = canvas().view().zoom();
+    const Point under = canvas().pointer();
+    pressKey('+');
+    waitUntil("zoomed", [&] { return canvas().view().zoom() > zoom; });
+    EXPECT_NEAR(canvas().pointer().x, under.x, 1e-6) << "at the pointer";
     turnWheel(1);
-    if (dropped)
-      click(onPlan({700, 800}));
-    else
-      pressKey(WXK_ESCAPE);
-    ASSERT_TRUE(waitUntil("no longer carrying", [&] { return !canvas().carrying(); }));
-    waitForPieces(2);
+    pressKey('F');
+    moveMouse({*middle.window, {4, 400}});
+    const double origin = canvas().view().origin().x;
+    waitUntil("scrolled at the edge", [&] { return canvas().view().origin().x > origin + 30; });
+    click(middle);
+    waitForPieces(kind.pieces);
+    ASSERT_TRUE(waitUntil("dropped", [this] { return !canvas().carrying(); }));
+    EXPECT_EQ(plan().content().scenery.size(), kind.scenery);
+    const bool isScenery = kind.pieces == kind.scenery;
+    EXPECT_EQ(isScenery ? plan().content().scenery[0].heading : plan().pieces().back().heading,
+              kind.heading);
+    put(kZoomFit);
   }
-  EXPECT_EQ(plan().pieces()[0].heading, 30);
-  EXPECT_EQ(plan().pieces()[0].joint(1), (Joint{plan().pieces()[1].id, 0}));
+
+  // Out of the palette by a drag.
+  const Spot there(frame().canvasPanel(), {600, 500});
+  click(*findLabelled("Scenery"));
+  drag(inPalette("Branch station", "scenery"), {there});
+  const std::vector<SceneryItem>& scenery = plan().content().scenery;
+  ASSERT_TRUE(waitUntil("the station stands", [&] { return scenery.size() == 2; }));
+  const Point at = canvas().view().toWorld({600, 500});
+  EXPECT_NEAR(std::hypot(scenery[1].x - at.x, scenery[1].y - at.y), 0, 3);
+  click(*findLabelled("Library"));
+  drag(inPalette("Throat", "library"), {there});
+  waitForPieces(7);
+  EXPECT_EQ(plan().pieces()[5].joint(1), (Joint{plan().pieces()[6].id, 0}));
   click(inPalette("Throat", "library"));
   dialogs.answer("Delete Library Block", wxID_YES);
   pressKey(WXK_NUMPAD_DELETE);

@@ -13,6 +13,10 @@
 namespace trassix {
 
 const std::vector<Point>* cornersOf(const Layout& layout, const Outlined& what) {
+  if (what.level) {
+    const Level* level = layout.findLevel(*what.level);
+    return level == nullptr || level->outline.size() < 3 ? nullptr : &level->outline;
+  }
   if (!what.shape)
     return layout.settings().baseboard.empty() ? nullptr : &layout.settings().baseboard;
   const Shape* shape = recordWithId(layout.content().shapes, *what.shape);
@@ -36,6 +40,8 @@ ChangeResult setCorners(Layout& layout, const Outlined& what, std::vector<Point>
     return false;
   if (std::string problem = outlineProblem(corners); !problem.empty())
     return Notice{tr("Corners"), std::move(problem)};
+  if (what.level)
+    return setLevelOutline(layout, *what.level, corners);
   if (!what.shape)
     return setBaseboard(layout, corners, layout.settings().lastShape);
   Shape wanted = *recordWithId(layout.content().shapes, *what.shape);

@@ -142,24 +142,26 @@ void runParallelTrack(ToolSite& site) {
 
 std::vector<MenuRow> arrangeRows(ToolSite& site) {
   std::vector<MenuRow> rows;
-  const auto add = [&rows](const char* text, const char* submenu, bool enabled, auto action,
+  const auto add = [&rows](const char* text, const char* submenu, std::string problem, auto action,
                            const std::string& keys = {}) {
-    rows.push_back({tr(text), keys, enabled, action, submenu ? tr(submenu) : std::string()});
+    rows.push_back(
+        {tr(text), keys, std::move(problem), action, submenu ? tr(submenu) : std::string()});
   };
   const Layout& layout = site.layout();
   if (!selectedPieces(layout).empty())
     add(
-        trLater("Parallel Track..."), nullptr, true, [&site] { runParallelTrack(site); },
+        trLater("Parallel Track..."), nullptr, {}, [&site] { runParallelTrack(site); },
         tr("Ctrl+L"));
   constexpr auto kMirror = trLater("Mirror");
   add(
-      trLater("Left to Right"), kMirror, true, [&site] { runMirror(site, MirrorWay::LeftToRight); },
+      trLater("Left to Right"), kMirror, {}, [&site] { runMirror(site, MirrorWay::LeftToRight); },
       tr("Ctrl+M"));
   add(
-      trLater("Top to Bottom"), kMirror, true, [&site] { runMirror(site, MirrorWay::TopToBottom); },
+      trLater("Top to Bottom"), kMirror, {}, [&site] { runMirror(site, MirrorWay::TopToBottom); },
       tr("Ctrl+Shift+M"));
   add(trLater("To the Other Side of Its Track"), kMirror,
-      mirrorLine(layout, MirrorWay::AcrossTrack).has_value(),
+      mirrorLine(layout, MirrorWay::AcrossTrack) ? std::string()
+                                                 : tr("The selection goes on from no track"),
       [&site] { runMirror(site, MirrorWay::AcrossTrack); });
   if (!canAlign(layout))
     return rows;
@@ -172,10 +174,13 @@ std::vector<MenuRow> arrangeRows(ToolSite& site) {
        {trLater("Middle"), AlignTo::Middle},
        {trLater("Bottom"), AlignTo::Bottom}}};
   for (const auto& [text, to] : kEdges)
-    add(text, kAlign, true, [&site, to = to] { site.report(alignSelection(site.layout(), to)); });
-  add(trLater("Even Gaps Across"), kAlign, canDistribute(layout),
+    add(text, kAlign, {}, [&site, to = to] { site.report(alignSelection(site.layout(), to)); });
+  const std::string tooFew = canDistribute(layout)
+                                 ? std::string()
+                                 : tr("Select scenery, labels or shapes, three at least");
+  add(trLater("Even Gaps Across"), kAlign, tooFew,
       [&site] { site.report(distributeSelection(site.layout(), Axis::Across)); });
-  add(trLater("Even Gaps Down"), kAlign, canDistribute(layout),
+  add(trLater("Even Gaps Down"), kAlign, tooFew,
       [&site] { site.report(distributeSelection(site.layout(), Axis::Down)); });
   return rows;
 }

@@ -4,17 +4,17 @@
 
 namespace trassix {
 
-/// Moves, adds and removes corners of the baseboard, which lies below everything and is left alone
-/// otherwise.
+/// Moves, adds and removes corners of the baseboard or of a level's outline, which lie below
+/// everything and are left alone otherwise.
 class BoardCornersTool : public CanvasTool {
  public:
-  explicit BoardCornersTool(ToolSite& site);
+  explicit BoardCornersTool(ToolSite& site) : CanvasTool(site), corners_(site) {}
 
   void press(const PointerInput& input) override { pressed_ = input; }
   void hover(const PointerInput& input) override;
   void drag(const PointerInput& input) override;
   void release(const PointerInput& input, bool dragged) override;
-  void doubleClick(const PointerInput& input) override { corners_.doubleClick(input); }
+  void doubleClick(const PointerInput& input) override { corners().doubleClick(input); }
   void contextMenu(const PointerInput& input) override;
   bool key(const KeyInput& input) override;
   void cancel() override { gesture_.reset(); }
@@ -22,6 +22,8 @@ class BoardCornersTool : public CanvasTool {
   std::string hint() const override;
 
  private:
+  CornerEditor& corners();
+
   CornerEditor corners_;
   PointerInput pressed_;
   std::unique_ptr<Gesture> gesture_;

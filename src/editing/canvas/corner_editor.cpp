@@ -180,8 +180,10 @@ std::vector<MenuRow> CornerEditor::menu(Point at) {
     return rows;
   if (const auto handle = handleAt(at); handle && !handle->onEdge) {
     const std::size_t corner = handle->corner;
-    rows.push_back({tr("Corner Position..."), "", true, [this, corner] { askPlace(corner); }});
-    rows.push_back({tr("Remove Corner"), "", present->size() > 3, [this, corner] {
+    const std::string tooFew =
+        present->size() > 3 ? std::string() : tr("An outline has three corners at least");
+    rows.push_back({tr("Corner Position..."), "", {}, [this, corner] { askPlace(corner); }});
+    rows.push_back({tr("Remove Corner"), "", tooFew, [this, corner] {
                       chosen_ = corner;
                       removeChosen();
                     }});
@@ -192,7 +194,7 @@ std::vector<MenuRow> CornerEditor::menu(Point at) {
     const Point b = (*present)[(i + 1) % present->size()];
     if (distanceToEdge(at, a, b) > site_.mm(kReachPx))
       continue;
-    rows.push_back({tr("Add Corner Here"), "", true, [this, i, on = nearestOnEdge(at, a, b)] {
+    rows.push_back({tr("Add Corner Here"), "", {}, [this, i, on = nearestOnEdge(at, a, b)] {
                       chosen_ = i + 1;
                       site_.report(addCorner(site_.layout(), *what_, i, on));
                     }});

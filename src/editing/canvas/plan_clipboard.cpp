@@ -48,11 +48,20 @@ bool PlanClipboard::copy(const Layout& layout, Clipboard& clipboard) {
   copied_ = std::move(block);
   text_ = std::move(text);
   clipboard.put(text_);
+  seen_ = text_;
+  pastes_ = true;
   return true;
 }
 
-SharedBlock PlanClipboard::paste(Clipboard& clipboard) const {
-  const std::string text = clipboard.text();
+void PlanClipboard::look(Clipboard& clipboard) {
+  std::string text = clipboard.text();
+  if (text == seen_)
+    return;
+  pastes_ = !isEmpty(*blockOf(text));
+  seen_ = std::move(text);
+}
+
+SharedBlock PlanClipboard::blockOf(const std::string& text) const {
   if (!text_.empty() && text == text_)
     return copied_;
   auto block = std::make_shared<Block>(blockFromText(text));

@@ -19,11 +19,20 @@ class PlanClipboard {
   bool copy(const Layout& layout, Clipboard& clipboard);
 
   /// Centred on its origin; empty when the clipboard holds neither plan nor block.
-  SharedBlock paste(Clipboard& clipboard) const;
+  SharedBlock paste(Clipboard& clipboard) const { return blockOf(clipboard.text()); }
+
+  /// Renews what `pastes` says. It reads the clipboard, which may take a while.
+  void look(Clipboard& clipboard);
+  /// Whether there was something to paste at the last look or copy.
+  bool pastes() const { return pastes_; }
 
  private:
+  SharedBlock blockOf(const std::string& text) const;
+
   SharedBlock copied_;
-  std::string text_;
+  std::string text_; ///< of `copied_`
+  std::string seen_;
+  bool pastes_ = false;
 };
 
 } // namespace trassix

@@ -25,28 +25,31 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
   const bool onPiece = !under.empty() && under.front().kind == RecordKind::Piece;
   if (onPiece) {
     const std::int32_t piece = under.front().id;
-    rows.push_back({tr("Extend"), tr("Double-click"), true, [&site, piece] {
+    rows.push_back({tr("Extend"), tr("Double-click"), {}, [&site, piece] {
                       const ExtensionWish wish{site.choice.end(site.layout()), {}};
                       site.reportExtension(cloneAndExtend(site.layout(), piece, wish));
                     }});
-    rows.push_back({tr("Select Joined Track"), tr("Alt+Double-click"), true,
-                    [&site, piece] { selectChain(site, piece); }});
+    rows.push_back({tr("Select Joined Track"), tr("Alt+Double-click"), {}, [&site, piece] {
+                      selectChain(site, piece);
+                    }});
     if (runOver(layout, piece) != -1)
-      rows.push_back({tr("End Grade Here"), "", true, [&site, piece] {
+      rows.push_back({tr("End Grade Here"), "", {}, [&site, piece] {
                         if (endGradeHere(site.layout(), piece))
                           site.workspace.changed();
                       }});
   }
   if (onPiece && canSwap(layout, under.front().id))
     rows.push_back(
-        {tr("Swap..."), "", true, [&site, piece = under.front().id] { runSwap(site, piece); }});
+        {tr("Swap..."), "", {}, [&site, piece = under.front().id] { runSwap(site, piece); }});
   const auto addEdit = [&](RecordKind kind, const char* text, auto edit) {
     if (under.empty() || under.front().kind != kind)
       return;
     // With track under a label the double-click goes on from that.
     const bool byDoubleClick =
         std::ranges::find(under, RecordKind::Piece, &Pick::kind) == under.end();
-    rows.push_back({tr(text), byDoubleClick ? tr("Double-click") : std::string(), true,
+    rows.push_back({tr(text),
+                    byDoubleClick ? tr("Double-click") : std::string(),
+                    {},
                     [edit, id = under.front().id] { edit(id); }});
   };
   addEdit(RecordKind::Label, trLater("Edit Label..."),
@@ -56,28 +59,29 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
   if (hasSelection(layout)) {
     separator();
     if (selectionBox(layout)) {
-      rows.push_back({tr("Turn Right 15\u00b0"), tr("Ctrl+Wheel"), true,
-                      [&site] { turnSelection(site, 15); }});
-      rows.push_back({tr("Turn Left 15\u00b0"), tr("Ctrl+Wheel"), true,
-                      [&site] { turnSelection(site, -15); }});
+      rows.push_back(
+          {tr("Turn Right 15\u00b0"), tr("Ctrl+Wheel"), {}, [&site] { turnSelection(site, 15); }});
+      rows.push_back(
+          {tr("Turn Left 15\u00b0"), tr("Ctrl+Wheel"), {}, [&site] { turnSelection(site, -15); }});
     }
     std::ranges::move(arrangeRows(site), std::back_inserter(rows));
     if (canAutofill(layout))
-      rows.push_back({tr("Autofill Gap..."), "", true, [&site] { runAutofill(site); }});
-    rows.push_back({tr("Cut"), tr("Ctrl+X"), true, [&site] { cutSelection(site); }});
-    rows.push_back({tr("Copy"), tr("Ctrl+C"), true, [&site] { copySelection(site); }});
-    rows.push_back({tr("Duplicate"), tr("Ctrl+D"), true, [&site] { duplicateSelection(site); }});
-    rows.push_back({tr("Delete"), tr("Del"), true, [&site] { deleteSelected(site); }});
+      rows.push_back({tr("Autofill Gap..."), "", {}, [&site] { runAutofill(site); }});
+    rows.push_back({tr("Cut"), tr("Ctrl+X"), {}, [&site] { cutSelection(site); }});
+    rows.push_back({tr("Copy"), tr("Ctrl+C"), {}, [&site] { copySelection(site); }});
+    rows.push_back({tr("Duplicate"), tr("Ctrl+D"), {}, [&site] { duplicateSelection(site); }});
+    rows.push_back({tr("Delete"), tr("Del"), {}, [&site] { deleteSelected(site); }});
   }
   separator();
   const SharedBlock pasted = pastedBlock(site);
-  rows.push_back(
-      {tr("Paste"), tr("Ctrl+V"), !isEmpty(*pasted), [&site, pasted] { site.carry(pasted); }});
-  rows.push_back({tr("Select All"), tr("Ctrl+A"), true, [&site] {
+  rows.push_back({tr("Paste"), tr("Ctrl+V"),
+                  isEmpty(*pasted) ? tr("Nothing to paste") : std::string(),
+                  [&site, pasted] { site.carry(pasted); }});
+  rows.push_back({tr("Select All"), tr("Ctrl+A"), {}, [&site] {
                     selectAll(site.layout());
                     site.workspace.selectionChanged();
                   }});
-  rows.push_back({tr("Add Label Here..."), "", true, [&site, at] {
+  rows.push_back({tr("Add Label Here..."), "", {}, [&site, at] {
                     if (!inLimits(at))
                       return site.questions().show(beyondPlan());
                     const auto text = site.questions().askText(tr("Add Label"), tr("Text:"), "");

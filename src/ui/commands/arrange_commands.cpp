@@ -5,6 +5,7 @@
 #include "host/workspace.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/commands/command.h"
+#include "ui/commands/command_rules.h"
 #include "ui/commands/desk.h"
 
 #include <wx/intl.h>
@@ -22,8 +23,23 @@ ToolSite& siteOf(Desk& desk) {
   return desk.canvasPanel.canvas().site();
 }
 
-bool tracksSelected(const Layout& layout) {
-  return !selectedPieces(layout).empty();
+const char* hangsOnNoTrack(const ToolSite& site) {
+  if (const char* none = noTrackSelected(site))
+    return none;
+  return mirrorLine(site.layout(), MirrorWay::AcrossTrack)
+             ? nullptr
+             : wxTRANSLATE("The selection goes on from no track");
+}
+
+const char* nothingToAlign(const ToolSite& site) {
+  return canAlign(site.layout()) ? nullptr
+                                 : wxTRANSLATE("Select scenery, labels or shapes, two at least");
+}
+
+const char* nothingToDistribute(const ToolSite& site) {
+  return canDistribute(site.layout())
+             ? nullptr
+             : wxTRANSLATE("Select scenery, labels or shapes, three at least");
 }
 
 template <MirrorWay way>
@@ -45,44 +61,44 @@ void distribute(Desk& desk) {
 const Command kCommands[] = {
     {.id = kParallelTrack, .menuText = wxTRANSLATE("Parallel Trac&k...\tCtrl+L"),
      .menuHelp = wxTRANSLATE("Lay a second track beside the selected chain"), .menu = Menu::Edit,
-     .enabled = tracksSelected, .run = [](Desk& desk) { runParallelTrack(siteOf(desk)); }},
+     .unusable = noTrackSelected, .run = [](Desk& desk) { runParallelTrack(siteOf(desk)); }},
     {.id = kMirrorLeftRight, .menuText = wxTRANSLATE("&Left to Right\tCtrl+M"),
      .menuHelp = wxTRANSLATE("Turn the selection over about its middle, left to right"),
-     .menu = Menu::Edit, .submenu = kMirror, .enabled = hasSelection,
+     .menu = Menu::Edit, .submenu = kMirror, .unusable = nothingSelected,
      .run = mirror<MirrorWay::LeftToRight>},
     {.id = kMirrorTopBottom, .menuText = wxTRANSLATE("&Top to Bottom\tCtrl+Shift+M"),
      .menuHelp = wxTRANSLATE("Turn the selection over about its middle, top to bottom"),
-     .menu = Menu::Edit, .submenu = kMirror, .enabled = hasSelection,
+     .menu = Menu::Edit, .submenu = kMirror, .unusable = nothingSelected,
      .run = mirror<MirrorWay::TopToBottom>},
     {.id = kMirrorAcross, .menuText = wxTRANSLATE("To the &Other Side of Its Track"),
      .menuHelp = wxTRANSLATE("Turn the selection over about the track it goes on from, so that it stays joined"),
-     .menu = Menu::Edit, .submenu = kMirror, .enabled = tracksSelected,
+     .menu = Menu::Edit, .submenu = kMirror, .unusable = hangsOnNoTrack,
      .run = mirror<MirrorWay::AcrossTrack>},
     {.id = kAlignLeft, .menuText = wxTRANSLATE("&Left"),
      .menuHelp = wxTRANSLATE("Scenery, labels and shapes to the leftmost edge"),
-     .menu = Menu::Edit, .submenu = kAlign, .enabled = canAlign, .run = align<AlignTo::Left>},
+     .menu = Menu::Edit, .submenu = kAlign, .unusable = nothingToAlign, .run = align<AlignTo::Left>},
     {.id = kAlignCentre, .menuText = wxTRANSLATE("&Centre"),
      .menuHelp = wxTRANSLATE("Scenery, labels and shapes one above the other"),
-     .menu = Menu::Edit, .submenu = kAlign, .enabled = canAlign, .run = align<AlignTo::Centre>},
+     .menu = Menu::Edit, .submenu = kAlign, .unusable = nothingToAlign, .run = align<AlignTo::Centre>},
     {.id = kAlignRight, .menuText = wxTRANSLATE("&Right"),
      .menuHelp = wxTRANSLATE("Scenery, labels and shapes to the rightmost edge"),
-     .menu = Menu::Edit, .submenu = kAlign, .enabled = canAlign, .run = align<AlignTo::Right>},
+     .menu = Menu::Edit, .submenu = kAlign, .unusable = nothingToAlign, .run = align<AlignTo::Right>},
     {.id = kAlignTop, .menuText = wxTRANSLATE("&Top"),
      .menuHelp = wxTRANSLATE("Scenery, labels and shapes to the topmost edge"),
-     .menu = Menu::Edit, .submenu = kAlign, .enabled = canAlign, .run = align<AlignTo::Top>},
+     .menu = Menu::Edit, .submenu = kAlign, .unusable = nothingToAlign, .run = align<AlignTo::Top>},
     {.id = kAlignMiddle, .menuText = wxTRANSLATE("&Middle"),
      .menuHelp = wxTRANSLATE("Scenery, labels and shapes side by side"),
-     .menu = Menu::Edit, .submenu = kAlign, .enabled = canAlign, .run = align<AlignTo::Middle>},
+     .menu = Menu::Edit, .submenu = kAlign, .unusable = nothingToAlign, .run = align<AlignTo::Middle>},
     {.id = kAlignBottom, .menuText = wxTRANSLATE("&Bottom"),
      .menuHelp = wxTRANSLATE("Scenery, labels and shapes to the lowest edge"),
-     .menu = Menu::Edit, .submenu = kAlign, .enabled = canAlign, .run = align<AlignTo::Bottom>},
+     .menu = Menu::Edit, .submenu = kAlign, .unusable = nothingToAlign, .run = align<AlignTo::Bottom>},
     {.id = kDistributeAcross, .menuText = wxTRANSLATE("Even Gaps &Across"),
      .menuHelp = wxTRANSLATE("Even gaps from left to right between scenery, labels and shapes"),
-     .menu = Menu::Edit, .submenu = kAlign, .enabled = canDistribute,
+     .menu = Menu::Edit, .submenu = kAlign, .unusable = nothingToDistribute,
      .run = distribute<Axis::Across>},
     {.id = kDistributeDown, .menuText = wxTRANSLATE("Even Gaps &Down"),
      .menuHelp = wxTRANSLATE("Even gaps from top to bottom between scenery, labels and shapes"),
-     .menu = Menu::Edit, .submenu = kAlign, .enabled = canDistribute,
+     .menu = Menu::Edit, .submenu = kAlign, .unusable = nothingToDistribute,
      .run = distribute<Axis::Down>},
 };
 // clang-format on

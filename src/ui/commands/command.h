@@ -5,7 +5,7 @@
 
 namespace trassix {
 
-class Layout;
+class ToolSite;
 class Workspace;
 struct Desk;
 struct DockedPanel;
@@ -31,7 +31,9 @@ struct Command {
   const char* submenu = nullptr;   ///< neighbouring rows of ours with the same one stand in it
   Kind kind = Kind::Normal;
   Hand hand = Hand::Empties;
-  bool (*enabled)(const Layout&) = nullptr; ///< null: always
+  /// Why it cannot be used as things are, marked for translation, null while it can; no rule: it
+  /// always can.
+  const char* (*unusable)(const ToolSite&) = nullptr;
   /// Of a check or radio command: whether it is on. Null for those that are none.
   bool (*checked)(const Workspace&) = nullptr;
   /// The tool's label as things are; null where it never changes.

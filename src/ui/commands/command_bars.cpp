@@ -7,6 +7,7 @@
 #include "panels/recent_plans.h"
 #include "ui/commands/command_table.h"
 #include "ui/docks/dock_area.h"
+#include "ui/widgets/menu_help.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/control.h>
@@ -70,9 +71,7 @@ wxItemKind itemKind(Kind kind) {
 }
 
 void append(wxMenu& menu, const Command& command) {
-  const wxString help = wxGetTranslation(command.menuHelp);
-  menu.Append(command.id, wxGetTranslation(command.menuText),
-              command.available() ? help : _("Not available in this version") + ": " + help,
+  menu.Append(command.id, wxGetTranslation(command.menuText), wxGetTranslation(command.menuHelp),
               itemKind(command.kind));
 }
 
@@ -102,10 +101,10 @@ void appendOurs(wxMenu& menu, Command::Menu which) {
   }
 }
 
-wxString toolTipOf(const Command& command) {
+wxString toolTipOf(const Command& command, const char* unusable = nullptr) {
   wxString tip = command.toolTip ? wxGetTranslation(command.toolTip) : wxString();
-  if (!command.available())
-    tip += (tip.empty() ? "" : "\n") + _("Not available in this version");
+  if (unusable)
+    tip += (tip.empty() ? "" : "\n") + wxGetTranslation(unusable);
   return tip;
 }
 
@@ -190,6 +189,16 @@ void CommandBars::buildToolBar() {
     bar->CallAfter([bar] { layOutAgain(*bar->GetToolByPos(0)); });
   });
 #endif
+}
+
+void CommandBars::tellUnusable(const Command& command, const char* why) {
+  if (std::exchange(told_[command.id], why) == why)
+    return;
+  if (wxMenuItem* item = command.menuText ? window_.GetMenuBar()->FindItem(command.id) : nullptr)
+    trassix::tellUnusable(*item, why ? wxGetTranslation(why) : wxString(),
+                          wxGetTranslation(command.menuHelp));
+  if (command.toolLabel)
+    window_.GetToolBar()->SetToolShortHelp(command.id, toolTipOf(command, why));
 }
 
 bool CommandBars::isOn(const Command& command) const {

@@ -2,6 +2,7 @@
 
 #include "host/workspace.h"
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,9 @@ class CommandBars : private PlanObserver {
   void buildMenuBar();
   void buildToolBar();
 
+  /// Menus and tool bar tell why the command cannot be used; null when it can.
+  void tellUnusable(const Command& command, const char* why);
+
  private:
   void fileChanged() override { listRecent(); }
   void selectionChanged() override { follow(); }
@@ -35,6 +39,7 @@ class CommandBars : private PlanObserver {
   wxFrame& window_;
   const Workspace& workspace_;
   const DockArea& docks_;
+  std::map<int, const char*> told_; ///< by command, why it cannot be used
   std::vector<std::string> recentLabels_;
   wxMenu* recent_ = nullptr; ///< owned by the menu bar
 };

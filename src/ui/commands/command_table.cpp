@@ -1,13 +1,15 @@
 #include "ui/commands/command_table.h"
 
-#include "document/layout.h"
 #include "host/command_ids.h"
 #include "ui/commands/desk.h"
 #include "ui/docks/dock_area.h"
 
-#include <wx/defs.h>
+#include <wx/accel.h>
+#include <wx/event.h>
+#include <wx/intl.h>
 
 #include <algorithm>
+#include <cstring>
 
 namespace trassix {
 
@@ -59,8 +61,20 @@ const Command* commandOfPlainKey(int key) {
   return nullptr;
 }
 
-bool commandEnabled(const Command& command, const Layout& layout) {
-  return command.available() && (!command.enabled || command.enabled(layout));
+const Command* commandOfKeys(const wxKeyEvent& event) {
+  wxAcceleratorEntry keys;
+  for (const Command* command : commands())
+    if (const char* tab = command->menuText ? std::strchr(command->menuText, '\t') : nullptr;
+        tab && keys.FromString(tab) && keys.GetKeyCode() == event.GetKeyCode() &&
+        keys.GetFlags() == event.GetModifiers())
+      return command;
+  return nullptr;
+}
+
+const char* whyUnusable(const Command& command, const ToolSite& site) {
+  if (!command.available())
+    return wxTRANSLATE("Not available in this version");
+  return command.unusable ? command.unusable(site) : nullptr;
 }
 
 } // namespace trassix

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+class wxKeyEvent;
+
 namespace trassix {
 
 /// The rows of all topics.
@@ -14,7 +16,10 @@ const Command* findCommand(int id);
 /// lets menus have such keys.
 const Command* commandOfPlainKey(int key);
 
-/// True when the command can be used on the document as it is.
-bool commandEnabled(const Command& command, const Layout& layout);
+/// The command whose keys, as its menu shows them, are pressed; null when there is none.
+const Command* commandOfKeys(const wxKeyEvent& event);
+
+/// Why the command cannot be used as things are, marked for translation; null when it can.
+const char* whyUnusable(const Command& command, const ToolSite& site);
 
 } // namespace trassix

@@ -7,6 +7,7 @@
 #include "texts/texts.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/commands/command.h"
+#include "ui/commands/command_rules.h"
 #include "ui/commands/desk.h"
 #include "ui/dialogs/find_dialog.h"
 
@@ -42,6 +43,20 @@ void selectEverything(Desk& desk) {
 
 using Menu = Command::Menu;
 
+const char* nothingToUndo(const ToolSite& site) {
+  return site.layout().canUndo() ? nullptr : wxTRANSLATE("Nothing to undo");
+}
+
+const char* nothingToRedo(const ToolSite& site) {
+  return site.layout().canRedo() ? nullptr : wxTRANSLATE("Nothing to redo");
+}
+
+const char* nothingToPaste(const ToolSite& site) {
+  return site.clipboard.pastes()
+             ? nullptr
+             : wxTRANSLATE("Nothing to paste: the clipboard holds no track, scenery or shapes");
+}
+
 ToolSite& siteOf(Desk& desk) {
   return desk.canvasPanel.canvas().site();
 }
@@ -58,12 +73,12 @@ void paste(Desk& desk) {
 const Command kCommands[] = {
     {.id = kUndo, .menuText = wxTRANSLATE("&Undo\tCtrl+Z"),
      .menuHelp = wxTRANSLATE("Take the last change back"), .toolLabel = wxTRANSLATE("Undo"),
-     .enabled = [](const Layout& layout) { return layout.canUndo(); }, .run = undo},
+     .unusable = nothingToUndo, .run = undo},
     {.id = kRedo, .menuText = wxTRANSLATE("&Redo\tCtrl+Y"),
      .menuHelp = wxTRANSLATE("Do again what was taken back"), .toolLabel = wxTRANSLATE("Redo"),
-     .enabled = [](const Layout& layout) { return layout.canRedo(); }, .run = redo},
+     .unusable = nothingToRedo, .run = redo},
     {.id = kDeleteSelection, .menuText = wxTRANSLATE("&Delete\tDel"),
-     .menuHelp = wxTRANSLATE("Remove what is selected"), .enabled = hasSelection,
+     .menuHelp = wxTRANSLATE("Remove what is selected"), .unusable = nothingSelected,
      .run = [](Desk& desk) { deleteSelected(desk.canvasPanel.canvas().site()); }},
     {.id = kSelectAll, .menuText = wxTRANSLATE("Select &All\tCtrl+A"),
      .menuHelp = wxTRANSLATE("Select everything that is visible"), .run = selectEverything},
@@ -73,17 +88,17 @@ const Command kCommands[] = {
      .run = [](Desk& desk) { FindDialog(&desk.window, desk.workspace).ShowModal(); }},
     {.id = kCut, .menuText = wxTRANSLATE("Cu&t\tCtrl+X"),
      .menuHelp = wxTRANSLATE("Take what is selected away, to paste it elsewhere"),
-     .menu = Menu::Edit, .enabled = hasSelection,
+     .menu = Menu::Edit, .unusable = nothingSelected,
      .run = [](Desk& desk) { cutSelection(siteOf(desk)); }},
     {.id = kCopy, .menuText = wxTRANSLATE("&Copy\tCtrl+C"),
      .menuHelp = wxTRANSLATE("Copy what is selected, to paste it elsewhere"), .menu = Menu::Edit,
-     .enabled = hasSelection, .run = [](Desk& desk) { copySelection(siteOf(desk)); }},
+     .unusable = nothingSelected, .run = [](Desk& desk) { copySelection(siteOf(desk)); }},
     {.id = kPaste, .menuText = wxTRANSLATE("&Paste\tCtrl+V"),
      .menuHelp = wxTRANSLATE("Hang what was copied on the pointer, to be dropped on the plan"),
-     .menu = Menu::Edit, .run = paste},
+     .menu = Menu::Edit, .unusable = nothingToPaste, .run = paste},
     {.id = kDuplicate, .menuText = wxTRANSLATE("Dup&licate\tCtrl+D"),
      .menuHelp = wxTRANSLATE("Hang a copy of what is selected on the pointer"), .menu = Menu::Edit,
-     .enabled = hasSelection, .run = [](Desk& desk) { duplicateSelection(siteOf(desk)); }},
+     .unusable = nothingSelected, .run = [](Desk& desk) { duplicateSelection(siteOf(desk)); }},
 };
 // clang-format on
 

@@ -1,4 +1,6 @@
 #include "document/layout.h"
+#include "editing/arranging/corner_edits.h"
+#include "editing/canvas/canvas_tool.h"
 #include "host/command_ids.h"
 #include "host/workspace.h"
 #include "ui/canvas/canvas_panel.h"
@@ -29,6 +31,35 @@ void toggleMode(Desk& desk) {
   workspace.setToolMode(mode);
 }
 
+const char* noBaseboard(const ToolSite& site) {
+  return site.layout().settings().baseboard.empty() ? wxTRANSLATE("The plan has no baseboard yet")
+                                                    : nullptr;
+}
+
+const char* noLevelOutline(const ToolSite& site) {
+  const Outlined active{{}, site.layout().settings().activeLevel};
+  return cornersOf(site.layout(), active) ? nullptr
+                                          : wxTRANSLATE("The active level has no outline");
+}
+
+template <PolygonUse::Kind kind>
+bool areCornersOf(const Workspace& workspace) {
+  return isMode<ToolMode::BoardCorners>(workspace) && workspace.switches().polygonUse.kind == kind;
+}
+
+template <PolygonUse::Kind kind>
+void toggleCorners(Desk& desk) {
+  Workspace& workspace = desk.workspace;
+  const bool leaves = areCornersOf<kind>(workspace);
+  workspace.selectNothing();
+  workspace.setToolMode(ToolMode::Select);
+  if (leaves)
+    return;
+  const std::int32_t level = workspace.layout().settings().activeLevel;
+  workspace.setToolMode(ToolMode::BoardCorners,
+                        {kind, kind == PolygonUse::Kind::LevelOutline ? level : -1});
+}
+
 void placeRectangle(Desk& desk) {
   Workspace& workspace = desk.workspace;
   RectangleDialog dialog(&desk.window, workspace.layout(), desk.canvasPanel.canvas().centre());
@@ -57,8 +88,14 @@ const Command kCommands[] = {
     {.id = kBoardCorners, .menuText = wxTRANSLATE("Baseboard &Corners"),
      .menuHelp = wxTRANSLATE("Drag, add and remove corners of the baseboard on the plan"),
      .menu = Command::Menu::Layout, .kind = Kind::Check,
-     .enabled = [](const Layout& layout) { return !layout.settings().baseboard.empty(); },
-     .checked = isMode<ToolMode::BoardCorners>, .run = toggleMode<ToolMode::BoardCorners>},
+     .unusable = noBaseboard,
+     .checked = areCornersOf<PolygonUse::Kind::Baseboard>,
+     .run = toggleCorners<PolygonUse::Kind::Baseboard>},
+    {.id = kLevelCorners, .menuText = wxTRANSLATE("Le&vel Corners"),
+     .menuHelp = wxTRANSLATE("Drag, add and remove corners of the active level's outline on the plan"),
+     .menu = Command::Menu::Layout, .kind = Kind::Check, .unusable = noLevelOutline,
+     .checked = areCornersOf<PolygonUse::Kind::LevelOutline>,
+     .run = toggleCorners<PolygonUse::Kind::LevelOutline>},
 };
 // clang-format on
 

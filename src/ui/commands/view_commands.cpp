@@ -1,8 +1,8 @@
-#include "editing/selection/selection.h"
 #include "host/command_ids.h"
 #include "host/workspace.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/commands/command.h"
+#include "ui/commands/command_rules.h"
 #include "ui/commands/desk.h"
 
 #include <wx/intl.h>
@@ -69,7 +69,7 @@ const Command kCommands[] = {
      .run = flip<&EditorSwitches::labels>},
     {.id = kZoomSelection, .menuText = wxTRANSLATE("Zoom to Se&lection\tCtrl+1"),
      .menuHelp = wxTRANSLATE("Show what is selected as large as it goes"),
-     .menu = Command::Menu::View, .hand = Hand::Keeps, .enabled = hasSelection,
+     .menu = Command::Menu::View, .hand = Hand::Keeps, .unusable = nothingSelected,
      .run = [](Desk& desk) { desk.canvasPanel.canvas().fitSelection(); }},
     {.id = kView3D, .toolLabel = wxTRANSLATE("3D View")},
 };

@@ -4,6 +4,7 @@
 #include "app/desktop/standard_folders.h"
 #include "app/desktop/user_paths.h"
 #include "app/services/app_prefs.h"
+#include "editing/canvas/canvas_tool.h"
 #include "host/command_ids.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/commands/command_bars.h"
@@ -133,12 +134,30 @@ void MainFrame::bindCommands() {
     Bind(
         wxEVT_UPDATE_UI,
         [this, command](wxUpdateUIEvent& event) {
-          event.Enable(commandEnabled(*command, plan_.layout()));
+          const char* why = whyUnusable(*command, canvas_->canvas().site());
+          event.Enable(why == nullptr);
+          bars_->tellUnusable(*command, why);
         },
         command->id);
   }
   Bind(wxEVT_CLOSE_WINDOW, &MainFrame::onClose, this);
   Bind(wxEVT_CHAR_HOOK, &MainFrame::onCharHook, this);
+  // Some toolkits pass the hook over while the mouse is captured, as it is under something carried.
+  canvas_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
+    canvas_->HasCapture() ? onCharHook(event) : event.Skip();
+  });
+  // Other programs may have put something on the clipboard, and so may a field of this window.
+  const auto look = [this] { canvas_->canvas().site().clipboard.look(clipboard_); };
+  Bind(wxEVT_ACTIVATE, [this, look](wxActivateEvent& event) {
+    event.Skip();
+    if (event.GetActive())
+      CallAfter(look);
+  });
+  Bind(wxEVT_MENU_OPEN, [look](wxMenuEvent& event) {
+    event.Skip();
+    if (!event.IsPopup())
+      look();
+  });
 }
 
 void MainFrame::run(const Command& command) {
@@ -158,12 +177,26 @@ void MainFrame::run(const Command& command) {
 
 void MainFrame::onCharHook(wxKeyEvent& event) {
   // Controls may be typed into, so they keep these keys.
-  const Command* command = commandOfPlainKey(event.GetKeyCode());
-  if (command && (event.GetModifiers() & ~wxMOD_SHIFT) == 0 &&
-      !dynamic_cast<wxControl*>(FindFocus()))
-    run(*command);
-  else
-    event.Skip();
+  if (dynamic_cast<wxControl*>(FindFocus()))
+    return event.Skip();
+  const Command* plain = commandOfPlainKey(event.GetKeyCode());
+  if (plain && (event.GetModifiers() & ~wxMOD_SHIFT) == 0)
+    return run(*plain);
+  if (const char* why = whyInVain(event))
+    return workspace_.setHint(toUtf8(wxGetTranslation(why)));
+  event.Skip();
+}
+
+const char* MainFrame::whyInVain(const wxKeyEvent& event) {
+  // Modes have uses of their own for keys, and to undo while something is carried is to put it
+  // back.
+  Canvas& canvas = canvas_->canvas();
+  if (workspace_.switches().mode != ToolMode::Select || canvas.wantsCapture())
+    return nullptr;
+  const Command* command = commandOfKeys(event);
+  if (command && command->id == kPaste)
+    canvas.site().clipboard.look(clipboard_);
+  return command ? whyUnusable(*command, canvas.site()) : nullptr;
 }
 
 void MainFrame::onClose(wxCloseEvent& event) {

@@ -54,6 +54,8 @@ class MainFrame : public wxFrame {
   void bindCommands();
   void run(const Command& command);
   void onCharHook(wxKeyEvent& event);
+  /// Why the command whose keys these are does nothing now; null when it does or there is none.
+  const char* whyInVain(const wxKeyEvent& event);
   void onClose(wxCloseEvent& event);
 
   PalettePanel* palette_ = nullptr;

@@ -4,6 +4,7 @@
 #include "ui/dialogs/choice_dialog.h"
 #include "ui/dialogs/shape_dialog.h"
 #include "ui/dialogs/work_dialog.h"
+#include "ui/widgets/menu_help.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/clipbrd.h>
@@ -73,7 +74,8 @@ void WindowQuestions::popupMenu(const std::vector<MenuRow>& rows) {
     if (!row.keys.empty())
       text += "   (" + shown(row.keys) + ")";
     wxMenuItem* item = (submenu ? *submenu : menu).Append(wxID_ANY, text);
-    item->Enable(row.enabled);
+    item->Enable(row.problem.empty());
+    tellUnusable(*item, fromUtf8(row.problem));
     menu.Bind(
         wxEVT_MENU, [&chosen, &row](wxCommandEvent&) { chosen = row.action; }, item->GetId());
   }

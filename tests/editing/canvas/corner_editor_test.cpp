@@ -10,23 +10,28 @@ namespace {
 using test::CanvasScript;
 using testing::ElementsAre;
 
-/// The same hand movements on a selected shape and, with its tool, on the baseboard.
-class Corners : public testing::TestWithParam<bool> {
+/// The same hand movements on a selected shape and, with their tool, on baseboard and level.
+class Corners : public testing::TestWithParam<PolygonUse::Kind> {
  public:
+  using Kind = PolygonUse::Kind;
   CanvasScript script;
 
   Corners() {
     const std::vector<Point> square{{0, 0}, {400, 0}, {400, 400}, {0, 400}};
-    if (GetParam()) {
+    PlanSettings& settings = script.host.plan.editSettings();
+    if (GetParam() == Kind::Shape) {
       addShape(script.host.plan, square);
-    } else {
-      script.host.plan.editSettings().baseboard = square;
-      script.setMode(ToolMode::BoardCorners);
+      return;
     }
+    (GetParam() == Kind::Baseboard ? settings.baseboard : settings.levels[0].outline) = square;
+    script.host.workspace.setToolMode(ToolMode::BoardCorners, {GetParam(), settings.levels[0].id});
+    script.canvas.modeChanged();
   }
   const std::vector<Point>& now() const {
-    return GetParam() ? script.content().shapes.at(0).points
-                      : script.host.plan.settings().baseboard;
+    const PlanSettings& settings = script.host.plan.settings();
+    return GetParam() == Kind::Shape       ? script.content().shapes.at(0).points
+           : GetParam() == Kind::Baseboard ? settings.baseboard
+                                           : settings.levels[0].outline;
   }
 };
 
@@ -58,7 +63,9 @@ TEST_P(Corners, AreDraggedAddedRemovedAndMovedByNumbers) {
   EXPECT_EQ(now(), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(OfAShapeAndTheBoard, Corners, testing::Bool());
+INSTANTIATE_TEST_SUITE_P(OfShapeBoardAndLevel, Corners,
+                         testing::Values(PolygonUse::Kind::Shape, PolygonUse::Kind::Baseboard,
+                                         PolygonUse::Kind::LevelOutline));
 
 TEST(CornerHandles, AreThereForTheOnlySelectedShapeOnly) {
   CanvasScript script;
