@@ -119,7 +119,7 @@ std::string CarryPieceTool::hint() const {
   if (snap_.snapped)
     meetings = site_.snapIndex().findMeetings(landedEnds(layout, definition_, snap_), {});
   return hintOf({tr(what, {article}), missText(meetings, layout.settings().units), landing,
-                 hasWays ? tr("F: the other way round") : std::string(), turningHint()});
+                 hasWays ? tr("F: other way round") : std::string(), turningHint()});
 }
 
 } // namespace trassix

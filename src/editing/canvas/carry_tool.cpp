@@ -88,7 +88,7 @@ bool CarryTool::key(const KeyInput& input) {
 }
 
 std::string CarryTool::turningHint() {
-  return hintOf({tr("Wheel or R: turn 30\u00b0 (Shift: 15\u00b0)"), tr("Esc: put it back")});
+  return hintOf({tr("Wheel or R: turn (Shift: finer)"), tr("Esc: put it back")});
 }
 
 } // namespace trassix

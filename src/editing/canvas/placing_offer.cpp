@@ -53,15 +53,15 @@ void PlacingOffer::paint(Surface& surface) const {
 std::string PlacingOffer::hint() const {
   if (!offer_)
     return {};
-  const std::string others = tr("Up and Down: another one");
+  const std::string others = tr("Up, Down: another");
   const std::string back = offer_->typing ? tr("Esc: empty the search") : std::string();
   if (offer_->name.empty())
     return offer_->typing ? hintOf({tr("Nothing fits what is typed"), back}) : others;
   if (place()) {
     const bool turns =
         offer_->flips && waysOf(*TrackCatalog::instance().find(offer_->article)).size() > 1;
-    return hintOf({tr("Enter: %1% goes on where it is shown", {offer_->name}),
-                   turns ? tr("F: the other way round") : std::string(), others, back});
+    return hintOf({tr("Enter: %1% goes on as shown", {offer_->name}),
+                   turns ? tr("F: other way round") : std::string(), others, back});
   }
   if (!offer_->article.empty() && !selectedPieces(site_.layout()).empty())
     return hintOf({tr("What is selected has no free end for %1%: select another piece, or nothing",

@@ -357,8 +357,7 @@ std::string SelectTool::hint() const {
     const auto doubleClick = [pick]() -> std::string {
       switch (pick->kind) {
       case RecordKind::Piece:
-        return hintOf(
-            {tr("Double-click: extend"), tr("Alt+double-click or menu: all joined track")});
+        return tr("Double-click: extend");
       case RecordKind::Label:
         return tr("Double-click: edit the text");
       case RecordKind::Shape:
@@ -367,7 +366,9 @@ std::string SelectTool::hint() const {
         return {};
       }
     };
-    return hintOf({name, below(), tr("Drag: move"), doubleClick(), tr("Right-click: more")});
+    const bool onTrack = pick->kind == RecordKind::Piece;
+    return hintOf({name, below(), tr("Drag: move"), doubleClick(), tr("Right-click: more"),
+                   onTrack ? tr("Alt+double-click or right-click: joined track") : std::string()});
   }
   if (hasSelection(layout))
     return hintOf({tr("Drag: move"), tr("Alt+drag or Shift+drag: turn"),

@@ -62,11 +62,12 @@ std::string lies(const Laid& laid) {
   if (laid.definition.connectors.size() == 2)
     return bend(laid);
   if (laid.definition.connectors.size() != 3)
-    return {};
+    return tr("laid by end %1%", {laid.enter + 1});
   const char* branch = laid.definition.connectors[2].y < laid.definition.connectors[1].y
                            ? trLater("branch to the left")
                            : trLater("branch to the right");
-  return joinTexts({tr(branch), sideOfTip(laid)}, ", ");
+  const std::string by = laid.enter == 2 ? tr("laid by its branch") : std::string();
+  return joinTexts({tr(branch), sideOfTip(laid), by}, ", ");
 }
 
 std::int32_t firstJoined(const PlacedPiece& piece) {

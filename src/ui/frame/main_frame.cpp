@@ -146,6 +146,10 @@ void MainFrame::bindCommands() {
   canvas_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
     canvas_->HasCapture() ? onCharHook(event) : event.Skip();
   });
+  // While something is carried the search would not hear of Enter either.
+  canvas_->Bind(wxEVT_CHAR, [this](wxKeyEvent& event) {
+    event.Skip(canvas_->HasCapture() || !palette_->takeDigit(event));
+  });
   // Other programs may have put something on the clipboard, and so may a field of this window.
   const auto look = [this] { canvas_->canvas().site().clipboard.look(clipboard_); };
   Bind(wxEVT_ACTIVATE, [this, look](wxActivateEvent& event) {

@@ -16,8 +16,8 @@ StatusLine::StatusLine(wxFrame& window, Workspace& workspace)
   wxStatusBar* bar = window_.CreateStatusBar(3);
   const wxString widestCount = "Pieces: 000000";
   const wxString widestPlace = "x: -00000.00  y: -00000.00 mm";
-  const int widths[] = {-1, bar->GetTextExtent(widestCount).x + 24,
-                        bar->GetTextExtent(widestPlace).x + 24};
+  const int widths[] = {-1, bar->GetTextExtent(widestCount).x + 12,
+                        bar->GetTextExtent(widestPlace).x + 12};
   bar->SetStatusWidths(3, widths);
   showHint();
   window_.SetStatusText(_("Pieces: 0"), kPiecesField);

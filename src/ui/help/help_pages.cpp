@@ -123,7 +123,8 @@ constexpr const char* kLevelsAndBaseboard[] = {
                 "shape selected before. It lies behind the track, never in the way of a click. A "
                 "table that is changed keeps its top left corner; the first one is put under what "
                 "is on the plan. \"Mirror\" and \"Turn Right\" lay it the other way round. With "
-                "Layout > Baseboard Corners its corners are dragged on the plan."),
+                "Layout > Baseboard Corners its corners are dragged on the plan, with Level "
+                "Corners those of the active level's outline."),
     wxTRANSLATE("# Shapes"),
     wxTRANSLATE(
         "\"Polygon\" in the tool bar draws any outline corner by corner: an access hatch, "

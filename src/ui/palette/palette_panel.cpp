@@ -10,7 +10,6 @@
 #include "measures/measure_format.h"
 #include "panels/block_library.h"
 #include "texts/texts.h"
-#include "ui/canvas/canvas_panel.h"
 #include "ui/palette/catalog_list.h"
 #include "ui/palette/palette_drawings.h"
 #include "ui/widgets/file_boxes.h"
@@ -78,7 +77,6 @@ PalettePanel::PalettePanel(wxWindow* parent, Workspace& workspace, Actions actio
     renewOffer();
     event.Skip();
   });
-  wxGetTopLevelParent(this)->Bind(wxEVT_CHAR_HOOK, &PalettePanel::onKeyAnywhere, this);
 }
 
 PalettePanel::~PalettePanel() = default;
@@ -295,19 +293,18 @@ void PalettePanel::typeInSearch(const wxString& text, bool behind) {
   search_->SetInsertionPointEnd();
 }
 
-void PalettePanel::onKeyAnywhere(wxKeyEvent& event) {
-  const int key = event.GetKeyCode();
-  const int digit = key >= WXK_NUMPAD0 && key <= WXK_NUMPAD9 ? key - WXK_NUMPAD0 : key - '0';
-  if (digit < 0 || digit > 9 || event.GetModifiers() != wxMOD_NONE ||
-      !dynamic_cast<CanvasPanel*>(FindFocus()))
-    return event.Skip();
+bool PalettePanel::takeDigit(const wxKeyEvent& typed) {
+  const wxChar digit = typed.GetUnicodeKey();
+  if (digit < '0' || digit > '9' || typed.HasModifiers())
+    return false;
   EditorSwitches switches = workspace_.switches();
   if (!std::exchange(switches.palette, true))
     workspace_.setSwitches(switches);
   build(); // it may have been folded away from the start
   showTab(kTrackTab);
   before_ = FindFocus();
-  typeInSearch(wxString::Format("%d", digit), false);
+  typeInSearch(digit, false);
+  return true;
 }
 
 void PalettePanel::renewOffer() {

@@ -43,6 +43,8 @@ class PalettePanel : public wxPanel, private PlanObserver {
   /// Takes the systems up and shows the first one.
   void populate();
   void reloadLibrary();
+  /// A digit typed on the plan goes to the search; false for other characters.
+  bool takeDigit(const wxKeyEvent& typed);
 
   ~PalettePanel() override;
 
@@ -73,7 +75,6 @@ class PalettePanel : public wxPanel, private PlanObserver {
   void emptySearch();
   /// Text that was typed elsewhere: in place of what the search holds, or behind it.
   void typeInSearch(const wxString& text, bool behind);
-  void onKeyAnywhere(wxKeyEvent& event);
   void onSearchKey(wxKeyEvent& event);
   void renewOffer();
   Offer offerOfRow(std::size_t row) const;

@@ -5,6 +5,7 @@
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/placing_offer.h"
 #include "editing/canvas/recording_surface.h"
+#include "editing/canvas/swap_command.h"
 #include "editing/placing/ways.h"
 #include "editing/selection/open_ends.h"
 #include "support/plan.h"
@@ -100,6 +101,17 @@ TEST(Flipping, InPlaceKeepsTheJointAndAsksBeforeOthersOpen) {
   EXPECT_EQ(straight.host.seen.changes, 0);
 }
 
+TEST(Swap, RowsCanBeToldApart) {
+  for (const PieceDef& definition : wholeCatalogue()) {
+    CanvasScript script(Plan().place(definition.article).layout);
+    if (!canSwap(script.host.plan, 1))
+      continue;
+    runSwap(script.canvas.site(), 1);
+    const std::set<std::string> rows(script.host.offered.begin(), script.host.offered.end());
+    EXPECT_EQ(rows.size(), script.host.offered.size()) << definition.article;
+  }
+}
+
 TEST(OpenEnds, ArePointedAtClickedAndGoneThrough) {
   CanvasScript script(Plan().place("24611").layout);
   const auto end = [&script](std::int32_t connector) {
@@ -155,7 +167,7 @@ TEST(Offer, SaysWhatTheKeysDo) {
   const Offer piece{true, true, "24130", "24130"};
   const std::tuple<std::size_t, Offer, const char*, const char*> kCases[] = {
       {0, piece, "Enter: 24130 hangs on the pointer", "F:"},
-      {1, piece, "Enter: 24130 goes on where it is shown    F:", "Del"},
+      {1, piece, "Enter: 24130 goes on as shown    F:", "Del"},
       {1, {true, false, "24130", "24130"}, "Enter: 24130 goes on", "F:"}, // a letter of the search
       {1, {true, true, "24188", "24188"}, "Enter: 24188 goes on", "F:"},  // lies alike
       {2, piece, "What is selected has no free end for 24130", "Enter"},
