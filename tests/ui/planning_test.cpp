@@ -312,9 +312,11 @@ TEST_F(PlanningTest, EachKindIsCarriedPannedZoomedTurnedAndDropped) {
     if (!kind.tab)
       pressKey('C', wxMOD_CONTROL);
     takeUp();
-    pressKey(WXK_ESCAPE);
-    ASSERT_TRUE(waitUntil("given up", [this] { return !canvas().carrying(); }));
-    takeUp();
+    if (kind.pieces == 3) { // once
+      pressKey(WXK_ESCAPE);
+      ASSERT_TRUE(waitUntil("given up", [this] { return !canvas().carrying(); }));
+      takeUp();
+    }
     for (const bool ctrl : {false, true}) {
       const Point before = canvas().view().origin();
       if (ctrl)
@@ -334,7 +336,10 @@ TEST_F(PlanningTest, EachKindIsCarriedPannedZoomedTurnedAndDropped) {
     EXPECT_NEAR(canvas().pointer().x, under.x, 1e-6) << "at the pointer";
     turnWheel(1);
     pressKey('F');
-    moveMouse({*middle.window, {4, 400}});
+    waitUntil("the plan has the pointer at its edge", [&, x = 4]() mutable {
+      moveMouse({*middle.window, {x ^= 1, 400}}); // the last of several moves may wait for the next
+      return canvas().view().toScreen(canvas().pointer()).x < 8;
+    });
     const double origin = canvas().view().origin().x;
     waitUntil("scrolled at the edge", [&] { return canvas().view().origin().x > origin + 30; });
     click(middle);
