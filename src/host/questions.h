@@ -13,6 +13,8 @@
 namespace trassix {
 
 class Layout;
+class Workspace;
+struct HeightPlan;
 struct LongWork;
 struct Shape;
 struct ShapeAnswer;
@@ -60,6 +62,8 @@ class Questions {
   virtual void popupMenu(const std::vector<MenuRow>& rows) = 0;
   /// The shape as the user wants it; none when cancelled.
   virtual std::optional<ShapeAnswer> askShape(const Layout& layout, const Shape& shape) = 0;
+  /// What is to become of the heights of the selected track; none when cancelled.
+  virtual std::optional<HeightPlan> askHeights(Workspace& workspace) = 0;
   /// Does all of the work before it returns, while the window lives on but takes no input; shows
   /// how far it is when it takes longer than a moment. False when the user cancelled it. What a
   /// step throws ends the work and is thrown from here.

@@ -91,6 +91,16 @@ NumberInput readPercent(std::string_view text) {
   return {number->first, {}};
 }
 
+NumberInput readGrade(std::string_view text, std::string_view sign, double most) {
+  const auto number = leadingNumber(text);
+  if (!number || !(number->second.empty() || number->second == sign))
+    return refused(tr("A grade is expected here, for example %1%.", {formatFixed(2.5, 1)}));
+  if (std::abs(number->first) > most)
+    return refused(
+        tr("At most %1% is possible here.", {formatAngle(most) + " " + std::string(sign)}));
+  return {number->first, {}};
+}
+
 std::string formatAngle(double degrees) {
   constexpr double kThousandths = 1000;
   const double rounded = std::round(degrees * kThousandths) / kThousandths;

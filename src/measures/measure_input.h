@@ -26,6 +26,9 @@ NumberInput readHeading(std::string_view text);
 /// A share in percent, 0 to 100, with or without the sign.
 NumberInput readPercent(std::string_view text);
 
+/// A grade up or down in percent or degrees, with or without this sign, no steeper than `most`.
+NumberInput readGrade(std::string_view text, std::string_view sign, double most);
+
 /// An angle in degrees with up to three decimals, as short as it goes ("22.5", without a sign).
 std::string formatAngle(double degrees);
 

@@ -8,6 +8,7 @@
 #include "editing/scenery/annotations.h"
 #include "editing/selection/picking.h"
 #include "editing/selection/property_edits.h"
+#include "editing/elevation/propagation.h"
 #include "editing/selection/selection.h"
 #include "host/shape_answer.h"
 #include "measures/measure_format.h"
@@ -94,6 +95,11 @@ void editShape(ToolSite& site, std::int32_t shape) {
     return;
   site.workspace.selectionChanged();
   site.workspace.changed();
+}
+
+void changeHeights(ToolSite& site) {
+  if (const std::optional<HeightPlan> wanted = site.questions().askHeights(site.workspace))
+    site.report(applyHeights(site.layout(), *wanted));
 }
 
 void selectChain(ToolSite& site, std::int32_t piece) {

@@ -38,6 +38,9 @@ void askLabelText(ToolSite& site, std::int32_t label);
 /// Asks for another form of the shape with this id.
 void editShape(ToolSite& site, std::int32_t shape);
 
+/// Asks for other heights of the selected track.
+void changeHeights(ToolSite& site);
+
 /// Selects all track that is joined to the piece, and nothing else.
 void selectChain(ToolSite& site, std::int32_t piece);
 

@@ -32,6 +32,7 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
     rows.push_back({tr("Select Joined Track"), tr("Alt+Double-click"), {}, [&site, piece] {
                       selectChain(site, piece);
                     }});
+    rows.push_back({tr("Elevation..."), "", {}, [&site] { changeHeights(site); }});
     if (runOver(layout, piece) != -1)
       rows.push_back({tr("End Grade Here"), "", {}, [&site, piece] {
                         if (endGradeHere(site.layout(), piece))

@@ -109,9 +109,10 @@ HeightPlan planSlopes(const Layout& layout, const TrainWay& way, const std::vect
   for (std::size_t i = 0; i < way.stretches.size(); ++i) {
     const WayStretch& stretch = way.stretches[i];
     const PlacedPiece& piece = pieceOf(layout, stretch);
+    const double slope = std::abs(slopes[i]) < kRounding ? 0 : slopes[i];
     wanted.push_back(
-        layTowards(piece, *definitionOf(piece), stretch.enter, stretch.leave, height, slopes[i]));
-    height += runOf(layout, stretch) * slopes[i];
+        layTowards(piece, *definitionOf(piece), stretch.enter, stretch.leave, height, slope));
+    height += runOf(layout, stretch) * slope;
   }
   return planHeights(layout, wanted, loops);
 }
@@ -140,13 +141,18 @@ const PieceDef* usualStraight(TrackSystem system) {
   return usual == straights.end() ? nullptr : usual->piece;
 }
 
+/// The same with up for down.
+Climb turnedOver(Climb climb) {
+  climb.before = -climb.before;
+  climb.after = -climb.after;
+  return climb;
+}
+
 /// Says by how much the way is too short for the rise.
 void tellTooSteep(const Layout& layout, const TargetTask& task, Climb climb, double rise,
                   TargetPlan& plan) {
-  if (rise < 0) {
-    climb.before = -climb.before;
-    climb.after = -climb.after;
-  }
+  if (rise < 0)
+    climb = turnedOver(std::move(climb));
   const double missing = std::abs(rise) - mostRise(climb, task.limit);
   plan.longer = task.limit > 0 ? std::max(0.0, missing / task.limit) : 0;
   const PieceDef* straight =
@@ -303,6 +309,13 @@ TargetPlan planTarget(const Layout& layout, const TargetTask& task) {
   else
     tellTooSteep(layout, task, climb, rise, plan);
   return plan;
+}
+
+double riseWith(const Layout& layout, const TrainWay& way, double slope, bool eased) {
+  if (wayRefusal(layout, way))
+    return 0;
+  const Climb climb = climbOf(layout, way, eased);
+  return slope < 0 ? -mostRise(turnedOver(climb), -slope) : mostRise(climb, slope);
 }
 
 HeightPlan planRaise(const Layout& layout, std::int32_t piece, double rise) {

@@ -72,6 +72,9 @@ struct TargetPlan {
 };
 TargetPlan planTarget(const Layout& layout, const TargetTask& task);
 
+/// How much the way climbs in one grade whose steepest part has this slope; mm.
+double riseWith(const Layout& layout, const TrainWay& way, double slope, bool eased);
+
 /// Lifts all that hangs together with the piece by `rise` mm.
 HeightPlan planRaise(const Layout& layout, std::int32_t piece, double rise);
 

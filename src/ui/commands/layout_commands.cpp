@@ -1,5 +1,6 @@
 #include "app/desktop/standard_folders.h"
 #include "app/services/app_prefs.h"
+#include "editing/canvas/selection_commands.h"
 #include "editing/levels/level_edits.h"
 #include "editing/selection/property_edits.h"
 #include "host/command_ids.h"
@@ -99,7 +100,8 @@ const Command kCommands[] = {
      .toolTip = wxTRANSLATE("Manage layout levels (decks): height, color, and shape"),
      .run = manageLevels},
     {.id = kElevation, .toolLabel = wxTRANSLATE("Elevation"),
-     .toolTip = wxTRANSLATE("Open the Elevation Wizard to set up track grades and inclines")},
+     .toolTip = wxTRANSLATE("Open the Elevation Wizard to set up track grades and inclines"),
+     .run = [](Desk& desk) { changeHeights(desk.canvasPanel.canvas().site()); }},
 };
 // clang-format on
 

@@ -1,7 +1,9 @@
 #include "ui/frame/window_questions.h"
 
+#include "editing/elevation/propagation.h"
 #include "host/shape_answer.h"
 #include "ui/dialogs/choice_dialog.h"
+#include "ui/dialogs/elevation_dialog.h"
 #include "ui/dialogs/shape_dialog.h"
 #include "ui/dialogs/work_dialog.h"
 #include "ui/widgets/menu_help.h"
@@ -94,6 +96,11 @@ std::optional<ShapeAnswer> WindowQuestions::askShape(const Layout& layout, const
   default:
     return {};
   }
+}
+
+std::optional<HeightPlan> WindowQuestions::askHeights(Workspace& workspace) {
+  ElevationDialog dialog(&window_, workspace);
+  return dialog.ShowModal() == wxID_OK ? std::optional(dialog.plan()) : std::nullopt;
 }
 
 bool WindowQuestions::finish(const LongWork& work) {

@@ -22,6 +22,7 @@ class WindowQuestions : public Questions {
                                      const std::string& value) override;
   void popupMenu(const std::vector<MenuRow>& rows) override;
   std::optional<ShapeAnswer> askShape(const Layout& layout, const Shape& shape) override;
+  std::optional<HeightPlan> askHeights(Workspace& workspace) override;
   bool finish(const LongWork& work) override;
 
  private:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/open_plan.h"
+#include "editing/elevation/propagation.h"
 #include "editing/selection/selection.h"
 #include "host/clipboard.h"
 #include "host/long_work.h"
@@ -69,6 +70,7 @@ class FakeHost : public Questions, public Clipboard {
   }
   void popupMenu(const std::vector<MenuRow>& rows) override { menu = rows; }
   std::optional<ShapeAnswer> askShape(const Layout&, const Shape&) override { return {}; }
+  std::optional<HeightPlan> askHeights(Workspace&) override { return {}; }
   bool finish(const LongWork& work) override {
     for (int step = 0; step != patience; ++step)
       if (!work.step({}))

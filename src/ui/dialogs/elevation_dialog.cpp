@@ -1,0 +1,221 @@
+#include "ui/dialogs/elevation_dialog.h"
+
+#include "document/layout.h"
+#include "host/workspace.h"
+#include "ui/dialogs/elevation_profile.h"
+#include "ui/widgets/problem_text.h"
+#include "ui/widgets/utf8.h"
+
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/choice.h>
+#include <wx/display.h>
+#include <wx/sizer.h>
+#include <wx/textctrl.h>
+
+#include <algorithm>
+#include <array>
+
+namespace trassix {
+
+namespace {
+
+using Task = ElevationForm::Task;
+using Field = ElevationForm::Field;
+using Switch = ElevationForm::Switch;
+
+/// By the number of the task, the field and the switch.
+constexpr std::array<const char*, ElevationForm::kTasks> kTasks{
+    wxTRANSLATE("Climb to a target height"),
+    wxTRANSLATE("Set a grade"),
+    wxTRANSLATE("Raise or lower all that hangs together"),
+    wxTRANSLATE("Level out the selected track"),
+    wxTRANSLATE("Ease the changes of grade"),
+    wxTRANSLATE("Height of one end")};
+
+struct FieldRow {
+  const char* label;
+  const char* name;
+};
+constexpr std::array<FieldRow, ElevationForm::kFields> kFields{{
+    {wxTRANSLATE("&Height:"), "elevationHeight"},
+    {wxTRANSLATE("&Rise:"), "elevationRise"},
+    {wxTRANSLATE("&Grade in %:"), "elevationPercent"},
+    {wxTRANSLATE("Grade in &degrees:"), "elevationDegrees"},
+    {wxTRANSLATE("Over a &length of:"), "elevationLength"},
+    {wxTRANSLATE("&No steeper than %:"), "elevationLimit"},
+}};
+constexpr std::array<FieldRow, ElevationForm::kSwitches> kSwitches{{
+    {wxTRANSLATE("&Eased at both ends"), "elevationEased"},
+    {wxTRANSLATE("&As steep as allowed, then level"), "elevationSteep"},
+    {wxTRANSLATE("&Open: track joined later goes on climbing"), "elevationOpen"},
+    {wxTRANSLATE("Only the &piece at \"From\""), "elevationAlone"},
+    {wxTRANSLATE("T&ilt this piece alone"), "elevationTilt"},
+    {wxTRANSLATE("&Spread the difference over the rest of the loop"), "elevationSpread"},
+}};
+
+} // namespace
+
+ElevationDialog::ElevationDialog(wxWindow* parent, Workspace& workspace)
+    : wxDialog(parent, wxID_ANY, _("Elevation"), wxDefaultPosition, wxDefaultSize,
+               wxDEFAULT_DIALOG_STYLE, "elevation"),
+      form_(workspace.layout()), preview_(workspace) {
+  const int gap = FromDIP(10);
+  auto* page = new wxBoxSizer(wxVERTICAL);
+  page->Add(makeGrid(), wxSizerFlags().Expand().Border(wxALL, gap));
+  addSwitches(*page);
+  profile_ = new ElevationProfile(this, FromDIP(wxSize(400, 110)), form_, workspace.units());
+  page->Add(profile_, wxSizerFlags().Expand().Border(wxALL, gap));
+  summary_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition,
+                              {FromDIP(400), GetCharHeight() * 2 + FromDIP(4)}, wxST_NO_AUTORESIZE,
+                              "elevationSummary");
+  page->Add(summary_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, gap));
+  problem_ = new ProblemText(this, FromDIP(400), 3);
+  page->Add(problem_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, gap));
+  ok_ = new wxButton(this, wxID_OK, _("Set Heigh&ts"));
+  auto* buttons = new wxStdDialogButtonSizer;
+  buttons->AddButton(ok_);
+  buttons->AddButton(new wxButton(this, wxID_CANCEL));
+  buttons->Realize();
+  page->Add(buttons, wxSizerFlags().Right().Border(wxALL, gap));
+  ok_->SetDefault();
+  showEnds();
+  SetSizerAndFit(page);
+  placeBeside(*parent);
+  wxTextCtrl* height = fields_[static_cast<std::size_t>(Field::Height)];
+  height->SetFocus();
+  height->SelectAll();
+}
+
+wxChoice* ElevationDialog::addChoice(wxFlexGridSizer& grid, const wxString& label, const char* name,
+                                     const std::function<void(std::size_t)>& chosen) {
+  auto* text = new wxStaticText(this, wxID_ANY, label);
+  auto* choice = new wxChoice(this, wxID_ANY);
+  choice->SetName(name);
+  choice->Bind(wxEVT_CHOICE, [chosen](wxCommandEvent& event) {
+    chosen(static_cast<std::size_t>(event.GetSelection()));
+  });
+  grid.Add(text, wxSizerFlags().CenterVertical());
+  grid.Add(choice, wxSizerFlags().Expand());
+  rows_.push_back({text, choice, [] { return true; }});
+  return choice;
+}
+
+wxFlexGridSizer* ElevationDialog::makeGrid() {
+  auto* grid = new wxFlexGridSizer(2, FromDIP(6), FromDIP(10));
+  grid->AddGrowableCol(1);
+  wxChoice* task = addChoice(*grid, _("&What:"), "elevationTask", [this](std::size_t chosen) {
+    form_.setTask(static_cast<Task>(chosen));
+    showRows();
+  });
+  for (const char* name : kTasks)
+    task->Append(wxGetTranslation(name));
+  task->SetSelection(0);
+  from_ = addChoice(*grid, _("&From:"), "elevationFrom", [this](std::size_t end) {
+    form_.setFrom(end);
+    showEnds();
+  });
+  to_ = addChoice(*grid, _("T&o:"), "elevationTo", [this](std::size_t end) {
+    form_.setTo(end);
+    showEnds();
+  });
+  rows_.back().used = [this] { return form_.usesTo(); };
+  way_ = addChoice(*grid, _("Wa&y:"), "elevationWay", [this](std::size_t way) {
+    form_.setWay(way);
+    refresh();
+  });
+  rows_.back().used = [this] { return form_.usesTo() && way_->GetCount() > 1; };
+  turn_ = new wxButton(this, wxID_ANY, _("T&urn Round"));
+  turn_->SetName("elevationTurn");
+  turn_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+    form_.turnRound();
+    showEnds();
+  });
+  grid->AddSpacer(0);
+  grid->Add(turn_);
+  for (std::size_t i = 0; i < kFields.size(); ++i) {
+    const auto which = static_cast<Field>(i);
+    auto* label = new wxStaticText(this, wxID_ANY, wxGetTranslation(kFields[i].label));
+    auto* field = new wxTextCtrl(this, wxID_ANY, fromUtf8(form_.text(which)), wxDefaultPosition,
+                                 wxDefaultSize, 0, wxDefaultValidator, kFields[i].name);
+    field->Bind(wxEVT_TEXT, [this, which, field](wxCommandEvent&) {
+      form_.enter(which, toUtf8(field->GetValue()));
+      refresh();
+    });
+    grid->Add(label, wxSizerFlags().CenterVertical());
+    grid->Add(field, wxSizerFlags().Expand());
+    fields_.push_back(field);
+    rows_.push_back({label, field, [this, which] { return form_.uses(which); }});
+  }
+  return grid;
+}
+
+void ElevationDialog::addSwitches(wxSizer& page) {
+  for (std::size_t i = 0; i < kSwitches.size(); ++i) {
+    const auto which = static_cast<Switch>(i);
+    auto* box = new wxCheckBox(this, wxID_ANY, wxGetTranslation(kSwitches[i].label));
+    box->SetName(kSwitches[i].name);
+    box->SetValue(form_.isOn(which));
+    box->Bind(wxEVT_CHECKBOX, [this, which](wxCommandEvent& event) {
+      form_.set(which, event.IsChecked());
+      showRows();
+    });
+    page.Add(box, wxSizerFlags().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(6)));
+    switches_.push_back(box);
+    // What a spread would help is only known later, and nothing is to move then.
+    if (which != Switch::Spread)
+      rows_.push_back({box, box, [this, which] { return form_.uses(which); }});
+  }
+}
+
+void ElevationDialog::placeBeside(const wxWindow& parent) {
+  const wxRect window = parent.GetScreenRect();
+  const wxRect room = wxDisplay(&parent).GetClientArea();
+  const wxSize size = GetSize();
+  const int right = std::min(window.GetRight(), room.GetRight()) - FromDIP(12);
+  Move(std::max(room.x, right - size.x),
+       std::max(room.y,
+                std::min(window.y + (window.height - size.y) / 2, room.GetBottom() - size.y)));
+}
+
+void ElevationDialog::showEnds() {
+  const auto fill = [](wxChoice& choice, const std::vector<std::string>& names, std::size_t at) {
+    choice.Clear();
+    for (const std::string& name : names)
+      choice.Append(fromUtf8(name));
+    if (at < names.size())
+      choice.SetSelection(static_cast<int>(at));
+    choice.Enable(names.size() > 1);
+  };
+  fill(*from_, form_.endNames(), form_.from());
+  fill(*to_, form_.endNames(), form_.to());
+  fill(*way_, form_.wayNames(), form_.way());
+  showRows();
+}
+
+void ElevationDialog::showRows() {
+  for (const Row& row : rows_) {
+    row.label->Show(row.used());
+    row.control->Show(row.used());
+  }
+  turn_->Show(form_.usesTo());
+  refresh();
+  Layout();
+  if (GetSizer() != nullptr)
+    GetSizer()->SetSizeHints(this);
+}
+
+void ElevationDialog::refresh() {
+  for (std::size_t i = 0; i < fields_.size(); ++i)
+    if (const wxString text = fromUtf8(form_.text(static_cast<Field>(i)));
+        text != fields_[i]->GetValue())
+      fields_[i]->ChangeValue(text);
+  switches_[static_cast<std::size_t>(Switch::Spread)]->Enable(form_.uses(Switch::Spread));
+  showWrapped(*summary_, fromUtf8(form_.summary()), FromDIP(400));
+  problem_->show(form_.problem());
+  ok_->Enable(form_.ready());
+  profile_->Refresh();
+  preview_.show(form_.picture());
+}
+
+} // namespace trassix
