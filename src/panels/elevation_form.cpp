@@ -4,6 +4,7 @@
 #include "document/limits.h"
 #include "editing/selection/selection.h"
 #include "editing/track/connector_geometry.h"
+#include "editing/track/track_geometry.h"
 #include "measures/measure_format.h"
 #include "measures/measure_input.h"
 #include "texts/texts.h"
@@ -408,7 +409,7 @@ PlanContent ElevationForm::picture() const {
     Label label;
     label.text = tr(text, {formatLength(height, units_)});
     label.x = at.x;
-    label.y = at.y;
+    label.y = at.y - 2.2 * trackHalfWidth(definitionOf(piece)->system); // beside the track
     picture.labels.push_back(label);
   };
   if (usesTo() && !ways_.empty())

@@ -20,7 +20,7 @@ class ElevationForm {
  public:
   enum class Task : std::uint8_t { Climb, Grade, Raise, Level, Ease, EndHeight };
   static constexpr std::size_t kTasks = 6;
-  enum class Field : std::uint8_t { Height, Rise, Percent, Degrees, Length, Limit };
+  enum class Field : std::uint8_t { Height, Rise, Percent, Degrees, Limit, Length };
   static constexpr std::size_t kFields = 6;
   enum class Switch : std::uint8_t {
     Eased,

@@ -24,6 +24,8 @@ using Task = ElevationForm::Task;
 using Field = ElevationForm::Field;
 using Switch = ElevationForm::Switch;
 
+constexpr int kTextWidth = 440; // px
+
 /// By the number of the task, the field and the switch.
 constexpr std::array<const char*, ElevationForm::kTasks> kTasks{
     wxTRANSLATE("Climb to a target height"),
@@ -42,8 +44,8 @@ constexpr std::array<FieldRow, ElevationForm::kFields> kFields{{
     {wxTRANSLATE("&Rise:"), "elevationRise"},
     {wxTRANSLATE("&Grade in %:"), "elevationPercent"},
     {wxTRANSLATE("Grade in &degrees:"), "elevationDegrees"},
-    {wxTRANSLATE("Over a &length of:"), "elevationLength"},
     {wxTRANSLATE("&No steeper than %:"), "elevationLimit"},
+    {wxTRANSLATE("Over a &length:"), "elevationLength"},
 }};
 constexpr std::array<FieldRow, ElevationForm::kSwitches> kSwitches{{
     {wxTRANSLATE("&Eased at both ends"), "elevationEased"},
@@ -62,22 +64,32 @@ ElevationDialog::ElevationDialog(wxWindow* parent, Workspace& workspace)
       form_(workspace.layout()), preview_(workspace) {
   const int gap = FromDIP(10);
   auto* page = new wxBoxSizer(wxVERTICAL);
-  page->Add(makeGrid(), wxSizerFlags().Expand().Border(wxALL, gap));
+  page->Add(makeChoices(), wxSizerFlags().Expand().Border(wxALL, gap));
+  page->Add(makeFields(), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
   addSwitches(*page);
-  profile_ = new ElevationProfile(this, FromDIP(wxSize(400, 110)), form_, workspace.units());
+  profile_ = new ElevationProfile(this, FromDIP(wxSize(kTextWidth, 110)), form_, workspace.units());
   page->Add(profile_, wxSizerFlags().Expand().Border(wxALL, gap));
-  summary_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition,
-                              {FromDIP(400), GetCharHeight() * 2 + FromDIP(4)}, wxST_NO_AUTORESIZE,
-                              "elevationSummary");
+  problem_ = new ProblemText(this, FromDIP(kTextWidth), 3);
+  summary_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, problem_->GetSize(),
+                              wxST_NO_AUTORESIZE, "elevationSummary");
   page->Add(summary_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, gap));
-  problem_ = new ProblemText(this, FromDIP(400), 3);
   page->Add(problem_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, gap));
   ok_ = new wxButton(this, wxID_OK, _("Set Heigh&ts"));
   auto* buttons = new wxStdDialogButtonSizer;
   buttons->AddButton(ok_);
   buttons->AddButton(new wxButton(this, wxID_CANCEL));
   buttons->Realize();
-  page->Add(buttons, wxSizerFlags().Right().Border(wxALL, gap));
+  turn_ = new wxButton(this, wxID_ANY, _("T&urn Round"));
+  turn_->SetName("elevationTurn");
+  turn_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+    form_.turnRound();
+    showEnds();
+  });
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  row->Add(turn_, wxSizerFlags().CenterVertical());
+  row->AddStretchSpacer();
+  row->Add(buttons);
+  page->Add(row, wxSizerFlags().Expand().Border(wxALL, gap));
   ok_->SetDefault();
   showEnds();
   SetSizerAndFit(page);
@@ -101,7 +113,7 @@ wxChoice* ElevationDialog::addChoice(wxFlexGridSizer& grid, const wxString& labe
   return choice;
 }
 
-wxFlexGridSizer* ElevationDialog::makeGrid() {
+wxFlexGridSizer* ElevationDialog::makeChoices() {
   auto* grid = new wxFlexGridSizer(2, FromDIP(6), FromDIP(10));
   grid->AddGrowableCol(1);
   wxChoice* task = addChoice(*grid, _("&What:"), "elevationTask", [this](std::size_t chosen) {
@@ -125,14 +137,13 @@ wxFlexGridSizer* ElevationDialog::makeGrid() {
     refresh();
   });
   rows_.back().used = [this] { return form_.usesTo() && way_->GetCount() > 1; };
-  turn_ = new wxButton(this, wxID_ANY, _("T&urn Round"));
-  turn_->SetName("elevationTurn");
-  turn_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
-    form_.turnRound();
-    showEnds();
-  });
-  grid->AddSpacer(0);
-  grid->Add(turn_);
+  return grid;
+}
+
+wxFlexGridSizer* ElevationDialog::makeFields() {
+  auto* grid = new wxFlexGridSizer(4, FromDIP(6), FromDIP(10));
+  grid->AddGrowableCol(1);
+  grid->AddGrowableCol(3);
   for (std::size_t i = 0; i < kFields.size(); ++i) {
     const auto which = static_cast<Field>(i);
     auto* label = new wxStaticText(this, wxID_ANY, wxGetTranslation(kFields[i].label));
@@ -211,8 +222,13 @@ void ElevationDialog::refresh() {
         text != fields_[i]->GetValue())
       fields_[i]->ChangeValue(text);
   switches_[static_cast<std::size_t>(Switch::Spread)]->Enable(form_.uses(Switch::Spread));
-  showWrapped(*summary_, fromUtf8(form_.summary()), FromDIP(400));
-  problem_->show(form_.problem());
+  const std::string problem = form_.problem();
+  showWrapped(*summary_, fromUtf8(form_.summary()), FromDIP(kTextWidth));
+  problem_->show(problem);
+  // They share their room.
+  summary_->Show(problem.empty());
+  problem_->Show(!problem.empty());
+  Layout();
   ok_->Enable(form_.ready());
   profile_->Refresh();
   preview_.show(form_.picture());

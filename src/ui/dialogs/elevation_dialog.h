@@ -30,7 +30,8 @@ class ElevationDialog : public wxDialog {
   const HeightPlan& plan() const { return form_.plan(); }
 
  private:
-  wxFlexGridSizer* makeGrid();
+  wxFlexGridSizer* makeChoices();
+  wxFlexGridSizer* makeFields();
   wxChoice* addChoice(wxFlexGridSizer& grid, const wxString& label, const char* name,
                       const std::function<void(std::size_t)>& chosen);
   void addSwitches(wxSizer& page);
