@@ -63,6 +63,7 @@ enum CommandId : int {
   kDistributeDown = 2076,
   kBoardCorners = 2077,
   kLevelCorners = 2078,
+  kShowGrades = 2080,
 };
 
 /// What the mouse does on the plan.

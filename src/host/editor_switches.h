@@ -22,6 +22,7 @@ struct EditorSwitches {
   bool grid = true;
   bool labels = true; ///< article labels and join dots
   bool rails = true;
+  bool grades = false;    ///< grades, heights and clearances on the plan
   bool palette = true;    ///< the panel on the left is unfolded
   bool properties = true; ///< the one on the right
   ToolMode mode = ToolMode::Select;

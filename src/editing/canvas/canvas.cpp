@@ -1,8 +1,10 @@
 #include "editing/canvas/canvas.h"
 
+#include "document/plan_content.h"
 #include "editing/canvas/canvas_tools.h"
 #include "editing/canvas/carried_painter.h"
 #include "editing/canvas/carry_tool.h"
+#include "editing/canvas/grade_painter.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/canvas/placing_offer.h"
 #include "editing/canvas/selection_commands.h"
@@ -410,6 +412,9 @@ PaintOptions Canvas::paintOptions() const {
   options.grid = switches.grid;
   options.labels = switches.labels;
   options.rails = switches.rails;
+  options.grades = switches.grades;
+  if (switches.grades)
+    options.crossings = site_->crossings();
   options.leftOut = tool().lifted();
   return options;
 }
@@ -421,10 +426,21 @@ void Canvas::paintPlan(Surface& surface) {
 
 void Canvas::paintOverlay(Surface& surface) {
   if (const PlanPreview* preview = site_->workspace.preview())
-    CarriedPainter(surface, site_->view, site_->layout(), true).paint(preview->records());
+    paintPreview(surface, preview->records());
   if (!carry_)
     offer_->paint(surface);
   tool().paint(surface);
+}
+
+void Canvas::paintPreview(Surface& surface, const PlanContent& records) {
+  CarriedPainter(surface, site_->view, site_->layout(), true).paint(records);
+  if (!site_->workspace.switches().grades)
+    return;
+  std::vector<GradePainter::Track> track;
+  for (const PlacedPiece& piece : records.pieces)
+    if (const PieceDef* definition = definitionOf(piece))
+      track.push_back({&piece, definition});
+  GradePainter(surface, site_->size, site_->view, site_->layout()).paintColors(std::move(track));
 }
 
 std::uint64_t Canvas::planStamp() {
@@ -437,7 +453,8 @@ std::uint64_t Canvas::planStamp() {
   mix(std::bit_cast<std::uint64_t>(site_->view.origin().y));
   mix(std::bit_cast<std::uint64_t>(site_->size.width));
   mix(std::bit_cast<std::uint64_t>(site_->size.height));
-  mix((switches.grid ? 1u : 0u) | (switches.labels ? 2u : 0u) | (switches.rails ? 4u : 0u));
+  mix((switches.grid ? 1u : 0u) | (switches.labels ? 2u : 0u) | (switches.rails ? 4u : 0u) |
+      (switches.grades ? 8u : 0u));
   for (const std::int32_t id : tool().lifted())
     mix(static_cast<std::uint64_t>(id));
   return stamp;

@@ -22,6 +22,7 @@ class Workspace;
 struct Carried;
 struct Offer;
 struct PaintOptions;
+struct PlanContent;
 
 /// The plan as the user handles it, without a window: the view, panning, zooming, and one active
 /// tool to which everything else goes. The window feeds it plain input and paints what it draws.
@@ -104,6 +105,7 @@ class Canvas {
   void afterInput();
   void pointAt(const PointerInput& input);
   void viewChanged();
+  void paintPreview(Surface& surface, const PlanContent& records);
   /// Tools move the view as well.
   void followView();
   PaintOptions paintOptions() const;

@@ -18,6 +18,14 @@ const SnapIndex& ToolSite::snapIndex() {
   return snapIndex_;
 }
 
+const std::vector<TrackCrossing>& ToolSite::crossings() {
+  if (crossingsStamp_ != layout().documentStamp()) {
+    crossings_ = trackCrossings(layout());
+    crossingsStamp_ = layout().documentStamp();
+  }
+  return crossings_;
+}
+
 void ToolSite::report(const EditResult& result) {
   if (result.refusal)
     questions().show(*result.refusal);

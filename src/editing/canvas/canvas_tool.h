@@ -6,6 +6,7 @@
 #include "editing/canvas/plan_clipboard.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
+#include "editing/elevation/crossings.h"
 #include "editing/joining/snapping.h"
 #include "editing/selection/plan_index.h"
 #include "host/questions.h"
@@ -13,6 +14,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <set>
 #include <span>
 #include <string>
@@ -38,6 +40,7 @@ class ToolSite {
   /// Derived from the plan as it is now; rebuilt only when it has changed.
   const PlanIndex& planIndex();
   const SnapIndex& snapIndex();
+  const std::vector<TrackCrossing>& crossings();
 
   /// True for a point of the canvas, false beside it.
   bool holds(Point px) const {
@@ -64,6 +67,8 @@ class ToolSite {
  private:
   PlanIndex planIndex_;
   SnapIndex snapIndex_;
+  std::vector<TrackCrossing> crossings_;
+  std::optional<std::uint64_t> crossingsStamp_;
 };
 
 /// A hint of several phrases, with room between them; empty ones are left out.

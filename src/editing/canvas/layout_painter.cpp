@@ -2,6 +2,7 @@
 
 #include "catalog/scenery_catalog.h"
 #include "document/record_kinds.h"
+#include "editing/canvas/grade_painter.h"
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
@@ -80,6 +81,8 @@ void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
   });
   if (options_.scaleBar)
     paintScaleBar(layout.settings().units);
+  if (options_.grades)
+    GradePainter(surface_, size_, view_, layout).paintLegend();
 }
 
 void LayoutPainter::paintBoard(const Layout& layout) {
@@ -216,8 +219,27 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
     from = to;
   }
   sceneryUpTo(std::numeric_limits<double>::infinity());
+  if (!options_.labels && !options_.grades)
+    return;
+  Occupancy taken(size_);
+  for (const Visible& shown : track)
+    for (const auto& line : shown.geometry->centreLines)
+      taken.mark(painter.toScreen(line, poseOf(*shown.piece)),
+                 shown.geometry->halfWidth * view_.zoom() - 1);
+  if (options_.grades)
+    paintGrades(layout, track, taken);
   if (options_.labels)
-    paintArticles(track);
+    paintArticles(track, taken);
+}
+
+void LayoutPainter::paintGrades(const Layout& layout, std::span<const Visible> pieces,
+                                Occupancy& taken) {
+  GradePainter painter(surface_, size_, view_, layout);
+  std::vector<GradePainter::Track> track;
+  for (const Visible& shown : pieces)
+    track.push_back({shown.piece, shown.definition});
+  painter.paintColors(track);
+  painter.paintTexts(track, options_.crossings, taken);
 }
 
 void LayoutPainter::paintUnknown(const PlacedPiece& piece) {
@@ -256,16 +278,10 @@ void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible>
   }
 }
 
-void LayoutPainter::paintArticles(std::span<const Visible> pieces) {
+void LayoutPainter::paintArticles(std::span<const Visible> pieces, Occupancy& taken) {
   if (view_.zoom() * (pieces.empty() ? 1 : pieces.front().geometry->halfWidth / 18.7) <
       kArticleFromZoom)
     return;
-  Occupancy taken(size_);
-  PiecePainter painter(surface_, view_);
-  for (const Visible& shown : pieces)
-    for (const auto& line : shown.geometry->centreLines)
-      taken.mark(painter.toScreen(line, poseOf(*shown.piece)),
-                 shown.geometry->halfWidth * view_.zoom() - 1);
   for (const Visible& shown : pieces) {
     const TextStyle style{shown.look.faded ? colors::kFarArticle : colors::kArticle, 10.5, false};
     const SizePx box = surface_.textSize(shown.definition->article, style);

@@ -13,13 +13,18 @@
 
 namespace trassix {
 
+class Occupancy;
+struct TrackCrossing;
+
 struct PaintOptions {
   bool grid = true;
   bool labels = true; ///< article labels and join dots
   bool rails = true;
+  bool grades = false; ///< grades, heights and clearances
   bool scaleBar = true;
-  bool desk = true;                      ///< fill the background; off for printing
-  std::span<const std::int32_t> leftOut; ///< sorted ids of pieces that are drawn elsewhere
+  bool desk = true;                         ///< fill the background; off for printing
+  std::span<const std::int32_t> leftOut;    ///< sorted ids of pieces that are drawn elsewhere
+  std::span<const TrackCrossing> crossings; ///< of the plan, to be shown with the grades
 };
 
 /// Draws a plan on any surface: screen, printer, image or a recording. Knows nothing of windows or
@@ -44,7 +49,8 @@ class LayoutPainter {
   std::vector<const SceneryItem*> visibleScenery(const Layout& layout) const;
   void paintSceneryItem(const Layout& layout, const SceneryItem& item);
   void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);
-  void paintArticles(std::span<const Visible> pieces);
+  void paintGrades(const Layout& layout, std::span<const Visible> pieces, Occupancy& taken);
+  void paintArticles(std::span<const Visible> pieces, Occupancy& taken);
 
   Surface& surface_;
   SizePx size_;

@@ -4,6 +4,7 @@
 #include "ui/commands/command.h"
 #include "ui/commands/command_rules.h"
 #include "ui/commands/desk.h"
+#include "ui/widgets/remembered_grades.h"
 
 #include <wx/intl.h>
 
@@ -27,6 +28,11 @@ void flip(Desk& desk) {
   EditorSwitches switches = desk.workspace.switches();
   switches.*which = !(switches.*which);
   desk.workspace.setSwitches(switches);
+}
+
+void showGrades(Desk& desk) {
+  flip<&EditorSwitches::grades>(desk);
+  rememberGrades(desk.workspace.switches().grades);
 }
 
 // clang-format off
@@ -71,6 +77,10 @@ const Command kCommands[] = {
      .menuHelp = wxTRANSLATE("Show what is selected as large as it goes"),
      .menu = Command::Menu::View, .hand = Hand::Keeps, .unusable = nothingSelected,
      .run = [](Desk& desk) { desk.canvasPanel.canvas().fitSelection(); }},
+    {.id = kShowGrades, .menuText = wxTRANSLATE("Show Gra&des\tF8"),
+     .menuHelp = wxTRANSLATE("Grades in colours, heights, and clearances where track crosses track"),
+     .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
+     .checked = isOn<&EditorSwitches::grades>, .run = showGrades},
     {.id = kView3D, .toolLabel = wxTRANSLATE("3D View")},
 };
 // clang-format on

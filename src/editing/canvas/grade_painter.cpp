@@ -1,0 +1,238 @@
+#include "editing/canvas/grade_painter.h"
+
+#include "document/plan_content.h"
+#include "editing/canvas/halo.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/record_pictures.h"
+#include "editing/elevation/end_heights.h"
+#include "editing/elevation/train_way.h"
+#include "editing/track/track_geometry.h"
+#include "measures/measure_format.h"
+#include "measures/measure_input.h"
+#include "texts/texts.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace trassix {
+
+namespace {
+
+namespace colors = plan_colors;
+
+constexpr double kSameSlope = 1e-4;     ///< of neighbours, between which there is no knee
+constexpr double kArrowPx = 5;          ///< half its length
+constexpr double kArrowsApartPx = 44;   ///< at least
+constexpr double kPercentApartPx = 150; ///< of the same text
+constexpr TextStyle kHeightText{colors::kLabel, 11, true};
+constexpr double kPercentSize = 11;
+/// Where a text is tried beside the track: side, and px farther out.
+constexpr std::array<std::pair<double, double>, 6> kPlaces{
+    {{1, 0}, {-1, 0}, {1, 5}, {-1, 5}, {1, 11}, {-1, 11}}};
+
+double between(Point a, Point b) {
+  return std::hypot(a.x - b.x, a.y - b.y);
+}
+
+Point towards(Point from, double degrees, double px) {
+  return {from.x + std::cos(toRadians(degrees)) * px, from.y + std::sin(toRadians(degrees)) * px};
+}
+
+} // namespace
+
+std::string GradePainter::number(double mm) const {
+  return formatAngle(std::round(mm / millimetresPer(layout_.settings().units) * 10) / 10);
+}
+
+void GradePainter::paintColors(std::vector<Track> track) {
+  std::erase_if(track, [](const Track& shown) { return !isGraded(*shown.piece); });
+  std::ranges::stable_sort(track, {}, [](const Track& shown) { return shown.piece->z; });
+  for (const Track& shown : track) {
+    const TrackGeometry& geometry = trackGeometryOf(*shown.definition);
+    const GradeBand band = gradeBand(slopeOf(*shown.piece));
+    const Rgba color = colors::gradeColor(band);
+    const double width = std::clamp(geometry.gauge * view_.zoom() * 0.55, 3.0, 10.0);
+    for (const auto& line : geometry.centreLines) {
+      const std::vector<Point>& px = piecePainter_.toScreen(line, poseOf(*shown.piece));
+      surface_.polyline(px, {color, width});
+      if (band == GradeBand::TooSteep)
+        surface_.polyline(px, {colors::kPaper, width * 0.5, Stroke::Style::Dashed});
+    }
+    paintArrow(shown, color);
+  }
+}
+
+void GradePainter::paintArrow(const Track& track, Rgba color) {
+  const TrackGeometry& geometry = trackGeometryOf(*track.definition);
+  const Pose pose = poseOf(*track.piece);
+  const Point at = view_.toScreen(toWorld(pose, geometry.labelSpot));
+  if (geometry.mainLength * view_.zoom() < 2 * kArrowPx ||
+      std::ranges::any_of(arrows_, [at](Point p) { return between(p, at) < kArrowsApartPx; }))
+    return;
+  arrows_.push_back(at);
+  const double uphill =
+      pose.heading + geometry.labelHeading + (slopeOf(*track.piece) < 0 ? 180 : 0);
+  const Point tip = towards(at, uphill, kArrowPx + 2);
+  const Point back = towards(at, uphill, -kArrowPx);
+  const std::array<Point, 3> arrow{tip, towards(back, uphill + 90, kArrowPx),
+                                   towards(back, uphill - 90, kArrowPx)};
+  surface_.polygon(arrow, colors::kPaper, Stroke{color, 1.5});
+}
+
+void GradePainter::paintTexts(std::span<const Track> track,
+                              std::span<const TrackCrossing> crossings, Occupancy& taken) {
+  paintClearances(crossings, taken);
+  for (const Track& shown : track)
+    for (std::int32_t i = 0; i < static_cast<std::int32_t>(shown.definition->connectors.size());
+         ++i)
+      if (isKnee(shown, i))
+        paintKnee(shown, i, taken);
+  for (const Track& shown : track)
+    if (isGraded(*shown.piece))
+      paintPercent(shown, taken);
+}
+
+SizePx GradePainter::badgeSize(const std::string& text) {
+  const SizePx words = surface_.textSize(text, kHeightText);
+  return {words.width + 10, words.height + 4};
+}
+
+/// Between the two tracks, as which its upper and lower edge stand.
+void GradePainter::badge(const std::string& text, Point centre, bool tooLow) {
+  const SizePx box = badgeSize(text);
+  const double x = box.width / 2;
+  const double y = box.height / 2;
+  const std::array<Point, 4> outline{{{centre.x - x, centre.y - y},
+                                      {centre.x + x, centre.y - y},
+                                      {centre.x + x, centre.y + y},
+                                      {centre.x - x, centre.y + y}}};
+  const Rgba red = colors::gradeColor(GradeBand::Steep);
+  const Rgba edge = tooLow ? red : colors::kLabel;
+  surface_.polygon(outline, tooLow ? red : colors::kPaper, Stroke{edge, 1});
+  surface_.segments(outline, {edge, 2.5});
+  surface_.text(text, centre, 0, {tooLow ? colors::kPaper : colors::kLabel, 11, true});
+}
+
+void GradePainter::paintClearances(std::span<const TrackCrossing> crossings, Occupancy& taken) {
+  // They lie on the track, which their own map does not know; what is too low comes first.
+  Occupancy badges(size_);
+  for (const bool tooLow : {true, false})
+    for (const TrackCrossing& crossing : crossings) {
+      const PlacedPiece* lower = layout_.findPiece(crossing.lower.piece);
+      const PlacedPiece* upper = layout_.findPiece(crossing.upper.piece);
+      if (crossing.tooLow() != tooLow || lower == nullptr || upper == nullptr ||
+          !layout_.levelVisible(lower->level) || !layout_.levelVisible(upper->level))
+        continue;
+      const Point at = view_.toScreen(crossing.at);
+      const std::string text = number(crossing.clearance);
+      const SizePx box = badgeSize(text);
+      if (at.x < -box.width || at.y < -box.height || at.x > size_.width + box.width ||
+          at.y > size_.height + box.height || !badges.isFree(at, box, 0))
+        continue;
+      badges.take(at, box, 0);
+      taken.take(at, box, 0);
+      badge(text, at, tooLow);
+    }
+}
+
+bool GradePainter::isKnee(const Track& track, std::int32_t connector) const {
+  const double here = slopeOut(*track.piece, *track.definition, connector);
+  const TrackEnd other = beyond(layout_, {track.piece->id, connector});
+  if (other.piece == -1)
+    return here != 0;
+  if (other.piece < track.piece->id)
+    return false; // the joint is the other piece's
+  const PlacedPiece& next = *layout_.findPiece(other.piece);
+  const double there = -slopeOut(next, *definitionOf(next), other.connector);
+  return std::abs(here - there) > kSameSlope;
+}
+
+void GradePainter::paintKnee(const Track& track, std::int32_t connector, Occupancy& taken) {
+  const WorldConnector end = ConnectorToWorld(*track.piece, *track.definition, connector);
+  const Point at = view_.toScreen({end.x, end.y});
+  const std::string text = number(endHeight(*track.piece, *track.definition, connector));
+  const SizePx box = surface_.textSize(text, kHeightText);
+  const double away = trackGeometryOf(*track.definition).halfWidth * view_.zoom() + 2;
+  for (const auto& [side, farther] : kPlaces) {
+    const double across = end.heading + 90 * side;
+    const double reach = away + farther + std::abs(std::cos(toRadians(across))) * box.width / 2 +
+                         std::abs(std::sin(toRadians(across))) * box.height / 2;
+    const Point place = towards(at, across, reach);
+    if (!taken.isFree(place, {box.width + 2, box.height - 2}, 0))
+      continue;
+    taken.take(place, {box.width + 4, box.height}, 0);
+    surface_.circle(at, 3, colors::kPaper, Stroke{colors::kLabel, 1.5});
+    paintTextWithHalo(surface_, text, place, 0, kHeightText);
+    return;
+  }
+}
+
+void GradePainter::paintPercent(const Track& track, Occupancy& taken) {
+  const TrackGeometry& geometry = trackGeometryOf(*track.definition);
+  const double slope = slopeOf(*track.piece);
+  const std::string text = formatFixed(std::abs(percentOf(slope)), 1) + " %";
+  const Pose pose = poseOf(*track.piece);
+  const Point spot = view_.toScreen(toWorld(pose, geometry.labelSpot));
+  if (std::ranges::any_of(told_, [&](const Told& told) {
+        return told.text == text && between(told.at, spot) < kPercentApartPx;
+      }))
+    return;
+  const TextStyle style{colors::gradeColor(gradeBand(slope)), kPercentSize, true};
+  const SizePx box = surface_.textSize(text, style);
+  const double heading = pose.heading + geometry.labelHeading;
+  const double angle = uprightAngle(heading);
+  const double away = geometry.halfWidth * view_.zoom() + box.height / 2 + 1;
+  for (const auto& [side, farther] : kPlaces) {
+    const Point place = towards(spot, heading + 90 * side, away + farther);
+    if (!taken.isFree(place, {box.width, box.height - 4}, angle))
+      continue;
+    taken.take(place, box, angle);
+    told_.push_back({spot, text});
+    paintTextWithHalo(surface_, text, place, angle, style);
+    return;
+  }
+}
+
+void GradePainter::paintLegend() {
+  constexpr double kRow = 17;
+  constexpr double kSample = 34;
+  constexpr double kEdge = 8;
+  const char* unit = unitName(layout_.settings().units);
+  const std::array<std::string, 6> texts{
+      tr("up to %1% %%", {formatAngle(percentOf(kComfortableSlope))}),
+      tr("up to %1% %%", {formatAngle(percentOf(kCautionSlope))}),
+      tr("up to %1% %%", {formatAngle(percentOf(kSteepestSlope))}),
+      tr("above %1% %%", {formatAngle(percentOf(kSteepestSlope))}),
+      tr("height, %1%", {unit}),
+      tr("clearance, %1%", {unit})};
+  const TextStyle style{colors::kLabel, 11, false};
+  double wide = 0;
+  for (const std::string& text : texts)
+    wide = std::max(wide, surface_.textSize(text, style).width);
+  const double right = size_.width - 12;
+  const double bottom = size_.height - 12;
+  const double left = right - wide - kSample - 3 * kEdge;
+  const double top = bottom - kRow * static_cast<double>(texts.size()) - kEdge;
+  const std::array<Point, 4> ground{{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};
+  surface_.polygon(ground, Rgba{255, 255, 255, 225}, Stroke{colors::kGridCoarse, 1});
+  const double middle = left + kEdge + kSample / 2;
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    const double y = top + kEdge / 2 + kRow * (static_cast<double>(i) + 0.5);
+    const std::array<Point, 2> line{{{left + kEdge, y}, {left + kEdge + kSample, y}}};
+    if (i < colors::kGradeBands.size())
+      surface_.polyline(line, {colors::kGradeBands[i], 5});
+    if (i + 1 == colors::kGradeBands.size())
+      surface_.polyline(line, {colors::kPaper, 2.5, Stroke::Style::Dashed});
+    if (i == 4) {
+      surface_.circle({middle - 10, y}, 3, colors::kPaper, Stroke{colors::kLabel, 1.5});
+      surface_.text("45", {middle + 5, y}, 0, kHeightText);
+    }
+    if (i == 5)
+      badge("60", {middle, y}, false);
+    const double half = surface_.textSize(texts[i], style).width / 2;
+    surface_.text(texts[i], {left + 2 * kEdge + kSample + half, y}, 0, style);
+  }
+}
+
+} // namespace trassix

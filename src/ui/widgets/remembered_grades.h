@@ -1,0 +1,9 @@
+#pragma once
+
+namespace trassix {
+
+/// Whether grades are shown on the plan, from one run to the next.
+bool rememberedGrades();
+void rememberGrades(bool shown);
+
+} // namespace trassix
