@@ -1,6 +1,7 @@
 // Writes the sample plans: make_samples FOLDER. Each is built piece by piece with the functions
 // that also serve the mouse, so that every joint is what the program itself would have made.
 #include "document/layout_writer.h"
+#include "editing/elevation/grade_edits.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/annotations.h"
 #include "support/plan.h"
@@ -56,6 +57,7 @@ class Sample : public Plan {
 
 constexpr Color kMeadow{168, 200, 132};
 constexpr Color kWater{132, 182, 214};
+constexpr Color kHill{186, 176, 138};
 constexpr Color kGround{206, 196, 178};
 
 /// Main line on R2 with a passing siding in the station and a goods siding off it.
@@ -497,6 +499,68 @@ Sample cTrackTwoTowns() {
   return s;
 }
 
+/// Lets the way between two ends of track climb by `rise` mm, and lifts what hangs on its end.
+void climb(Layout& layout, TrackEnd from, TrackEnd to, double rise) {
+  TargetTask task;
+  task.way = trainWays(layout, from, to).at(0);
+  task.height = endHeight(layout, from) + rise;
+  applyHeights(layout, planTarget(layout, task).heights);
+}
+
+/// A loop that climbs over itself: from the station down and under the line, then round the hill.
+Sample cMountainLine() {
+  Sample s;
+  constexpr double kDrop = 42; // half of what lies between the tracks at the crossing
+  s.table(-520, -1860, 3740, 2440);
+  s.area({{2200, -960},
+          {2420, -1010},
+          {2640, -940},
+          {2770, -720},
+          {2740, -480},
+          {2560, -310},
+          {2320, -290},
+          {2120, -430},
+          {2060, -690}},
+         kHill, "Hohe Warte");
+  s.area({{180, -1130}, {420, -1010}, {560, -760}, {520, -420}, {330, -220}, {180, -150}}, kMeadow);
+  s.place("24612", {0, 0, 270});
+  const std::int32_t west = s.last();
+  s.extend("24172").extend("24188", 3).extend("24172").extendBy("24611", 1, 0);
+  const std::int32_t east = s.last();
+  s.at(west, 2).extendLeft("24224").extend("24188", 3).extendLeft("24224");
+  s.at(east, 0).extend("24230", 4).extend("24215").extend("24188", 4).extend("24172", 3);
+  const std::int32_t valley = s.last();
+  s.extend("24172");
+  const std::int32_t under = s.last();
+  s.extend("24172", 2).extend("24077").extendLeft("24330", 9).extend("24077").extend("24172", 2);
+  const std::int32_t summit = s.last();
+  s.extend("24172");
+  const std::int32_t over = s.last();
+  s.extend("24172", 3).extend("24188", 4).extend("24215").extend("24230", 3);
+  climb(s.layout, {east, 0}, {valley, 1}, -kDrop);
+  climb(s.layout, {under, 1}, {summit, 1}, 2 * kDrop);
+  climb(s.layout, {over, 1}, {s.last(), 1}, -kDrop);
+  s.extend("24230");
+  applyHeights(s.layout, planRaise(s.layout, west, kDrop));
+
+  s.scenery("stn.medium", -150, -640, 270);
+  for (const double y : {-460.0, -640.0, -820.0})
+    s.scenery("plat.side", -42, y, 270);
+  s.scenery("box.ground", -95, -60);
+  s.scenery("church.village", 330, -620, 20);
+  s.scenery("inn", 280, -880);
+  s.scenery("house.timber", 430, -830, 350);
+  s.scenery("house.two", 300, -400);
+  s.scenery("farm.barn", 440, -480, 15);
+  s.scenery("castle.ruin", 2420, -640, 20);
+  s.trees({{2230, -860}, {2600, -830}, {2640, -480},  {2380, -380},  {2190, -520},  {240, -1040},
+           {470, -700},  {230, -280},  {1200, -1700}, {1500, -1650}, {2450, -1600}, {2980, -1500},
+           {3060, 100},  {2500, 300},  {1300, 380},   {1650, 330},   {-430, -1700}, {-440, -1300},
+           {-450, 200},  {-420, 460},  {2100, 460},   {1250, -640},  {1100, -560}});
+  s.label(-330, -640, "Talhausen");
+  return s;
+}
+
 struct File {
   const char* name;
   Sample (*make)();
@@ -506,7 +570,7 @@ constexpr File kFiles[] = {
     {"C-Track Oval with Siding", cTrackOval}, {"K-Track Freight Yard", kTrackYard},
     {"Z-Track Tabletop", zTrackTabletop},     {"M-Track Oval with Crossing", mTrackCrossing},
     {"Gauge 1 Garden Loop", gauge1Loop},      {"TRIX on Two Levels", trixTwoLevels},
-    {"C-Track Two Towns", cTrackTwoTowns},
+    {"C-Track Two Towns", cTrackTwoTowns},    {"Mountain Line", cMountainLine},
 };
 
 int writeAll(const std::filesystem::path& folder) {

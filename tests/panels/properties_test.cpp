@@ -82,19 +82,24 @@ TEST(PropertySheet, showsWhatIsSelected) {
   EXPECT_EQ(shown({}), "Plan\nPieces: 4\nTrack length: 736.8 mm\nOpen ends: 5\n"
                        "Extent: 811.8 \u00d7 713.5 mm\nScenery: 1\nLevels: 2\n"
                        "Active level: Level 1\n");
-  EXPECT_EQ(shown({2}), "24611 Left Turnout R2=437.5mm 24.3\u00b0\nArticle: 24611\n"
-                        "System: Märklin C\nKind: Left turnout\nLength: 188.3 mm\n"
-                        "Radius: 437.5 mm\nAngle: 24.3\u00b0\nPosition x = 188.3 mm\n"
-                        "Position y = 0.0 mm\nHeading = 0\u00b0\n"
-                        "Height = 0.0 mm (All track joined to it goes along.)\nGrade: none\n"
-                        "Level = Level 1 (Joined to other track: it keeps its height.)\n"
-                        "Colour = none\nOpen ends: no. 3\n");
+  EXPECT_EQ(shown({2}),
+            "24611 Left Turnout R2=437.5mm 24.3\u00b0\nArticle: 24611\n"
+            "System: Märklin C\nKind: Left turnout\nLength: 188.3 mm\n"
+            "Radius: 437.5 mm\nAngle: 24.3\u00b0\nPosition x = 188.3 mm\n"
+            "Position y = 0.0 mm\nHeading = 0\u00b0\n"
+            "Height = 0.0 mm (All track joined to it goes along.)\n"
+            "Height of end 2 = 0.0 mm\nHeight of end 3 = 0.0 mm\nGrade = 0 % (From end 1 "
+            "to end 2; what hangs on the piece goes along.)\n"
+            "Level = Level 1 (Joined to other track: it keeps its height.)\n"
+            "Colour = none\nOpen ends: no. 3\n");
   sample.layout.editPiece(4)->grade = -1.2;
   sample.layout.editPiece(4)->level = 9;
-  EXPECT_THAT(shown({4}), testing::AllOf(HasSubstr("Height = 0.0 mm\nGrade: -1.2\u00b0 (-2.1 %)\n"
-                                                   "Level = Level 9 (The track is lifted with "
-                                                   "it.)\n"),
-                                         HasSubstr("Open ends: 2 of 2\n")));
+  EXPECT_THAT(shown({4}),
+              testing::AllOf(HasSubstr("Height of end 2 = -3.6 mm\nGrade = -2.1 % (From "
+                                       "end 1 to end 2; what hangs on the piece goes "
+                                       "along.)\nLevel = Level 9 (The track is lifted with "
+                                       "it.)\n"),
+                             HasSubstr("Open ends: 2 of 2\n")));
   sample.layout.editPiece(4)->level = 2;
   EXPECT_EQ(shown({1, 4, sample.label}),
             "Selection\nPieces: 2\nLabels: 1\nTrack length: 360.0 mm\nArticle: various\n"
@@ -144,6 +149,9 @@ TEST(PropertyChange, eachIsOneUndoStepAndShownAfterwards) {
       {{4}, "y", "-30", "-30.0 mm"},
       {{4}, "heading", "-45", "315\u00b0"},
       {{2}, "height", "1 in", "25.4 mm"},
+      {{4}, "grade", "-2,5 %", "-2.5 %"},
+      {{4}, "grade", "1\u00b0", "1.7 %"},
+      {{4}, "endHeight", "5", "5.0 mm"},
       {{1, 4, sample.scenery, sample.shape}, "level", std::size_t{1}, "Upper"},
       {{1, 4}, "color", OwnColor(Color{1, 2, 3}), "own"},
       {{sample.label}, "text", "Shed", "Shed"},
@@ -197,6 +205,7 @@ TEST(PropertyChange, refusedInputChangesNothing) {
       {4, "x", "far", "A length is expected"},
       {4, "x", "2000 m", "At most 1000000.0 mm"},
       {4, "heading", "", "An angle"},
+      {4, "grade", "steep", "A grade is expected"},
       {4, "height", "-11 m", "At least -10000.0 mm"},
       {4, "level", std::size_t{7}, ""},
       {4, "text", "no such row", ""},

@@ -2,6 +2,7 @@
 #include "catalog/track_catalog.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "editing/elevation/crossings.h"
 #include "support/plan.h"
 
 #include <gtest/gtest.h>
@@ -26,6 +27,9 @@ TEST(Samples, OpenSoundAndClosedAndSaveBackByteForByte) {
     EXPECT_EQ(brokenRule(layout), "");
     EXPECT_EQ(openEnds(layout), 0);
     EXPECT_LT(largestPlay(layout).distance, 1.0);
+    EXPECT_LT(largestPlay(layout).step, 0.01);
+    for (const TrackCrossing& crossing : trackCrossings(layout))
+      EXPECT_FALSE(crossing.tooLow()) << crossing.at.x << " " << crossing.at.y;
     EXPECT_GE(layout.settings().baseboard.size(), 4u);
     std::string saved;
     ASSERT_EQ(writeLayout(layout, name, saved), "");

@@ -35,6 +35,7 @@ class Plan {
   Plan& at(std::int32_t piece, std::int32_t connector);
 
   WorldConnector front() const;
+  std::int32_t last() const { return piece_; } ///< id of the piece with the front
 
  private:
   std::int32_t piece_ = -1;

@@ -1,6 +1,8 @@
 #include "document/plan_content.h"
+#include "editing/elevation/grade_edits.h"
 #include "editing/joining/joining.h"
 #include "editing/selection/selection.h"
+#include "editing/track/routes.h"
 #include "panels/sheets/sheet_builder.h"
 #include "texts/texts.h"
 
@@ -19,11 +21,6 @@ std::string kindName(PieceKind kind) {
                               trLater("Crossing"),       "",
                               trLater("Turntable"),      trLater("Curved turnout")};
   return tr(kNames.at(static_cast<std::size_t>(kind)));
-}
-
-std::string gradeText(double degrees) {
-  const double percent = std::round(std::sin(toRadians(degrees)) * 1000) / 10;
-  return formatAngle(degrees) + "\u00b0 (" + formatAngle(percent) + " %)";
 }
 
 /// The ends by number, or how many where that tells as much or a turntable has too many to list.
@@ -73,6 +70,41 @@ auto lifting(const PlacedPiece& piece) {
   };
 }
 
+constexpr std::size_t kMostEnds = 4; // that have their heights in the panel
+
+/// Gives the end this height by tilting the piece about its other one.
+auto tilting(TrackEnd end) {
+  return [end](Layout& layout, double height, const Confirm&) {
+    return applyHeights(layout, planEndHeight(layout, end, height, EndRule::TiltPiece));
+  };
+}
+
+auto grading(const PlacedPiece& piece) {
+  return [id = piece.id](Layout& layout, double slope, const Confirm&) {
+    GradeTask task = gradeOfPiece(layout, id, 1);
+    task.slope = slope;
+    return applyHeights(layout, planGrade(layout, task));
+  };
+}
+
+void describeHeights(SheetBuilder& build, const PlacedPiece& piece, const PieceDef& definition) {
+  const std::size_t ends = definition.connectors.size();
+  for (std::int32_t i = 1; ends <= kMostEnds && i < static_cast<std::int32_t>(ends); ++i) {
+    if (oppositeEnd(definition, i) == -1)
+      continue;
+    const double height = endHeight(piece, definition, i);
+    build.endHeight(i + 1, height, tilting({piece.id, i}));
+  }
+  if (oppositeEnd(definition, 0) == -1)
+    return;
+  const double slope = slopeOf(piece);
+  build.grade(slope, grading(piece)).note =
+      tr("From end 1 to end 2; what hangs on the piece goes along.");
+  const double resistance = curveResistance(definition, routesOf(definition).front());
+  if (slope != 0 && resistance > 0)
+    build.fixed(tr("With its curve"), gradeText(std::abs(slope) + resistance));
+}
+
 } // namespace
 
 void describe(SheetBuilder& build, const PlacedPiece& piece) {
@@ -94,7 +126,10 @@ void describe(SheetBuilder& build, const PlacedPiece& piece) {
   Property& height = build.height(piece.z, lifting(piece));
   if (!std::ranges::all_of(piece.joints, &Joint::open))
     height.note = tr("All track joined to it goes along.");
-  build.fixed(tr("Grade"), isGraded(piece) ? gradeText(piece.grade) : tr("none"));
+  if (takesGrade(piece))
+    describeHeights(build, piece, *definition);
+  else
+    build.fixed(tr("Grade"), isGraded(piece) ? gradeText(slopeOf(piece)) : tr("none"));
   build.level(piece.level);
   build.trackColor(piece.hasColor ? OwnColor(piece.color) : std::nullopt);
   if (definition != nullptr)

@@ -2,8 +2,11 @@
 
 #include "document/limits.h"
 #include "document/plan_content.h"
+#include "editing/elevation/grades.h"
 #include "measures/measure_format.h"
 #include "texts/texts.h"
+
+#include <cmath>
 
 namespace trassix {
 
@@ -25,6 +28,10 @@ PropertyEdit taking(Edit edit) {
 }
 
 } // namespace
+
+std::string gradeText(double slope) {
+  return formatAngle(std::round(percentOf(slope) * 10) / 10) + " %";
+}
 
 SheetBuilder::SheetBuilder(const Layout& shown) : layout(shown), units(shown.settings().units) {}
 
@@ -94,6 +101,25 @@ void SheetBuilder::heading(double degrees, NumberEdit edit) {
 
 Property& SheetBuilder::height(double mm, NumberEdit edit) {
   return length("height", tr("Height"), mm, -kHighest, kHighest, std::move(edit));
+}
+
+Property& SheetBuilder::endHeight(std::int32_t number, double mm, NumberEdit edit) {
+  return length("endHeight", tr("Height of end %1%", {number}), mm, -kHighest, kHighest,
+                std::move(edit));
+}
+
+Property& SheetBuilder::grade(double slope, NumberEdit edit) {
+  const auto read = [](const std::string& typed) {
+    if (typed.find("\u00b0") == std::string::npos) {
+      NumberInput input = readGrade(typed, "%", 99);
+      input.value /= 100;
+      return input;
+    }
+    NumberInput input = readGrade(typed, "\u00b0", 89);
+    input.value = GradeValue{input.value, GradeValue::Unit::Degrees}.slope();
+    return input;
+  };
+  return number("grade", tr("Grade"), slope, {read, gradeText}, std::move(edit));
 }
 
 void SheetBuilder::percent(std::string_view key, std::string name, double share, NumberEdit edit) {

@@ -12,6 +12,9 @@
 
 namespace trassix {
 
+/// A slope as a text: "2.5 %".
+std::string gradeText(double slope);
+
 /// Puts the rows of a sheet together.
 class SheetBuilder {
  public:
@@ -37,6 +40,10 @@ class SheetBuilder {
   void position(Point at, NumberEdit setX, NumberEdit setY);
   void heading(double degrees, NumberEdit edit);
   Property& height(double mm, NumberEdit edit);
+  /// `number` from 1 on.
+  Property& endHeight(std::int32_t number, double mm, NumberEdit edit);
+  /// A slope, rise over length, shown and entered in percent or with the sign of degrees.
+  Property& grade(double slope, NumberEdit edit);
   void percent(std::string_view key, std::string name, double share, NumberEdit edit);
   void check(std::string_view key, std::string name, bool checked, CheckEdit edit);
   void color(OwnColor color, ColorEdit edit);

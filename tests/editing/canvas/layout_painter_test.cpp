@@ -3,6 +3,7 @@
 #include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/recording_surface.h"
+#include "editing/elevation/crossings.h"
 #include "support/loose_records.h"
 #include "support/plan.h"
 
@@ -106,6 +107,24 @@ TEST(LayoutPainter, ArticlesKeepOffTheTrackAndOffOneAnother) {
   taken.take({200, 134}, box, 0);
   EXPECT_FALSE(taken.isFree({230, 134}, box, 0));
   EXPECT_TRUE(taken.isFree({260, 134}, box, 0));
+}
+
+TEST(LayoutPainter, GradesHeightsAndClearancesAreShown) {
+  Layout layout = Plan().place("24188").extend("24188", 3).place("24188", {40, -94.15, 90}).layout;
+  const double slopes[] = {0.025, 0.035, 0.045, 0.06};
+  for (std::int32_t id = 1; id <= 4; ++id)
+    layout.editPiece(id)->grade = toDegrees(std::asin(slopes[id - 1]));
+  layout.editPiece(5)->z = 70;
+  const std::vector<TrackCrossing> crossings = trackCrossings(layout);
+  PaintOptions options;
+  options.grades = true;
+  options.crossings = crossings;
+  const RecordingSurface shown = drawn(layout, 1, {400, 300}, options);
+  for (const char* text : {"2.5 %", "3.5 %", "4.5 %", "6.0 %", "49", "4.7"})
+    EXPECT_THAT(shown.texts, Contains(text));
+  for (const Rgba& color : plan_colors::kGradeBands)
+    EXPECT_EQ(shown.linesIn(color), 2u); // the track's and the legend's
+  EXPECT_THAT(drawn(layout, 0.5).texts, Not(Contains("2.5 %")));
 }
 
 TEST(GridSteps, LinesStayApartInSensibleUnits) {
