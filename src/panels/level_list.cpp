@@ -3,9 +3,12 @@
 #include "document/layout.h"
 #include "document/limits.h"
 #include "document/shape.h"
+#include "editing/elevation/propagation.h"
+#include "measures/measure_format.h"
 #include "texts/texts.h"
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 
 namespace trassix {
@@ -216,6 +219,23 @@ LevelChange LevelList::change() const {
   if (const Shape* shape = selectedShape(layout_); shape != nullptr && shapeUser_ != -1)
     wanted.usedShape = shape->id;
   return wanted;
+}
+
+std::string LevelList::openingQuestion() const {
+  const LevelChange wanted = change();
+  const std::vector<LoopGap> steps = firstProblem() || wanted == before_
+                                         ? std::vector<LoopGap>()
+                                         : stepsBetweenLevels(layout_, wanted);
+  if (steps.empty())
+    return {};
+  const LoopGap& first = steps.front();
+  return trCount(
+      "The track comes apart at %2%: no ramp there is long enough to take up %3%. Undo "
+      "brings back the track, not the level. Go on?",
+      "The track comes apart at %1% places, first at %2%: no ramp there is long enough "
+      "to take up %3%. Undo brings back the track, not the level. Go on?",
+      steps.size(),
+      {placeText(layout_, first.end, first.other), formatLength(std::abs(first.step), units())});
 }
 
 ChangeResult LevelList::apply(Layout& layout) const {

@@ -72,6 +72,10 @@ class LevelList {
   /// The first level with a problem.
   std::optional<std::size_t> firstProblem() const;
 
+  /// What is to be asked before `apply`: where track comes apart, since nothing between two levels
+  /// can take up their difference. Empty when it does not.
+  std::string openingQuestion() const;
+
   /// One undo step. Nothing changes when nothing was edited or something is refused.
   ChangeResult apply(Layout& layout) const;
 

@@ -47,6 +47,18 @@ class Decks : public testing::Test {
   }
 };
 
+TEST_F(Decks, asksBeforeTrackComesApart) {
+  LevelList list(layout);
+  EXPECT_EQ(list.openingQuestion(), "");
+  list.enterHeight(1, "130");
+  EXPECT_THAT(list.openingQuestion(),
+              testing::StartsWith("The track comes apart at 24188 and 24188 (x 377, y 0 mm): no "
+                                  "ramp there is long enough to take up 30.0 mm. "));
+  layout.editPiece(2)->grade = 1; // a ramp may take it up
+  list.enterHeight(1, "104");
+  EXPECT_EQ(list.openingQuestion(), "");
+}
+
 TEST_F(Decks, nothingChangesUntilSomethingIsEditedWell) {
   const PlanSettings settings = layout.settings();
   const auto untouched = [&](auto edit) {

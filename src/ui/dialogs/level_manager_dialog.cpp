@@ -12,6 +12,7 @@
 #include <wx/clrpicker.h>
 #include <wx/dcmemory.h>
 #include <wx/listctrl.h>
+#include <wx/msgdlg.h>
 #include <wx/sizer.h>
 #include <wx/statline.h>
 #include <wx/stattext.h>
@@ -169,6 +170,7 @@ wxSizer* LevelManagerDialog::makeButtons() {
   buttons->Add(ends);
   add->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { this->add(); });
   remove_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { remove(); });
+  ok_->Bind(wxEVT_BUTTON, [this](wxCommandEvent& event) { event.Skip(mayOpenTrack()); });
   ok_->SetDefault();
   return buttons;
 }
@@ -360,7 +362,15 @@ void LevelManagerDialog::makeActive() {
   refresh();
 }
 
+bool LevelManagerDialog::mayOpenTrack() {
+  const std::string question = levels_.openingQuestion();
+  return question.empty() || wxMessageBox(fromUtf8(question), _("Levels"),
+                                          wxYES_NO | wxNO_DEFAULT | wxICON_WARNING, this) == wxYES;
+}
+
 void LevelManagerDialog::draw() {
+  if (!mayOpenTrack())
+    return;
   levelToDraw_ = levels_.row(shown_).level.id;
   EndModal(wxID_OK);
 }

@@ -48,6 +48,8 @@ class LevelManagerDialog : public wxDialog {
   void remove();
   void makeActive();
   void draw();
+  /// Asks before the levels' track comes apart.
+  bool mayOpenTrack();
   void onCharHook(wxKeyEvent& event);
 
   trassix::Layout& layout_;
