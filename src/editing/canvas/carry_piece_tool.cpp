@@ -3,11 +3,13 @@
 #include "document/plan_content.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/canvas/selection_commands.h"
 #include "editing/elevation/inheritance.h"
 #include "editing/placing/placing.h"
 #include "editing/placing/runs.h"
 #include "editing/placing/ways.h"
 #include "editing/selection/open_ends.h"
+#include "measures/measure_format.h"
 #include "texts/texts.h"
 
 namespace trassix {
@@ -74,8 +76,12 @@ EditResult CarryPieceTool::drop() {
 }
 
 EditResult CarryPieceTool::dropFirst() {
-  if (insert_)
-    return insertPiece(site_.layout(), definition_.article, *insert_);
+  if (insert_) {
+    const double slope = insertedSlope(site_.layout(), definition_, *insert_).value_or(0);
+    return maySteepen(site_, tr("Insert Piece"), slope)
+               ? insertPiece(site_.layout(), definition_.article, *insert_)
+               : EditResult();
+  }
   const EditResult result = dropPiece(site_.layout(), definition_.article, hanging(), snap_,
                                       site_.workspace.switches().snap);
   if (result.changed() && wantsSmallTrackView(site_.layout()))
@@ -118,7 +124,10 @@ std::string CarryPieceTool::hint() const {
   std::vector<EndContact> meetings;
   if (snap_.snapped)
     meetings = site_.snapIndex().findMeetings(landedEnds(layout, definition_, snap_), {});
-  return hintOf({tr(what, {article}), missText(meetings, layout.settings().units), landing,
+  std::string grade;
+  if (const auto slope = insert_ ? insertedSlope(layout, definition_, *insert_) : std::nullopt)
+    grade = tr("It gets a grade of %1% %%", {formatFixed(percentOf(*slope), 1)});
+  return hintOf({tr(what, {article}), grade, missText(meetings, layout.settings().units), landing,
                  hasWays ? tr("F: other way round") : std::string(), turningHint()});
 }
 

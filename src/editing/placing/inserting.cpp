@@ -6,6 +6,7 @@
 #include "document/undo_scope.h"
 #include "editing/elevation/inheritance.h"
 #include "editing/elevation/propagation.h"
+#include "editing/elevation/train_way.h"
 #include "editing/joining/joining.h"
 #include "editing/placing/placing.h"
 #include "editing/selection/rigid_motion.h"
@@ -95,6 +96,20 @@ std::optional<InsertSpot> findInsertSpot(const Layout& layout, const SnapIndex& 
   const WorldConnector end{target.at.x, target.at.y, target.heading, false, target.connector};
   return InsertSpot{target.piece, target.connector, best->own.connector, exit,
                     AttachPose(carried, best->own.connector, end)};
+}
+
+std::optional<double> insertedSlope(const Layout& layout, const PieceDef& piece,
+                                    const InsertSpot& spot) {
+  const TrackEnd near{spot.piece, spot.connector};
+  const TrackEnd far = beyond(layout, near);
+  const double run = std::abs(runTo(piece, spot.exit) - runTo(piece, spot.enter));
+  if (far.piece == -1 || run == 0)
+    return std::nullopt;
+  const double slope = (endHeight(layout, far) - endHeight(layout, near)) / run;
+  if (slope == 0 && !isGraded(*layout.findPiece(near.piece)) &&
+      !isGraded(*layout.findPiece(far.piece)))
+    return std::nullopt;
+  return slope;
 }
 
 EditResult insertPiece(Layout& layout, std::string_view article, const InsertSpot& spot) {

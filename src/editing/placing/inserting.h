@@ -33,6 +33,11 @@ inline constexpr double kInsertFacing = 135.0; ///< degrees the headings must di
 std::optional<InsertSpot> findInsertSpot(const Layout& layout, const SnapIndex& index,
                                          const PieceDef& carried, const Pose& pose);
 
+/// The slope with which the piece would lie there, since both sides keep their heights; none where
+/// the track is level.
+std::optional<double> insertedSlope(const Layout& layout, const PieceDef& piece,
+                                    const InsertSpot& spot);
+
 /// Opens the joint, puts the piece in and moves the side with less track as one rigid body, all as
 /// one undo step. Refused when both sides hang together elsewhere, or when a helix or tunnel would
 /// have to move.

@@ -189,6 +189,12 @@ TEST(CarryPiece, DroppedOnAJointItGoesIntoTheTrack) {
   // Its near end lies on the joint between the third and the fourth piece.
   script.carry("24094", {564.9 + 4, 3});
   EXPECT_THAT(script.host.seen.hint, testing::StartsWith("Let go to insert"));
+  EXPECT_THAT(script.host.seen.hint, testing::Not(testing::HasSubstr("grade")));
+  script.host.plan.editPiece(3)->grade = 1; // with a step of 3.3 mm down from its end
+  script.carry("24094", {564.9 + 4, 3});
+  EXPECT_THAT(script.host.seen.hint, testing::HasSubstr("It gets a grade of -3.5 %"));
+  script.host.plan.editPiece(3)->grade = 0;
+  script.carry("24094", {564.9 + 4, 3});
   script.release({564.9 + 4, 3});
   ASSERT_EQ(script.pieces().size(), 5u);
   EXPECT_EQ(openEnds(script.host.plan), 2);
