@@ -50,7 +50,7 @@ const char* const kMenus[] = {
     "Show &Grid\tCtrl+G 2009 check on|&Snap\tCtrl+Shift+G 2010 check on|Show &Rails 2012 check "
     "on|-|"
     "&Palette\tF9 2041 check on|Properties and &Tally\tShift+F9 2042 check on|"
-    "Zoom to Se&lection\tCtrl+1 2064",
+    "Zoom to Se&lection\tCtrl+1 2064|Show Gra&des\tF8 2080 check",
     "&Layout|Units of Measure|Millimetres (mm) 2021 radio on|Centimetres (cm) 2022 radio|"
     "Inches (in) 2023 radio|-|Layout &Shape... 2020|Layout &Wizard (Experimental)... 2018|"
     "&Bridge Wizard (Experimental)... 2019|-|Baseboard &Corners 2077 check|"
@@ -123,8 +123,8 @@ std::string traceOf(MainFrame& frame, const Canceller& dialogs) {
   const ViewTransform& view = frame.canvasPanel().canvas().view();
   const EditorSwitches& switches = frame.workspace().switches();
   trace << frame.layout().revision() << frame.GetTitle() << view.zoom() << view.origin().x
-        << switches.grid << switches.snap << switches.labels << switches.rails << switches.palette
-        << switches.properties << frame.canvasPanel().canvas().carrying()
+        << switches.grid << switches.snap << switches.labels << switches.rails << switches.grades
+        << switches.palette << switches.properties << frame.canvasPanel().canvas().carrying()
         << static_cast<int>(switches.mode) << frame.layout().settings().units
         << frame.canvasPanel().GetParent() << dialogs.titles.size()
         << (findNamed("help") != nullptr);
@@ -178,8 +178,8 @@ TEST_F(FrameTest, EveryCommandDoesSomething) {
     }
     EXPECT_NE(traceOf(frame(), canceller), before);
   }
-  for (const int later : std::initializer_list<int>{
-           wxID_PREVIEW, wxID_PRINT, kView3D, kLayoutWizard, kBridgeWizard, kElevation, kTunnel}) {
+  for (const int later : std::initializer_list<int>{wxID_PREVIEW, wxID_PRINT, kView3D,
+                                                    kLayoutWizard, kBridgeWizard, kTunnel}) {
     EXPECT_NE(whyUnusable(*findCommand(later), canvas().site()), nullptr);
   }
   EXPECT_THAT(canceller.titles, testing::IsSupersetOf({"Validate", "Properties", "Save Layout"}));

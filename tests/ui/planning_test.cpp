@@ -1,11 +1,15 @@
 #include "catalog/track_catalog.h"
 #include "document/block_file.h"
+#include "editing/elevation/crossings.h"
+#include "editing/elevation/end_heights.h"
 #include "editing/selection/open_ends.h"
+#include "editing/selection/selection.h"
 #include "frame_test.h"
 #include "host/command_ids.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 #include "ui/palette/catalog_list.h"
+#include "ui/widgets/remembered_grades.h"
 
 #include <wx/choice.h>
 #include <wx/srchctrl.h>
@@ -162,6 +166,50 @@ TEST_F(PlanningTest, TheReadmesOvalComesOutAsItSays) {
   EXPECT_EQ(openEnds(plan()), 0);
   EXPECT_EQ(brokenRule(plan()), "");
   EXPECT_LE(actions, 28);
+  finish();
+}
+
+TEST_F(PlanningTest, ALineClimbsOverAnotherInFewActions) {
+  startLaidOut();
+  const Plan lines = Plan().place("24188").extend("24188", 30).place("24188", {2900, -94.15, 90});
+  plan().edit() = lines.layout.content();
+  plan().setNextPieceId(lines.layout.nextPieceId());
+  plan().clearSelection();
+  frame().workspace().changed();
+  int actions = 0;
+  pressKey('0', wxMOD_CONTROL);
+  ++actions;
+  settle();
+  const auto climb = [&](double from, double to, const char* height) {
+    drag(onPlan({from - 40, -120}), {onPlan({(from + to) / 2, 0}), onPlan({to + 40, 120})});
+    waitUntil("the ramp is selected", [&] { return selectedPieces(plan()).size() == 13; });
+    dialogs.drive("Elevation", [&](wxDialog&) {
+      typeText(height);
+      pressKey(WXK_RETURN);
+    });
+    put(kElevation);
+    actions += 3; // the box, the tool, the height
+  };
+  EXPECT_TRUE(trackCrossings(plan()).at(0).tooLow());
+  climb(188.3, 14 * 188.3, "80");
+  climb(17 * 188.3, 30 * 188.3, "0");
+  EXPECT_LE(actions, 11);
+  EXPECT_NEAR(endHeight(plan(), {1, 1}), 0, 1e-9);
+  EXPECT_NEAR(endHeight(plan(), {14, 1}), 80, 0.01);
+  EXPECT_NEAR(endHeight(plan(), {18, 0}), 80, 0.01);
+  EXPECT_NEAR(endHeight(plan(), {31, 1}), 0, 0.01);
+  EXPECT_FALSE(trackCrossings(plan()).at(0).tooLow());
+  EXPECT_LT(largestPlay(plan()).step, 1e-6);
+  dialogs.drive("Elevation", [](wxDialog&) {
+    typeText("40");
+    pressKey(WXK_ESCAPE);
+  });
+  const PlanContent before = plan().content();
+  put(kElevation);
+  EXPECT_EQ(plan().content(), before);
+  EXPECT_EQ(frame().workspace().preview(), nullptr);
+  put(kShowGrades);
+  EXPECT_TRUE(rememberedGrades());
   finish();
 }
 

@@ -1,5 +1,5 @@
-#include "document/plan_content.h"
 #include "document/limits.h"
+#include "document/plan_content.h"
 #include "editing/elevation/end_heights.h"
 #include "editing/selection/content_box.h"
 #include "measures/measure_format.h"

@@ -74,17 +74,17 @@ ElevationDialog::ElevationDialog(wxWindow* parent, Workspace& workspace)
                               wxST_NO_AUTORESIZE, "elevationSummary");
   page->Add(summary_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, gap));
   page->Add(problem_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, gap));
-  ok_ = new wxButton(this, wxID_OK, _("Set Heigh&ts"));
-  auto* buttons = new wxStdDialogButtonSizer;
-  buttons->AddButton(ok_);
-  buttons->AddButton(new wxButton(this, wxID_CANCEL));
-  buttons->Realize();
   turn_ = new wxButton(this, wxID_ANY, _("T&urn Round"));
   turn_->SetName("elevationTurn");
   turn_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
     form_.turnRound();
     showEnds();
   });
+  ok_ = new wxButton(this, wxID_OK, _("Set Heigh&ts"));
+  auto* buttons = new wxStdDialogButtonSizer;
+  buttons->AddButton(ok_);
+  buttons->AddButton(new wxButton(this, wxID_CANCEL));
+  buttons->Realize();
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   row->Add(turn_, wxSizerFlags().CenterVertical());
   row->AddStretchSpacer();
