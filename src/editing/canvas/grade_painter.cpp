@@ -50,13 +50,15 @@ void GradePainter::paintColors(std::vector<Track> track) {
   std::ranges::stable_sort(track, {}, [](const Track& shown) { return shown.piece->z; });
   for (const Track& shown : track) {
     const TrackGeometry& geometry = trackGeometryOf(*shown.definition);
-    const GradeBand band = gradeBand(slopeOf(*shown.piece));
-    const Rgba color = colors::gradeColor(band);
+    const double slope = slopeOf(*shown.piece);
+    const Rgba color = colors::gradeColor(slope);
     const double width = std::clamp(geometry.gauge * view_.zoom() * 0.55, 3.0, 10.0);
     for (const auto& line : geometry.centreLines) {
       const std::vector<Point>& px = piecePainter_.toScreen(line, poseOf(*shown.piece));
+      if (shown.piece->sel)
+        surface_.polyline(px, {colors::kSelected, width + 5});
       surface_.polyline(px, {color, width});
-      if (band == GradeBand::TooSteep)
+      if (gradeBand(slope) == GradeBand::TooSteep)
         surface_.polyline(px, {colors::kPaper, width * 0.5, Stroke::Style::Dashed});
     }
     paintArrow(shown, color);
@@ -107,7 +109,7 @@ void GradePainter::badge(const std::string& text, Point centre, bool tooLow) {
                                       {centre.x + x, centre.y - y},
                                       {centre.x + x, centre.y + y},
                                       {centre.x - x, centre.y + y}}};
-  const Rgba red = colors::gradeColor(GradeBand::Steep);
+  const Rgba red = colors::gradeColor(kSteepestSlope);
   const Rgba edge = tooLow ? red : colors::kLabel;
   surface_.polygon(outline, tooLow ? red : colors::kPaper, Stroke{edge, 1});
   surface_.segments(outline, {edge, 2.5});
@@ -116,7 +118,6 @@ void GradePainter::badge(const std::string& text, Point centre, bool tooLow) {
 
 void GradePainter::paintClearances(std::span<const TrackCrossing> crossings, Occupancy& taken) {
   // They lie on the track, which their own map does not know; what is too low comes first.
-  Occupancy badges(size_);
   for (const bool tooLow : {true, false})
     for (const TrackCrossing& crossing : crossings) {
       const PlacedPiece* lower = layout_.findPiece(crossing.lower.piece);
@@ -128,9 +129,9 @@ void GradePainter::paintClearances(std::span<const TrackCrossing> crossings, Occ
       const std::string text = number(crossing.clearance);
       const SizePx box = badgeSize(text);
       if (at.x < -box.width || at.y < -box.height || at.x > size_.width + box.width ||
-          at.y > size_.height + box.height || !badges.isFree(at, box, 0))
+          at.y > size_.height + box.height || !badges_.isFree(at, box, 0))
         continue;
-      badges.take(at, box, 0);
+      badges_.take(at, box, 0);
       taken.take(at, box, 0);
       badge(text, at, tooLow);
     }
@@ -151,6 +152,8 @@ bool GradePainter::isKnee(const Track& track, std::int32_t connector) const {
 void GradePainter::paintKnee(const Track& track, std::int32_t connector, Occupancy& taken) {
   const WorldConnector end = ConnectorToWorld(*track.piece, *track.definition, connector);
   const Point at = view_.toScreen({end.x, end.y});
+  if (!badges_.isFree(at, {6, 6}, 0))
+    return;
   const std::string text = number(endHeight(*track.piece, *track.definition, connector));
   const SizePx box = surface_.textSize(text, kHeightText);
   const double away = trackGeometryOf(*track.definition).halfWidth * view_.zoom() + 2;
@@ -178,7 +181,7 @@ void GradePainter::paintPercent(const Track& track, Occupancy& taken) {
         return told.text == text && between(told.at, spot) < kPercentApartPx;
       }))
     return;
-  const TextStyle style{colors::gradeColor(gradeBand(slope)), kPercentSize, true};
+  const TextStyle style{colors::gradeColor(slope), kPercentSize, true};
   const SizePx box = surface_.textSize(text, style);
   const double heading = pose.heading + geometry.labelHeading;
   const double angle = uprightAngle(heading);

@@ -16,8 +16,8 @@ namespace trassix {
 class GradePainter {
  public:
   GradePainter(Surface& surface, SizePx size, const ViewTransform& view, const Layout& layout)
-      : surface_(surface), size_(size), view_(view), layout_(layout), piecePainter_(surface, view) {
-  }
+      : surface_(surface), size_(size), view_(view), layout_(layout), piecePainter_(surface, view),
+        badges_(size) {}
 
   struct Track {
     const PlacedPiece* piece;
@@ -49,6 +49,7 @@ class GradePainter {
   const ViewTransform& view_;
   const Layout& layout_;
   PiecePainter piecePainter_;
+  Occupancy badges_;
   std::vector<Point> arrows_; ///< px
   struct Told {
     Point at; ///< px

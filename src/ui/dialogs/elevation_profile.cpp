@@ -64,7 +64,7 @@ void ElevationProfile::paint(wxGraphicsContext& context, const wxSize& size) con
     const double run = to.along - from.along;
     const double slope = run > 0 ? (to.after - from.after) / run : 0;
     const Point line[]{at(from.along, from.after), at(to.along, to.after)};
-    surface.polyline(line, {colors::gradeColor(gradeBand(slope)), 3});
+    surface.polyline(line, {colors::gradeColor(slope), 3});
   }
   const auto name = [&](const ElevationForm::ProfilePoint& point) {
     const std::string text = formatLength(point.after, units_);
