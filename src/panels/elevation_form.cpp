@@ -295,12 +295,11 @@ void ElevationForm::computeClimb() {
 }
 
 void ElevationForm::computeGrade() {
-  GradeTask task = isOn(Switch::PieceAlone)
-                       ? gradeOfPiece(layout_, fromEnd().piece,
-                                      ways_.empty() ? -1 : ways_[way_].stretches.front().leave)
-                       : GradeTask{};
+  GradeTask task;
   task.pieces = graded();
   task.start = fromEnd();
+  if (!ways_.empty() && ways_[way_].start() == task.start)
+    task.towards = ways_[way_].stretches.front().leave;
   task.open = isOn(Switch::OpenRun);
   task.limit = limit_;
   task.loops = loops();
@@ -402,14 +401,14 @@ PlanContent ElevationForm::picture() const {
   PlanContent picture;
   if (ends_.empty())
     return picture;
-  const auto name = [&](const char* text, TrackEnd end) {
+  const auto name = [&](const char* text, TrackEnd end, double side) {
     const PlacedPiece& piece = *layout_.findPiece(end.piece);
     const Point at = placeOf(piece, end.connector);
     const double height = endHeight(laid(piece), *definitionOf(piece), end.connector);
     Label label;
     label.text = tr(text, {formatLength(height, units_)});
     label.x = at.x;
-    label.y = at.y - 2.2 * trackHalfWidth(definitionOf(piece)->system); // beside the track
+    label.y = at.y + side * 2.2 * trackHalfWidth(definitionOf(piece)->system);
     picture.labels.push_back(label);
   };
   if (usesTo() && !ways_.empty())
@@ -417,9 +416,9 @@ PlanContent ElevationForm::picture() const {
       picture.pieces.push_back(laid(*layout_.findPiece(stretch.piece)));
       picture.pieces.back().sel = false;
     }
-  name(trLater("From: %1%"), ends_[from_]);
+  name(trLater("From: %1%"), ends_[from_], -1); // above the track
   if (usesTo() && from_ != to_)
-    name(trLater("To: %1%"), ends_[to_]);
+    name(trLater("To: %1%"), ends_[to_], 1);
   return picture;
 }
 

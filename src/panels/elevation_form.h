@@ -14,7 +14,7 @@
 
 namespace trassix {
 
-/// Every entry says at once what would come of it; the plan itself changes only by `apply`. Of
+/// Every entry says at once what would come of it, and `plan` is that; nothing is changed. Of
 /// height, rise and grade the last one that was typed holds, and the others follow it.
 class ElevationForm {
  public:
@@ -74,12 +74,8 @@ class ElevationForm {
     double after = 0;
   };
   std::vector<ProfilePoint> profile() const;
-  /// The way's track as it would be, with both ends named; what is no ground for a preview is left
-  /// out.
+  /// The way's track as it would be, with both ends named.
   PlanContent picture() const;
-
-  /// One undo step.
-  ChangeResult apply(Layout& layout) const { return applyHeights(layout, plan_); }
 
  private:
   static std::size_t index(Field field) { return static_cast<std::size_t>(field); }

@@ -53,7 +53,7 @@ TEST(ElevationForm, EveryFieldRecomputesTheOthersAndTheLastTypedWins) {
     EXPECT_EQ(form.text(Field::Height), c.height);
     EXPECT_EQ(form.text(Field::Rise), c.rise);
     EXPECT_TRUE(form.text(Field::Percent) == c.percent || !form.uses(Field::Percent));
-    ASSERT_TRUE(form.apply(layout));
+    ASSERT_TRUE(applyHeights(layout, form.plan()));
     EXPECT_NEAR(endHeight(layout, {8, 1}), c.end, 0.01);
     EXPECT_NEAR(endHeight(layout, {10, 1}), c.last, 0.01);
   }
@@ -76,6 +76,14 @@ TEST(ElevationForm, RefusalsAreSaidInPlaceAndALoopMaySpread) {
   form.enter(Field::Limit, "5");
   form.enter(Field::Height, "90");
   EXPECT_THAT(form.problem(), HasSubstr("longer"));
+  form.setTask(Task::Grade);
+  form.set(Switch::PieceAlone, true);
+  form.enter(Field::Percent, "-2");
+  ASSERT_TRUE(form.ready());
+  EXPECT_NEAR(form.plan().pieces.front().grade, degreesOf(-0.02), 1e-9);
+  EXPECT_EQ(form.plan().pieces.size(), 8u) << "this one, and the track beyond it is lifted";
+  form.setTask(Task::Climb);
+  form.enter(Field::Height, "90");
   form.turnRound(); // 90 is now the height of the other end
   EXPECT_EQ(form.text(Field::Height), "90");
 
@@ -94,7 +102,7 @@ TEST(ElevationForm, RefusalsAreSaidInPlaceAndALoopMaySpread) {
   EXPECT_EQ(loop.profile().size(), 24u) << "the way through what is selected, not the shorter one";
   EXPECT_TRUE(loop.uses(Switch::Spread) && !loop.ready());
   loop.set(Switch::Spread, true);
-  ASSERT_TRUE(loop.apply(oval)) << loop.problem();
+  ASSERT_TRUE(applyHeights(oval, loop.plan())) << loop.problem();
   EXPECT_LT(largestPlay(oval).step, 1e-6);
 }
 
