@@ -1,6 +1,7 @@
 #include "plain_track.h"
 
 #include "editing/track/routes.h"
+#include "geometry/polygons.h"
 
 #include <algorithm>
 #include <cmath>
@@ -53,11 +54,34 @@ std::vector<RoutePoint> bandOf(const PieceDef& definition, const Route& route) {
   return sampleRoute(route, routeLength(route), routeLength(route) / chords + 1e-6);
 }
 
+/// Piece by piece of a millimetre on pieces with several routes, whose beds overlap.
+void addEdges(PlainTrack& track, const std::vector<Route>& routes) {
+  for (std::size_t i = 0; i < routes.size(); ++i) {
+    const std::vector<RoutePoint> line = routes.size() == 1
+                                             ? sampleRoute(routes[i], kChordTolerance)
+                                             : sampleRoute(routes[i], kChordTolerance, 1);
+    for (const double side : {kTrackHalfWidth, -kTrackHalfWidth}) {
+      bool shown = false;
+      for (const RoutePoint& at : line) {
+        bool covered = false;
+        for (std::size_t other = 0; other < routes.size(); ++other)
+          covered = covered || (other != i && inside(track.beds[other], beside(at, side * 1.003)));
+        if (!covered && !shown)
+          track.edges.emplace_back();
+        if (!covered)
+          track.edges.back().push_back(beside(at, side));
+        shown = !covered;
+      }
+    }
+  }
+}
+
 } // namespace
 
 PlainTrack plainTrack(const PieceDef& definition) {
   PlainTrack track;
-  for (const Route& route : deriveRoutes(definition)) {
+  const std::vector<Route> routes = deriveRoutes(definition);
+  for (const Route& route : routes) {
     const std::vector<RoutePoint> line = sampleRoute(route, kChordTolerance);
     track.centreLines.push_back(parallel(line, 0));
     const std::vector<RoutePoint> band = bandOf(definition, route);
@@ -65,10 +89,14 @@ PlainTrack plainTrack(const PieceDef& definition) {
     const Line back = parallel(band, -kTrackHalfWidth);
     bed.insert(bed.end(), back.rbegin(), back.rend());
     track.beds.push_back(bed);
+    for (const RoutePoint& end : {line.front(), line.back()})
+      for (const double side : {kTrackHalfWidth, -kTrackHalfWidth})
+        track.ends.push_back(beside(end, side));
     for (const double side : {kTrackGauge / 2, -kTrackGauge / 2})
       track.rails.push_back(parallel(line, side));
     addSleepers(track.sleepers, line);
   }
+  addEdges(track, routes);
   return track;
 }
 

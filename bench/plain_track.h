@@ -18,6 +18,8 @@ inline constexpr double kTrackGauge = 16.5;     ///< mm
 struct PlainTrack {
   std::vector<Line> centreLines; ///< one for each route
   std::vector<Line> beds;        ///< a closed outline for each route
+  std::vector<Line> edges;       ///< of the beds, but where another one of the piece covers them
+  Line ends;                     ///< pairs: across the beds where the piece ends
   std::vector<Line> rails;       ///< two for each route
   Line sleepers;                 ///< pairs of ends
 };

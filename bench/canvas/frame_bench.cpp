@@ -188,13 +188,13 @@ void frame(benchmark::State& state, const Layout& layout, const ViewTransform& v
 
 void frameOfTwoThousand(benchmark::State& state) {
   const Layout layout = yard(44, 46);
-  frame(state, layout, ViewTransform::ofScale(0.23, {40, 20}), 1.2);
+  frame(state, layout, ViewTransform::ofScale(0.23, {40, 20}), 0.7);
 }
 BENCHMARK(frameOfTwoThousand)->Name("frame/2000visible")->Iterations(1);
 
 void frameOfTenThousand(benchmark::State& state) {
   const Layout layout = yard(100, 100);
-  frame(state, layout, fitted(layout), 1.2);
+  frame(state, layout, fitted(layout), 0.7);
 }
 BENCHMARK(frameOfTenThousand)->Name("frame/10000visible")->Iterations(1);
 

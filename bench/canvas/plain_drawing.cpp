@@ -53,15 +53,13 @@ class PlainDrawing::Pencil {
         context_.StrokePath(path(piece, line));
       return;
     }
-    std::vector<wxGraphicsPath> beds;
-    for (const Line& outline : track.beds)
-      beds.push_back(path(piece, outline, true));
     context_.SetPen(edge_);
-    for (const wxGraphicsPath& bed : beds)
-      context_.StrokePath(bed);
+    context_.StrokePath(path(piece, track.ends, false, 2));
     context_.SetBrush(bed_);
-    for (const wxGraphicsPath& bed : beds)
-      context_.FillPath(bed, wxWINDING_RULE);
+    for (const Line& outline : track.beds)
+      context_.FillPath(path(piece, outline, true), wxWINDING_RULE);
+    for (const Line& edge : track.edges)
+      context_.StrokePath(path(piece, edge));
     if (kTrackGauge * zoom_ >= 9) {
       context_.SetPen(sleeper_);
       context_.StrokePath(path(piece, track.sleepers, false, 2));

@@ -100,8 +100,7 @@ std::int32_t CarryPieceTool::joiningEnd() const {
 void CarryPieceTool::paint(Surface& surface) const {
   const Pose at = landing();
   const std::int32_t joining = joiningEnd();
-  PiecePainter(surface, site_.view)
-      .paint(trackGeometryOf(definition_), at, carriedLook(joining != -1));
+  PiecePainter(surface, site_.view).paint(definition_, at, carriedLook(joining != -1));
   for (const WorldConnector& end : WorldConnectorsOf(pieceAt(at), definition_)) {
     const bool joins = end.index == joining;
     surface.circle(site_.view.toScreen({end.x, end.y}), joins ? 6 : 3.5,

@@ -49,11 +49,11 @@ void GradePainter::paintColors(std::vector<Track> track) {
   std::erase_if(track, [](const Track& shown) { return !isGraded(*shown.piece); });
   std::ranges::stable_sort(track, {}, [](const Track& shown) { return shown.piece->z; });
   for (const Track& shown : track) {
-    const TrackGeometry& geometry = trackGeometryOf(*shown.definition);
+    const auto [geometry, lines] = piecePainter_.shapeOf(*shown.definition);
     const double slope = slopeOf(*shown.piece);
     const Rgba color = colors::gradeColor(slope);
     const double width = std::clamp(geometry.gauge * view_.zoom() * 0.55, 3.0, 10.0);
-    for (const auto& line : geometry.centreLines) {
+    for (const auto& line : lines.centreLines) {
       const std::vector<Point>& px = piecePainter_.toScreen(line, poseOf(*shown.piece));
       if (shown.piece->sel)
         surface_.polyline(px, {colors::kSelected, width + 5});

@@ -51,7 +51,7 @@ bool isOtherLevel(const Layout& layout, std::int32_t level) {
 struct LayoutPainter::Visible {
   const PlacedPiece* piece;
   const PieceDef* definition;
-  const TrackGeometry* geometry;
+  PiecePainter::Shape shape;
   PieceLook look;
 };
 
@@ -171,6 +171,7 @@ std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& la
   for (const Tunnel& tunnel : layout.content().tunnels)
     covered.insert(tunnel.covers.begin(), tunnel.covers.end());
 
+  const PiecePainter painter(surface_, view_);
   std::vector<Visible> shown;
   for (const std::size_t position : index.inBox({low.x, low.y, high.x, high.y}, false)) {
     const PlacedPiece& piece = layout.pieces()[position];
@@ -189,7 +190,7 @@ std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& la
     look.faded = isOtherLevel(layout, piece.level);
     if (piece.sel)
       look.accent = colors::kSelected;
-    shown.push_back({&piece, definition, &trackGeometryOf(*definition), look});
+    shown.push_back({&piece, definition, painter.shapeOf(*definition), look});
   }
   return shown;
 }
@@ -203,6 +204,7 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
       paintSceneryItem(layout, *scenery[items++]);
   };
   PiecePainter painter(surface_, view_);
+  std::vector<PiecePainter::Piece> pieces;
   // One level after the other, beds before rails: joined beds read as one, and an upper deck hides
   // what runs below it.
   for (std::size_t from = 0; from < track.size();) {
@@ -210,10 +212,12 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
     while (to < track.size() && track[to].piece->level == track[from].piece->level)
       ++to;
     sceneryUpTo(layout.levelHeight(track[from].piece->level));
+    pieces.clear();
     for (std::size_t i = from; i < to; ++i)
-      painter.paintBed(*track[i].geometry, poseOf(*track[i].piece), track[i].look);
-    for (std::size_t i = from; i < to; ++i)
-      painter.paintRails(*track[i].geometry, poseOf(*track[i].piece), track[i].look);
+      pieces.push_back({track[i].shape, poseOf(*track[i].piece), track[i].look});
+    painter.paintBeds(pieces);
+    painter.paintRails(pieces);
+    painter.paintAccents(pieces);
     if (options_.labels)
       paintJoinDots(layout, std::span(track).subspan(from, to - from));
     from = to;
@@ -223,9 +227,9 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
     return;
   Occupancy taken(size_);
   for (const Visible& shown : track)
-    for (const auto& line : shown.geometry->centreLines)
+    for (const auto& line : shown.shape.lines.centreLines)
       taken.mark(painter.toScreen(line, poseOf(*shown.piece)),
-                 shown.geometry->halfWidth * view_.zoom() - 1);
+                 shown.shape.geometry.halfWidth * view_.zoom() - 1);
   if (options_.grades)
     paintGrades(layout, track, taken);
   if (options_.labels)
@@ -257,7 +261,7 @@ void LayoutPainter::paintUnknown(const PlacedPiece& piece) {
 
 void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible> pieces) {
   for (const Visible& shown : pieces) {
-    const double reach = shown.geometry->halfWidth * view_.zoom();
+    const double reach = shown.shape.geometry.halfWidth * view_.zoom();
     const double radius = std::clamp(reach * 0.3, 2.0, 6.0);
     for (std::int32_t i = 0; i < static_cast<std::int32_t>(shown.definition->connectors.size());
          ++i) {
@@ -279,19 +283,19 @@ void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible>
 }
 
 void LayoutPainter::paintArticles(std::span<const Visible> pieces, Occupancy& taken) {
-  if (view_.zoom() * (pieces.empty() ? 1 : pieces.front().geometry->halfWidth / 18.7) <
+  if (view_.zoom() * (pieces.empty() ? 1 : pieces.front().shape.geometry.halfWidth / 18.7) <
       kArticleFromZoom)
     return;
   for (const Visible& shown : pieces) {
     const TextStyle style{shown.look.faded ? colors::kFarArticle : colors::kArticle, 10.5, false};
     const SizePx box = surface_.textSize(shown.definition->article, style);
-    if (shown.geometry->mainLength * view_.zoom() < box.width * 0.9)
+    if (shown.shape.geometry.mainLength * view_.zoom() < box.width * 0.9)
       continue;
     const Pose pose = poseOf(*shown.piece);
-    const Point spot = view_.toScreen(toWorld(pose, shown.geometry->labelSpot));
-    const double heading = pose.heading + shown.geometry->labelHeading;
-    const double away = shown.geometry->halfWidth * view_.zoom() + box.height / 2 +
-                        std::max(1.0, shown.geometry->gauge * view_.zoom() * 0.04);
+    const Point spot = view_.toScreen(toWorld(pose, shown.shape.geometry.labelSpot));
+    const double heading = pose.heading + shown.shape.geometry.labelHeading;
+    const double away = shown.shape.geometry.halfWidth * view_.zoom() + box.height / 2 +
+                        std::max(1.0, shown.shape.geometry.gauge * view_.zoom() * 0.04);
     const double angle = uprightAngle(heading);
     // Curves bend away from the text on one side only, so places farther out are tried as well.
     for (const auto& [side, farther] : kArticlePlaces) {

@@ -7,6 +7,7 @@
 #include "editing/track/track_geometry.h"
 
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace trassix {
@@ -25,29 +26,54 @@ struct PieceLook {
 PieceLook carriedLook(bool snapped);
 
 /// Draws single pieces of track: as a line from afar, as bed and rails from nearer, with sleepers
-/// from close up. Keeps its point buffers between pieces.
+/// from close up. Keeps its room for points.
 class PiecePainter {
  public:
-  PiecePainter(Surface& surface, const ViewTransform& view) : surface_(surface), view_(view) {}
+  PiecePainter(Surface& surface, const ViewTransform& view);
 
-  /// The bed, drawn for all pieces before any rails so that joined beds read as one.
-  void paintBed(const TrackGeometry& geometry, const Pose& pose, const PieceLook& look);
-  /// Sleepers, rails and the accent.
-  void paintRails(const TrackGeometry& geometry, const Pose& pose, const PieceLook& look);
+  /// What is drawn of a piece at this scale.
+  struct Shape {
+    const TrackGeometry& geometry;
+    const TrackLines& lines;
+  };
+  Shape shapeOf(const PieceDef& definition) const;
 
-  void paint(const TrackGeometry& geometry, const Pose& pose, const PieceLook& look);
+  /// A piece where it lies.
+  struct Piece {
+    Shape shape;
+    Pose pose;
+    PieceLook look;
+  };
+
+  // Many pieces at one go: first all beds, so that joined ones read as one, then what lies on them.
+  void paintBeds(std::span<const Piece> pieces);
+  /// Sleepers and rails.
+  void paintRails(std::span<const Piece> pieces);
+  /// The edge and the centre line in the colour of the accent, of those that have one.
+  void paintAccents(std::span<const Piece> pieces);
+
+  void paint(const PieceDef& definition, const Pose& pose, const PieceLook& look);
 
   /// Points of the piece's frame in pixels; good until the next call.
   const std::vector<Point>& toScreen(const std::vector<Point>& local, const Pose& pose);
 
  private:
+  void toScreen(std::span<const Point> local, const Pose& pose, std::span<Point> px) const;
   /// The same on whole pixels of the display: beds that meet share their corners.
-  const std::vector<Point>& onPixels(const std::vector<Point>& local, const Pose& pose);
+  void onPixels(std::span<const Point> local, const Pose& pose, std::span<Point> px) const;
   bool fromAfar(const TrackGeometry& geometry) const;
+  void addLines(const std::vector<std::vector<Point>>& lines, const Pose& pose);
+  void addPairs(const std::vector<Point>& ends, const Pose& pose);
+
+  /// Draws what `add` gathers in `runs_` of all pieces for which `styleOf` tells the same.
+  template <class StyleOf, class Add, class Draw>
+  void together(std::span<const Piece> pieces, StyleOf styleOf, Add add, Draw draw);
 
   Surface& surface_;
   const ViewTransform& view_;
+  double tolerance_; ///< mm, within which chords look like curves
   std::vector<Point> buffer_;
+  PointRuns runs_;
 };
 
 } // namespace trassix

@@ -47,7 +47,7 @@ void PlacingOffer::paint(Surface& surface) const {
   look.bed.a = 110;
   look.accent->a = 150;
   PiecePainter(surface, site_.view)
-      .paint(trackGeometryOf(definition), AttachPose(definition, at->own, *end), look);
+      .paint(definition, AttachPose(definition, at->own, *end), look);
 }
 
 std::string PlacingOffer::hint() const {

@@ -20,7 +20,7 @@ inline constexpr Rgba kRuler{84, 94, 108};
 inline constexpr Color kBed{203, 198, 187};
 inline constexpr Color kBridgeBed{176, 190, 204};
 inline constexpr Color kRampBed{214, 200, 160};
-inline constexpr Rgba kBedEdge{132, 126, 114};
+inline constexpr Rgba kBedEdge{132, 126, 114, 180}; ///< as dark as half a line of full strength
 inline constexpr Rgba kSleeper{122, 102, 82};
 inline constexpr Rgba kRail{52, 58, 66};
 inline constexpr Rgba kFarTrack{74, 80, 90};

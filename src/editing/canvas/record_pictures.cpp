@@ -110,8 +110,7 @@ std::string nameOf(const Layout&, const SceneryItem& item) {
 
 void paintCarried(const PictureSite& site, const PlacedPiece& piece, const CarriedLook& look) {
   if (const PieceDef* definition = definitionOf(piece))
-    PiecePainter(site.surface, site.view)
-        .paint(trackGeometryOf(*definition), poseOf(piece), look.track);
+    PiecePainter(site.surface, site.view).paint(*definition, poseOf(piece), look.track);
 }
 
 std::string nameOf(const Layout&, const PlacedPiece& piece) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/color.h"
+#include "editing/canvas/point_runs.h"
 #include "geometry/point.h"
 
 #include <cstdint>
@@ -58,6 +59,16 @@ class Surface {
   virtual void polyline(std::span<const Point> points, const Stroke& stroke) = 0;
   virtual void polygon(std::span<const Point> points, std::optional<Rgba> fill,
                        std::optional<Stroke> outline) = 0;
+  /// Lines that are one thing where they overlap.
+  virtual void polylines(const PointRuns& lines, const Stroke& stroke) {
+    for (std::size_t i = 0; i < lines.size(); ++i)
+      polyline(lines[i], stroke);
+  }
+  /// Areas likewise.
+  virtual void polygons(const PointRuns& outlines, Rgba fill) {
+    for (std::size_t i = 0; i < outlines.size(); ++i)
+      polygon(outlines[i], fill, {});
+  }
   /// Separate lines: points 0-1, 2-3, and so on.
   virtual void segments(std::span<const Point> ends, const Stroke& stroke) = 0;
   virtual void circle(Point centre, double radius, std::optional<Rgba> fill,

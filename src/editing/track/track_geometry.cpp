@@ -1,10 +1,13 @@
 #include "editing/track/track_geometry.h"
 
 #include "editing/track/routes.h"
+#include "geometry/polygons.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <unordered_map>
 
 namespace trassix {
@@ -95,40 +98,101 @@ RoutePoint middleOf(const std::vector<RoutePoint>& line) {
           half};
 }
 
+/// Interpolated between the points around it.
+RoutePoint pointAlong(const std::vector<RoutePoint>& line, double along) {
+  const auto after =
+      std::ranges::lower_bound(line, along, {}, [](const RoutePoint& p) { return p.along; });
+  if (after == line.begin() || after == line.end())
+    return after == line.end() ? line.back() : line.front();
+  const RoutePoint& a = *(after - 1);
+  const double t = (along - a.along) / (after->along - a.along);
+  return {{a.position.x + (after->position.x - a.position.x) * t,
+           a.position.y + (after->position.y - a.position.y) * t},
+          a.heading + std::remainder(after->heading - a.heading, 360.0) * t,
+          along};
+}
+
+/// The side of a bed, without the parts that `covered` tells of.
+template <class Covered>
+void addEdge(TrackLines& lines, const std::vector<RoutePoint>& line, double offset,
+             const Covered& covered) {
+  constexpr double kStep = 1;       // mm
+  constexpr double kOutward = 0.05; // edges that lie on one another both show
+  const double length = line.back().along;
+  const int steps = std::max(1, static_cast<int>(length / kStep));
+  const double outside = offset + (offset < 0 ? -kOutward : kOutward);
+  double from = -1;
+  const auto close = [&](double to) {
+    std::vector<Point>& edge = lines.edges.emplace_back();
+    edge.push_back(beside(pointAlong(line, from), offset));
+    for (const RoutePoint& at : line)
+      if (at.along > from && at.along < to)
+        edge.push_back(beside(at, offset));
+    edge.push_back(beside(pointAlong(line, to), offset));
+    from = -1;
+  };
+  for (int i = 0; i <= steps; ++i) {
+    const double along = length * i / steps;
+    const bool shows = !covered(beside(pointAlong(line, along), outside));
+    if (shows && from < 0)
+      from = along;
+    else if (!shows && from >= 0)
+      close(along);
+  }
+  if (from >= 0 && from < length)
+    close(length);
+}
+
 constexpr int kPitPoints = 180;
 
 /// A turntable is seen as its pit with the bridge across it, and a stub of rails at each track end.
 /// The routes to the centre would only hide one another.
-void drawTurntable(TrackGeometry& geometry, const PieceDef& definition) {
-  const double ring = definition.radius;
+std::vector<Point> pitOf(const PieceDef& definition) {
   std::vector<Point> pit;
   for (int i = 0; i < kPitPoints; ++i) {
     const double t = 2 * kPi * i / kPitPoints;
-    pit.push_back({ring * std::cos(t), ring * std::sin(t)});
+    pit.push_back({definition.radius * std::cos(t), definition.radius * std::sin(t)});
   }
-  geometry.beds.push_back(pit);
-  pit.push_back(pit.front());
-  geometry.centreLines.push_back(pit);
+  return pit;
+}
 
-  const double half = geometry.gauge / 2;
-  const double reach = ring * 0.93;
-  const double edge = geometry.halfWidth;
-  geometry.rails.push_back({{-reach, -half}, {reach, -half}});
-  geometry.rails.push_back({{-reach, half}, {reach, half}});
-  geometry.rails.push_back(
+double bridgeReach(const PieceDef& definition) {
+  return definition.radius * 0.93;
+}
+
+TrackLines turntableLines(const PieceDef& definition) {
+  TrackLines lines;
+  std::vector<Point> pit = pitOf(definition);
+  pit.push_back(pit.front());
+  lines.centreLines.push_back(pit);
+  lines.edges.push_back(std::move(pit));
+
+  const double half = trackGauge(definition.system) / 2;
+  const double reach = bridgeReach(definition);
+  const double edge = trackHalfWidth(definition.system);
+  lines.rails.push_back({{-reach, -half}, {reach, -half}});
+  lines.rails.push_back({{-reach, half}, {reach, half}});
+  lines.rails.push_back(
       {{-reach, -edge}, {reach, -edge}, {reach, edge}, {-reach, edge}, {-reach, -edge}});
   for (const Connector& end : definition.connectors) {
     const Pose at{end.x, end.y, end.heading};
     for (const double side : {-half, half})
-      geometry.rails.push_back({toWorld(at, {-ring * 0.05, side}), toWorld(at, {0, side})});
+      lines.rails.push_back(
+          {toWorld(at, {-definition.radius * 0.05, side}), toWorld(at, {0, side})});
   }
+  return lines;
+}
+
+void drawTurntable(TrackGeometry& geometry, const PieceDef& definition) {
+  geometry.beds.push_back(pitOf(definition));
+  const double reach = bridgeReach(definition);
   const int sleepers = static_cast<int>(2 * reach / (kSleeperSpacing * geometry.gauge));
   for (int i = 0; i < sleepers; ++i) {
     const double x = -reach + (i + 0.5) * 2 * reach / sleepers;
     geometry.sleepers.push_back({x, -geometry.gauge * kSleeperLength / 2});
     geometry.sleepers.push_back({x, geometry.gauge * kSleeperLength / 2});
   }
-  geometry.mainLength = 2 * ring;
+  geometry.mainLength = 2 * definition.radius;
 }
 
 void enclose(TrackGeometry& geometry) {
@@ -177,7 +241,7 @@ double trackGauge(TrackSystem system) {
 TrackGeometry deriveTrackGeometry(const PieceDef& definition) {
   TrackGeometry geometry;
   geometry.halfWidth = trackHalfWidth(definition.system);
-  const double gauge = geometry.gauge = trackGauge(definition.system);
+  geometry.gauge = trackGauge(definition.system);
   if (definition.kind == PieceKind::Turntable) {
     drawTurntable(geometry, definition);
     enclose(geometry);
@@ -187,24 +251,64 @@ TrackGeometry deriveTrackGeometry(const PieceDef& definition) {
     const std::vector<RoutePoint> line = sampleRoute(route, kDrawTolerance);
     if (line.size() < 2)
       continue;
-    if (geometry.centreLines.empty()) {
+    if (geometry.beds.empty()) {
       const RoutePoint middle = middleOf(line);
       geometry.labelSpot = middle.position;
       geometry.labelHeading = middle.heading;
       geometry.mainLength = line.back().along;
     }
-    geometry.centreLines.push_back(parallel(line, 0));
     const auto* arc =
         route.segments.size() == 1 ? std::get_if<ArcSegment>(&route.segments.front()) : nullptr;
     geometry.beds.push_back(definition.kind == PieceKind::Curve && arc != nullptr
                                 ? curvedBed(*arc, geometry.halfWidth)
                                 : bed(line, geometry.halfWidth));
-    geometry.rails.push_back(parallel(line, gauge / 2));
-    geometry.rails.push_back(parallel(line, -gauge / 2));
-    addSleepers(geometry.sleepers, route, gauge);
+    addSleepers(geometry.sleepers, route, geometry.gauge);
   }
   enclose(geometry);
   return geometry;
+}
+
+TrackLines deriveTrackLines(const PieceDef& definition, double tolerance) {
+  if (definition.kind == PieceKind::Turntable)
+    return turntableLines(definition);
+  TrackLines lines;
+  const double halfWidth = trackHalfWidth(definition.system);
+  const double gauge = trackGauge(definition.system);
+  const TrackGeometry geometry = deriveTrackGeometry(definition);
+  std::size_t own = 0;
+  for (const Route& route : deriveRoutes(definition)) {
+    const std::vector<RoutePoint> line = sampleRoute(route, tolerance);
+    if (line.size() < 2)
+      continue;
+    lines.centreLines.push_back(parallel(line, 0));
+    lines.rails.push_back(parallel(line, gauge / 2));
+    lines.rails.push_back(parallel(line, -gauge / 2));
+    const auto covered = [&](Point p) {
+      for (std::size_t i = 0; i < geometry.beds.size(); ++i)
+        if (i != own && inside(geometry.beds[i], p))
+          return true;
+      return false;
+    };
+    for (const double side : {halfWidth, -halfWidth})
+      addEdge(lines, line, side, covered);
+    for (const RoutePoint& end : {line.front(), line.back()})
+      for (const double side : {halfWidth, -halfWidth})
+        lines.ends.push_back(beside(end, side));
+    ++own;
+  }
+  return lines;
+}
+
+const TrackLines& trackLinesOf(const PieceDef& definition, double tolerance) {
+  constexpr double kFinest = 1.0 / 128;
+  constexpr int kGrades = 10; // each twice as coarse as the one before
+  static std::unordered_map<const PieceDef*, std::array<std::optional<TrackLines>, kGrades>> known;
+  const int grade =
+      std::clamp(static_cast<int>(std::floor(std::log2(tolerance / kFinest))), 0, kGrades - 1);
+  std::optional<TrackLines>& lines = known[&definition][static_cast<std::size_t>(grade)];
+  if (!lines)
+    lines = deriveTrackLines(definition, std::ldexp(kFinest, grade));
+  return *lines;
 }
 
 const TrackGeometry& trackGeometryOf(const PieceDef& definition) {

@@ -18,9 +18,7 @@ double trackGauge(TrackSystem system);
 /// Lengths in mm in the piece's frame.
 struct TrackGeometry {
   std::vector<std::vector<Point>>
-      beds; ///< closed outlines, one for each route, the pit of a turntable
-  std::vector<std::vector<Point>> centreLines; ///< lines for a view from afar
-  std::vector<std::vector<Point>> rails;
+      beds;                    ///< closed outlines, one for each route, the pit of a turntable
   std::vector<Point> sleepers; ///< pairs of ends
   double halfWidth = 0;
   double gauge = 0;
@@ -32,6 +30,21 @@ struct TrackGeometry {
 };
 
 TrackGeometry deriveTrackGeometry(const PieceDef& definition);
+
+/// The lines of a piece of track in its frame, mm.
+struct TrackLines {
+  std::vector<std::vector<Point>> centreLines; ///< for a view from afar
+  std::vector<std::vector<Point>> rails;
+  std::vector<std::vector<Point>> edges; ///< sides of the beds, where no other bed covers them
+  std::vector<Point> ends;               ///< pairs: across the beds where pieces meet
+};
+
+/// Chords stay within `tolerance` mm of the curves.
+TrackLines deriveTrackLines(const PieceDef& definition, double tolerance);
+
+/// The lines of a catalogue definition, good enough for `tolerance` mm and kept for the life of the
+/// process, in few grades of fineness.
+const TrackLines& trackLinesOf(const PieceDef& definition, double tolerance);
 
 /// The geometry of a catalogue definition, kept for the life of the process.
 const TrackGeometry& trackGeometryOf(const PieceDef& definition);

@@ -23,6 +23,8 @@ class GcSurface : public Surface {
   void polyline(std::span<const Point> points, const Stroke& stroke) override;
   void polygon(std::span<const Point> points, std::optional<Rgba> fill,
                std::optional<Stroke> outline) override;
+  void polylines(const PointRuns& lines, const Stroke& stroke) override;
+  void polygons(const PointRuns& outlines, Rgba fill) override;
   void segments(std::span<const Point> ends, const Stroke& stroke) override;
   void circle(Point centre, double radius, std::optional<Rgba> fill,
               std::optional<Stroke> outline) override;

@@ -95,7 +95,7 @@ void drawPiece(Surface& surface, const PictureRoom& room, const PieceDef& piece,
   const ViewTransform view =
       broken ? ViewTransform::ofScale(scale, {room.middle.x - room.size.width / 2, room.middle.y})
              : centred(box, room, scale);
-  PiecePainter(surface, view).paint(geometry, {}, lookOf(piece));
+  PiecePainter(surface, view).paint(piece, {}, lookOf(piece));
   if (broken) {
     breakOff(surface, room, over);
   }
@@ -128,7 +128,7 @@ void drawBlock(Surface& surface, const PictureRoom& room, const Block& block) {
   PiecePainter painter(surface, view);
   for (const PlacedPiece& piece : block.content.pieces) {
     if (const PieceDef* definition = definitionOf(piece)) {
-      painter.paint(trackGeometryOf(*definition), poseOf(piece), lookOf(*definition));
+      painter.paint(*definition, poseOf(piece), lookOf(*definition));
     }
   }
 }

@@ -1,3 +1,4 @@
+#include "catalog/track_catalog.h"
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/canvas/occupancy.h"
@@ -37,14 +38,15 @@ TEST(LayoutPainter, EveryRouteHasItsRailsFromNearAndOneLineFromAfar) {
   const Layout plan = turnoutWithCurve(); // two routes and one
   struct Case {
     double zoom;
-    std::size_t rails, sleepers, farLines;
+    std::size_t rails, farLines;
+    bool sleepers;
   };
-  for (const Case& c :
-       {Case{0.05, 0, 0, 3}, Case{0.4, 6, 0, 0}, Case{1.5, 6, 2, 0}, Case{3, 6, 2, 0}}) {
+  for (const Case& c : {Case{0.05, 0, 3, false}, Case{0.4, 6, 0, false}, Case{1.5, 6, 0, true},
+                        Case{3, 6, 0, true}}) {
     const RecordingSurface picture = drawn(plan, c.zoom, {300, 300});
     EXPECT_EQ(picture.linesIn(plan_colors::kRail), c.rails) << c.zoom;
     EXPECT_EQ(picture.linesIn(plan_colors::kFarTrack), c.farLines) << c.zoom;
-    EXPECT_EQ(picture.hatches.size(), c.sleepers) << c.zoom;
+    EXPECT_EQ(picture.linesIn(plan_colors::kSleeper) > 0, c.sleepers) << c.zoom;
   }
 }
 
@@ -83,11 +85,41 @@ TEST(LayoutPainter, SwitchesLevelsAndTheWindowDecideWhatIsDrawn) {
   Layout tunnelled = plan;
   tunnelled.edit().tunnels.push_back({9, -1, -1, -1, -1, {2}});
   const RecordingSurface covered = drawn(tunnelled, 1.5, {300, 300});
-  EXPECT_EQ(
-      std::count_if(covered.lines.begin(), covered.lines.end(),
-                    [](const auto& line) { return line.stroke.style == Stroke::Style::Dashed; }),
-      2)
+  EXPECT_EQ(std::count_if(covered.lines.begin(), covered.lines.end(),
+                          [](const auto& line) {
+                            return line.stroke.style == Stroke::Style::Dashed &&
+                                   line.stroke.color == plan_colors::kRail;
+                          }),
+            2)
       << "both rails of the covered curve";
+}
+
+TEST(LayoutPainter, CurvesAreAsRoundAsThePictureCanShow) {
+  constexpr double kRadius = 437.5;
+  Plan plan = Plan().place("24230", {0, 0, 0});
+  plan.layout.clearSelection();
+  const PieceDef& curve = *TrackCatalog::instance().find("24230");
+  const double side = curve.angle < 0 ? -1 : 1;
+  for (const double zoom : {0.4, 1.0, 4.0}) {
+    const RecordingSurface picture = drawn(plan.layout, zoom);
+    std::size_t arcs = 0;
+    for (const auto& line : picture.lines) {
+      const bool edge = line.stroke.color == plan_colors::kBedEdge && line.points.size() > 2;
+      if (!edge && line.stroke.color != plan_colors::kRail)
+        continue;
+      ++arcs;
+      const Point centre{400, 300 + side * kRadius * zoom};
+      const auto radius = [&](Point p) { return std::hypot(p.x - centre.x, p.y - centre.y); };
+      const double first = radius(line.points.front());
+      for (std::size_t i = 0; i + 1 < line.points.size(); ++i) {
+        const Point a = line.points[i];
+        const Point b = line.points[i + 1];
+        EXPECT_NEAR(radius(a), first, 0.01);
+        EXPECT_NEAR(radius({(a.x + b.x) / 2, (a.y + b.y) / 2}), first, 0.2) << zoom;
+      }
+    }
+    EXPECT_EQ(arcs, 4u) << zoom;
+  }
 }
 
 TEST(LayoutPainter, APieceOfAnUnknownArticleIsShownWithItsNumber) {
