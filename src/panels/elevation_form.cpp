@@ -391,9 +391,9 @@ std::string ElevationForm::summary() const {
   std::string text = trCount("%1% piece gets another height.", "%1% pieces get another height.",
                              plan_.pieces.size());
   if (steepest != 0)
-    text += " " + tr("Steepest: %1% %%.", {percentText(std::abs(steepest))});
+    text.append(" ").append(tr("Steepest: %1% %%.", {percentText(std::abs(steepest))}));
   if (steepest != 0 && felt > std::abs(steepest) + 0.0005)
-    text += " " + tr("In its curves a train feels up to %1% %%.", {percentText(felt)});
+    text.append(" ").append(tr("In its curves a train feels up to %1% %%.", {percentText(felt)}));
   return text;
 }
 
