@@ -420,8 +420,13 @@ void Canvas::paintPlan(Surface& surface) {
 }
 
 void Canvas::paintOverlay(Surface& surface) {
-  if (const PlanPreview* preview = site_->workspace.preview())
-    CarriedPainter(surface, site_->view, site_->layout(), true).paint(preview->records());
+  if (const PlanPreview* preview = site_->workspace.preview()) {
+    CarriedPainter painter(surface, site_->view, site_->layout(), true);
+    if (preview->inGradeColors())
+      painter.paintGrades(preview->records());
+    else
+      painter.paint(preview->records());
+  }
   if (!carry_)
     offer_->paint(surface);
   tool().paint(surface);

@@ -1,6 +1,8 @@
 #include "editing/canvas/carried_painter.h"
 
 #include "document/record_kinds.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/elevation/end_heights.h"
 
 namespace trassix {
 
@@ -15,6 +17,16 @@ void CarriedPainter::paint(const PlanContent& records, const RigidMotion& motion
     for (const auto& record : kind)
       paintOne(record, motion);
   });
+}
+
+void CarriedPainter::paintGrades(const PlanContent& records) {
+  CarriedLook look = look_;
+  for (const PlacedPiece& piece : records.pieces) {
+    const Rgba color = plan_colors::gradeColor(gradeBand(slopeOf(piece)));
+    look.track.accent = color;
+    look.track.bed = {color.r, color.g, color.b, 90};
+    paintCarried(site_, piece, look);
+  }
 }
 
 void CarriedPainter::paintSelection(const RigidMotion& motion) {

@@ -14,6 +14,8 @@ class CarriedPainter {
 
   /// The records where the motion brings them.
   void paint(const PlanContent& records, const RigidMotion& motion = {});
+  /// Track in the colours of its grades.
+  void paintGrades(const PlanContent& records);
   /// What is selected on the plan, likewise.
   void paintSelection(const RigidMotion& motion);
 

@@ -3,6 +3,7 @@
 
 #include "catalog/scenery_catalog.h"
 #include "editing/canvas/surface.h"
+#include "editing/elevation/grades.h"
 
 #include <array>
 #include <cstdint>
@@ -38,6 +39,13 @@ inline constexpr Rgba kLabel{24, 30, 40};
 inline constexpr Rgba kMeasure{170, 40, 110};
 inline constexpr Rgba kFarArticle{132, 136, 144}; ///< of other levels than the active one
 inline constexpr Rgba kTunnel{112, 104, 96};
+
+/// From easy to too steep, as `GradeBand` counts.
+inline constexpr std::array<Rgba, 4> kGradeBands{
+    {{34, 146, 70}, {214, 138, 0}, {206, 42, 34}, {150, 12, 60}}};
+inline constexpr Rgba gradeColor(GradeBand band) {
+  return kGradeBands[static_cast<std::size_t>(band)];
+}
 
 /// By category, in its order.
 inline constexpr std::array<Rgba, kSceneryCategoryCount> kSceneryByCategory{{{178, 108, 80},
