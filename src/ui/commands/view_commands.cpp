@@ -4,6 +4,7 @@
 #include "ui/commands/command.h"
 #include "ui/commands/command_rules.h"
 #include "ui/commands/desk.h"
+#include "ui/docks/profile_panel.h"
 
 #include <wx/intl.h>
 
@@ -71,6 +72,10 @@ const Command kCommands[] = {
      .menuHelp = wxTRANSLATE("Show what is selected as large as it goes"),
      .menu = Command::Menu::View, .hand = Hand::Keeps, .unusable = nothingSelected,
      .run = [](Desk& desk) { desk.canvasPanel.canvas().fitSelection(); }},
+    {.id = kHeightProfile, .menuText = wxTRANSLATE("&Height Profile\tCtrl+Shift+H"),
+     .menuHelp = wxTRANSLATE("The heights along the way through the selected track, to be changed by hand"),
+     .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
+     .panel = &kProfilePanel},
     {.id = kView3D, .toolLabel = wxTRANSLATE("3D View")},
 };
 // clang-format on
