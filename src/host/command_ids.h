@@ -44,6 +44,7 @@ enum CommandId : int {
   kShowPalette = 2041,
   kShowProperties = 2042,
   kOpenSample = 2043,
+  kHeightProfile = 2044,
   kCut = 2060,
   kCopy = 2061,
   kPaste = 2062,

@@ -2,6 +2,7 @@
 
 #include "document/plan_changes.h"
 #include "document/record_kinds.h"
+#include "editing/elevation/propagation.h"
 #include "host/workspace.h"
 
 #include <algorithm>
@@ -56,6 +57,17 @@ void PlanPreview::show(PlanContent records) {
 
 void PlanPreview::showNothing() {
   show({});
+}
+
+void PlanPreview::showHeights(const HeightPlan& plan) {
+  PlanContent shown;
+  for (const PieceHeight& height : plan.pieces)
+    if (const PlacedPiece* piece = workspace_.layout().findPiece(height.piece)) {
+      shown.pieces.push_back(*piece);
+      lay(shown.pieces.back(), height);
+    }
+  inGradeColors_ = true;
+  show(std::move(shown));
 }
 
 void PlanPreview::showEdit(const std::function<void(Layout&)>& edit) {

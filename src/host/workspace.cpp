@@ -2,6 +2,8 @@
 
 #include "document/open_plan.h"
 
+#include <utility>
+
 namespace trassix {
 
 PlanObserver::PlanObserver(Workspace& workspace) : workspace_(workspace) {
@@ -79,6 +81,11 @@ void Workspace::repaint() {
 
 void Workspace::show(const Box& part, bool inTheMiddle) {
   tell(&PlanObserver::shown, part, inTheMiddle);
+}
+
+void Workspace::point(std::int32_t piece) {
+  if (std::exchange(pointed_, piece) != piece)
+    tell(&PlanObserver::pointedChanged);
 }
 
 void Workspace::setHint(const std::string& hint) {

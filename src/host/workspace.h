@@ -38,6 +38,8 @@ class PlanObserver {
   virtual void pictureChanged() {}
   /// A part of the plan (mm) is to be seen.
   virtual void shown(const Box& /*part*/, bool /*inTheMiddle*/) {}
+  /// Another piece is pointed at, or none.
+  virtual void pointedChanged() {}
   /// What the mouse and keys do now.
   virtual void hintChanged(const std::string& /*hint*/) {}
   /// Also when the plan moved below the pointer.
@@ -79,6 +81,9 @@ class Workspace {
   /// Brings a part of the plan (mm) into view; one that is in view stays where it is, unless it has
   /// to be in the middle.
   void show(const Box& part, bool inTheMiddle = false);
+  /// The mouse is over a piece (id, -1 for none), in whatever picture of the plan.
+  void point(std::int32_t piece);
+  std::int32_t pointed() const { return pointed_; }
   void setHint(const std::string& hint);
   void setPointer(Point world);
 
@@ -93,6 +98,7 @@ class Workspace {
   Clipboard& clipboard_;
   EditorSwitches switches_;
   const PlanPreview* preview_ = nullptr;
+  std::int32_t pointed_ = -1;
   std::vector<PlanObserver*> observers_;
 };
 

@@ -426,18 +426,20 @@ void Canvas::paintPlan(Surface& surface) {
 
 void Canvas::paintOverlay(Surface& surface) {
   if (const PlanPreview* preview = site_->workspace.preview())
-    paintPreview(surface, preview->records());
+    paintPreview(surface, *preview);
   if (!carry_)
     offer_->paint(surface);
   tool().paint(surface);
 }
 
-void Canvas::paintPreview(Surface& surface, const PlanContent& records) {
-  CarriedPainter(surface, site_->view, site_->layout(), true).paint(records);
-  if (!site_->workspace.switches().grades)
-    return;
+void Canvas::paintPreview(Surface& surface, const PlanPreview& preview) {
+  if (!preview.inGradeColors()) {
+    CarriedPainter(surface, site_->view, site_->layout(), true).paint(preview.records());
+    if (!site_->workspace.switches().grades)
+      return;
+  }
   std::vector<GradePainter::Track> track;
-  for (const PlacedPiece& piece : records.pieces)
+  for (const PlacedPiece& piece : preview.records().pieces)
     if (const PieceDef* definition = definitionOf(piece))
       track.push_back({&piece, definition});
   GradePainter(surface, site_->size, site_->view, site_->layout()).paintColors(std::move(track));

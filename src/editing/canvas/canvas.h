@@ -17,12 +17,12 @@ namespace trassix {
 class CanvasTool;
 class CarryTool;
 class PlacingOffer;
+class PlanPreview;
 class ToolSite;
 class Workspace;
 struct Carried;
 struct Offer;
 struct PaintOptions;
-struct PlanContent;
 
 /// The plan as the user handles it, without a window: the view, panning, zooming, and one active
 /// tool to which everything else goes. The window feeds it plain input and paints what it draws.
@@ -105,7 +105,7 @@ class Canvas {
   void afterInput();
   void pointAt(const PointerInput& input);
   void viewChanged();
-  void paintPreview(Surface& surface, const PlanContent& records);
+  void paintPreview(Surface& surface, const PlanPreview& preview);
   /// Tools move the view as well.
   void followView();
   PaintOptions paintOptions() const;

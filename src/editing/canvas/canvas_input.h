@@ -28,6 +28,12 @@ enum class Key : std::uint8_t {
   R,
   F,
   Tab,
+  Home,
+  End,
+  PageUp,
+  PageDown,
+  Delete,
+  Space,
   Copy,
   Cut,
   Paste,
@@ -37,8 +43,9 @@ enum class Key : std::uint8_t {
 struct KeyInput {
   Key key = Key::Other;
   bool shift = false;
+  bool ctrl = false;
 };
 
-enum class CursorShape : std::uint8_t { Arrow, Cross, Hand, Move, Rotate };
+enum class CursorShape : std::uint8_t { Arrow, Cross, Hand, Move, Rotate, UpDown };
 
 } // namespace trassix

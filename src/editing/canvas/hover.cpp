@@ -13,12 +13,25 @@ std::string nameOf(const Layout& layout, const Pick& pick) {
   return name;
 }
 
-void paintHover(Surface& surface, const ToolSite& site, const Pick& pick) {
-  constexpr Rgba kTint{32, 108, 214, 28};
+namespace {
+
+void paintOutlines(Surface& surface, const ToolSite& site, const Pick& pick, Rgba tint,
+                   const Stroke& edge) {
   withRecord(site.layout(), pick, [&](const auto& record) {
     for (const Polygon& outline : outlinesOf(site.layout(), record, site.mm(1)))
-      surface.polygon(site.view.toScreen(outline), kTint, Stroke{plan_colors::kHover, 1.5});
+      surface.polygon(site.view.toScreen(outline), tint, edge);
   });
+}
+
+} // namespace
+
+void paintHover(Surface& surface, const ToolSite& site, const Pick& pick) {
+  paintOutlines(surface, site, pick, {32, 108, 214, 28}, {plan_colors::kHover, 1.5});
+}
+
+void paintPointed(Surface& surface, const ToolSite& site, std::int32_t piece) {
+  paintOutlines(surface, site, {RecordKind::Piece, piece}, {32, 108, 214, 90},
+                {plan_colors::kSelected, 3});
 }
 
 } // namespace trassix

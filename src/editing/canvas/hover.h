@@ -14,4 +14,7 @@ std::string nameOf(const Layout& layout, const Pick& pick);
 /// Marks what a click would select.
 void paintHover(Surface& surface, const ToolSite& site, const Pick& pick);
 
+/// Marks a piece that the pointer is over in another picture; it has to be found first.
+void paintPointed(Surface& surface, const ToolSite& site, std::int32_t piece);
+
 } // namespace trassix

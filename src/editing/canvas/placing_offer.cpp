@@ -46,8 +46,7 @@ void PlacingOffer::paint(Surface& surface) const {
   PieceLook look = carriedLook(true);
   look.bed.a = 110;
   look.accent->a = 150;
-  PiecePainter(surface, site_.view)
-      .paint(definition, AttachPose(definition, at->own, *end), look);
+  PiecePainter(surface, site_.view).paint(definition, AttachPose(definition, at->own, *end), look);
 }
 
 std::string PlacingOffer::hint() const {

@@ -40,6 +40,16 @@ inline constexpr Rgba kMeasure{170, 40, 110};
 inline constexpr Rgba kFarArticle{132, 136, 144}; ///< of other levels than the active one
 inline constexpr Rgba kTunnel{112, 104, 96};
 
+/// Of track by how steep it is, as `GradeBand` counts.
+inline constexpr std::array<Rgba, 4> kGradeBands{
+    {{34, 146, 70}, {214, 138, 0}, {206, 42, 34}, {150, 12, 60}}};
+inline constexpr Rgba gradeColor(GradeBand band) {
+  return kGradeBands[static_cast<std::size_t>(band)];
+}
+inline Rgba gradeColor(double slope) {
+  return gradeColor(gradeBand(slope));
+}
+
 /// By category, in its order.
 inline constexpr std::array<Rgba, kSceneryCategoryCount> kSceneryByCategory{{{178, 108, 80},
                                                                              {140, 140, 148},
@@ -52,13 +62,6 @@ inline constexpr std::array<Rgba, kSceneryCategoryCount> kSceneryByCategory{{{17
                                                                              {138, 168, 92},
                                                                              {150, 140, 124},
                                                                              {178, 108, 80}}};
-
-/// Of track by how steep it is, as `GradeBand` counts.
-inline constexpr std::array<Rgba, 4> kGradeBands{
-    {{34, 146, 70}, {214, 138, 0}, {206, 42, 34}, {150, 12, 60}}};
-inline Rgba gradeColor(double slope) {
-  return kGradeBands[static_cast<std::size_t>(gradeBand(slope))];
-}
 
 /// Null for an item that the catalogue does not know.
 inline Rgba sceneryColor(const SceneryDef* definition) {

@@ -71,10 +71,12 @@ void SelectTool::hover(const PointerInput& input) {
   std::vector<Pick> picks = picksAt(input.world);
   const std::optional<TrackEnd> end =
       openEndNear(site_.layout(), site_.planIndex(), input.world, site_.mm(1));
-  if (picks == under_ && end == pointed_)
-    return;
+  const bool same = picks == under_ && end == pointed_;
   under_ = std::move(picks);
   pointed_ = end;
+  tellPointed();
+  if (same)
+    return;
   site_.workspace.repaint();
 }
 
@@ -293,9 +295,15 @@ bool SelectTool::key(const KeyInput& input) {
   }
 }
 
+void SelectTool::tellPointed() {
+  const Pick* pick = hovered();
+  site_.workspace.point(pick && pick->kind == RecordKind::Piece ? pick->id : -1);
+}
+
 void SelectTool::cancel() {
   gesture_.reset();
   under_.clear();
+  tellPointed();
   pointed_.reset();
   corners_.leave();
 }
@@ -305,6 +313,7 @@ void SelectTool::leave() {
     return;
   under_.clear();
   pointed_.reset();
+  tellPointed();
   site_.workspace.repaint();
 }
 
@@ -330,6 +339,8 @@ void SelectTool::paint(Surface& surface) const {
     corners_.paint(surface);
   if (const Pick* pick = hovered(); pick && !pointed_ && !isSelected(site_.layout(), *pick))
     paintHover(surface, site_, *pick);
+  if (!hovered())
+    paintPointed(surface, site_, site_.workspace.pointed());
   const std::optional<TrackEnd> chosen = site_.choice.end(site_.layout());
   if (chosen)
     paintEnd(surface, site_, *chosen, true);

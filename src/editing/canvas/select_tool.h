@@ -36,6 +36,8 @@ class SelectTool : public CanvasTool {
   std::vector<Pick> picksAt(Point world);
   CornerEditor& corners();
   bool anySelected(const std::vector<Pick>& picks) const;
+  /// Other pictures mark what is under the pointer here.
+  void tellPointed();
   void click(const PointerInput& input);
   void select(const Pick& pick);
   void startGesture(const PointerInput& input);

@@ -318,10 +318,14 @@ HeightPlan planHeights(const Layout& layout, std::span<const PieceHeight> wanted
   }
 }
 
-ChangeResult applyHeights(Layout& layout, const HeightPlan& plan) {
+ChangeResult applyHeights(Layout& layout, const HeightPlan& plan, bool continued) {
   if (plan.refusal)
     return *plan.refusal;
-  UndoScope step(layout);
+  if (plan.pieces.empty() && !plan.run)
+    return false;
+  std::optional<UndoScope> step;
+  if (!continued)
+    step.emplace(layout);
   std::vector<std::int32_t> changed;
   std::vector<std::int32_t> open; // most track has no end that could meet another
   for (const PieceHeight& height : plan.pieces) {
@@ -341,7 +345,7 @@ ChangeResult applyHeights(Layout& layout, const HeightPlan& plan) {
   if (plan.run)
     layout.startGradeRun(plan.run->anchor, plan.run->conn, plan.run->deg);
   dropStaleRuns(layout, changed);
-  return step.keep();
+  return continued || step->keep();
 }
 
 SteepPiece steepestOf(const Layout& layout, const HeightPlan& plan) {

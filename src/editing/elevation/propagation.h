@@ -47,8 +47,9 @@ HeightPlan planHeights(const Layout& layout, std::span<const PieceHeight> wanted
                        LoopRule rule = LoopRule::Refuse);
 
 /// Does it as one undo step; ends that come to lie on others are joined, and runs end whose anchor
-/// has no longer their grade. Nothing changes when the plan is refused or all is as it was.
-ChangeResult applyHeights(Layout& layout, const HeightPlan& plan);
+/// has no longer their grade. Nothing changes when the plan is refused or all is as it was. With
+/// `continued` it belongs to the step before it and pushes no history of its own.
+ChangeResult applyHeights(Layout& layout, const HeightPlan& plan, bool continued = false);
 
 /// Where an end is on the plan; the piece's own place when it has no such end.
 Point placeOf(const PlacedPiece& piece, std::int32_t connector);

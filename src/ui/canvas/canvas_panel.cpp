@@ -5,6 +5,7 @@
 #include "host/command_ids.h"
 #include "ui/canvas/gc_surface.h"
 #include "ui/canvas/level_switcher.h"
+#include "ui/canvas/toolkit_input.h"
 #include "ui/canvas/welcome.h"
 
 #include <wx/dcbuffer.h>
@@ -24,22 +25,6 @@ constexpr Point kPickUpPoint{300, 200};
 constexpr int kEdgeRestMs = 300;
 constexpr int kEdgeScrollMs = 30;
 
-wxStockCursor stockCursor(CursorShape shape) {
-  switch (shape) {
-  case CursorShape::Cross:
-    return wxCURSOR_CROSS;
-  case CursorShape::Hand:
-    return wxCURSOR_HAND;
-  case CursorShape::Move:
-    return wxCURSOR_SIZING;
-  case CursorShape::Rotate:
-    return wxCURSOR_SIZENWSE;
-  case CursorShape::Arrow:
-    break;
-  }
-  return wxCURSOR_ARROW;
-}
-
 Key keyOf(const wxKeyEvent& event) {
   if (event.ControlDown()) {
     switch (event.GetKeyCode()) {
@@ -55,35 +40,7 @@ Key keyOf(const wxKeyEvent& event) {
       return Key::Other;
     }
   }
-  switch (event.GetKeyCode()) {
-  case WXK_ESCAPE:
-    return Key::Escape;
-  case WXK_RETURN:
-  case WXK_NUMPAD_ENTER:
-    return Key::Enter;
-  case WXK_BACK:
-    return Key::Backspace;
-  case WXK_LEFT:
-  case WXK_NUMPAD_LEFT:
-    return Key::Left;
-  case WXK_RIGHT:
-  case WXK_NUMPAD_RIGHT:
-    return Key::Right;
-  case WXK_UP:
-  case WXK_NUMPAD_UP:
-    return Key::Up;
-  case WXK_DOWN:
-  case WXK_NUMPAD_DOWN:
-    return Key::Down;
-  case 'R':
-    return Key::R;
-  case 'F':
-    return Key::F;
-  case WXK_TAB:
-    return Key::Tab;
-  default:
-    return Key::Other;
-  }
+  return plainKey(event.GetKeyCode());
 }
 
 } // namespace

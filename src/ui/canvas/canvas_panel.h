@@ -40,6 +40,7 @@ class CanvasPanel : public wxPanel, private PlanObserver {
   void unitsChanged() override { update(); }
   void switchesChanged() override;
   void pictureChanged() override { update(); }
+  void pointedChanged() override { Refresh(false); }
   void shown(const Box& part, bool inTheMiddle) override { canvas_.show(part, inTheMiddle); }
 
   PointerInput inputOf(const wxMouseEvent& event) const;

@@ -4,6 +4,7 @@
 #include "ui/commands/command.h"
 #include "ui/commands/command_rules.h"
 #include "ui/commands/desk.h"
+#include "ui/docks/profile_panel.h"
 #include "ui/widgets/remembered_grades.h"
 
 #include <wx/intl.h>
@@ -81,6 +82,10 @@ const Command kCommands[] = {
      .menuHelp = wxTRANSLATE("Grades in colours, heights, and clearances where track crosses track"),
      .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
      .checked = isOn<&EditorSwitches::grades>, .run = showGrades},
+    {.id = kHeightProfile, .menuText = wxTRANSLATE("&Height Profile\tCtrl+Shift+H"),
+     .menuHelp = wxTRANSLATE("The heights along the way through the selected track, to be changed by hand"),
+     .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
+     .panel = &kProfilePanel},
     {.id = kView3D, .toolLabel = wxTRANSLATE("3D View")},
 };
 // clang-format on

@@ -14,7 +14,7 @@ namespace trassix {
 
 namespace {
 
-constexpr int kSizes[] = {190, 260}; ///< px at normal resolution, by side
+constexpr int kSizes[] = {250, 260}; ///< px at normal resolution, by side
 constexpr int kMinSize = 100;
 
 bool hasFocus(const wxWindow& window) {
