@@ -13,6 +13,7 @@
 #include "editing/selection/picking.h"
 #include "ratio.h"
 #include "ui/canvas/gc_surface.h"
+#include "ui/canvas/plan_picture.h"
 
 #include <wx/app.h>
 #include <wx/bitmap.h>
@@ -226,12 +227,14 @@ void frameOfPart(benchmark::State& state) {
 }
 BENCHMARK(frameOfPart)->Name("frame/200of10000visible")->Iterations(1);
 
-/// A plan of 10,000 pieces, all in view, as the window shows it while the mouse moves.
+/// A plan as the window shows it while the mouse moves.
 class BusyWindow {
  public:
-  BusyWindow() : script(yard(kRows, kRows)) {
-    script.canvas.resize({kWidth, kHeight});
-    script.canvas.fit();
+  BusyWindow() : BusyWindow(yard(kRows, kRows), {kWidth, kHeight}) { script.canvas.fit(); }
+  BusyWindow(Layout plan, wxSize size, double contentScale = 1)
+      : script(std::move(plan)), shown_{size, contentScale, 1} {
+    script.canvas.resize({static_cast<double>(size.x), static_cast<double>(size.y)});
+    window_.CreateScaled(size.x, size.y, wxBITMAP_SCREEN_DEPTH, contentScale);
   }
 
   test::CanvasScript script;
@@ -246,18 +249,17 @@ class BusyWindow {
   }
 
   void paint() {
-    if (const std::uint64_t stamp = script.canvas.planStamp(); stamp_ != stamp) {
-      stamp_ = stamp;
-      drawOn(picture_, [this](wxGraphicsContext& context) {
-        GcSurface surface(context);
-        script.canvas.paintPlan(surface);
-      });
-    }
     wxMemoryDC window(window_);
-    window.DrawBitmap(picture_, 0, 0);
+    picture_.draw(window, shown_, false);
     const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(window));
-    GcSurface surface(*context);
+    GcSurface surface(*context, shown_.contentScale, &picture_.texts());
     script.canvas.paintOverlay(surface);
+  }
+
+  /// As if nothing of it had been kept.
+  void paintAll() {
+    picture_.forget();
+    paint();
   }
 
   /// The mouse goes about, so far that what hangs on it stays in view, and each move is painted.
@@ -283,7 +285,7 @@ class BusyWindow {
     const PlainDrawing plain(*part, script.canvas.view(), {kWidth, kHeight}, {});
     return timed([this, part, plain] {
       wxMemoryDC window(window_);
-      window.DrawBitmap(picture_, 0, 0);
+      picture_.draw(window, shown_, false);
       const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(window));
       plain.drawTrack(*context);
     });
@@ -292,10 +294,10 @@ class BusyWindow {
  private:
   static constexpr std::size_t kRows = 100;
 
-  std::optional<std::uint64_t> stamp_;
   int moves_ = 0;
-  wxBitmap picture_{kWidth, kHeight};
-  wxBitmap window_{kWidth, kHeight};
+  PlanPicture picture_{script.canvas};
+  PlanPicture::Window shown_;
+  wxBitmap window_;
 };
 
 void point(BusyWindow&, std::size_t) {}
@@ -327,6 +329,29 @@ BENCHMARK_CAPTURE(move, pointing, point)->Arg(0)->Iterations(1);
 BENCHMARK_CAPTURE(move, fromPalette, takeFromPalette)->Arg(1)->Iterations(1);
 BENCHMARK_CAPTURE(move, block, carryBlock)->Arg(500)->Iterations(1);
 BENCHMARK_CAPTURE(move, drag, drag)->Arg(1)->Arg(500)->Iterations(1);
+
+void pan(benchmark::State& state) {
+  BusyWindow window(yard(44, 46), {1378, 926}, static_cast<double>(state.range(0)));
+  window.script.canvas.fit();
+  window.paint();
+  int step = 0;
+  const auto panned = [&] {
+    // There and back on both axes, so that every piece stays near.
+    const double by = step++ % 2 == 0 ? 60 : -60;
+    ViewTransform& view = window.script.canvas.view();
+    view.panTo({view.origin().x + by, view.origin().y + by});
+    window.paint();
+  };
+  compare(state, 0.10, "the whole picture", timed(panned), timed([&] { window.paintAll(); }));
+}
+BENCHMARK(pan)->Arg(1)->Arg(2)->Iterations(1);
+
+void dragOfFiveHundred(benchmark::State& state) {
+  BusyWindow window;
+  drag(window, 500);
+  compare(state, 0.2, "the whole picture", window.moves(), timed([&] { window.paintAll(); }));
+}
+BENCHMARK(dragOfFiveHundred)->Name("drag/500of10000")->Iterations(1);
 
 } // namespace
 

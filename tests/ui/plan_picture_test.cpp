@@ -1,8 +1,11 @@
 // Pictures of a plan as the toolkit draws it, against pictures that somebody has looked at.
 #include "document/layout_reader.h"
+#include "editing/canvas/canvas_script.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/selection/picking.h"
 #include "ui/canvas/gc_surface.h"
+#include "ui/canvas/plan_picture.h"
 #include "ui_test.h"
 
 #include <wx/dcmemory.h>
@@ -12,6 +15,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <memory>
+#include <tuple>
 
 namespace trassix::test {
 namespace {
@@ -42,6 +46,9 @@ class PictureSurface : public GcSurface {
       rails.push_back(a);
     }
     GcSurface::polyline(points, stroke);
+  }
+  void polylines(const PointRuns& lines, const Stroke& stroke) override {
+    Surface::polylines(lines, stroke);
   }
   void text(std::string_view text, Point centre, double degrees, const TextStyle& style) override {
     const SizePx size = textSize(text, style);
@@ -129,6 +136,42 @@ TEST_F(PlanPicture, IsAsItWasAtThreeZooms) {
           << "a missing rail at " << rail.x << ", " << rail.y << " is seen";
     EXPECT_LE(differences(drawn, draw(view, [](PictureSurface& s) { s.textShift = 1; })), kAllowed)
         << "texts may shift";
+  }
+}
+
+wxImage shown(trassix::PlanPicture& picture, double scale) {
+  wxBitmap bitmap;
+  bitmap.CreateScaled(kWidth, kHeight, 24, scale);
+  {
+    wxMemoryDC dc(bitmap);
+    picture.draw(dc, {{kWidth, kHeight}, scale, 1}, false);
+  }
+  return bitmap.ConvertToImage();
+}
+
+TEST_F(PlanPicture, MovesWithThePlanAsIfDrawnAnew) {
+  for (const double scale : {1.0, 2.0}) {
+    CanvasScript script(layout_);
+    script.canvas.resize({kWidth, kHeight});
+    script.canvas.view() = ViewTransform::ofScale(0.6, {-350, 40.25});
+    trassix::PlanPicture kept(script.canvas);
+    shown(kept, scale);
+    const std::int32_t inView = 20;
+    for (const auto& [dx, dy, selects] :
+         {std::tuple{7, -13, false}, {60, 60, true}, {-130, 31, true}, {0, -45, false}}) {
+      SCOPED_TRACE(dx);
+      setSelected(script.host.plan, {RecordKind::Piece, inView}, selects);
+      const Point origin = script.canvas.view().origin();
+      script.canvas.view().panTo({origin.x + dx, origin.y + dy});
+      trassix::PlanPicture fresh(script.canvas);
+      const wxImage moved = shown(kept, scale);
+      const wxImage anew = shown(fresh, scale);
+      const auto bytes = static_cast<std::size_t>(moved.GetWidth() * moved.GetHeight() * 3);
+      int different = 0;
+      for (std::size_t i = 0; i < bytes; ++i)
+        different += std::abs(moved.GetData()[i] - anew.GetData()[i]) > 8 ? 1 : 0;
+      EXPECT_LE(different, 3 * kAllowed);
+    }
   }
 }
 

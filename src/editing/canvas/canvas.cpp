@@ -1,6 +1,7 @@
 #include "editing/canvas/canvas.h"
 
 #include "document/plan_content.h"
+#include "editing/canvas/article_places.h"
 #include "editing/canvas/canvas_tools.h"
 #include "editing/canvas/carried_painter.h"
 #include "editing/canvas/carry_tool.h"
@@ -35,8 +36,8 @@ bool beyondThreshold(Point a, Point b) {
 } // namespace
 
 Canvas::Canvas(Workspace& workspace)
-    : site_(std::make_unique<ToolSite>(workspace)), offer_(std::make_unique<PlacingOffer>(*site_)),
-      base_(makeTool(ToolMode::Select, *site_)) {
+    : site_(std::make_unique<ToolSite>(workspace)), articles_(std::make_unique<ArticlePlaces>()),
+      offer_(std::make_unique<PlacingOffer>(*site_)), base_(makeTool(ToolMode::Select, *site_)) {
   site_->carry = [this](const Carried& what) { carry(what, last_, false); };
 }
 
@@ -406,7 +407,7 @@ void Canvas::resetViewForSmall() {
   viewChanged();
 }
 
-PaintOptions Canvas::paintOptions() const {
+PaintOptions Canvas::paintOptions(const Box& part) const {
   const EditorSwitches& switches = site_->workspace.switches();
   PaintOptions options;
   options.grid = switches.grid;
@@ -416,15 +417,27 @@ PaintOptions Canvas::paintOptions() const {
   if (switches.grades)
     options.crossings = site_->crossings();
   options.leftOut = tool().lifted();
+  options.scaleBar = false;
+  options.selection = switches.grades; // their colours hide any other mark
+  options.part = part;
+  options.articles = articles_.get();
   return options;
 }
 
-void Canvas::paintPlan(Surface& surface) {
-  LayoutPainter(surface, site_->size, site_->view, paintOptions())
+void Canvas::paintPlan(Surface& surface, const Box& part) {
+  LayoutPainter(surface, site_->size, site_->view, paintOptions(part))
       .paint(site_->layout(), site_->planIndex());
 }
 
+void Canvas::paintSelection(Surface& surface, const Box& part) {
+  if (!site_->workspace.switches().grades)
+    LayoutPainter(surface, site_->size, site_->view, paintOptions(part))
+        .paintSelection(site_->layout(), site_->planIndex());
+}
+
 void Canvas::paintOverlay(Surface& surface) {
+  LayoutPainter(surface, site_->size, site_->view, {})
+      .paintScaleBar(site_->layout().settings().units);
   if (const PlanPreview* preview = site_->workspace.preview())
     paintPreview(surface, *preview);
   if (!carry_)
@@ -445,21 +458,52 @@ void Canvas::paintPreview(Surface& surface, const PlanPreview& preview) {
   GradePainter(surface, site_->size, site_->view, site_->layout()).paintColors(std::move(track));
 }
 
-std::uint64_t Canvas::planStamp() {
-  std::uint64_t stamp = 1469598103934665603u; // FNV-1a over everything paintPlan depends on
-  const auto mix = [&stamp](std::uint64_t value) { stamp = (stamp ^ value) * 1099511628211u; };
+namespace {
+
+/// FNV-1a.
+class StampMixer {
+ public:
+  template <class... Values>
+  explicit StampMixer(Values... values) {
+    (add(values), ...);
+  }
+  void add(std::uint64_t value) { stamp_ = (stamp_ ^ value) * 1099511628211U; }
+  void add(double value) { add(std::bit_cast<std::uint64_t>(value)); }
+  std::uint64_t stamp() const { return stamp_; }
+
+ private:
+  std::uint64_t stamp_ = 14695981039346656037U;
+};
+
+} // namespace
+
+std::uint64_t Canvas::contentStamp() {
   const EditorSwitches& switches = site_->workspace.switches();
-  mix(site_->layout().revision());
-  mix(std::bit_cast<std::uint64_t>(site_->view.zoom()));
-  mix(std::bit_cast<std::uint64_t>(site_->view.origin().x));
-  mix(std::bit_cast<std::uint64_t>(site_->view.origin().y));
-  mix(std::bit_cast<std::uint64_t>(site_->size.width));
-  mix(std::bit_cast<std::uint64_t>(site_->size.height));
-  mix((switches.grid ? 1u : 0u) | (switches.labels ? 2u : 0u) | (switches.rails ? 4u : 0u) |
-      (switches.grades ? 8u : 0u));
+  const Layout& layout = site_->layout();
+  StampMixer mixer(layout.documentStamp(), site_->size.width, site_->size.height);
+  mixer.add(std::uint64_t{switches.grid} | std::uint64_t{switches.labels} << 1U |
+            std::uint64_t{switches.rails} << 2U | std::uint64_t{switches.grades} << 3U);
+  if (switches.grades)
+    mixer.add(layout.selectionStamp());
   for (const std::int32_t id : tool().lifted())
-    mix(static_cast<std::uint64_t>(id));
-  return stamp;
+    mixer.add(static_cast<std::uint64_t>(id));
+  return mixer.stamp();
+}
+
+std::uint64_t Canvas::planStamp() {
+  return StampMixer(contentStamp(), site_->view.zoom()).stamp();
+}
+
+std::uint64_t Canvas::selectionStamp() {
+  return StampMixer(planStamp(), site_->layout().selectionStamp()).stamp();
+}
+
+bool Canvas::anySelected() const {
+  return !site_->workspace.switches().grades && hasSelection(site_->layout());
+}
+
+bool Canvas::partsFit() const {
+  return !site_->workspace.switches().grades; // whose texts stand where there is room in view
 }
 
 std::string Canvas::hint() const {

@@ -3,6 +3,7 @@
 #include "editing/canvas/canvas_input.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
+#include "geometry/box.h"
 #include "host/editor_switches.h"
 
 #include <cstdint>
@@ -14,6 +15,7 @@
 
 namespace trassix {
 
+class ArticlePlaces;
 class CanvasTool;
 class CarryTool;
 class PlacingOffer;
@@ -86,11 +88,20 @@ class Canvas {
   void resetView();
   void resetViewForSmall();
 
-  /// The plan as such, and over it what changes with every mouse move.
-  void paintPlan(Surface& surface);
+  // From the bottom to the top: the plan as such, what is selected on it, and what changes with
+  // every mouse move. `part` is what of it has to be drawn, px.
+  void paintPlan(Surface& surface, const Box& part);
+  void paintSelection(Surface& surface, const Box& part);
   void paintOverlay(Surface& surface);
-  /// Stays the same as long as `paintPlan` would draw the same.
+  /// Stay the same as long as `paintPlan` would draw the same, and `paintSelection` on it, but for
+  /// the view's origin.
   std::uint64_t planStamp();
+  std::uint64_t selectionStamp();
+  bool anySelected() const;
+  /// The same but for the view altogether.
+  std::uint64_t contentStamp();
+  /// Whether parts drawn with the origin at several places make one picture.
+  bool partsFit() const;
 
   std::string hint() const;
   /// Tells the window the hint again, after something outside changed what the mouse would do.
@@ -108,7 +119,7 @@ class Canvas {
   void paintPreview(Surface& surface, const PlanPreview& preview);
   /// Tools move the view as well.
   void followView();
-  PaintOptions paintOptions() const;
+  PaintOptions paintOptions(const Box& part) const;
 
   /// Around everything that lets a tool work.
   class Input {
@@ -127,6 +138,7 @@ class Canvas {
   enum class Gesture : std::uint8_t { None, Pending, Drag, PanPending, Pan };
 
   std::unique_ptr<ToolSite> site_;
+  std::unique_ptr<ArticlePlaces> articles_;
   std::unique_ptr<PlacingOffer> offer_;
   ViewTransform told_; ///< the view for which the window knows the pointer's place
   std::unique_ptr<CanvasTool> base_;

@@ -2,6 +2,7 @@
 
 #include "catalog/scenery_catalog.h"
 #include "document/record_kinds.h"
+#include "editing/canvas/article_places.h"
 #include "editing/canvas/grade_painter.h"
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/occupancy.h"
@@ -25,13 +26,9 @@ namespace colors = plan_colors;
 namespace {
 
 constexpr double kGridFromPx = 9; ///< lines of the grid are at least this far apart
-constexpr double kArticleFromZoom = 0.22;
 
 constexpr double kStrokeReachPx = 4; ///< of the widest edge and its joins
-/// Where the article is tried beside the middle of a piece: side of the track, and px farther out.
-constexpr std::array<std::pair<double, double>, 6> kArticlePlaces{
-    {{-1, 0}, {1, 0}, {-1, 5}, {1, 5}, {-1, 11}, {1, 11}}};
-
+constexpr double kDotReachPx = 9;    ///< of the mark of an open end
 Rgba bedColor(const Layout& layout, const PlacedPiece& piece, const PieceDef& definition) {
   if (piece.hasColor)
     return opaque(piece.color);
@@ -57,19 +54,23 @@ struct LayoutPainter::Visible {
 
 LayoutPainter::LayoutPainter(Surface& surface, SizePx size, const ViewTransform& view,
                              const PaintOptions& options)
-    : surface_(surface), size_(size), view_(view), options_(options) {}
+    : surface_(surface), size_(size),
+      part_(options.part.value_or(Box{0, 0, size.width, size.height})), view_(view),
+      options_(options) {}
 
 void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
   if (options_.desk) {
-    const std::array<Point, 4> sheet{
-        {{0, 0}, {size_.width, 0}, {size_.width, size_.height}, {0, size_.height}}};
+    const std::array<Point, 4> sheet{{{part_.minX, part_.minY},
+                                      {part_.maxX, part_.minY},
+                                      {part_.maxX, part_.maxY},
+                                      {part_.minX, part_.maxY}}};
     surface_.polygon(sheet, layout.settings().baseboard.size() < 3 ? colors::kBoard : colors::kDesk,
                      {});
   }
   paintBoard(layout);
   if (options_.grid)
     paintGrid(layout.settings().units);
-  const PictureSite site{surface_, size_, view_, layout};
+  const PictureSite site{surface_, part_, view_, layout, options_.selection};
   forEachKind(layout.content(), [&](const auto& records) {
     constexpr RecordKind kind = std::remove_cvref_t<decltype(records)>::value_type::kKind;
     if constexpr (kind == RecordKind::Piece)
@@ -101,8 +102,7 @@ void LayoutPainter::paintBoard(const Layout& layout) {
 
 void LayoutPainter::paintGrid(std::int32_t units) {
   const GridSteps steps = gridSteps(view_.zoom(), units, kGridFromPx);
-  const Point low = view_.toWorld({0, 0});
-  const Point high = view_.toWorld({size_.width, size_.height});
+  const Box shown = shownBox(1);
   std::vector<Point> fine;
   std::vector<Point> coarse;
   const auto lines = [&](double from, double to, auto add) {
@@ -111,13 +111,13 @@ void LayoutPainter::paintGrid(std::int32_t units) {
       add(i % steps.major == 0 ? coarse : fine, static_cast<double>(i) * steps.fine);
   };
   // Half-pixel positions keep one-pixel lines crisp.
-  lines(low.x, high.x, [&](std::vector<Point>& to, double mm) {
+  lines(shown.minX, shown.maxX, [&](std::vector<Point>& to, double mm) {
     const double x = std::floor(view_.toScreen({mm, 0}).x) + 0.5;
-    to.insert(to.end(), {{x, 0}, {x, size_.height}});
+    to.insert(to.end(), {{x, part_.minY}, {x, part_.maxY}});
   });
-  lines(low.y, high.y, [&](std::vector<Point>& to, double mm) {
+  lines(shown.minY, shown.maxY, [&](std::vector<Point>& to, double mm) {
     const double y = std::floor(view_.toScreen({0, mm}).y) + 0.5;
-    to.insert(to.end(), {{0, y}, {size_.width, y}});
+    to.insert(to.end(), {{part_.minX, y}, {part_.maxX, y}});
   });
   surface_.segments(fine, {colors::kGridFine, 1});
   surface_.segments(coarse, {colors::kGridCoarse, 1});
@@ -153,27 +153,27 @@ std::vector<const SceneryItem*> LayoutPainter::visibleScenery(const Layout& layo
 
 void LayoutPainter::paintSceneryItem(const Layout& layout, const SceneryItem& item) {
   const std::vector<Point> px = view_.toScreen(sceneryOutline(layout, item));
-  if (PictureSite{surface_, size_, view_, layout}.isBeside(px, kStrokeReachPx))
+  if (PictureSite{surface_, part_, view_, layout}.isBeside(px, kStrokeReachPx))
     return;
   Rgba color = colors::sceneryColor(findScenery(item.item));
   if (isOtherLevel(layout, item.level))
     color = colors::faded(color);
   Rgba fill = color;
   fill.a = 84;
-  surface_.polygon(px, fill, item.sel ? Stroke{colors::kSelected, 2.5} : Stroke{color, 1.2});
+  surface_.polygon(px, fill,
+                   item.sel && options_.selection ? Stroke{colors::kSelected, 2.5}
+                                                  : Stroke{color, 1.2});
 }
 
 std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& layout,
                                                                 const PlanIndex& index) {
-  const Point low = view_.toWorld({0, 0});
-  const Point high = view_.toWorld({size_.width, size_.height});
   std::unordered_set<std::int32_t> covered;
   for (const Tunnel& tunnel : layout.content().tunnels)
     covered.insert(tunnel.covers.begin(), tunnel.covers.end());
 
   const PiecePainter painter(surface_, view_);
   std::vector<Visible> shown;
-  for (const std::size_t position : index.inBox({low.x, low.y, high.x, high.y}, false)) {
+  for (const std::size_t position : index.inBox(shownBox(kDotReachPx), false)) {
     const PlacedPiece& piece = layout.pieces()[position];
     const PieceDef* definition = index.definition(position);
     if (std::binary_search(options_.leftOut.begin(), options_.leftOut.end(), piece.id))
@@ -188,7 +188,7 @@ std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& la
     look.sleepers = options_.rails;
     look.covered = !covered.empty() && covered.contains(piece.id);
     look.faded = isOtherLevel(layout, piece.level);
-    if (piece.sel)
+    if (piece.sel && options_.selection)
       look.accent = colors::kSelected;
     shown.push_back({&piece, definition, painter.shapeOf(*definition), look});
   }
@@ -223,17 +223,19 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
     from = to;
   }
   sceneryUpTo(std::numeric_limits<double>::infinity());
-  if (!options_.labels && !options_.grades)
-    return;
-  Occupancy taken(size_);
-  for (const Visible& shown : track)
-    for (const auto& line : shown.shape.lines.centreLines)
-      taken.mark(painter.toScreen(line, poseOf(*shown.piece)),
-                 shown.shape.geometry.halfWidth * view_.zoom() - 1);
-  if (options_.grades)
-    paintGrades(layout, track, taken);
+  std::optional<Occupancy> taken;
+  if (options_.grades) {
+    taken.emplace(size_);
+    for (const Visible& shown : track)
+      for (const auto& line : shown.shape.lines.centreLines)
+        taken->mark(painter.toScreen(line, poseOf(*shown.piece)),
+                    shown.shape.geometry.halfWidth * view_.zoom() - 1);
+    const Occupancy onlyTrack = *taken;
+    paintGrades(layout, track, *taken);
+    taken->without(onlyTrack);
+  }
   if (options_.labels)
-    paintArticles(track, taken);
+    paintArticles(layout, index, taken ? &*taken : nullptr);
 }
 
 void LayoutPainter::paintGrades(const Layout& layout, std::span<const Visible> pieces,
@@ -252,8 +254,9 @@ void LayoutPainter::paintUnknown(const PlacedPiece& piece) {
   const Point at = view_.toScreen({piece.x, piece.y});
   const std::array<Point, 4> box{
       {{at.x - 7, at.y - 7}, {at.x + 7, at.y - 7}, {at.x + 7, at.y + 7}, {at.x - 7, at.y + 7}}};
-  surface_.polygon(box, colors::kPaper,
-                   Stroke{piece.sel ? colors::kSelected : colors::kOpenEnd, 2});
+  surface_.polygon(
+      box, colors::kPaper,
+      Stroke{piece.sel && options_.selection ? colors::kSelected : colors::kOpenEnd, 2});
   surface_.text("?", at, 0, {colors::kArticle, 11, true});
   if (options_.labels)
     surface_.text(piece.cat, {at.x, at.y + 16}, 0, {colors::kArticle, 10.5, false});
@@ -282,33 +285,54 @@ void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible>
   }
 }
 
-void LayoutPainter::paintArticles(std::span<const Visible> pieces, Occupancy& taken) {
-  if (view_.zoom() * (pieces.empty() ? 1 : pieces.front().shape.geometry.halfWidth / 18.7) <
-      kArticleFromZoom)
-    return;
-  for (const Visible& shown : pieces) {
-    const TextStyle style{shown.look.faded ? colors::kFarArticle : colors::kArticle, 10.5, false};
-    const SizePx box = surface_.textSize(shown.definition->article, style);
-    if (shown.shape.geometry.mainLength * view_.zoom() < box.width * 0.9)
+void LayoutPainter::paintArticles(const Layout& layout, const PlanIndex& index,
+                                  const Occupancy* taken) {
+  ArticlePlaces own;
+  ArticlePlaces& articles = options_.articles ? *options_.articles : own;
+  articles.follow(layout, index, view_.zoom(), options_.leftOut);
+  const Point origin = view_.origin();
+  articles.visit(
+      {part_.minX - origin.x, part_.minY - origin.y, part_.maxX - origin.x, part_.maxY - origin.y},
+      surface_, [&](std::size_t position, const ArticlePlaces::Place& place) {
+        const Point at{place.at.x + origin.x, place.at.y + origin.y};
+        if (taken != nullptr && !taken->isFree(at, place.size, place.angle))
+          return;
+        const PlacedPiece& piece = layout.pieces()[position];
+        surface_.text(index.definition(position)->article, at, place.angle,
+                      articleStyle(isOtherLevel(layout, piece.level)));
+      });
+}
+
+Box LayoutPainter::shownBox(double marginPx) const {
+  const Point low = view_.toWorld({part_.minX - marginPx, part_.minY - marginPx});
+  const Point high = view_.toWorld({part_.maxX + marginPx, part_.maxY + marginPx});
+  return {low.x, low.y, high.x, high.y};
+}
+
+void LayoutPainter::paintSelection(const Layout& layout, const PlanIndex& index) {
+  PiecePainter painter(surface_, view_);
+  std::vector<PiecePainter::Piece> pieces;
+  for (const std::size_t position : index.inBox(shownBox(kStrokeReachPx), false)) {
+    const PlacedPiece& piece = layout.pieces()[position];
+    const PieceDef* definition = index.definition(position);
+    if (!piece.sel || std::ranges::binary_search(options_.leftOut, piece.id))
       continue;
-    const Pose pose = poseOf(*shown.piece);
-    const Point spot = view_.toScreen(toWorld(pose, shown.shape.geometry.labelSpot));
-    const double heading = pose.heading + shown.shape.geometry.labelHeading;
-    const double away = shown.shape.geometry.halfWidth * view_.zoom() + box.height / 2 +
-                        std::max(1.0, shown.shape.geometry.gauge * view_.zoom() * 0.04);
-    const double angle = uprightAngle(heading);
-    // Curves bend away from the text on one side only, so places farther out are tried as well.
-    for (const auto& [side, farther] : kArticlePlaces) {
-      const double across = toRadians(heading + 90 * side);
-      const double reach = away + farther;
-      const Point at{spot.x + std::cos(across) * reach, spot.y + std::sin(across) * reach};
-      if (!taken.isFree(at, {box.width - 2, box.height - 5}, angle))
-        continue;
-      taken.take(at, box, angle);
-      surface_.text(shown.definition->article, at, angle, style);
-      break;
-    }
+    PieceLook look;
+    look.accent = colors::kSelected;
+    if (definition != nullptr)
+      pieces.push_back({painter.shapeOf(*definition), poseOf(piece), look});
+    else
+      paintUnknown(piece);
   }
+  painter.paintAccents(pieces);
+  const PictureSite site{surface_, part_, view_, layout};
+  forEachSelectable(layout.content(), [&](const auto& records) {
+    using Record = typename std::remove_cvref_t<decltype(records)>::value_type;
+    if constexpr (Record::kKind != RecordKind::Piece)
+      for (const auto& record : records)
+        if (record.sel && isVisible(layout, record))
+          paintSelected(site, record);
+  });
 }
 
 } // namespace trassix

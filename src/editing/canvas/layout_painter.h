@@ -13,6 +13,7 @@
 
 namespace trassix {
 
+class ArticlePlaces;
 class Occupancy;
 struct TrackCrossing;
 
@@ -25,6 +26,9 @@ struct PaintOptions {
   bool desk = true;                         ///< fill the background; off for printing
   std::span<const std::int32_t> leftOut;    ///< sorted ids of pieces that are drawn elsewhere
   std::span<const TrackCrossing> crossings; ///< of the plan, to be shown with the grades
+  std::optional<Box> part;                  ///< px, what of the surface is to be drawn: all of it
+  ArticlePlaces* articles = nullptr;        ///< kept between pictures of a plan
+  bool selection = true;                    ///< what is selected looks selected
 };
 
 /// Draws a plan on any surface: screen, printer, image or a recording. Knows nothing of windows or
@@ -35,12 +39,15 @@ class LayoutPainter {
                 const PaintOptions& options);
 
   void paint(const Layout& layout, const PlanIndex& index);
+  /// Over the plan, what stays where it is in the window.
+  void paintScaleBar(std::int32_t units);
+  /// Over a plan drawn without it.
+  void paintSelection(const Layout& layout, const PlanIndex& index);
 
  private:
   struct Visible;
 
   void paintGrid(std::int32_t units);
-  void paintScaleBar(std::int32_t units);
   void paintBoard(const Layout& layout);
   /// Level by level, for what is higher hides what is below.
   void paintTrackAndScenery(const Layout& layout, const PlanIndex& index);
@@ -50,10 +57,13 @@ class LayoutPainter {
   void paintSceneryItem(const Layout& layout, const SceneryItem& item);
   void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);
   void paintGrades(const Layout& layout, std::span<const Visible> pieces, Occupancy& taken);
-  void paintArticles(std::span<const Visible> pieces, Occupancy& taken);
+  void paintArticles(const Layout& layout, const PlanIndex& index, const Occupancy* taken);
+  /// Of what is drawn, in mm, with so many px around it.
+  Box shownBox(double marginPx) const;
 
   Surface& surface_;
   SizePx size_;
+  Box part_; ///< px
   const ViewTransform& view_;
   PaintOptions options_;
 };

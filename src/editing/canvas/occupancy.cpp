@@ -71,4 +71,9 @@ void Occupancy::take(Point centre, SizePx box, double degrees) {
   });
 }
 
+void Occupancy::without(const Occupancy& other) {
+  for (std::size_t i = 0; i < taken_.size(); ++i)
+    taken_[i] = static_cast<unsigned char>(taken_[i] & ~other.taken_[i]);
+}
+
 } // namespace trassix

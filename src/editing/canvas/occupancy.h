@@ -20,6 +20,9 @@ class Occupancy {
   bool isFree(Point centre, SizePx box, double degrees) const;
   void take(Point centre, SizePx box, double degrees);
 
+  /// Frees what another map of the same size has taken.
+  void without(const Occupancy& other);
+
  private:
   static constexpr double kCellPx = 4;
 

@@ -5,6 +5,7 @@
 #include "document/plan_content.h"
 #include "editing/canvas/halo.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/record_body.h"
 #include "measures/measure_format.h"
 #include "texts/texts.h"
@@ -21,6 +22,8 @@ namespace {
 
 constexpr double kStrokeReachPx = 4; ///< of the widest edge and its joins
 constexpr double kTapeReachPx = 60;  ///< of a tape's length, written beside it
+
+constexpr Stroke kSelectedEdge{colors::kSelected, 2.5};
 
 TextStyle nameStyle(const ViewTransform& view) {
   return {colors::kLabel, labelTextSize(1 / view.zoom()) - 1, false};
@@ -43,9 +46,10 @@ void paintOutline(const PictureSite& site, const auto& record, const CarriedLook
 
 bool PictureSite::isBeside(std::span<const Point> px, double reach) const {
   const auto all = [px](auto outside) { return std::ranges::all_of(px, outside); };
-  return all([&](Point p) { return p.x < -reach; }) || all([&](Point p) { return p.y < -reach; }) ||
-         all([&](Point p) { return p.x > size.width + reach; }) ||
-         all([&](Point p) { return p.y > size.height + reach; });
+  return all([&](Point p) { return p.x < part.minX - reach; }) ||
+         all([&](Point p) { return p.y < part.minY - reach; }) ||
+         all([&](Point p) { return p.x > part.maxX + reach; }) ||
+         all([&](Point p) { return p.y > part.maxY + reach; });
 }
 
 // Shapes
@@ -57,7 +61,8 @@ void paintRecord(const PictureSite& site, const Shape& shape) {
   if (site.isBeside(px, longest(shape.label, nameStyle(site.view).size)))
     return;
   const Rgba fill = opaque(shape.color, shape.a);
-  const Stroke edge = shape.sel ? Stroke{colors::kSelected, 2.5} : Stroke{opaque(shape.color), 1.5};
+  const Stroke edge =
+      shape.sel && site.selection ? kSelectedEdge : Stroke{opaque(shape.color), 1.5};
   site.surface.polygon(px, shape.outline ? std::nullopt : std::optional(fill), edge);
   if (shape.label.empty())
     return;
@@ -66,6 +71,10 @@ void paintRecord(const PictureSite& site, const Shape& shape) {
     middle = {middle.x + p.x / static_cast<double>(px.size()),
               middle.y + p.y / static_cast<double>(px.size())};
   site.surface.text(shape.label, middle, 0, nameStyle(site.view));
+}
+
+void paintSelected(const PictureSite& site, const Shape& shape) {
+  site.surface.polygon(site.view.toScreen(shape.points), {}, kSelectedEdge);
 }
 
 void paintCarried(const PictureSite& site, const Shape& shape, const CarriedLook& look) {
@@ -99,6 +108,10 @@ void paintCarried(const PictureSite&, const Tunnel&, const CarriedLook&) {}
 
 // Scenery and track
 
+void paintSelected(const PictureSite& site, const SceneryItem& item) {
+  site.surface.polygon(site.view.toScreen(sceneryOutline(site.layout, item)), {}, kSelectedEdge);
+}
+
 void paintCarried(const PictureSite& site, const SceneryItem& item, const CarriedLook& look) {
   paintOutline(site, item, look);
 }
@@ -124,7 +137,12 @@ std::string nameOf(const Layout&, const PlacedPiece& piece) {
 void paintRecord(const PictureSite& site, const Measurement& tape) {
   const std::array<Point, 2> ends{site.view.toScreen(tape.from), site.view.toScreen(tape.to)};
   if (!site.isBeside(ends, kTapeReachPx))
-    paintTape(site.surface, site.view, tape.from, tape.to, site.layout.settings().units, tape.sel);
+    paintTape(site.surface, site.view, tape.from, tape.to, site.layout.settings().units,
+              tape.sel && site.selection);
+}
+
+void paintSelected(const PictureSite& site, const Measurement& tape) {
+  paintTape(site.surface, site.view, tape.from, tape.to, site.layout.settings().units, true);
 }
 
 void paintCarried(const PictureSite& site, const Measurement& tape, const CarriedLook&) {
@@ -138,19 +156,35 @@ std::string nameOf(const Layout& layout, const Measurement& tape) {
 
 // Labels
 
-void paintRecord(const PictureSite& site, const Label& label) {
+namespace {
+
+TextStyle labelStyle(const PictureSite& site) {
+  return {colors::kLabel, labelTextSize(1 / site.view.zoom()), true};
+}
+
+std::array<Point, 4> labelFrame(const PictureSite& site, const Label& label) {
   const Point at = site.view.toScreen({label.x, label.y});
-  const TextStyle style{colors::kLabel, labelTextSize(1 / site.view.zoom()), true};
-  if (site.isBeside({&at, 1}, longest(label.text, style.size)))
-    return;
-  const SizePx box = site.surface.textSize(label.text, style);
+  const SizePx box = site.surface.textSize(label.text, labelStyle(site));
   const double w = box.width / 2 + 5;
   const double h = box.height / 2 + 2;
-  const std::array<Point, 4> frame{
-      {{at.x - w, at.y - h}, {at.x + w, at.y - h}, {at.x + w, at.y + h}, {at.x - w, at.y + h}}};
-  site.surface.polygon(frame, Rgba{255, 255, 255, 215},
-                       label.sel ? Stroke{colors::kSelected, 2} : Stroke{colors::kBedEdge, 1});
+  return {{{at.x - w, at.y - h}, {at.x + w, at.y - h}, {at.x + w, at.y + h}, {at.x - w, at.y + h}}};
+}
+
+} // namespace
+
+void paintRecord(const PictureSite& site, const Label& label) {
+  const Point at = site.view.toScreen({label.x, label.y});
+  const TextStyle style = labelStyle(site);
+  if (site.isBeside({&at, 1}, longest(label.text, style.size)))
+    return;
+  site.surface.polygon(labelFrame(site, label), Rgba{255, 255, 255, 215},
+                       label.sel && site.selection ? Stroke{colors::kSelected, 2}
+                                                   : Stroke{colors::kBedEdge, 1});
   site.surface.text(label.text, at, 0, style);
+}
+
+void paintSelected(const PictureSite& site, const Label& label) {
+  site.surface.polygon(labelFrame(site, label), {}, Stroke{colors::kSelected, 2});
 }
 
 void paintCarried(const PictureSite& site, const Label& label, const CarriedLook& look) {
@@ -160,6 +194,10 @@ void paintCarried(const PictureSite& site, const Label& label, const CarriedLook
 
 std::string nameOf(const Layout&, const Label& label) {
   return label.text;
+}
+
+TextStyle articleStyle(bool faded) {
+  return {faded ? colors::kFarArticle : colors::kArticle, 10.5, false};
 }
 
 double uprightAngle(double heading) {

@@ -13,11 +13,12 @@ namespace trassix {
 /// A surface with a part of a plan on it.
 struct PictureSite {
   Surface& surface;
-  SizePx size;
+  Box part; ///< px, of what is drawn
   const ViewTransform& view;
   const Layout& layout;
+  bool selection = true; ///< what is selected looks selected
 
-  /// True when nothing within `reach` px of the points' box is on the surface.
+  /// True when nothing within `reach` px of the points' box is drawn.
   bool isBeside(std::span<const Point> px, double reach) const;
 };
 
@@ -33,6 +34,12 @@ void paintRecord(const PictureSite& site, const Helix& helix);
 void paintRecord(const PictureSite& site, const Tunnel& tunnel);
 void paintRecord(const PictureSite& site, const Measurement& tape);
 void paintRecord(const PictureSite& site, const Label& label);
+
+// What makes it look selected, over its picture.
+void paintSelected(const PictureSite& site, const Shape& shape);
+void paintSelected(const PictureSite& site, const SceneryItem& item);
+void paintSelected(const PictureSite& site, const Measurement& tape);
+void paintSelected(const PictureSite& site, const Label& label);
 
 void paintCarried(const PictureSite& site, const Shape& shape, const CarriedLook& look);
 void paintCarried(const PictureSite& site, const Helix& helix, const CarriedLook& look);
@@ -52,6 +59,9 @@ std::string nameOf(const Layout& layout, const Label& label);
 /// Draws a tape between two points with its length.
 void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to,
                std::int32_t units, bool selected);
+
+/// Of the articles beside track, of this level or another.
+TextStyle articleStyle(bool faded);
 
 /// The heading of a text along a line, so that it can be read; degrees.
 double uprightAngle(double heading);

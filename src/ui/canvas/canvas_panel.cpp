@@ -13,6 +13,7 @@
 #include <wx/graphics.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace trassix {
 
@@ -24,6 +25,9 @@ constexpr Point kPickUpPoint{300, 200};
 /// How long something carried rests at the edge before the plan scrolls, and then for each step.
 constexpr int kEdgeRestMs = 300;
 constexpr int kEdgeScrollMs = 30;
+
+/// After the last step of zooming, until the picture is sharp.
+constexpr int kSharpMs = 60;
 
 Key keyOf(const wxKeyEvent& event) {
   if (event.ControlDown()) {
@@ -84,6 +88,10 @@ CanvasPanel::CanvasPanel(wxWindow* parent, Workspace& workspace)
       edgeTimer_.Stop();
     else if (edgeTimer_.GetInterval() != kEdgeScrollMs)
       edgeTimer_.Start(kEdgeScrollMs);
+  });
+  sharpTimer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
+    sharpen_ = true;
+    Refresh(false);
   });
   wxGetTopLevelParent(this)->Bind(wxEVT_ACTIVATE, &CanvasPanel::onActivate, this);
   new LevelSwitcher(this, workspace);
@@ -259,33 +267,18 @@ void CanvasPanel::onSize(wxSizeEvent& event) {
   event.Skip();
 }
 
-void CanvasPanel::renewPicture() {
-  const wxSize size = GetClientSize();
-  const double scale = GetContentScaleFactor();
-  const std::uint64_t stamp = canvas_.planStamp();
-  const wxSize pixels(static_cast<int>(size.x * scale), static_cast<int>(size.y * scale));
-  if (picture_.IsOk() && picture_.GetSize() == pixels && stamp == pictureStamp_)
-    return;
-  if (!picture_.IsOk() || picture_.GetSize() != pixels)
-    picture_.CreateScaled(size.x, size.y, wxBITMAP_SCREEN_DEPTH, scale);
-  pictureStamp_ = stamp;
-  wxMemoryDC memory(picture_);
-  const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(memory));
-  context->Scale(pixelScale(), pixelScale());
-  GcSurface surface(*context, pixelScale() * GetContentScaleFactor());
-  canvas_.paintPlan(surface);
-}
-
 void CanvasPanel::onPaint(wxPaintEvent&) {
   wxAutoBufferedPaintDC dc(this);
   const wxSize size = GetClientSize();
   if (size.x <= 0 || size.y <= 0)
     return;
-  renewPicture();
-  dc.DrawBitmap(picture_, 0, 0);
+  // While the wheel turns the scaled picture will do, which is sharp again when it rests.
+  const bool hurried = !std::exchange(sharpen_, false);
+  if (picture_.draw(dc, {size, GetContentScaleFactor(), pixelScale()}, hurried))
+    sharpTimer_.StartOnce(kSharpMs);
   const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
   context->Scale(pixelScale(), pixelScale());
-  GcSurface surface(*context, pixelScale() * GetContentScaleFactor());
+  GcSurface surface(*context, pixelScale() * GetContentScaleFactor(), &picture_.texts());
   canvas_.paintOverlay(surface);
   if (welcome_->IsShown())
     Welcome::paintWords(surface, {size.x / pixelScale(), size.y / pixelScale()});

@@ -2,8 +2,8 @@
 
 #include "editing/canvas/canvas.h"
 #include "host/workspace.h"
+#include "ui/canvas/plan_picture.h"
 
-#include <wx/bitmap.h>
 #include <wx/panel.h>
 #include <wx/timer.h>
 
@@ -61,7 +61,6 @@ class CanvasPanel : public wxPanel, private PlanObserver {
   void onSize(wxSizeEvent& event);
   void syncCapture();
   void holdSpace(bool down);
-  void renewPicture();
   /// Keeps the plan scrolling while something carried rests at the edge.
   void watchEdge();
 
@@ -70,8 +69,9 @@ class CanvasPanel : public wxPanel, private PlanObserver {
 
   Canvas canvas_;
   Welcome* welcome_;
-  wxBitmap picture_;
-  std::uint64_t pictureStamp_ = 0;
+  PlanPicture picture_{canvas_};
+  wxTimer sharpTimer_;
+  bool sharpen_ = false; ///< the next picture is to be sharp
   wxTimer edgeTimer_;
   CursorShape cursorShown_ = CursorShape::Arrow;
 };

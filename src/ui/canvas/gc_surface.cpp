@@ -78,7 +78,7 @@ void GcSurface::useFont(const TextStyle& style) {
   const auto packed = static_cast<std::uint32_t>(style.color.r) << 24 |
                       static_cast<std::uint32_t>(style.color.g) << 16 |
                       static_cast<std::uint32_t>(style.color.b) << 8 | style.color.a;
-  const auto [entry, isNew] = fonts_.try_emplace({style.size, style.bold, packed});
+  const auto [entry, isNew] = texts_.fonts.try_emplace({style.size, style.bold, packed});
   if (isNew)
     entry->second = context_.CreateFont(
         wxFont(wxFontInfo(style.size * kPointsPerPixel).FaceName(guiFace()).Bold(style.bold)),
@@ -151,7 +151,7 @@ void GcSurface::circle(Point centre, double radius, std::optional<Rgba> fill,
 
 SizePx GcSurface::textSize(std::string_view text, const TextStyle& style) {
   // Plans repeat few texts often, and measuring one costs as much as drawing it.
-  const auto [entry, isNew] = sizes_.try_emplace({style.size, style.bold, std::string(text)});
+  const auto [entry, isNew] = texts_.sizes.try_emplace({style.size, style.bold, std::string(text)});
   if (isNew) {
     useFont(style);
     context_.GetTextExtent(toText(text), &entry->second.width, &entry->second.height);

@@ -11,12 +11,18 @@
 
 namespace trassix {
 
+/// Fonts and sizes of texts, which take the toolkit long to find: to be kept by what draws often.
+struct GcTexts {
+  std::map<std::tuple<double, bool, std::uint32_t>, wxGraphicsFont> fonts;
+  std::map<std::tuple<double, bool, std::string>, SizePx> sizes;
+};
+
 /// Draws on a toolkit graphics context, with anti-aliasing and in fractions of pixels.
 class GcSurface : public Surface {
  public:
-  /// Does not own the context, which must outlive the surface.
-  explicit GcSurface(wxGraphicsContext& context, double deviceScale = 1)
-      : context_(context), deviceScale_(deviceScale) {}
+  /// Does not own the context, which must outlive the surface, nor the texts it knows already.
+  explicit GcSurface(wxGraphicsContext& context, double deviceScale = 1, GcTexts* known = nullptr)
+      : context_(context), deviceScale_(deviceScale), texts_(known ? *known : own_) {}
 
   double deviceScale() const override { return deviceScale_; }
 
@@ -41,8 +47,8 @@ class GcSurface : public Surface {
   std::optional<std::optional<Stroke>> pen_; ///< in use on the context, if known
   std::optional<std::optional<Rgba>> brush_;
   std::optional<TextStyle> font_;
-  std::map<std::tuple<double, bool, std::uint32_t>, wxGraphicsFont> fonts_;
-  std::map<std::tuple<double, bool, std::string>, SizePx> sizes_; ///< of texts measured before
+  GcTexts own_;
+  GcTexts& texts_;
 };
 
 } // namespace trassix

@@ -350,7 +350,7 @@ TEST(PlanPreview, ShowsWhatAnEditAddsOrMovesOfAnyKind) {
   EXPECT_EQ(preview.records().pieces.size(), 1u);
   RecordingSurface surface;
   script.canvas.paintOverlay(surface);
-  EXPECT_THAT(surface.texts, ElementsAre("Depot"));
+  EXPECT_THAT(surface.texts, testing::Contains("Depot"));
   EXPECT_THAT(surface.dots, ElementsAre(script.canvas.view().toScreen(Point{600, 300})));
 }
 
