@@ -27,7 +27,7 @@ constexpr int kEdgeRestMs = 300;
 constexpr int kEdgeScrollMs = 30;
 
 /// After the last step of zooming, until the picture is sharp.
-constexpr int kSharpMs = 60;
+constexpr int kSharpMs = 25;
 
 Key keyOf(const wxKeyEvent& event) {
   if (event.ControlDown()) {
