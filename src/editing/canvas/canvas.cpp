@@ -430,9 +430,12 @@ void Canvas::paintPlan(Surface& surface, const Box& part) {
 }
 
 void Canvas::paintSelection(Surface& surface, const Box& part) {
-  if (!site_->workspace.switches().grades)
-    LayoutPainter(surface, site_->size, site_->view, paintOptions(part))
-        .paintSelection(site_->layout(), site_->planIndex());
+  if (site_->workspace.switches().grades)
+    return;
+  PaintOptions options = paintOptions(part);
+  options.selection = true;
+  LayoutPainter(surface, site_->size, site_->view, options)
+      .paintSelection(site_->layout(), site_->planIndex());
 }
 
 void Canvas::paintOverlay(Surface& surface) {

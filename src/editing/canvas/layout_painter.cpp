@@ -310,21 +310,17 @@ Box LayoutPainter::shownBox(double marginPx) const {
 }
 
 void LayoutPainter::paintSelection(const Layout& layout, const PlanIndex& index) {
-  PiecePainter painter(surface_, view_);
+  std::vector<Visible> track;
   std::vector<PiecePainter::Piece> pieces;
-  for (const std::size_t position : index.inBox(shownBox(kStrokeReachPx), false)) {
-    const PlacedPiece& piece = layout.pieces()[position];
-    const PieceDef* definition = index.definition(position);
-    if (!piece.sel || std::ranges::binary_search(options_.leftOut, piece.id))
+  for (const Visible& shown : visibleTrack(layout, index)) {
+    if (!shown.piece->sel)
       continue;
-    PieceLook look;
-    look.accent = colors::kSelected;
-    if (definition != nullptr)
-      pieces.push_back({painter.shapeOf(*definition), poseOf(piece), look});
-    else
-      paintUnknown(piece);
+    track.push_back(shown);
+    pieces.push_back({shown.shape, poseOf(*shown.piece), shown.look});
   }
-  painter.paintAccents(pieces);
+  PiecePainter(surface_, view_).paintAccents(pieces);
+  if (options_.labels)
+    paintJoinDots(layout, track);
   const PictureSite site{surface_, part_, view_, layout};
   forEachSelectable(layout.content(), [&](const auto& records) {
     using Record = typename std::remove_cvref_t<decltype(records)>::value_type;
