@@ -1,0 +1,123 @@
+#include "document/plan_content.h"
+#include "editing/canvas/article_places.h"
+#include "editing/canvas/canvas.h"
+#include "editing/canvas/canvas_tool.h"
+#include "editing/canvas/carried_painter.h"
+#include "editing/canvas/carry_tool.h"
+#include "editing/canvas/grade_painter.h"
+#include "editing/canvas/layout_painter.h"
+#include "editing/canvas/placing_offer.h"
+#include "editing/selection/selection.h"
+#include "editing/track/connector_geometry.h"
+#include "host/plan_preview.h"
+
+#include <bit>
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+namespace trassix {
+
+PaintOptions Canvas::paintOptions(const Box& part) const {
+  const EditorSwitches& switches = site_->workspace.switches();
+  PaintOptions options;
+  options.grid = switches.grid;
+  options.labels = switches.labels;
+  options.rails = switches.rails;
+  options.grades = switches.grades;
+  if (switches.grades)
+    options.crossings = site_->crossings();
+  options.leftOut = tool().lifted();
+  options.scaleBar = false;
+  options.selection = switches.grades; // their colours hide any other mark
+  options.part = part;
+  options.articles = articles_.get();
+  return options;
+}
+
+void Canvas::paintPlan(Surface& surface, const Box& part) {
+  LayoutPainter(surface, site_->size, site_->view, paintOptions(part))
+      .paint(site_->layout(), site_->planIndex());
+}
+
+void Canvas::paintSelection(Surface& surface, const Box& part) {
+  if (site_->workspace.switches().grades)
+    return;
+  PaintOptions options = paintOptions(part);
+  options.selection = true;
+  LayoutPainter(surface, site_->size, site_->view, options)
+      .paintSelection(site_->layout(), site_->planIndex());
+}
+
+void Canvas::paintOverlay(Surface& surface) {
+  LayoutPainter(surface, site_->size, site_->view, {})
+      .paintScaleBar(site_->layout().settings().units);
+  if (const PlanPreview* preview = site_->workspace.preview())
+    paintPreview(surface, *preview);
+  if (!carry_)
+    offer_->paint(surface);
+  tool().paint(surface);
+}
+
+void Canvas::paintPreview(Surface& surface, const PlanPreview& preview) {
+  if (!preview.inGradeColors()) {
+    CarriedPainter(surface, site_->view, site_->layout(), true).paint(preview.records());
+    if (!site_->workspace.switches().grades)
+      return;
+  }
+  std::vector<GradePainter::Track> track;
+  for (const PlacedPiece& piece : preview.records().pieces)
+    if (const PieceDef* definition = definitionOf(piece))
+      track.push_back({&piece, definition});
+  GradePainter(surface, site_->size, site_->view, site_->layout()).paintColors(std::move(track));
+}
+
+namespace {
+
+/// FNV-1a.
+class StampMixer {
+ public:
+  template <class... Values>
+  explicit StampMixer(Values... values) {
+    (add(values), ...);
+  }
+  void add(std::uint64_t value) { stamp_ = (stamp_ ^ value) * 1099511628211U; }
+  void add(double value) { add(std::bit_cast<std::uint64_t>(value)); }
+  std::uint64_t stamp() const { return stamp_; }
+
+ private:
+  std::uint64_t stamp_ = 14695981039346656037U;
+};
+
+} // namespace
+
+std::uint64_t Canvas::contentStamp() {
+  const EditorSwitches& switches = site_->workspace.switches();
+  const Layout& layout = site_->layout();
+  StampMixer mixer(layout.documentStamp(), site_->size.width, site_->size.height);
+  mixer.add(std::uint64_t{switches.grid} | std::uint64_t{switches.labels} << 1U |
+            std::uint64_t{switches.rails} << 2U | std::uint64_t{switches.grades} << 3U);
+  if (switches.grades)
+    mixer.add(layout.selectionStamp());
+  for (const std::int32_t id : tool().lifted())
+    mixer.add(static_cast<std::uint64_t>(id));
+  return mixer.stamp();
+}
+
+std::uint64_t Canvas::planStamp() {
+  return StampMixer(contentStamp(), site_->view.zoom()).stamp();
+}
+
+std::uint64_t Canvas::selectionStamp() {
+  return StampMixer(planStamp(), site_->layout().selectionStamp()).stamp();
+}
+
+bool Canvas::anySelected() const {
+  return !site_->workspace.switches().grades && hasSelection(site_->layout());
+}
+
+bool Canvas::partsFit() const {
+  return !site_->workspace.switches().grades; // whose texts stand where there is room in view
+}
+
+} // namespace trassix
