@@ -15,7 +15,8 @@ namespace trassix {
 
 class Layout;
 
-/// One grade for one piece or several that hang together, on all branches of turnouts.
+/// One grade for one piece or several that hang together, on all branches of turnouts. Spread over
+/// loops, those from turnout to turnout bend as much as they must.
 struct GradeTask {
   std::vector<std::int32_t> pieces; ///< sorted ids
   TrackEnd start;                   ///< an end of one of them, which keeps its height
