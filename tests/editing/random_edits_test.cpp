@@ -14,6 +14,7 @@
 #include "editing/autofill/autofill.h"
 #include "editing/elevation/grade_edits.h"
 #include "editing/elevation/grade_runs.h"
+#include "editing/elevation/way_handles.h"
 #include "editing/joining/joining.h"
 #include "editing/placing/block_placing.h"
 #include "editing/placing/flipping.h"
@@ -210,6 +211,18 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
     return apply(planProfile(plan, way, heightsBetween(way, knees), anyRule()));
   }
 
+  bool pull() {
+    const TrainWay way = wayThrough(plan, piece.id);
+    if (way.empty())
+      return false;
+    const auto joint = static_cast<std::size_t>(any(0, static_cast<int>(way.stretches.size())));
+    const double height = heightOfJoint(way, joint) + any(-9, 9);
+    const int how = any(0, 3);
+    return apply(how == 0   ? planLiftAll(plan, way, joint, height)
+                 : how == 1 ? planWithoutKnee(plan, way, joint, anyRule())
+                            : planJointHeight(plan, way, joint, height, anyRule()));
+  }
+
   bool insert() {
     std::optional<InsertSpot> spot;
     for (int more = 0; more < 4 && !spot; ++more) {
@@ -365,6 +378,7 @@ const R::Edit R::kEdits[] = {
     {"grade", [](R& r) { return r.grade(); }},
     {"target", [](R& r) { return r.target(); }},
     {"knee", [](R& r) { return r.knee(); }},
+    {"pull", [](R& r) { return r.pull(); }},
     {"raise", [](R& r) { return r.apply(planRaise(r.plan, r.piece.id, r.any(-9, 9))); }},
     {"ease", [](R& r) { return r.apply(planEase(r.plan, r.anyWay(), r.anyRule())); }},
     {"flatten",
