@@ -194,15 +194,17 @@ std::int32_t towardsOf(const Layout& layout, const GradeTask& task) {
 /// it can bend. False where it has no such ends, or nothing of it was to have a height.
 bool giveUpStretch(const Layout& layout, const LoopGap& gap, TrackEnd start,
                    std::vector<PieceHeight>& wanted) {
+  const auto branches = [&layout](std::int32_t piece) {
+    const PlacedPiece* placed = layout.findPiece(piece);
+    const PieceDef* definition = placed == nullptr ? nullptr : definitionOf(*placed);
+    return definition == nullptr || definition->connectors.size() > 2;
+  };
   std::vector<std::int32_t> stretch;
   for (TrackEnd in : {gap.end, gap.other})
-    for (const PlacedPiece* piece = layout.findPiece(in.piece);
-         piece != nullptr && definitionOf(*piece)->connectors.size() <= 2;
-         piece = layout.findPiece(in.piece)) {
+    for (; !branches(in.piece); in = beyond(layout, {in.piece, 1 - in.connector})) {
       if (in.piece == start.piece || in.connector == -1 || containsId(stretch, in.piece))
         return false;
       stretch.insert(std::ranges::lower_bound(stretch, in.piece), in.piece);
-      in = beyond(layout, {in.piece, 1 - in.connector});
     }
   return std::erase_if(wanted, [&stretch](const PieceHeight& height) {
            return containsId(stretch, height.piece);
@@ -272,19 +274,6 @@ HeightPlan planProfile(const Layout& layout, const TrainWay& way, std::span<cons
         layTowards(piece, *definitionOf(piece), stretch.enter, stretch.leave, heights[i], slope));
   }
   return planHeights(layout, wanted, loops);
-}
-
-std::vector<Knee> kneesOf(const TrainWay& way) {
-  constexpr double kSameSlope = 1e-5;
-  std::vector<Knee> knees;
-  if (way.empty())
-    return knees;
-  knees.push_back({0, way.stretches.front().from});
-  for (std::size_t i = 1; i < way.stretches.size(); ++i)
-    if (std::abs(way.stretches[i].slope() - way.stretches[i - 1].slope()) > kSameSlope)
-      knees.push_back({i, way.stretches[i].from});
-  knees.push_back({way.stretches.size(), way.stretches.back().to});
-  return knees;
 }
 
 std::vector<double> heightsBetween(const TrainWay& way, std::span<const Knee> knees) {

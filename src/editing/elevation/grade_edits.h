@@ -46,9 +46,6 @@ struct Knee {
   std::size_t joint = 0;
   double height = 0;
 };
-/// Both ends of the way and the joints where its grade changes by more than a thousandth of a
-/// percent.
-std::vector<Knee> kneesOf(const TrainWay& way);
 /// The heights of all joints when the grade is even between neighbouring knees. Beyond the first
 /// and the last one all is lifted as they are.
 std::vector<double> heightsBetween(const TrainWay& way, std::span<const Knee> knees);

@@ -20,8 +20,8 @@ Box widened(const Box& box, double margin) {
   return {box.minX - margin, box.minY - margin, box.maxX + margin, box.maxY + margin};
 }
 
-/// Track that leads over other track lies in another storey. Those of whole and half centimetres
-/// do not begin where heights are usual, so that rounding moves nothing up or down.
+/// Track that leads over other track lies in another storey. None begins at a whole or half
+/// millimetre, where heights are usual, so that rounding moves nothing up or down.
 std::int64_t storeyOf(const PlacedPiece& piece, const PieceDef* definition) {
   double lowest = piece.z;
   if (definition != nullptr && isGraded(piece))
