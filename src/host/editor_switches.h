@@ -22,9 +22,11 @@ struct EditorSwitches {
   bool grid = true;
   bool labels = true; ///< article labels and join dots
   bool rails = true;
-  bool grades = false;    ///< grades, heights and clearances on the plan
-  bool palette = true;    ///< the panel on the left is unfolded
-  bool properties = true; ///< the one on the right
+  bool grades = false;      ///< grades, heights and clearances on the plan
+  bool spreadLoops = false; ///< what does not add up round a loop, the rest of the loop takes up
+  double heightScale = 0;   ///< of the height profile: times distances; 0 for as it fits
+  bool palette = true;      ///< the panel on the left is unfolded
+  bool properties = true;   ///< the one on the right
   ToolMode mode = ToolMode::Select;
   PolygonUse polygonUse;
 

@@ -2,6 +2,7 @@
 
 #include "document/layout.h"
 #include "document/limits.h"
+#include "editing/elevation/way_handles.h"
 #include "editing/selection/selection.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/track_geometry.h"
@@ -256,7 +257,6 @@ std::vector<std::int32_t> ElevationForm::graded() const {
 
 void ElevationForm::compute() {
   plan_ = {};
-  const TrainWay none;
   switch (task_) {
   case Task::Climb:
     return computeClimb();
@@ -269,15 +269,14 @@ void ElevationForm::compute() {
     plan_ = planLevel(layout_, selected_, fromEnd(), loops());
     return;
   case Task::Ease:
-    plan_ = planEase(layout_, ways_.empty() ? none : ways_[way_], loops());
+    plan_ = planEase(layout_, wayNow(), loops());
     return;
   }
 }
 
 void ElevationForm::computeClimb() {
   TargetTask task;
-  if (!ways_.empty())
-    task.way = ways_[way_];
+  task.way = wayNow();
   task.eased = isOn(Switch::Eased);
   task.shape = isOn(Switch::SteepThenLevel) ? TargetTask::Shape::SteepThenLevel
                                             : TargetTask::Shape::OneGrade;
@@ -358,20 +357,8 @@ PlacedPiece ElevationForm::laid(const PlacedPiece& piece) const {
   return changed;
 }
 
-std::vector<ElevationForm::ProfilePoint> ElevationForm::profile() const {
-  std::vector<ProfilePoint> points;
-  if (ways_.empty())
-    return points;
-  double along = 0;
-  for (const WayStretch& stretch : ways_[way_].stretches) {
-    const PlacedPiece& piece = *layout_.findPiece(stretch.piece);
-    const PieceDef& definition = *definitionOf(piece);
-    const PlacedPiece changed = laid(piece);
-    points.push_back({along, stretch.from, endHeight(changed, definition, stretch.enter)});
-    along += stretch.length;
-    points.push_back({along, stretch.to, endHeight(changed, definition, stretch.leave)});
-  }
-  return points;
+TrainWay ElevationForm::wayPlanned() const {
+  return wayAfter(layout_, wayNow(), plan_);
 }
 
 std::string ElevationForm::summary() const {
@@ -381,13 +368,11 @@ std::string ElevationForm::summary() const {
     return tr("The track lies so already.");
   const double steepest = steepestOf(layout_, plan_).slope;
   double felt = 0;
-  for (const TrainWay& way : ways_.empty() ? std::vector<TrainWay>() : std::vector{ways_[way_]})
-    for (const WayStretch& stretch : way.stretches) {
-      const PlacedPiece& piece = *layout_.findPiece(stretch.piece);
-      felt =
-          std::max(felt, std::abs(slopeOf(laid(piece))) +
-                             curveResistance(*definitionOf(piece), stretch.enter, stretch.leave));
-    }
+  for (const WayStretch& stretch : wayNow().stretches) {
+    const PlacedPiece& piece = *layout_.findPiece(stretch.piece);
+    felt = std::max(felt, std::abs(slopeOf(laid(piece))) +
+                              curveResistance(*definitionOf(piece), stretch.enter, stretch.leave));
+  }
   std::string text = trCount("%1% piece gets another height.", "%1% pieces get another height.",
                              plan_.pieces.size());
   if (steepest != 0)

@@ -67,13 +67,9 @@ class ElevationForm {
   bool ready() const;
   const HeightPlan& plan() const { return plan_; }
 
-  /// The heights along the way as they are and as they would be.
-  struct ProfilePoint {
-    double along = 0; ///< mm
-    double before = 0;
-    double after = 0;
-  };
-  std::vector<ProfilePoint> profile() const;
+  /// The way from one end to the other as it is and as it would be; empty when there is none.
+  TrainWay wayNow() const { return ways_.empty() ? TrainWay() : ways_[way_]; }
+  TrainWay wayPlanned() const;
   /// The way's track as it would be, with both ends named.
   PlanContent picture() const;
 

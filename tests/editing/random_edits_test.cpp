@@ -14,6 +14,7 @@
 #include "editing/autofill/autofill.h"
 #include "editing/elevation/grade_edits.h"
 #include "editing/elevation/grade_runs.h"
+#include "editing/elevation/way_handles.h"
 #include "editing/joining/joining.h"
 #include "editing/placing/block_placing.h"
 #include "editing/placing/flipping.h"
@@ -200,14 +201,14 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
     return apply(planTarget(plan, task).heights);
   }
 
-  bool knee() {
-    const TrainWay way = anyWay();
-    std::vector<Knee> knees = kneesOf(way);
-    if (knees.empty())
-      return false;
-    knees[static_cast<std::size_t>(any(0, static_cast<int>(knees.size()) - 1))].height +=
-        any(-9, 9);
-    return apply(planProfile(plan, way, heightsBetween(way, knees), anyRule()));
+  bool pull() {
+    const TrainWay way = wayThrough(plan, piece.id);
+    const auto joint = static_cast<std::size_t>(any(0, static_cast<int>(way.stretches.size())));
+    const double height = way.empty() ? 0 : heightOfJoint(way, joint) + any(-9, 9);
+    const int how = any(0, 3);
+    return apply(how == 0   ? planLiftAll(plan, way, joint, height)
+                 : how == 1 ? planWithoutKnee(plan, way, joint, anyRule())
+                            : planJointHeight(plan, way, joint, height, anyRule()));
   }
 
   bool insert() {
@@ -364,7 +365,7 @@ const R::Edit R::kEdits[] = {
     {"height", [](R& r) { return setTrackHeight(r.plan, r.piece.id, r.any(0, 9) * 0.4).changed; }},
     {"grade", [](R& r) { return r.grade(); }},
     {"target", [](R& r) { return r.target(); }},
-    {"knee", [](R& r) { return r.knee(); }},
+    {"pull", [](R& r) { return r.pull(); }},
     {"raise", [](R& r) { return r.apply(planRaise(r.plan, r.piece.id, r.any(-9, 9))); }},
     {"ease", [](R& r) { return r.apply(planEase(r.plan, r.anyWay(), r.anyRule())); }},
     {"flatten",

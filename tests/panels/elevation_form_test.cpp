@@ -99,7 +99,8 @@ TEST(ElevationForm, RefusalsAreSaidInPlaceAndALoopMaySpread) {
     oval.select(RecordKind::Piece, id, true);
   ElevationForm loop(oval);
   loop.enter(Field::Rise, "20");
-  EXPECT_EQ(loop.profile().size(), 24u) << "the way through what is selected, not the shorter one";
+  EXPECT_EQ(loop.wayNow().stretches.size(), 12u)
+      << "the way through what is selected, not the shorter one";
   EXPECT_TRUE(loop.uses(Switch::Spread) && !loop.ready());
   loop.set(Switch::Spread, true);
   ASSERT_TRUE(applyHeights(oval, loop.plan())) << loop.problem();

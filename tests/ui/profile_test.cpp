@@ -5,6 +5,8 @@
 #include "host/command_ids.h"
 #include "support/plan.h"
 
+#include <wx/choice.h>
+
 namespace trassix::test {
 namespace {
 
@@ -41,6 +43,14 @@ TEST_F(FrameTest, AHandleOfTheHeightProfileIsPulledWithTheMouse) {
   waitUntil("nothing is shown any more", [&] { return workspace.preview() == nullptr; });
   releaseMouse();
   settle();
+  pressMouse(spot(2, 0));
+  moveMouse(spot(2, 20));
+  waitUntil("the plan shows it again", [&] { return workspace.preview() != nullptr; });
+  wxActivateEvent left(wxEVT_ACTIVATE, false);
+  frame().ProcessWindowEvent(left);
+  EXPECT_TRUE(workspace.preview() == nullptr && !window.HasCapture());
+  releaseMouse();
+  settle();
   EXPECT_EQ(plan().content(), before);
   EXPECT_TRUE(window.HasFocus());
 
@@ -68,6 +78,18 @@ TEST_F(FrameTest, AHandleOfTheHeightProfileIsPulledWithTheMouse) {
   moveMouse(onPlan({350, 300}));
   moveMouse(onPlan({394, 300}));
   waitUntil("the piece is marked in the profile", [&] { return workspace.pointed() == 1; });
+
+  // How it is shown is kept while the panel is away.
+  EditorSwitches switches = workspace.switches();
+  switches.heightScale = 5;
+  workspace.setSwitches(switches);
+  put(kHeightProfile);
+  waitUntil("the profile is gone", [] { return findNamed("heightProfile") == nullptr; });
+  put(kHeightProfile);
+  waitUntil("it is back as it was", [] {
+    const auto* scale = static_cast<wxChoice*>(findNamed("exaggeration"));
+    return scale != nullptr && scale->GetStringSelection() == "Heights 5 to 1";
+  });
 }
 
 } // namespace

@@ -103,7 +103,7 @@ double steepest(const std::vector<double>& slopes) {
 }
 
 HeightPlan planSlopes(const Layout& layout, const TrainWay& way, const std::vector<double>& slopes,
-                      LoopRule loops) {
+                      LoopRule loops, double limit) {
   std::vector<PieceHeight> wanted;
   double height = endHeight(layout, way.start());
   for (std::size_t i = 0; i < way.stretches.size(); ++i) {
@@ -114,7 +114,7 @@ HeightPlan planSlopes(const Layout& layout, const TrainWay& way, const std::vect
         layTowards(piece, *definitionOf(piece), stretch.enter, stretch.leave, height, slope));
     height += runOf(layout, stretch) * slope;
   }
-  return planHeights(layout, wanted, loops);
+  return planHeights(layout, wanted, loops, limit);
 }
 
 /// The first pieces of the way climb, the fewest that can; the others lie level.
@@ -158,7 +158,9 @@ void tellTooSteep(const Layout& layout, const TargetTask& task, Climb climb, dou
   const PieceDef* straight =
       usualStraight(definitionOf(pieceOf(layout, task.way.stretches.front()))->system);
   if (straight != nullptr) {
-    plan.morePieces = static_cast<int>(std::ceil(plan.longer / straight->length - kRounding));
+    constexpr double kMost = 1e6; // of any use to tell
+    plan.morePieces =
+        static_cast<int>(std::ceil(std::min(plan.longer / straight->length - kRounding, kMost)));
     plan.morePiecesOf = straight->article;
   }
   const std::string reason = std::abs(plan.slope) > task.limit
@@ -188,6 +190,27 @@ std::int32_t towardsOf(const Layout& layout, const GradeTask& task) {
   return oppositeEnd(definition, task.start.connector);
 }
 
+/// Gives up the heights of the stretch between two branching pieces by which a loop closes, so that
+/// it can bend. False where it has no such ends, or nothing of it was to have a height.
+bool giveUpStretch(const Layout& layout, const LoopGap& gap, TrackEnd start,
+                   std::vector<PieceHeight>& wanted) {
+  const auto branches = [&layout](std::int32_t piece) {
+    const PlacedPiece* placed = layout.findPiece(piece);
+    const PieceDef* definition = placed == nullptr ? nullptr : definitionOf(*placed);
+    return definition == nullptr || definition->connectors.size() > 2;
+  };
+  std::vector<std::int32_t> stretch;
+  for (TrackEnd in : {gap.end, gap.other})
+    for (; !branches(in.piece); in = beyond(layout, {in.piece, 1 - in.connector})) {
+      if (in.piece == start.piece || in.connector == -1 || containsId(stretch, in.piece))
+        return false;
+      stretch.insert(std::ranges::lower_bound(stretch, in.piece), in.piece);
+    }
+  return std::erase_if(wanted, [&stretch](const PieceHeight& height) {
+           return containsId(stretch, height.piece);
+         }) > 0;
+}
+
 } // namespace
 
 HeightPlan planGrade(const Layout& layout, const GradeTask& task) {
@@ -202,10 +225,13 @@ HeightPlan planGrade(const Layout& layout, const GradeTask& task) {
     return refused(tr("The grade must not be above %1% %%.", {percentText(task.limit)}));
   const ClimbStart from{task.start, towardsOf(layout, task), endHeight(layout, task.start),
                         task.slope};
-  const std::vector<PieceHeight> wanted = climbFrom(layout, task.pieces, from);
+  std::vector<PieceHeight> wanted = climbFrom(layout, task.pieces, from);
   if (wanted.size() != task.pieces.size())
     return refused(tr("The selected track does not hang together."));
-  HeightPlan plan = planHeights(layout, wanted, task.loops);
+  HeightPlan plan = planHeights(layout, wanted, task.loops, task.limit);
+  while (plan.gap && task.loops == LoopRule::Spread &&
+         giveUpStretch(layout, *plan.gap, task.start, wanted))
+    plan = planHeights(layout, wanted, task.loops, task.limit);
   if (plan.possible() && task.open && task.slope != 0)
     plan.run = GradeRun{degreesOf(task.slope), task.start.piece, from.towards};
   return plan;
@@ -250,19 +276,6 @@ HeightPlan planProfile(const Layout& layout, const TrainWay& way, std::span<cons
   return planHeights(layout, wanted, loops);
 }
 
-std::vector<Knee> kneesOf(const TrainWay& way) {
-  constexpr double kSameSlope = 1e-5;
-  std::vector<Knee> knees;
-  if (way.empty())
-    return knees;
-  knees.push_back({0, way.stretches.front().from});
-  for (std::size_t i = 1; i < way.stretches.size(); ++i)
-    if (std::abs(way.stretches[i].slope() - way.stretches[i - 1].slope()) > kSameSlope)
-      knees.push_back({i, way.stretches[i].from});
-  knees.push_back({way.stretches.size(), way.stretches.back().to});
-  return knees;
-}
-
 std::vector<double> heightsBetween(const TrainWay& way, std::span<const Knee> knees) {
   std::vector<double> heights;
   std::vector<double> along{0};
@@ -305,7 +318,7 @@ TargetPlan planTarget(const Layout& layout, const TargetTask& task) {
   plan.slope =
       slopes ? steepest(*slopes) : rise / std::reduce(climb.lengths.begin(), climb.lengths.end());
   if (slopes && std::abs(plan.slope) <= task.limit + kRounding)
-    plan.heights = planSlopes(layout, task.way, *slopes, task.loops);
+    plan.heights = planSlopes(layout, task.way, *slopes, task.loops, task.limit);
   else
     tellTooSteep(layout, task, climb, rise, plan);
   return plan;
@@ -368,7 +381,7 @@ HeightPlan planEase(const Layout& layout, const TrainWay& way, LoopRule loops) {
   const std::optional<std::vector<double>> slopes = slopesFor(climb, rise);
   if (!slopes)
     return refused(tr("The way is too short to be eased."));
-  return planSlopes(layout, way, *slopes, loops);
+  return planSlopes(layout, way, *slopes, loops, kSteepestSlope);
 }
 
 } // namespace trassix

@@ -15,7 +15,8 @@ namespace trassix {
 
 class Layout;
 
-/// One grade for one piece or several that hang together, on all branches of turnouts.
+/// One grade for one piece or several that hang together, on all branches of turnouts. Spread over
+/// loops, those from turnout to turnout bend as much as they must.
 struct GradeTask {
   std::vector<std::int32_t> pieces; ///< sorted ids
   TrackEnd start;                   ///< an end of one of them, which keeps its height
@@ -45,9 +46,6 @@ struct Knee {
   std::size_t joint = 0;
   double height = 0;
 };
-/// Both ends of the way and the joints where its grade changes by more than a thousandth of a
-/// percent.
-std::vector<Knee> kneesOf(const TrainWay& way);
 /// The heights of all joints when the grade is even between neighbouring knees. Beyond the first
 /// and the last one all is lifted as they are.
 std::vector<double> heightsBetween(const TrainWay& way, std::span<const Knee> knees);

@@ -4,6 +4,7 @@
 #include "document/limits.h"
 #include "document/plan_content.h"
 #include "editing/elevation/climbing.h"
+#include "editing/elevation/grade_edits.h"
 #include "editing/elevation/grade_runs.h"
 #include "editing/elevation/propagation.h"
 #include "editing/elevation/train_way.h"
@@ -14,7 +15,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <unordered_set>
 
 namespace trassix {
@@ -44,34 +44,6 @@ std::vector<std::int32_t> partAround(const Layout& layout, std::span<const std::
   return part;
 }
 
-/// Whether no joint among the pieces gets a step by these heights, and all stay within the limits.
-bool fit(const Layout& layout, const std::vector<PieceHeight>& heights) {
-  std::map<std::int32_t, PlacedPiece> laid;
-  for (const PieceHeight& height : heights) {
-    PlacedPiece piece = *layout.findPiece(height.piece);
-    lay(piece, height);
-    laid.emplace(height.piece, std::move(piece));
-  }
-  constexpr double kRounding = 1e-6; // mm
-  return std::ranges::all_of(laid, [&](const auto& entry) {
-    const PlacedPiece& piece = entry.second;
-    for (std::int32_t i = 0; i < static_cast<std::int32_t>(piece.joints.size()); ++i) {
-      const TrackEnd end{piece.id, i};
-      const TrackEnd other = beyond(layout, end);
-      const auto neighbour = laid.find(other.piece);
-      if (neighbour == laid.end())
-        continue;
-      const double step =
-          endHeight(neighbour->second, *definitionOf(neighbour->second), other.connector) -
-          endHeight(piece, *definitionOf(piece), i);
-      const double before = endHeight(layout, other) - endHeight(layout, end);
-      if (std::abs(step) > std::abs(before) + kRounding)
-        return false;
-    }
-    return isLength(piece.z);
-  });
-}
-
 void layAll(Layout& layout, const std::vector<PieceHeight>& heights) {
   for (const PieceHeight& height : heights)
     lay(*layout.editPiece(height.piece), height);
@@ -97,19 +69,21 @@ void landGroup(Layout& layout, std::span<const std::int32_t> group, TrackEnd own
   const ClimbStart start = startAt(layout, own, target);
   const double rise = start.height - endHeight(layout, own);
   const std::vector<std::int32_t> part = partAround(layout, group, own.piece);
-  std::vector<PieceHeight> heights;
   if (start.slope != 0 && std::ranges::none_of(part, [&layout](std::int32_t id) {
         const PlacedPiece& piece = *layout.findPiece(id);
         return isGraded(piece) || piece.helix != -1;
-      }))
-    heights = climbFrom(layout, part, start);
-  const bool climbs = heights.size() == part.size() && fit(layout, heights);
-  for (const std::int32_t id : group)
-    if (!climbs || !containsId(part, id))
-      if (rise != 0)
-        layout.editPiece(id)->z += rise;
-  if (climbs)
-    layAll(layout, heights);
+      })) {
+    GradeTask climb = {part, own, start.towards, start.slope};
+    climb.limit = std::max(kSteepestSlope, std::abs(start.slope));
+    climb.loops = LoopRule::Spread;
+    const std::vector<PieceHeight> heights = planGrade(layout, climb).pieces;
+    if (std::ranges::all_of(
+            heights, [rise](const PieceHeight& height) { return isLength(height.z + rise); }))
+      layAll(layout, heights);
+  }
+  if (rise != 0)
+    for (const std::int32_t id : group)
+      layout.editPiece(id)->z += rise;
 }
 
 void landWhereMeeting(Layout& layout, std::span<const std::int32_t> group,

@@ -22,7 +22,8 @@ void inheritElevation(Layout& layout, std::int32_t newPiece, std::int32_t from,
 
 /// Lifts track that comes to the plan or is put down, `group` (sorted ids), before it is joined by
 /// its end `own` to `target`: as a whole, or, where it is level and an open run covers the target,
-/// what hangs on that end goes on climbing. Turntables and helices are never tilted.
+/// what hangs on that end goes on climbing, as evenly as its loops allow. Turntables and helices
+/// are never tilted.
 void landGroup(Layout& layout, std::span<const std::int32_t> group, TrackEnd own, TrackEnd target);
 
 /// The same for each part of `group` that hangs together, at an end that lies on an open end of

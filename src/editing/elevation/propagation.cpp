@@ -24,15 +24,20 @@ namespace trassix {
 namespace {
 
 constexpr double kRounding = 1e-7; // mm: what adding up heights costs
-constexpr int kMostLoops = 1000;   // that one change is spread over
+constexpr double kSameSlope = 1e-9;
+constexpr int kMostLoops = 1000; // that one change is spread over
 
 using Wanted = std::unordered_map<std::int32_t, PieceHeight>;
 
+double slopeWhenLaid(const PieceHeight& height) {
+  PlacedPiece laid;
+  lay(laid, height);
+  return slopeOf(laid);
+}
+
 /// Whether the piece lies otherwise than before, not only higher.
 bool tilts(const PlacedPiece& piece, const PieceHeight& wanted) {
-  PlacedPiece changed;
-  lay(changed, wanted);
-  return slopeOf(changed) != slopeOf(piece);
+  return slopeWhenLaid(wanted) != slopeOf(piece);
 }
 
 /// One walk over all that hangs on the changed pieces.
@@ -289,6 +294,27 @@ HeightPlan planOf(const Layout& layout, const Wanted& wanted, const Walk& walk) 
   return inLimits ? plan : refused(beyondPlan());
 }
 
+/// The piece that is steeper than the limit, and than it was, though nobody asked for that.
+std::optional<Notice> spreadRefusal(const Layout& layout, HeightPlan plan,
+                                    std::span<const PieceHeight> wanted, double limit) {
+  std::unordered_set<std::int32_t> asked;
+  for (const PieceHeight& height : wanted)
+    asked.insert(height.piece);
+  std::erase_if(plan.pieces, [&](const PieceHeight& height) {
+    const double before = std::abs(slopeOf(*layout.findPiece(height.piece)));
+    return asked.contains(height.piece) || std::abs(slopeWhenLaid(height)) <= before + kSameSlope;
+  });
+  const SteepPiece steepest = steepestOf(layout, plan);
+  if (std::abs(steepest.slope) <= limit + kSameSlope)
+    return std::nullopt;
+  const PlacedPiece& piece = *layout.findPiece(steepest.piece);
+  const auto percent = [](double slope) { return formatFixed(percentOf(std::abs(slope)), 1); };
+  return Notice{tr("Heights"), tr("Spread over the loop that would be %1% %% at %2% (x %3%, y %4% "
+                                  "mm), and %5% %% are allowed.",
+                                  {percent(steepest.slope), piece.cat, std::llround(piece.x),
+                                   std::llround(piece.y), percent(limit)})};
+}
+
 /// A helix is tilted by nobody; one that is lifted goes whole, so one of its pieces is enough.
 std::optional<Notice> helixRefusal(const Layout& layout, std::span<const PieceHeight> wanted) {
   std::vector<std::int32_t> tilted;
@@ -302,7 +328,7 @@ std::optional<Notice> helixRefusal(const Layout& layout, std::span<const PieceHe
 } // namespace
 
 HeightPlan planHeights(const Layout& layout, std::span<const PieceHeight> wantedHeights,
-                       LoopRule rule) {
+                       LoopRule rule, double limit) {
   if (auto refusal = helixRefusal(layout, wantedHeights))
     return refused(std::move(*refusal));
   Wanted wanted;
@@ -311,8 +337,11 @@ HeightPlan planHeights(const Layout& layout, std::span<const PieceHeight> wanted
       wanted.emplace(height.piece, height);
   for (int loops = 0;; ++loops) {
     Walk walk(layout, wanted);
-    if (walk.run())
-      return planOf(layout, wanted, walk);
+    if (walk.run()) {
+      HeightPlan plan = planOf(layout, wanted, walk);
+      auto refusal = loops == 0 ? std::nullopt : spreadRefusal(layout, plan, wantedHeights, limit);
+      return refusal ? refused(std::move(*refusal)) : plan;
+    }
     if (rule == LoopRule::Refuse || loops == kMostLoops || !spread(layout, walk, wanted))
       return refused(layout, walk.gap());
   }
@@ -354,10 +383,9 @@ SteepPiece steepestOf(const Layout& layout, const HeightPlan& plan) {
     const PlacedPiece* piece = layout.findPiece(height.piece);
     if (piece == nullptr || !tilts(*piece, height))
       continue;
-    PlacedPiece laid;
-    lay(laid, height);
-    if (steepest.piece == -1 || std::abs(slopeOf(laid)) > std::abs(steepest.slope))
-      steepest = {height.piece, slopeOf(laid)};
+    const double slope = slopeWhenLaid(height);
+    if (steepest.piece == -1 || std::abs(slope) > std::abs(steepest.slope))
+      steepest = {height.piece, slope};
   }
   return steepest;
 }

@@ -4,6 +4,7 @@
 #include "document/grade_run.h"
 #include "editing/edit_result.h"
 #include "editing/elevation/end_heights.h"
+#include "editing/elevation/grades.h"
 #include "geometry/point.h"
 
 #include <cstdint>
@@ -42,9 +43,10 @@ struct HeightPlan {
 
 /// Gives pieces new heights (no two of the same piece) and lifts all that hangs on them so that no
 /// joint gets more of a step than it has. A helix, a tunnel with its portals, a turntable with its
-/// tracks are lifted whole, a tunnel only if nothing in it is to change itself.
+/// tracks are lifted whole, a tunnel only if nothing in it is to change itself. Refused where the
+/// rest of a loop would become steeper than `limit`, and than it is.
 HeightPlan planHeights(const Layout& layout, std::span<const PieceHeight> wanted,
-                       LoopRule rule = LoopRule::Refuse);
+                       LoopRule rule = LoopRule::Refuse, double limit = kSteepestSlope);
 
 /// Does it as one undo step; ends that come to lie on others are joined, and runs end whose anchor
 /// has no longer their grade. Nothing changes when the plan is refused or all is as it was. With

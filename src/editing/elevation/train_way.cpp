@@ -235,8 +235,15 @@ TrainWay wayThrough(const Layout& layout, std::int32_t piece,
   const PieceDef* definition = middle == nullptr ? nullptr : definitionOf(*middle);
   if (definition == nullptr || routesOf(*definition).empty())
     return {};
+  const std::vector<Route>& routes = routesOf(*definition);
+  const auto chosen = std::ranges::find_if(routes, [&](const Route& route) {
+    return std::ranges::any_of(branches, [&](const BranchChoice& branch) {
+      return branch.piece == piece && branch.leave == route.to &&
+             (branch.enter == -1 || branch.enter == route.from);
+    });
+  });
+  const std::int32_t enter = (chosen == routes.end() ? routes.begin() : chosen)->from;
   std::unordered_set<std::int32_t> met;
-  const std::int32_t enter = routesOf(*definition).front().from;
   Steps on = onFrom(layout, {piece, enter}, met, branches);
   Steps back = onFrom(layout, beyond(layout, {piece, enter}), met, branches);
   Steps whole;

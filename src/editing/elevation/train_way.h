@@ -44,11 +44,12 @@ std::vector<TrainWay> trainWays(const Layout& layout, TrackEnd from, TrackEnd to
                                 std::size_t most = 4);
 
 /// Both ways on from a piece, the one that comes in at its end `enter` turned round, as one:
-/// straight on at turnouts (the first route that leads on), to open ends or once round. `branch`
+/// straight on at turnouts (the first route that leads on), to open ends or once round. A branch
 /// chooses another end to leave a piece by.
 struct BranchChoice {
   std::int32_t piece = -1;
   std::int32_t leave = -1;
+  std::int32_t enter = -1; ///< by which the piece in question is come to; -1: any
 };
 TrainWay wayThrough(const Layout& layout, std::int32_t piece,
                     const std::vector<BranchChoice>& branches = {});

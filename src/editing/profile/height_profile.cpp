@@ -46,6 +46,7 @@ double rounded(double height, double step) {
 } // namespace
 
 HeightProfile::HeightProfile(Workspace& workspace) : workspace_(workspace) {
+  view_.setExaggeration(workspace.switches().heightScale);
   renew();
 }
 
@@ -173,10 +174,14 @@ void HeightProfile::move(const PointerInput& input) {
   repaint();
 }
 
+LoopRule HeightProfile::loops() const {
+  return workspace_.switches().spreadLoops ? LoopRule::Spread : LoopRule::Refuse;
+}
+
 HeightPlan HeightProfile::planFor(std::size_t joint, double height, bool all) const {
   const Layout& layout = workspace_.layout();
   return all ? planLiftAll(layout, content_.way, joint, height)
-             : planJointHeight(layout, content_.way, joint, height, loops_);
+             : planJointHeight(layout, content_.way, joint, height, loops());
 }
 
 void HeightProfile::pull(const PointerInput& input) {
@@ -295,7 +300,7 @@ bool HeightProfile::nudge(double by, bool all) {
 }
 
 bool HeightProfile::takeOutKnee() {
-  apply(planWithoutKnee(workspace_.layout(), content_.way, *chosen_, loops_));
+  apply(planWithoutKnee(workspace_.layout(), content_.way, *chosen_, loops()));
   return true;
 }
 
@@ -371,15 +376,12 @@ std::string HeightProfile::enter(std::string_view text) {
   return problem_;
 }
 
-void HeightProfile::setExaggeration(double times) {
-  view_.setExaggeration(times);
-  view_.fit(content_);
-  repaint();
-}
-
-void HeightProfile::setLoops(LoopRule loops) {
-  loops_ = loops;
+void HeightProfile::switchesChanged() {
   problem_.clear();
+  if (const double scale = workspace_.switches().heightScale; scale != view_.exaggeration()) {
+    view_.setExaggeration(scale);
+    view_.fit(content_);
+  }
   repaint();
 }
 

@@ -47,11 +47,10 @@ class HeightProfile {
   /// Puts the keys on a handle when they are on none.
   void focus(bool focused);
 
-  /// How many times heights are drawn larger than distances; 0 for as it fits.
-  void setExaggeration(double times);
+  /// How many times heights can be drawn larger than distances; 0 for as it fits.
   static constexpr double kExaggerations[] = {0, 1, 2, 5, 10, 20};
-  /// What does not add up round a loop is taken up by the rest of the loop.
-  void setLoops(LoopRule loops);
+  /// Follows the window's switches.
+  void switchesChanged();
 
   /// Where a height can be typed for the handle under the mouse or the one the keys are on.
   struct Entry {
@@ -87,6 +86,7 @@ class HeightProfile {
     PlanPreview preview;
   };
 
+  LoopRule loops() const;
   HeightPlan planFor(std::size_t joint, double height, bool all) const;
   void pull(const PointerInput& input);
   void drop();
@@ -111,7 +111,6 @@ class HeightProfile {
   ProfileContent content_;
   std::vector<std::size_t> knees_; ///< of the way as it is shown, ascending
   ProfileView view_;
-  LoopRule loops_ = LoopRule::Refuse;
 
   Gesture gesture_ = Gesture::None;
   PointerInput pressed_;

@@ -15,6 +15,7 @@ class ProfileView {
   SizePx size() const { return size_; }
   /// How many times heights are drawn larger than distances; 0 for as it fits.
   void setExaggeration(double times) { exaggeration_ = times; }
+  double exaggeration() const { return exaggeration_; }
 
   ProfileScale scale() const;
 

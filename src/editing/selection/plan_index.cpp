@@ -1,6 +1,8 @@
 #include "editing/selection/plan_index.h"
 
 #include "document/plan_content.h"
+#include "editing/elevation/crossings.h"
+#include "editing/elevation/end_heights.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/piece_outline.h"
 #include "geometry/box_tree.h"
@@ -16,6 +18,16 @@ namespace {
 
 Box widened(const Box& box, double margin) {
   return {box.minX - margin, box.minY - margin, box.maxX + margin, box.maxY + margin};
+}
+
+/// Track that leads over other track lies in another storey. None begins at a whole or half
+/// millimetre, where heights are usual, so that rounding moves nothing up or down.
+std::int64_t storeyOf(const PlacedPiece& piece, const PieceDef* definition) {
+  double lowest = piece.z;
+  if (definition != nullptr && isGraded(piece))
+    for (std::int32_t i = 0; i < static_cast<std::int32_t>(definition->connectors.size()); ++i)
+      lowest = std::min(lowest, endHeight(piece, *definition, i));
+  return std::llround(lowest / kDeckThickness + 0.137);
 }
 
 constexpr double kRounding = 1e-6; // mm, more than the boxes' corners are off
@@ -65,12 +77,12 @@ PlanIndex::PlanIndex(const Layout& layout) : data_(std::make_unique<Data>()) {
   data_->entries.resize(pieces.size());
   std::vector<BoxTree::Entry> boxes;
   boxes.reserve(pieces.size());
-  std::vector<double> heights(pieces.size());
+  std::vector<std::pair<double, std::int64_t>> heights(pieces.size());
   for (std::size_t i = 0; i < pieces.size(); ++i) {
     const PlacedPiece& piece = pieces[i];
     const PieceDef* definition = definitionOf(piece);
     data_->entries[i] = {definition, &outlineOf(definition), poseOf(piece), 0};
-    heights[i] = layout.levelHeight(piece.level);
+    heights[i] = {layout.levelHeight(piece.level), storeyOf(piece, definition)};
     if (!layout.levelVisible(piece.level) || !std::isfinite(piece.x) || !std::isfinite(piece.y) ||
         !std::isfinite(piece.heading))
       continue;

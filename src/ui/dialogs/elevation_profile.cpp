@@ -39,41 +39,43 @@ void ElevationProfile::paint(wxGraphicsContext& context, const wxSize& size) con
   const auto height = static_cast<double>(size.y);
   const Point sheet[]{{0, 0}, {width, 0}, {width, height}, {0, height}};
   surface.polygon(sheet, colors::kBoard, std::nullopt);
-  const std::vector<ElevationForm::ProfilePoint> points = form_.profile();
-  if (points.empty() || points.back().along <= 0)
+  const TrainWay now = form_.wayNow();
+  const TrainWay planned = form_.wayPlanned();
+  const double length = now.length();
+  if (length <= 0)
     return surface.text(toUtf8(_("No way between two ends")), {width / 2, height / 2}, 0, kText);
-  double low = points.front().before;
+  double low = now.stretches.front().from;
   double high = low;
-  for (const auto& point : points) {
-    low = std::min({low, point.before, point.after});
-    high = std::max({high, point.before, point.after});
-  }
+  for (const TrainWay& way : {now, planned})
+    for (const WayStretch& stretch : way.stretches) {
+      low = std::min({low, stretch.from, stretch.to});
+      high = std::max({high, stretch.from, stretch.to});
+    }
   const double span = std::max(high - low, kLeastSpan);
   const double perMm = (height - kHead - kMargin) / span;
   const auto at = [&](double along, double z) {
-    return Point{kMargin + along / points.back().along * (width - 2 * kMargin),
+    return Point{kMargin + along / length * (width - 2 * kMargin),
                  height - kMargin - (z - low) * perMm};
   };
-  std::vector<Point> before;
-  for (const auto& point : points)
-    before.push_back(at(point.along, point.before));
+  double along = 0;
+  std::vector<Point> before{at(0, now.stretches.front().from)};
+  for (const WayStretch& stretch : now.stretches)
+    before.push_back(at(along += stretch.length, stretch.to));
   surface.polyline(before, {colors::kFarArticle, 1.5, Stroke::Style::Dashed});
-  for (std::size_t i = 0; i + 1 < points.size(); i += 2) {
-    const auto& from = points[i];
-    const auto& to = points[i + 1];
-    const double run = to.along - from.along;
-    const double slope = run > 0 ? (to.after - from.after) / run : 0;
-    const Point line[]{at(from.along, from.after), at(to.along, to.after)};
-    surface.polyline(line, {colors::gradeColor(slope), 3});
+  along = 0;
+  for (const WayStretch& stretch : planned.stretches) {
+    const Point line[]{at(along, stretch.from), at(along + stretch.length, stretch.to)};
+    along += stretch.length;
+    surface.polyline(line, {colors::gradeColor(stretch.slope()), 3});
   }
-  const auto name = [&](const ElevationForm::ProfilePoint& point) {
-    const std::string text = formatLength(point.after, units_);
+  const auto name = [&](double place, double z) {
+    const std::string text = formatLength(z, units_);
     const double half = surface.textSize(text, kText).width / 2 + 4;
-    const Point end = at(point.along, point.after);
+    const Point end = at(place, z);
     paintTextWithHalo(surface, text, {std::clamp(end.x, half, width - half), end.y - 13}, 0, kText);
   };
-  name(points.front());
-  name(points.back());
+  name(0, planned.stretches.front().from);
+  name(length, planned.stretches.back().to);
 }
 
 } // namespace trassix

@@ -81,6 +81,7 @@ class ProfileWindow : public wxWindow, private PlanObserver {
     Bind(wxEVT_CHAR_HOOK, &ProfileWindow::onKey, this);
     Bind(wxEVT_KEY_DOWN, &ProfileWindow::onKey, this);
     Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { profile_.cancel(); });
+    wxGetTopLevelParent(this)->Bind(wxEVT_ACTIVATE, &ProfileWindow::onActivate, this);
     Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
       const wxSize size = GetClientSize();
       profile_.resize({size.x / pixelScale(), size.y / pixelScale()});
@@ -108,6 +109,7 @@ class ProfileWindow : public wxWindow, private PlanObserver {
     syncCapture();
   }
   void unitsChanged() override { Refresh(false); }
+  void switchesChanged() override { profile_.switchesChanged(); }
   void pictureChanged() override { Refresh(false); }
   void pointedChanged() override { Refresh(false); }
 
@@ -118,6 +120,13 @@ class ProfileWindow : public wxWindow, private PlanObserver {
   void cancel() {
     profile_.cancel();
     syncCapture();
+  }
+
+  void onActivate(wxActivateEvent& event) {
+    // A handle that is held would keep the mouse from the window that the user went to.
+    if (!event.GetActive() && profile_.wantsCapture())
+      cancel();
+    event.Skip();
   }
 
   double pixelScale() const { return FromDIP(1000) / 1000.0; }
@@ -226,19 +235,26 @@ class ProfilePanel : public wxPanel {
                                   wxDefaultSize, 0, wxDefaultValidator, "spreadOverLoops");
     spread->SetToolTip(_("Where track comes round to itself, the rest of the loop takes up what "
                          "is changed, over its whole length"));
-    spread->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent& event) {
-      picture_->profile().setLoops(event.IsChecked() ? LoopRule::Spread : LoopRule::Refuse);
+    spread->SetValue(workspace.switches().spreadLoops);
+    spread->Bind(wxEVT_CHECKBOX, [&workspace](wxCommandEvent& event) {
+      EditorSwitches switches = workspace.switches();
+      switches.spreadLoops = event.IsChecked();
+      workspace.setSwitches(switches);
     });
     auto* exaggeration = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
                                       0, wxDefaultValidator, "exaggeration");
     for (const double times : HeightProfile::kExaggerations)
       exaggeration->Append(times == 0 ? _("Heights fit")
                                       : wxString::Format(_("Heights %g to 1"), times));
-    exaggeration->SetSelection(0);
+    const auto* shown =
+        std::ranges::find(HeightProfile::kExaggerations, workspace.switches().heightScale);
+    exaggeration->SetSelection(static_cast<int>(shown - HeightProfile::kExaggerations));
     exaggeration->SetToolTip(_("How much larger heights are drawn than distances"));
-    exaggeration->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
-      picture_->profile().setExaggeration(
-          HeightProfile::kExaggerations[static_cast<std::size_t>(event.GetSelection())]);
+    exaggeration->Bind(wxEVT_CHOICE, [&workspace](wxCommandEvent& event) {
+      EditorSwitches switches = workspace.switches();
+      switches.heightScale =
+          HeightProfile::kExaggerations[static_cast<std::size_t>(event.GetSelection())];
+      workspace.setSwitches(switches);
     });
 
     auto* row = new wxBoxSizer(wxHORIZONTAL);

@@ -150,6 +150,32 @@ TEST(Heights, ALoopThatDoesNotAddUpIsRefusedOrTakesItUp) {
   for (std::int32_t id = 5; id <= 20; ++id)
     EXPECT_NEAR(slopeOut(*layout.findPiece(id), *definitionOf(*layout.findPiece(id)), 1),
                 -25 / rest, 1e-9);
+  // What is left for the loop must not become too steep for trains.
+  layout.undo();
+  spread.way = trainWays(layout, {1, 0}, {4, 1}).at(1);
+  spread.height = 30;
+  EXPECT_TRUE(planTarget(layout, spread).heights.possible());
+  spread.limit = 0.03;
+  EXPECT_THAT(planTarget(layout, spread).heights.refusal.value().text,
+              HasSubstr("would be 4.0 % at 24188"));
+}
+
+TEST(Heights, APassingLoopClimbsWithItsLine) {
+  Plan plan = Plan().place("24188").extend("24611").extend("24172").extend("24188", 2);
+  plan.extend("24172").extendBy("24612", 1, 0).at(2, 2).extend("24224").extend("24188", 2);
+  Layout& loop = plan.extend("24224").layout; // ways of 1141.9 and 1140.0 mm
+  ASSERT_EQ(openEnds(loop), 2);
+  selectAll(loop);
+  const GradeTask task{selectedPieces(loop), {1, 0}, -1, 0.03};
+  EXPECT_THAT(planGrade(loop, task).refusal.value().text, HasSubstr("a step of"));
+  // It comes to a line that climbs.
+  Layout line = Plan().place("24188", {-188.3, 0, 0}).layout;
+  applyHeights(line, openRun(line, 1, 1, degreesOf(0.03)));
+  placeBlock(line, blockFromSelection(loop), {});
+  EXPECT_EQ(openEnds(line), 2);
+  EXPECT_LT(largestPlay(line).step, 1e-6);
+  for (const PlacedPiece& piece : line.pieces())
+    EXPECT_NEAR(std::abs(slopeOf(piece)), 0.03, 0.001) << piece.id;
 }
 
 TEST(Heights, TheTargetSaysWhatItWouldTake) {
@@ -162,6 +188,9 @@ TEST(Heights, TheTargetSaysWhatItWouldTake) {
   EXPECT_EQ(steep.morePieces, 8);
   EXPECT_EQ(steep.morePiecesOf, "24188");
   EXPECT_FALSE(steep.heights.possible());
+  task.limit = 1e-12;
+  EXPECT_EQ(planTarget(layout, task).morePieces, 1000000);
+  task.limit = 0.03;
   task.height = -30;
   task.shape = TargetTask::Shape::SteepThenLevel;
   ASSERT_TRUE(applyHeights(layout, planTarget(layout, task).heights));

@@ -99,6 +99,15 @@ TEST(HeightProfile, BranchesAreChosenBySelectionAndClick) {
     takeNextBranch(layout, choice, way, static_cast<std::size_t>(at - way.stretches.begin()));
     EXPECT_EQ(ends(choice), expected) << turnout;
   }
+  // Lines of a crossing that is selected itself have no end in common.
+  const Layout cross = Plan().place("24640").extend("24188").at(1, 3).extend("24188").layout;
+  choice = choiceThrough(cross, std::vector<std::int32_t>{1});
+  for (const std::int32_t end : {2, 3, 2}) {
+    EXPECT_EQ(wayOf(cross, choice).end().piece, end);
+    takeNextBranch(cross, choice, wayOf(cross, choice), 0);
+  }
+  choice = choiceThrough(cross, std::vector<std::int32_t>{1, 3});
+  EXPECT_EQ(wayOf(cross, choice).end().piece, 3);
 }
 
 /// The profile of a plan in which a piece is selected, handled by its joints.

@@ -36,6 +36,11 @@ TEST(PlanIndex, FindsWhatLiesUnderAPointOrInABox) {
   EXPECT_EQ(index.inBox({20, 1030, 21, 1031}, false), Positions{3}); // between tracks in the pit
   plan.layout.editSettings().levels[1].visible = false;
   EXPECT_EQ(PlanIndex(plan.layout).hits({94, 0}, 0), Positions{1});
+  plan.layout.editPiece(2)->level = plan.layout.editPiece(1)->level = 1;
+  EXPECT_EQ(PlanIndex(plan.layout).hits({94, 0}, 0), (Positions{1, 0}));
+  plan.layout.editPiece(1)->z = 80; // leads over the later piece
+  plan.layout.editPiece(2)->grade = 2;
+  EXPECT_EQ(PlanIndex(plan.layout).hits({94, 0}, 0), (Positions{0, 1}));
 }
 
 TEST(PlanIndex, AgreesWithPlainLoops) {
