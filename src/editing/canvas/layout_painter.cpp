@@ -50,6 +50,11 @@ struct LayoutPainter::Visible {
   const PieceDef* definition;
   PiecePainter::Shape shape;
   PieceLook look;
+  std::int64_t storey;
+
+  bool besides(const Visible& other) const {
+    return piece->level == other.piece->level && storey == other.storey;
+  }
 };
 
 LayoutPainter::LayoutPainter(Surface& surface, SizePx size, const ViewTransform& view,
@@ -190,7 +195,8 @@ std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& la
     look.faded = isOtherLevel(layout, piece.level);
     if (piece.sel && options_.selection)
       look.accent = colors::kSelected;
-    shown.push_back({&piece, definition, painter.shapeOf(*definition), look});
+    shown.push_back(
+        {&piece, definition, painter.shapeOf(*definition), look, index.storey(position)});
   }
   return shown;
 }
@@ -205,11 +211,11 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
   };
   PiecePainter painter(surface_, view_);
   std::vector<PiecePainter::Piece> pieces;
-  // One level after the other, beds before rails: joined beds read as one, and an upper deck hides
-  // what runs below it.
+  // One storey after the other, beds before rails: joined beds read as one, and what leads over
+  // other track hides it.
   for (std::size_t from = 0; from < track.size();) {
     std::size_t to = from;
-    while (to < track.size() && track[to].piece->level == track[from].piece->level)
+    while (to < track.size() && track[to].besides(track[from]))
       ++to;
     sceneryUpTo(layout.levelHeight(track[from].piece->level));
     pieces.clear();

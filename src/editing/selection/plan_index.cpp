@@ -45,6 +45,7 @@ struct PlanIndex::Data {
     const PieceDef* definition = nullptr;
     const PieceOutline* outline = nullptr;
     Pose pose;
+    std::int64_t storey = 0;
     std::uint32_t order = 0; ///< place in drawing order
   };
 
@@ -81,8 +82,9 @@ PlanIndex::PlanIndex(const Layout& layout) : data_(std::make_unique<Data>()) {
   for (std::size_t i = 0; i < pieces.size(); ++i) {
     const PlacedPiece& piece = pieces[i];
     const PieceDef* definition = definitionOf(piece);
-    data_->entries[i] = {definition, &outlineOf(definition), poseOf(piece), 0};
-    heights[i] = {layout.levelHeight(piece.level), storeyOf(piece, definition)};
+    data_->entries[i] = {definition, &outlineOf(definition), poseOf(piece),
+                         storeyOf(piece, definition), 0};
+    heights[i] = {layout.levelHeight(piece.level), data_->entries[i].storey};
     if (!layout.levelVisible(piece.level) || !std::isfinite(piece.x) || !std::isfinite(piece.y) ||
         !std::isfinite(piece.heading))
       continue;
@@ -123,6 +125,10 @@ std::vector<std::size_t> PlanIndex::inBox(const Box& box, bool whole) const {
 
 const PieceDef* PlanIndex::definition(std::size_t position) const {
   return position < data_->entries.size() ? data_->entries[position].definition : nullptr;
+}
+
+std::int64_t PlanIndex::storey(std::size_t position) const {
+  return position < data_->entries.size() ? data_->entries[position].storey : 0;
 }
 
 } // namespace trassix

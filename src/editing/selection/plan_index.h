@@ -34,6 +34,9 @@ class PlanIndex {
   /// The definition of the piece at a position, null when its article is unknown.
   const PieceDef* definition(std::size_t position) const;
 
+  /// Track of one level that leads over other track of it is in a higher storey.
+  std::int64_t storey(std::size_t position) const;
+
  private:
   struct Data;
   std::unique_ptr<Data> data_;
