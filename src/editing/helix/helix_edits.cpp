@@ -5,6 +5,7 @@
 #include "document/reselecting.h"
 #include "document/undo_scope.h"
 #include "editing/joining/joining.h"
+#include "editing/records_by_id.h"
 #include "editing/selection/selection.h"
 #include "measures/measure_format.h"
 #include "texts/texts.h"
@@ -93,6 +94,13 @@ std::vector<std::int32_t> piecesOfHelix(const Layout& layout, std::int32_t helix
       ids.push_back(piece.id);
   std::ranges::sort(ids);
   return ids;
+}
+
+std::int32_t helixUnder(const Layout& layout, const Pick& pick) {
+  const PlacedPiece* piece = pick.kind == RecordKind::Piece ? layout.findPiece(pick.id) : nullptr;
+  return piece != nullptr && recordWithId(layout.content().helices, piece->helix) != nullptr
+             ? piece->helix
+             : -1;
 }
 
 std::int32_t selectedHelix(const Layout& layout) {

@@ -3,6 +3,7 @@
 
 #include "editing/edit_result.h"
 #include "editing/helix/helix_plan.h"
+#include "editing/selection/picking.h"
 
 #include <cstdint>
 #include <vector>
@@ -22,6 +23,9 @@ EditResult placeHelix(Layout& layout, const HelixPlan& plan, std::int32_t level)
 
 /// Ids of its pieces, sorted.
 std::vector<std::int32_t> piecesOfHelix(const Layout& layout, std::int32_t helix);
+
+/// The helix that a record of the plan is track of, -1 for none.
+std::int32_t helixUnder(const Layout& layout, const Pick& pick);
 
 /// The helix whose pieces are selected, all of them and nothing else that is track; -1 for none.
 std::int32_t selectedHelix(const Layout& layout);

@@ -1,6 +1,9 @@
+#include "document/block.h"
 #include "document/plan_content.h"
 #include "editing/elevation/end_heights.h"
 #include "editing/helix/helix_edits.h"
+#include "editing/placing/block_placing.h"
+#include "editing/selection/moving.h"
 #include "editing/selection/selection.h"
 #include "support/plan.h"
 
@@ -93,6 +96,44 @@ TEST(Helices, AreOneStepEachAndRefuseTrainsThatCannotPass) {
   }
   layout.undo();
   EXPECT_EQ(layout.pieceCount(), 0U);
+}
+
+TEST(Helices, AreMovedAndCopiedWhole) {
+  Layout layout;
+  HelixPlan plan = planOf(*findHelixKit("helix_1_5_r2r3"), HelixHand::Left);
+  const std::int32_t id = placeHelix(layout, plan, 1).placed.front();
+  EXPECT_FALSE(moveGuard(layout, "move"));
+  EXPECT_TRUE(lockGuard(layout, "delet"));
+  ASSERT_TRUE(nudgeSelection(layout, 10, 20, false));
+  ASSERT_TRUE(rotateSelection(layout, 90));
+  const auto expectWhole = [&layout](const Helix& helix) {
+    const double radius = findHelixKit(helix.variant)->inner->radius;
+    for (const std::int32_t piece : piecesOfHelix(layout, helix.id))
+      for (const WorldConnector& end :
+           WorldConnectorsOf(*layout.findPiece(piece), *definitionOf(*layout.findPiece(piece))))
+        EXPECT_LT(std::hypot(end.x - helix.cx, end.y - helix.cy), radius + 100);
+    const WorldConnector end = worldEnd(*layout.findPiece(helix.bottomR1), 1);
+    EXPECT_NEAR(std::hypot(end.x - helix.cx, end.y - helix.cy), radius, 0.01);
+    EXPECT_NEAR(headingDifference(end.heading, helix.heading), 180, 0.01);
+  };
+  expectWhole(layout.content().helices[0]);
+  EXPECT_NEAR(layout.content().helices[0].heading, 123.3, 1e-6);
+
+  Block block = blockFromSelection(layout);
+  centreBlock(block);
+  ASSERT_TRUE(placeBlock(layout, block, {3000, 0, 45}).changed());
+  ASSERT_EQ(layout.content().helices.size(), 2U);
+  const Helix copy = layout.content().helices[1];
+  EXPECT_NE(copy.id, id);
+  EXPECT_EQ(piecesOfHelix(layout, copy.id).size(), piecesOfHelix(layout, id).size());
+  EXPECT_EQ(layout.findPiece(copy.topR2)->helix, copy.id);
+  expectWhole(copy);
+
+  layout.select(RecordKind::Piece, copy.topR2, false); // parts come without the helix
+  EXPECT_TRUE(moveGuard(layout, "move"));
+  EXPECT_TRUE(blockFromSelection(layout).content.helices.empty());
+  ASSERT_TRUE(placeBlock(layout, blockFromSelection(layout), {6000, 0, 0}).changed());
+  EXPECT_EQ(layout.pieces().back().helix, -1);
 }
 
 } // namespace
