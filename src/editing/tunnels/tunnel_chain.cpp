@@ -19,9 +19,10 @@ namespace trassix {
 namespace {
 
 constexpr double kSpacingPlay = 1.0;   // mm, as parallel track is laid
-constexpr double kHeightPlay = 5.0;    // mm between the tracks of a double portal
 constexpr double kFacingPlay = 5.0;    // degrees between them
 constexpr double kLineTolerance = 0.1; // mm
+
+constexpr const char* kNoChain = trLater("The selected track is no chain that trains run through");
 
 std::string nameOf(const PlacedPiece& piece) {
   const PieceDef* definition = definitionOf(piece);
@@ -57,14 +58,15 @@ class ChainFinder {
   }
 
   /// The way through a group; empty, with the reason in `problem`, when that is no chain.
-  TrainWay wayThrough(const std::set<std::int32_t>& group, std::string& problem) const {
+  TrainWay wayThrough(const std::set<std::int32_t>& group, TunnelProblem& problem) const {
     for (const std::int32_t id : group)
-      if (problem = problemOf(*layout_.findPiece(id)); !problem.empty())
+      if (problem = problemOf(*layout_.findPiece(id)))
         return {};
     const auto first = std::ranges::find_if(
         group, [this](std::int32_t id) { return innerEnds(*layout_.findPiece(id)).size() < 2; });
     if (first == group.end()) {
-      problem = tr("The track closes to a ring; a tunnel needs two mouths.");
+      problem =
+          TunnelProblem::plain(trLater("The track closes to a ring; a tunnel needs two mouths."));
       return {};
     }
     TrainWay way;
@@ -78,7 +80,7 @@ class ChainFinder {
       const std::int32_t leave = inner.empty() ? oppositeEnd(definition, enter) : inner.front();
       const Route* route = routeBetween(definition, enter, leave);
       if (enter == -1 || leave == -1 || route == nullptr) {
-        problem = tr("No train gets out of the tunnel over %1%.", {nameOf(*piece)});
+        problem = {kNoChain, tr("No train gets out of the tunnel over %1%.", {nameOf(*piece)})};
         return {};
       }
       way.stretches.push_back({piece->id, enter, leave, routeLength(*route),
@@ -116,15 +118,16 @@ class ChainFinder {
     return ends;
   }
 
-  std::string problemOf(const PlacedPiece& piece) const {
+  TunnelProblem problemOf(const PlacedPiece& piece) const {
     const PieceDef* definition = definitionOf(piece);
     if (definition == nullptr || definition->kind == PieceKind::Turntable)
-      return tr("A tunnel cannot lead over %1%.", {nameOf(piece)});
+      return {kNoChain, tr("A tunnel cannot lead over %1%.", {nameOf(piece)})};
     const std::vector<std::int32_t> ends = innerEnds(piece);
     if (ends.size() > 2)
-      return tr("The selected track branches at %1%. Select one way through it.", {nameOf(piece)});
+      return {kNoChain, tr("The selected track branches at %1%. Select one way through it.",
+                           {nameOf(piece)})};
     if (ends.size() == 2 && routeBetween(*definition, ends[0], ends[1]) == nullptr)
-      return tr("No train gets over %1% along the selected track.", {nameOf(piece)});
+      return {kNoChain, tr("No train gets over %1% along the selected track.", {nameOf(piece)})};
     return {};
   }
 
@@ -155,16 +158,8 @@ double distanceTo(const std::vector<Point>& line, Point at) {
 
 std::vector<Point> lineOf(const Layout& layout, const TrainWay& way) {
   std::vector<Point> line;
-  for (const WayStretch& stretch : way.stretches) {
-    const PlacedPiece& piece = *layout.findPiece(stretch.piece);
-    const Route& route = *routeBetween(*definitionOf(piece), stretch.enter, stretch.leave);
-    std::vector<RoutePoint> points = sampleRoute(route, kLineTolerance);
-    if (route.from != stretch.enter)
-      std::ranges::reverse(points);
-    const PoseFrame frame(poseOf(piece));
-    for (const RoutePoint& point : points)
-      line.push_back(frame(point.position));
-  }
+  for (const Pose& pose : posesAlong(layout, way))
+    line.push_back({pose.x, pose.y});
   return line;
 }
 
@@ -185,8 +180,7 @@ bool runsBeside(const Layout& layout, const TrainWay& first, const TrainWay& sec
     const BesideEnd lies = besideEnd(end, {there.x, there.y});
     right = lies.right;
     return atSpacing(system, lies.right) && std::abs(lies.ahead) <= std::abs(lies.right) &&
-           headingDifference(end.heading, there.heading) <= kFacingPlay &&
-           std::abs(endHeight(layout, own) - endHeight(layout, other)) <= kHeightPlay;
+           headingDifference(end.heading, there.heading) <= kFacingPlay;
   };
   double atStart = 0;
   double atEnd = 0;
@@ -205,10 +199,14 @@ bool runsBeside(const Layout& layout, const TrainWay& first, const TrainWay& sec
 
 } // namespace
 
+TunnelProblem TunnelProblem::plain(const char* why) {
+  return {why, tr(why)};
+}
+
 TunnelChains tunnelChains(const Layout& layout, std::span<const std::int32_t> pieces) {
   TunnelChains chains;
   if (pieces.empty()) {
-    chains.problem = tr("Select a chain of track first.");
+    chains.problem = TunnelProblem::plain(trLater("Select a chain of track first."));
     return chains;
   }
   const ChainFinder finder(layout, pieces);
@@ -216,7 +214,7 @@ TunnelChains tunnelChains(const Layout& layout, std::span<const std::int32_t> pi
   while (!left.empty()) {
     const std::set<std::int32_t> group = finder.groupOf(*left.begin());
     TrainWay way = finder.wayThrough(group, chains.problem);
-    if (!chains.problem.empty())
+    if (chains.problem)
       return chains;
     finder.addBranches(way, chains.branches);
     chains.ways.push_back(way.start().piece <= way.end().piece ? std::move(way)
@@ -228,8 +226,9 @@ TunnelChains tunnelChains(const Layout& layout, std::span<const std::int32_t> pi
     const bool beside =
         chains.ways.size() < 2 || runsBeside(layout, chains.ways[0], chains.ways[1]);
     if (chains.ways.size() > 2 || !beside) {
-      chains.problem = tr("The selected pieces are neither one chain of joined track nor two side "
-                          "by side at the distance of double track.");
+      chains.problem = {kNoChain,
+                        tr("The selected pieces are neither one chain of joined track nor two side "
+                           "by side at the distance of double track.")};
       return chains;
     }
   }
@@ -240,6 +239,23 @@ TunnelChains tunnelChains(const Layout& layout, std::span<const std::int32_t> pi
 WorldConnector outerEnd(const Layout& layout, TrackEnd end) {
   const PlacedPiece& piece = *layout.findPiece(end.piece);
   return ConnectorToWorld(piece, *definitionOf(piece), end.connector);
+}
+
+std::vector<Pose> posesAlong(const Layout& layout, const TrainWay& way) {
+  std::vector<Pose> poses;
+  for (const WayStretch& stretch : way.stretches) {
+    const PlacedPiece& piece = *layout.findPiece(stretch.piece);
+    const Route& route = *routeBetween(*definitionOf(piece), stretch.enter, stretch.leave);
+    const bool along = route.from == stretch.enter;
+    std::vector<RoutePoint> points = sampleRoute(route, kLineTolerance);
+    if (!along)
+      std::ranges::reverse(points);
+    const RigidMotion motion{{}, poseOf(piece)};
+    for (const RoutePoint& point : points)
+      poses.push_back(
+          motion(Pose{point.position.x, point.position.y, point.heading + (along ? 0 : 180)}));
+  }
+  return poses;
 }
 
 BesideEnd besideEnd(const WorldConnector& end, Point at) {

@@ -11,6 +11,15 @@
 
 namespace trassix {
 
+/// Why no tunnel can be made.
+struct TunnelProblem {
+  const char* brief = nullptr; ///< marked for translation, for a command that cannot be used
+  std::string text;            ///< one sentence that names the place
+
+  static TunnelProblem plain(const char* why);
+  explicit operator bool() const { return brief != nullptr; }
+};
+
 /// Pieces joined one after another, each once, or two such chains side by side at a distance of
 /// double track.
 struct TunnelChains {
@@ -18,7 +27,7 @@ struct TunnelChains {
   /// one; a second one runs the same way.
   std::vector<TrainWay> ways;
   std::vector<std::int32_t> branches; ///< pieces at which other track leaves the chains, sorted
-  std::string problem;                ///< why there is no such chain, one sentence
+  TunnelProblem problem;              ///< why there is no such chain
 };
 
 /// Chains may lead through turnouts and crossings, whose other ends count as branches where track
@@ -27,6 +36,9 @@ TunnelChains tunnelChains(const Layout& layout, std::span<const std::int32_t> pi
 
 /// An end of a chain, with where track leaves it.
 WorldConnector outerEnd(const Layout& layout, TrackEnd end);
+
+/// Points along the way, closer together in curves, with the direction of travel.
+std::vector<Pose> posesAlong(const Layout& layout, const TrainWay& way);
 
 /// How far a point lies to the right of the end and how far before it, in mm.
 struct BesideEnd {

@@ -12,11 +12,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <unordered_set>
 
 namespace trassix {
 
 namespace {
+
+constexpr double kPortalPlay = 5; // mm between the heights of two tracks under one portal
 
 Notice refusal(std::string why) {
   return {tr("Tunnel"), std::move(why)};
@@ -63,16 +66,23 @@ SceneryItem portalAt(const Layout& layout, std::string_view key, TrackSystem sys
   return item;
 }
 
-std::string problemOf(const Layout& layout, const TunnelChains& chains) {
-  if (!chains.problem.empty())
+TunnelProblem problemOf(const Layout& layout, const TunnelChains& chains) {
+  if (chains.problem)
     return chains.problem;
   const PlacedPiece& first = *layout.findPiece(chains.ways.front().start().piece);
   const double least = shortestTunnel(definitionOf(first)->system);
   for (const TrainWay& way : chains.ways)
     if (way.length() < least)
-      return tr("A tunnel takes at least %1% of track, the selected track is %2% long.",
-                {formatBriefLength(least, layout.settings().units),
-                 formatLength(way.length(), layout.settings().units)});
+      return {trLater("The selected track is too short for a tunnel"),
+              tr("A tunnel takes at least %1% of track, the selected track is %2% long.",
+                 {formatBriefLength(least, layout.settings().units),
+                  formatLength(way.length(), layout.settings().units)})};
+  const TrainWay& one = chains.ways.front();
+  const TrainWay& other = chains.ways.back();
+  if (std::abs(one.stretches.front().from - other.stretches.front().from) > kPortalPlay ||
+      std::abs(one.stretches.back().to - other.stretches.back().to) > kPortalPlay)
+    return TunnelProblem::plain(
+        trLater("The two tracks lie at different heights where a portal would stand."));
   return {};
 }
 
@@ -97,11 +107,12 @@ TunnelChoice tunnelChoice(const Layout& layout) {
     if (covered >= pieces.size())
       return choice;
     choice.present.clear();
-    choice.problem = tr("Some of the selected track lies in a tunnel already.");
+    choice.problem =
+        TunnelProblem::plain(trLater("Some of the selected track lies in a tunnel already."));
     return choice;
   }
   if (helixGuard(layout, pieces, "")) {
-    choice.problem = tr("Track of a helix needs no portals.");
+    choice.problem = TunnelProblem::plain(trLater("Track of a helix needs no portals."));
     return choice;
   }
   choice.chains = tunnelChains(layout, pieces);
@@ -115,8 +126,8 @@ bool liesInTunnel(const Layout& layout) {
 
 EditResult placeTunnel(Layout& layout, TunnelOpening opening) {
   const TunnelChoice choice = tunnelChoice(layout);
-  if (!choice.problem.empty())
-    return {{}, refusal(choice.problem)};
+  if (choice.problem)
+    return {{}, refusal(choice.problem.text)};
   if (!choice.present.empty())
     return {{}, refusal(tr("The selected track lies in a tunnel already."))};
   const std::vector<TrainWay>& ways = choice.chains.ways;

@@ -19,7 +19,7 @@ class Layout;
 struct TunnelChoice {
   std::vector<std::int32_t> present; ///< the tunnels in which all of it lies, to be removed
   TunnelChains chains;               ///< else where one can be made
-  std::string problem;               ///< why neither; empty when one of both can be done
+  TunnelProblem problem;             ///< why neither; none when one of both can be done
 };
 TunnelChoice tunnelChoice(const Layout& layout);
 

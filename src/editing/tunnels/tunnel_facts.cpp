@@ -36,7 +36,7 @@ std::optional<TunnelFacts> tunnelFacts(const Layout& layout, const Tunnel& tunne
   std::erase_if(pieces, [&layout](std::int32_t id) { return layout.findPiece(id) == nullptr; });
   std::ranges::sort(pieces);
   const TunnelChains chains = tunnelChains(layout, pieces);
-  if (!chains.problem.empty())
+  if (chains.problem)
     return std::nullopt;
   TunnelFacts facts;
   facts.tracks = chains.ways.size();

@@ -70,7 +70,7 @@ TEST(Tunnels, TwoTracksSideBySideShareTheirPortals) {
     selectPieces(plan.layout, {1, 2, 3, 4, 5, 6});
     if (offset != 0) // out of step the outer curve ends elsewhere
       selectPieces(plan.layout, {1, 2, 4, 5});
-    ASSERT_TRUE(placeTunnel(plan.layout).changed()) << tunnelChoice(plan.layout).problem;
+    ASSERT_TRUE(placeTunnel(plan.layout).changed()) << tunnelChoice(plan.layout).problem.text;
     const Tunnel& tunnel = plan.layout.content().tunnels[0];
     EXPECT_EQ(tunnel.anchorA, 1);
     EXPECT_EQ(tunnel.covers, offset == 0 ? Ids({1, 2, 3, 4, 5, 6}) : Ids({1, 2, 4, 5}));
