@@ -1,6 +1,9 @@
 #pragma once
 
+#include "catalog/piece_def.h"
+
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace trassix {
@@ -10,16 +13,22 @@ inline constexpr std::string_view kDefaultHelixKit = "proses_2_5_r1r2";
 /// Half the side of the square that a helix of an unknown kit is taken to cover, in mm.
 inline constexpr double kUnknownHelixHalfSize = 500.0;
 
-/// A spiral of two concentric tracks. Lengths in mm.
+/// A spiral of one track, or of two concentric ones. Lengths in mm.
 struct HelixKit {
-  std::string_view key;
-  std::string_view name;
-  double innerRadius = 0;
-  double outerRadius = 0;
-  double turns = 0;
-  double outerSize = 0; ///< from the centre to the outer edge, posts included
+  std::string key; ///< holds turns, radii and, but for C-Track, the system
+  std::string name;
+  TrackSystem system = TrackSystem::CTrack;
+  const PieceDef* inner = nullptr; ///< the curve that the track is made of
+  const PieceDef* outer = nullptr; ///< that of the second track, null when there is one only
+  double turns = 0;                ///< 1 to 12 in halves
+  double outerSize = 0;            ///< from the centre to the outer edge, posts included
+
+  std::size_t tracks() const { return outer == nullptr ? 1 : 2; }
+  const PieceDef& outermost() const { return outer == nullptr ? *inner : *outer; }
 };
 
+/// Of each system one track on each of its radii and two on neighbouring radii that lie far enough
+/// apart for trains to pass, in each number of turns.
 std::span<const HelixKit> helixKits();
 
 /// Null on a miss.

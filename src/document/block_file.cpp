@@ -3,6 +3,7 @@
 #include "document/block.h"
 #include "document/element_reader.h"
 #include "document/element_writer.h"
+#include "document/helix_records.h"
 #include "document/layout.h"
 #include "document/piece_lines.h"
 #include "document/piece_pairs.h"
@@ -84,6 +85,10 @@ Block blockFromSelection(const Layout& layout) {
   for (const PiecePair& pair : layout.content().pairs)
     if (inBlock(pair.first) && inBlock(pair.second))
       block.content.pairs.push_back(pair);
+  const std::vector<std::int32_t> whole = selectedHelices(layout.content());
+  for (const Helix& helix : layout.content().helices)
+    if (std::ranges::binary_search(whole, helix.id))
+      block.content.helices.push_back(helix);
   return block;
 }
 

@@ -24,7 +24,7 @@ bool isEmpty(const Block& block);
 /// Whether anything is selected that a block file can hold.
 bool selectionFitsBlockFile(const Layout& layout);
 
-/// Everything selected, in document order.
+/// Everything selected, in document order; a helix with its record when all of it is.
 Block blockFromSelection(const Layout& layout);
 
 /// Moves the block so that the middle of the box around the positions of its pieces and scenery

@@ -61,11 +61,10 @@ TEST(SceneryCatalog, sizesAnItemForTheSystemBesideIt) {
 
 TEST(HelixKits, reachBeyondTheirOuterTrack) {
   ASSERT_NE(findHelixKit(kDefaultHelixKit), nullptr);
-  EXPECT_EQ(findHelixKit(kDefaultHelixKit)->outerRadius, 437.5);
+  EXPECT_EQ(findHelixKit(kDefaultHelixKit)->outermost().radius, 437.5);
   for (const HelixKit& kit : helixKits()) {
     EXPECT_EQ(findHelixKit(kit.key), &kit);
-    EXPECT_GT(kit.outerRadius, kit.innerRadius);
-    EXPECT_GT(helixHalfSize(kit.key), kit.outerRadius + 20);
+    EXPECT_GT(helixHalfSize(kit.key), kit.outermost().radius + 15);
   }
   EXPECT_EQ(helixHalfSize("unknown"), 500.0);
 }

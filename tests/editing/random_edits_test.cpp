@@ -15,17 +15,20 @@
 #include "editing/elevation/grade_edits.h"
 #include "editing/elevation/grade_runs.h"
 #include "editing/elevation/way_handles.h"
+#include "editing/helix/helix_edits.h"
 #include "editing/joining/joining.h"
 #include "editing/placing/block_placing.h"
 #include "editing/placing/flipping.h"
 #include "editing/placing/inserting.h"
 #include "editing/placing/runs.h"
 #include "editing/placing/swapping.h"
+#include "editing/records_by_id.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/moving.h"
 #include "editing/selection/property_edits.h"
 #include "editing/selection/selection.h"
 #include "editing/track/mirror_twin.h"
+#include "editing/tunnels/tunnel_edits.h"
 #include "panels/level_list.h"
 #include "support/plan.h"
 
@@ -44,7 +47,7 @@ namespace {
 /// In each of the eight runs; more by hand.
 int editsOfARun() {
   const char* number = std::getenv("TRASSIX_RANDOM_EDITS");
-  return number == nullptr ? 1500 : std::atoi(number);
+  return number == nullptr ? 2400 : std::atoi(number);
 }
 
 /// Both ends of each joint, and how they lie to each other.
@@ -134,8 +137,103 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
   bool swap() {
     std::vector<SwapFit> fits = swapFits(plan, piece.id);
     for (int more = 0; more < 4 && fits.empty(); ++more)
-      fits = swapFits(plan, (piece = anyOf(plan.pieces())).id);
-    return !fits.empty() && swapPiece(plan, piece.id, anyOf(fits));
+      fits = swapFits(plan, (piece = anyUnlocked()).id);
+    return !fits.empty() && !isLocked(piece.id) && swapPiece(plan, piece.id, anyOf(fits));
+  }
+
+  bool isLocked(std::int32_t id) { return lockGuard(plan, std::array{id}, "").has_value(); }
+
+  /// Any piece when all of them are locked.
+  const PlacedPiece& anyUnlocked() {
+    const PlacedPiece* found = &anyOf(plan.pieces());
+    for (int more = 0; more < 30 && isLocked(found->id); ++more)
+      found = &anyOf(plan.pieces());
+    return *found;
+  }
+
+  /// Selects nothing that the user would be held back from changing.
+  void leaveLocked() {
+    for (PlacedPiece& each : plan.edit().pieces)
+      each.sel = each.sel && !isLocked(each.id);
+    for (SceneryItem& item : plan.edit().scenery)
+      item.sel = item.sel && !item.item.starts_with("tun.");
+  }
+
+  /// Over some pieces of a way.
+  bool tunnel() {
+    const auto& tunnels = plan.content().tunnels;
+    if (tunnels.size() > 2 || (!tunnels.empty() && any(0, 2) == 0))
+      return removeTunnels(plan, {anyOf(tunnels).id});
+    UndoScope step(plan);
+    const TrainWay way = wayThrough(plan, piece.id);
+    plan.clearSelection();
+    const int last = static_cast<int>(way.stretches.size()) - 1;
+    for (int i = any(0, std::max(last, 0)), left = any(1, 5); i <= last && left > 0; ++i, --left)
+      plan.select(RecordKind::Piece, way.stretches[static_cast<std::size_t>(i)].piece, true);
+    return placeTunnel(plan, static_cast<TunnelOpening>(any(0, 1))).changed() && step.keep();
+  }
+
+  bool helix() {
+    const auto& helices = plan.content().helices;
+    if (helices.empty() || (helices.size() < 2 && any(0, 3) == 0)) {
+      const HelixKit* kit = nullptr;
+      while (kit == nullptr || kit->system != article->system || kit->turns > 1.5)
+        kit = &anyOf(helixKits());
+      const double pitch = leastPitch(kit->system, any(0, 1) == 0);
+      const auto hand = static_cast<HelixHand>(any(0, 1));
+      return placeHelix(plan, {kit, hand, pitch, pose, any(0, 9) * 0.4}, 1).changed();
+    }
+    const std::int32_t id = anyOf(helices).id;
+    UndoScope step(plan);
+    selectHelix(plan, id);
+    switch (helices.size() > 2 ? 0 : any(0, 3)) {
+    case 0:
+      return (any(0, 3) == 0 ? turnIntoLooseTrack(plan, id) : deleteHelix(plan, id)) && step.keep();
+    case 1:
+      return place(blockFromSelection(plan), false) && step.keep();
+    default:
+      piece = *plan.findPiece(selectedPieces(plan).front());
+      return move(any(0, 1) == 0) && step.keep();
+    }
+  }
+
+  /// Covers are one or two chains under portals; helices and their track name each other.
+  std::string brokenBody() {
+    for (const Tunnel& tunnel : plan.content().tunnels) {
+      std::vector<std::int32_t> covers = tunnel.covers;
+      std::ranges::sort(covers);
+      for (const std::int32_t id : covers)
+        if (plan.findPiece(id) == nullptr)
+          return "covers what is not there";
+      if (const TunnelChains chains = tunnelChains(plan, covers); chains.problem)
+        return chains.problem.text;
+      for (const std::int32_t portal : {tunnel.portalA, tunnel.portalB})
+        if (recordWithId(plan.content().scenery, portal) == nullptr)
+          return "no portal";
+    }
+    for (const PlacedPiece& each : plan.pieces())
+      if (each.helix != -1 && recordWithId(plan.content().helices, each.helix) == nullptr)
+        return "no helix";
+    for (const Helix& helix : plan.content().helices) {
+      const auto shape = planOfHelix(plan, helix);
+      if (!shape)
+        return "no track of a helix";
+      double pieces = shape->kit->turns * 360 / shape->kit->inner->angle;
+      if (shape->kit->outer != nullptr)
+        pieces += shape->kit->turns * 360 / shape->kit->outer->angle;
+      if (std::abs(static_cast<double>(piecesOfHelix(plan, helix.id).size()) - pieces) > 0.1)
+        return "pieces of a helix";
+      const std::int32_t leave = shape->hand == HelixHand::Right ? 1 : 0;
+      for (const std::int32_t top : {helix.topR1, helix.topR2})
+        if (top != -1 &&
+            std::abs(endHeight(plan, {top, leave}) - shape->height - shape->climb()) > 0.01)
+          return "height of a helix";
+      const WorldConnector end = worldEnd(*plan.findPiece(helix.bottomR1), 1 - leave);
+      if (std::abs(std::hypot(end.x - helix.cx, end.y - helix.cy) - shape->kit->inner->radius) >
+          0.01)
+        return "centre of a helix";
+    }
+    return {};
   }
 
   bool decks() {
@@ -242,6 +340,7 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
   bool align() {
     UndoScope step(plan);
     plan.reselect([&](const auto&) { return any(0, 1) == 0; });
+    leaveLocked();
     return (any(0, 3) == 0 ? distributeSelection(plan, static_cast<Axis>(any(0, 1)))
                            : alignSelection(plan, static_cast<AlignTo>(any(0, 5))))
                .changed &&
@@ -303,9 +402,10 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
   /// Rolls the dice for the next edit. Pieces that were turned about far points until coordinates
   /// got coarse are deleted, and a part of a crowded plan.
   const Edit& next() {
-    const Edit* edit = plan.pieces().size() < 3    ? &kEdits[0]
-                       : plan.pieces().size() > 36 ? &kEdits[1]
-                                                   : &anyOf(std::span(kEdits, kinds()));
+    const auto loose = std::ranges::count(plan.pieces(), -1, &PlacedPiece::helix);
+    const Edit* edit = loose < 3    ? &kEdits[0]
+                       : loose > 36 ? &kEdits[1]
+                                    : &anyOf(std::span(kEdits, kinds()));
     for (Level& level : plan.editSettings().levels)
       level.visible = any(0, 3) != 0;
     for (PlacedPiece& each : plan.edit().pieces) {
@@ -313,7 +413,10 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
       each.sel = any(0, 2) == 0 || far;
       edit = far ? &kEdits[1] : edit;
     }
-    piece = plan.pieces().empty() ? PlacedPiece{} : anyOf(plan.pieces());
+    leaveLocked();
+    piece = plan.pieces().empty() ? PlacedPiece{} : anyUnlocked();
+    if (!plan.pieces().empty() && isLocked(piece.id))
+      edit = &kEdits[1];
     article = any(0, 1) == 0 ? definitionOf(piece) : nullptr;
     if (article == nullptr)
       article = anyOf(articles_);
@@ -331,7 +434,15 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
 using R = RandomEdits;
 const R::Edit R::kEdits[] = {
     {"drop", [](R& r) { return r.drop(); }},
-    {"delete", [](R& r) { return deleteSelection(r.plan); }},
+    {"delete",
+     [](R& r) {
+       if (hasSelection(r.plan))
+         return deleteSelection(r.plan);
+       const auto& content = r.plan.content(); // all is locked
+       return content.tunnels.empty()
+                  ? !content.helices.empty() && deleteHelix(r.plan, content.helices[0].id)
+                  : removeTunnels(r.plan, {content.tunnels[0].id});
+     }},
     {"insert", [](R& r) { return r.insert(); }, false, true},
     {"clone", [](R& r) { return cloneAndExtend(r.plan, r.piece.id).changed(); }, false, true},
     {"extend", [](R& r) { return extendSelected(r.plan, r.article->article).changed(); }, false,
@@ -403,6 +514,8 @@ const R::Edit R::kEdits[] = {
     {"parallel", [](R& r) { return r.parallel(); }},
     {"align", [](R& r) { return r.align(); }},
     {"corner", [](R& r) { return r.corner(); }},
+    {"tunnel", [](R& r) { return r.tunnel(); }},
+    {"helix", [](R& r) { return r.helix(); }, true},
 };
 
 std::size_t R::kinds() {
@@ -425,6 +538,7 @@ TEST_P(RandomEdits, KeepThePlanSoundAndUndoExact) {
     }
     ++done[edit.name];
     ASSERT_EQ(brokenRule(plan), "");
+    ASSERT_EQ(brokenBody(), "");
     double leastStep = 1;
     for (const auto& [ends, play] : jointsOf(plan)) {
       // Joints that stay get no more play, new ones have at most what their rule allows. A move
@@ -464,7 +578,7 @@ TEST_P(RandomEdits, KeepThePlanSoundAndUndoExact) {
       plan.undo();
   }
   for (const Edit& edit : kEdits)
-    EXPECT_GT(done[edit.name], edits / 2000) << edit.name;
+    EXPECT_GT(done[edit.name], edits / 2500) << edit.name;
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomEdits, testing::Range(1U, 9U));

@@ -180,7 +180,7 @@ TEST_F(FrameTest, EveryCommandDoesSomething) {
     EXPECT_NE(traceOf(frame(), canceller), before);
   }
   for (const int later : std::initializer_list<int>{wxID_PREVIEW, wxID_PRINT, kView3D,
-                                                    kLayoutWizard, kBridgeWizard, kTunnel}) {
+                                                    kLayoutWizard, kBridgeWizard}) {
     EXPECT_NE(whyUnusable(*findCommand(later), canvas().site()), nullptr);
   }
   EXPECT_THAT(canceller.titles, testing::IsSupersetOf({"Validate", "Properties", "Save Layout"}));

@@ -64,7 +64,7 @@ void MoveGesture::drag(const PointerInput& input) {
 }
 
 bool MoveGesture::allowed() {
-  return !refuseLocked(site_, turning_ ? "rotate" : "move") &&
+  return !refuseMoving(site_, turning_ ? "rotate" : "move") &&
          mayLeaveGrades(site_, move_, turning_ ? tr("Rotate") : tr("Move"));
 }
 

@@ -7,6 +7,7 @@
 #include "editing/canvas/plan_colors.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/record_body.h"
+#include "editing/tunnels/tunnel_outline.h"
 #include "measures/measure_format.h"
 #include "texts/texts.h"
 
@@ -85,7 +86,7 @@ std::string nameOf(const Layout&, const Shape& shape) {
   return shape.label.empty() ? tr("Shape") : shape.label;
 }
 
-// Helices, and tunnels, which show by their track
+// Helices and tunnels
 
 void paintRecord(const PictureSite& site, const Helix& helix) {
   const Point centre = site.view.toScreen({helix.cx, helix.cy});
@@ -103,7 +104,18 @@ void paintCarried(const PictureSite& site, const Helix& helix, const CarriedLook
                       look.edge);
 }
 
-void paintRecord(const PictureSite&, const Tunnel&) {}
+/// A soft hill, marked when any of its track is selected.
+void paintRecord(const PictureSite& site, const Tunnel& tunnel) {
+  const std::vector<Point> px = site.view.toScreen(hillOver(site.layout, tunnel));
+  if (px.empty() || site.isBeside(px, kStrokeReachPx))
+    return;
+  const bool chosen = std::ranges::any_of(tunnel.covers, [&site](std::int32_t id) {
+    const PlacedPiece* piece = site.layout.findPiece(id);
+    return piece != nullptr && piece->sel;
+  });
+  site.surface.polygon(px, Rgba{112, 104, 96, 40},
+                       Stroke{chosen ? colors::kSelected : colors::kTunnel, 1.5});
+}
 void paintCarried(const PictureSite&, const Tunnel&, const CarriedLook&) {}
 
 // Scenery and track

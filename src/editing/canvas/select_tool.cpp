@@ -6,6 +6,7 @@
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/canvas/selection_menu.h"
+#include "editing/helix/helix_edits.h"
 #include "editing/placing/placing.h"
 #include "editing/selection/selection.h"
 #include "texts/texts.h"
@@ -112,8 +113,12 @@ void SelectTool::release(const PointerInput& input, bool dragged) {
 }
 
 void SelectTool::select(const Pick& pick) {
-  site_.layout().clearSelection();
-  setSelected(site_.layout(), pick, true);
+  Layout& layout = site_.layout();
+  layout.clearSelection();
+  if (const std::int32_t helix = helixUnder(layout, pick); helix != -1)
+    selectHelix(layout, helix);
+  else
+    setSelected(layout, pick, true);
   site_.workspace.selectionChanged();
 }
 
@@ -142,10 +147,13 @@ void SelectTool::click(const PointerInput& input) {
   // A further click on the same spot goes on to what lies below.
   const auto selected = std::find_if(
       picks.begin(), picks.end(), [&layout](const Pick& pick) { return isSelected(layout, pick); });
+  // A helix has track above track, all of which is selected.
+  const auto below = std::find_if(
+      selected, picks.end(), [&layout](const Pick& pick) { return !isSelected(layout, pick); });
   if (selected == picks.end())
     select(picks.front());
   else
-    select(selected + 1 == picks.end() ? picks.front() : *(selected + 1));
+    select(below == picks.end() ? picks.front() : *below);
 }
 
 void SelectTool::chooseEnd(TrackEnd end) {
@@ -250,7 +258,7 @@ bool SelectTool::nudge(const KeyInput& input) {
   Layout& layout = site_.layout();
   if (!hasSelection(layout))
     return false;
-  if (refuseLocked(site_, "move"))
+  if (refuseMoving(site_, "move"))
     return true;
   const bool continued = nudgedTo_ == layout.revision();
   const double length = input.shift ? kFineNudge : kNudge;

@@ -1,5 +1,6 @@
 #include "editing/canvas/selection_commands.h"
 
+#include "document/helix_records.h"
 #include "document/plan_content.h"
 #include "editing/elevation/grades.h"
 #include "editing/elevation/propagation.h"
@@ -14,15 +15,51 @@
 #include "measures/measure_format.h"
 #include "texts/texts.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace trassix {
 
+namespace {
+
+/// How the user gets on with what is locked, for the status line.
+std::string wayOn(const Layout& layout) {
+  return helixGuard(layout, selectedPieces(layout), "")
+             ? tr("Of a helix, \"Delete Helix\" and \"Turn into Loose Track\" in the context menu "
+                  "treat all track alike")
+             : tr("\"Remove Tunnel\" in the context menu and the tool bar leaves the track as it "
+                  "lies");
+}
+
+/// True, and told, when helices are selected in part.
+bool refuseParts(ToolSite& site) {
+  const std::vector<std::int32_t> whole = selectedHelices(site.layout().content());
+  const bool parts = std::ranges::any_of(site.layout().pieces(), [&](const PlacedPiece& piece) {
+    return piece.sel && piece.helix != -1 && !std::ranges::binary_search(whole, piece.helix);
+  });
+  if (parts)
+    site.questions().show(
+        {tr("Copy"), tr("Only a part of a helix is selected. A click on its track "
+                        "selects all of it, which can be copied.")});
+  return parts;
+}
+
+bool refuse(ToolSite& site, const std::optional<Notice>& refusal) {
+  if (!refusal)
+    return false;
+  site.questions().show(*refusal);
+  site.workspace.setHint(wayOn(site.layout()));
+  return true;
+}
+
+} // namespace
+
 bool refuseLocked(ToolSite& site, const char* verb) {
-  const std::optional<Notice> refusal = lockGuard(site.layout(), verb);
-  if (refusal)
-    site.questions().show(*refusal);
-  return refusal.has_value();
+  return refuse(site, lockGuard(site.layout(), verb));
+}
+
+bool refuseMoving(ToolSite& site, const char* verb) {
+  return refuse(site, moveGuard(site.layout(), verb));
 }
 
 bool maySteepen(ToolSite& site, const std::string& title, double slope) {
@@ -43,7 +80,7 @@ bool mayLeaveGrades(ToolSite& site, const SelectionMove& move, const std::string
 void turnSelection(ToolSite& site, double degrees) {
   SelectionMove turn(site.layout(), {});
   turn.turn({}, degrees);
-  if (!refuseLocked(site, "rotate") && mayLeaveGrades(site, turn, tr("Rotate")))
+  if (!refuseMoving(site, "rotate") && mayLeaveGrades(site, turn, tr("Rotate")))
     site.report(rotateSelection(site.layout(), degrees));
 }
 
@@ -60,6 +97,8 @@ void deleteSelected(ToolSite& site) {
 }
 
 bool copySelection(ToolSite& site) {
+  if (refuseParts(site))
+    return false;
   return site.clipboard.copy(site.layout(), site.workspace.clipboard());
 }
 
@@ -75,7 +114,8 @@ void cutSelection(ToolSite& site) {
 }
 
 void duplicateSelection(ToolSite& site) {
-  site.carry(copyOfSelection(site.layout()));
+  if (!refuseParts(site))
+    site.carry(copyOfSelection(site.layout()));
 }
 
 void askLabelText(ToolSite& site, std::int32_t label) {

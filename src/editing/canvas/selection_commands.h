@@ -11,6 +11,9 @@ namespace trassix {
 /// True, and told in words, when what is selected is locked against this ("move", "rotate", ...).
 bool refuseLocked(ToolSite& site, const char* verb);
 
+/// The same for moving or turning the selection as one body.
+bool refuseMoving(ToolSite& site, const char* verb);
+
 /// Asks before an edit makes track steeper than any should be; slope as rise over length.
 bool maySteepen(ToolSite& site, const std::string& title, double slope);
 

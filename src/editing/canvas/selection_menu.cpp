@@ -7,7 +7,9 @@
 #include "editing/canvas/autofill_command.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/canvas/swap_command.h"
+#include "editing/canvas/tunnel_command.h"
 #include "editing/elevation/grade_runs.h"
+#include "editing/helix/helix_edits.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
@@ -33,6 +35,16 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
                       selectChain(site, piece);
                     }});
     rows.push_back({tr("Elevation..."), "", {}, [&site] { changeHeights(site); }});
+    if (const std::int32_t helix = helixUnder(layout, under.front()); helix != -1) {
+      const auto edit = [&site, helix](bool (*change)(Layout&, std::int32_t)) {
+        return [&site, helix, change] {
+          if (change(site.layout(), helix))
+            site.workspace.changed();
+        };
+      };
+      rows.push_back({tr("Delete Helix"), "", {}, edit(deleteHelix)});
+      rows.push_back({tr("Turn into Loose Track"), "", {}, edit(turnIntoLooseTrack)});
+    }
     if (runOver(layout, piece) != -1)
       rows.push_back({tr("End Grade Here"), "", {}, [&site, piece] {
                         if (endGradeHere(site.layout(), piece))
@@ -68,6 +80,7 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
     std::ranges::move(arrangeRows(site), std::back_inserter(rows));
     if (canAutofill(layout))
       rows.push_back({tr("Autofill Gap..."), "", {}, [&site] { runAutofill(site); }});
+    std::ranges::move(tunnelRows(site), std::back_inserter(rows));
     rows.push_back({tr("Cut"), tr("Ctrl+X"), {}, [&site] { cutSelection(site); }});
     rows.push_back({tr("Copy"), tr("Ctrl+C"), {}, [&site] { copySelection(site); }});
     rows.push_back({tr("Duplicate"), tr("Ctrl+D"), {}, [&site] { duplicateSelection(site); }});

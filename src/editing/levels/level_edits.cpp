@@ -163,6 +163,28 @@ std::vector<LoopGap> stepsBetweenLevels(const Layout& layout, const LevelChange&
   return planDecks(scratch, risesOf(scratch.content(), fates)).steps;
 }
 
+namespace {
+
+/// For each tunnel how many ends of its track are joined to each other.
+std::vector<std::size_t> jointsInTunnels(const Layout& layout) {
+  std::vector<std::size_t> counts;
+  for (const Tunnel& tunnel : layout.content().tunnels) {
+    std::vector<std::int32_t> covers = tunnel.covers;
+    std::ranges::sort(covers);
+    std::size_t count = 0;
+    for (const std::int32_t id : covers)
+      if (const PlacedPiece* piece = layout.findPiece(id))
+        count += static_cast<std::size_t>(
+            std::ranges::count_if(piece->joints, [&covers](const Joint& joint) {
+              return containsId(covers, joint.target);
+            }));
+    counts.push_back(count);
+  }
+  return counts;
+}
+
+} // namespace
+
 ChangeResult setLevels(Layout& layout, const LevelChange& wanted) {
   const PlanSettings& present = layout.settings();
   if (wanted.levels.empty() ||
@@ -173,8 +195,12 @@ ChangeResult setLevels(Layout& layout, const LevelChange& wanted) {
   if (!staysInLimits(layout, wanted, fates))
     return beyondPlan();
   UndoScope step(layout);
+  const std::vector<std::size_t> held = jointsInTunnels(layout);
   removeDoomed(layout.edit(), fates);
   liftTrack(layout, fates);
+  if (jointsInTunnels(layout) != held)
+    return Notice{tr("Tunnel is locked"),
+                  tr("The track in a tunnel would come apart. Remove the tunnel first.")};
   if (wanted.usedShape)
     removeShape(layout, *wanted.usedShape);
   PlanSettings& settings = layout.editSettings();

@@ -42,8 +42,6 @@ std::vector<Record> freshCopies(Layout& layout, const std::vector<Record>& recor
     record.id = layout.takeId();
     moveRecord(record, motion);
     record.sel = true;
-    if constexpr (requires { record.helix; })
-      record.helix = -1;
   }
   return copies;
 }
@@ -77,6 +75,33 @@ void remapJoints(std::vector<PlacedPiece>& pieces, const Block& block, const Pos
   }
 }
 
+/// Copies of the helices that came with their track; pieces of others are loose.
+std::vector<Helix> copyHelices(Layout& layout, const Block& block, const RigidMotion& motion,
+                               const Positions& positions, std::vector<PlacedPiece>& pieces) {
+  std::unordered_map<std::int32_t, std::int32_t> ids{{-1, -1}};
+  std::vector<Helix> helices;
+  const auto renamed = [&](std::int32_t& piece) {
+    const auto found = positions.find(piece);
+    piece = found == positions.end() ? -1 : pieces[found->second].id;
+  };
+  for (Helix helix : block.content.helices) {
+    if (!positions.contains(helix.bottomR1) || ids.contains(helix.id))
+      continue;
+    const std::int32_t id = layout.takeId();
+    ids.emplace(helix.id, id);
+    helix.id = id;
+    moveRecord(helix, motion);
+    for (std::int32_t* end : {&helix.bottomR1, &helix.bottomR2, &helix.topR1, &helix.topR2})
+      renamed(*end);
+    helices.push_back(std::move(helix));
+  }
+  for (PlacedPiece& piece : pieces) {
+    const auto found = ids.find(piece.helix);
+    piece.helix = found == ids.end() ? -1 : found->second;
+  }
+  return helices;
+}
+
 /// Copies of both pieces of a pair are a pair again.
 void copyPairs(const Block& block, const std::vector<PlacedPiece>& pieces,
                const Positions& positions, std::vector<PiecePair>& pairs) {
@@ -86,6 +111,18 @@ void copyPairs(const Block& block, const std::vector<PlacedPiece>& pieces,
     if (first != positions.end() && second != positions.end())
       pairs.push_back({pieces[first->second].id, pieces[second->second].id});
   }
+}
+
+/// Whether all track of each helix was lifted by the same, also that which is not joined.
+bool helicesRoseWhole(const Layout& layout, const std::vector<PlacedPiece>& before) {
+  std::unordered_map<std::int32_t, double> rises;
+  for (std::size_t i = 0; i < before.size(); ++i) {
+    const double rise = layout.pieces()[i].z - before[i].z;
+    if (before[i].helix != -1 &&
+        std::abs(rises.emplace(before[i].helix, rise).first->second - rise) > kSameHeight)
+      return false;
+  }
+  return true;
 }
 
 void createLevels(Layout& layout, const std::vector<PlacedPiece>& pieces) {
@@ -142,7 +179,9 @@ EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose,
   std::vector<PlacedPiece> pieces = freshCopies(layout, block.content.pieces, motion);
   const Positions positions = positionsOf(block.content.pieces);
   remapJoints(pieces, block, positions);
+  std::vector<Helix> helices = copyHelices(layout, block, motion, positions, pieces);
   PlanContent& content = layout.edit();
+  std::ranges::move(helices, std::back_inserter(content.helices));
   copyPairs(block, pieces, positions, content.pairs);
   const auto add = [&result](auto& to, auto&& records) {
     for (auto& record : records) {
@@ -161,7 +200,10 @@ EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose,
   createLevels(layout, block.content.pieces);
   if (const int opened = block.onLevels ? standOnLevels(layout, placedPieces) : 0; opened != 0)
     result.remark = openedJoints(opened);
+  const std::vector<PlacedPiece> stood = layout.pieces();
   landWhereMeeting(layout, placedPieces, landsOn);
+  if (!helicesRoseWhole(layout, stood))
+    layout.edit().pieces = stood;
   closeMeetingEnds(layout, placedPieces);
   if (!result.remark)
     result.remark = missedEndsNotice(layout, missedEnds(layout, placedPieces));

@@ -1,7 +1,10 @@
 #include "editing/selection/rigid_motion.h"
 
+#include "document/helix_records.h"
 #include "document/limits.h"
 #include "document/record_kinds.h"
+
+#include <algorithm>
 
 namespace trassix {
 
@@ -31,6 +34,10 @@ bool staysInLimits(const PlanContent& content, const RigidMotion& motion, double
 
 void moveSelectedBodies(PlanContent& content, const RigidMotion& motion) {
   moveSelected<false>(content, motion);
+  const std::vector<std::int32_t> helices = selectedHelices(content);
+  for (Helix& helix : content.helices)
+    if (std::ranges::binary_search(helices, helix.id))
+      moveRecord(helix, motion);
 }
 
 void moveSelectedNotes(PlanContent& content, const RigidMotion& motion) {

@@ -9,7 +9,8 @@ namespace trassix {
 /// rise by `rise` mm.
 bool staysInLimits(const PlanContent& content, const RigidMotion& motion, double rise = 0);
 
-/// Applies the motion to the selected pieces, scenery items and shapes.
+/// Applies the motion to the selected pieces, scenery items and shapes, and to helices that are
+/// selected whole.
 void moveSelectedBodies(PlanContent& content, const RigidMotion& motion);
 
 /// Applies it to the selected labels and measurements, which have no heading of their own.

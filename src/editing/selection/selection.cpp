@@ -1,5 +1,6 @@
 #include "editing/selection/selection.h"
 
+#include "document/helix_records.h"
 #include "document/record_kinds.h"
 #include "document/reselecting.h"
 #include "document/undo_scope.h"
@@ -174,12 +175,28 @@ ChangeResult rotateSelection(Layout& layout, double degrees) {
   return step.keep();
 }
 
-std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb) {
+namespace {
+
+std::vector<std::int32_t> selectedScenery(const Layout& layout) {
   std::vector<std::int32_t> scenery;
   for (const SceneryItem& item : layout.content().scenery)
     if (item.sel)
       scenery.push_back(item.id);
-  return guard(layout, selectedPieces(layout), scenery, verb);
+  return scenery;
+}
+
+} // namespace
+
+std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb) {
+  return guard(layout, selectedPieces(layout), selectedScenery(layout), verb);
+}
+
+std::optional<Notice> moveGuard(const Layout& layout, const std::string& verb) {
+  std::vector<std::int32_t> pieces = selectedPieces(layout);
+  const std::vector<std::int32_t> whole = selectedHelices(layout.content());
+  std::erase_if(pieces,
+                [&](std::int32_t id) { return containsId(whole, layout.findPiece(id)->helix); });
+  return guard(layout, pieces, selectedScenery(layout), verb);
 }
 
 std::optional<Notice> lockGuard(const Layout& layout, std::span<const std::int32_t> pieces,

@@ -38,6 +38,9 @@ ChangeResult rotateSelection(Layout& layout, double degrees);
 /// put into the text, for example "delete".
 std::optional<Notice> lockGuard(const Layout& layout, const std::string& verb);
 
+/// The same for what moves the selection as one body: helices that are selected whole go along.
+std::optional<Notice> moveGuard(const Layout& layout, const std::string& verb);
+
 /// The same for pieces that need not be selected (sorted ids).
 std::optional<Notice> lockGuard(const Layout& layout, std::span<const std::int32_t> pieces,
                                 const std::string& verb);

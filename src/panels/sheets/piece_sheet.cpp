@@ -3,6 +3,7 @@
 #include "editing/joining/joining.h"
 #include "editing/selection/selection.h"
 #include "editing/track/routes.h"
+#include "editing/tunnels/tunnel_facts.h"
 #include "panels/sheets/sheet_builder.h"
 #include "texts/texts.h"
 
@@ -134,6 +135,8 @@ void describe(SheetBuilder& build, const PlacedPiece& piece) {
   build.trackColor(piece.hasColor ? OwnColor(piece.color) : std::nullopt);
   if (definition != nullptr)
     build.fixed(tr("Open ends"), openEndsText(piece, *definition));
+  if (const Tunnel* tunnel = tunnelOver(build.layout, piece.id))
+    describeTunnel(build, *tunnel);
 }
 
 } // namespace trassix

@@ -2,6 +2,7 @@
 #include "document/plan_content.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/selection.h"
+#include "editing/tunnels/tunnel_facts.h"
 #include "panels/sheets/sheet_builder.h"
 #include "texts/texts.h"
 
@@ -52,6 +53,8 @@ void describe(SheetBuilder& build, const SceneryItem& item) {
   addSize(build, "width", tr("Width"), item, &SceneryItem::scalex, size.width);
   addSize(build, "depth", tr("Depth"), item, &SceneryItem::scaley, size.depth);
   build.level(item.level);
+  if (const Tunnel* tunnel = tunnelOfPortal(build.layout, item.id))
+    describeTunnel(build, *tunnel);
 }
 
 } // namespace trassix

@@ -85,6 +85,9 @@ inline constexpr const char* kCountedAs<Shape> = trLater("Shapes");
 template <>
 inline constexpr const char* kCountedAs<Measurement> = trLater("Measurements");
 
+/// What covers a piece, or has a scenery item for a portal.
+void describeTunnel(SheetBuilder& build, const Tunnel& tunnel);
+
 /// For other selections and for none.
 void describeSeveral(SheetBuilder& build);
 void describePlan(SheetBuilder& build);

@@ -1,6 +1,7 @@
 #include "document/layout.h"
 #include "editing/arranging/corner_edits.h"
 #include "editing/canvas/canvas_tool.h"
+#include "editing/canvas/tunnel_command.h"
 #include "host/command_ids.h"
 #include "host/workspace.h"
 #include "ui/canvas/canvas_panel.h"
@@ -70,10 +71,22 @@ void placeRectangle(Desk& desk) {
   workspace.changed();
 }
 
+const char* noTunnel(const ToolSite& site) {
+  const TunnelProblem& problem = tunnelChoiceNow(site.layout()).problem;
+  return problem ? problem.brief : nullptr;
+}
+
+const char* tunnelLabel(const Workspace& workspace) {
+  return tunnelChoiceNow(workspace.layout()).present.empty() ? wxTRANSLATE("Tunnel")
+                                                             : wxTRANSLATE("Remove Tunnel");
+}
+
 // clang-format off
 const Command kCommands[] = {
     {.id = kTunnel, .toolLabel = wxTRANSLATE("Tunnel"),
-     .toolTip = wxTRANSLATE("Place tunnel portals on the selected chain (or remove if already in a tunnel)")},
+     .toolTip = wxTRANSLATE("Place tunnel portals on the selected chain (or remove if already in a tunnel)"),
+     .unusable = noTunnel, .labelNow = tunnelLabel,
+     .run = [](Desk& desk) { runTunnel(desk.canvasPanel.canvas().site()); }},
     {.id = kMeasure, .toolLabel = wxTRANSLATE("Measure"),
      .toolTip = wxTRANSLATE("Measuring tape: click two points on the canvas to lay down a length annotation"),
      .kind = Kind::Check, .checked = isMode<ToolMode::Measure>,

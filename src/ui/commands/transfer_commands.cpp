@@ -5,8 +5,10 @@
 #include "catalog/track_system.h"
 #include "document/block_file.h"
 #include "document/open_plan.h"
+#include "document/plan_content.h"
 #include "editing/selection/selection.h"
 #include "host/command_ids.h"
+#include "host/questions.h"
 #include "host/workspace.h"
 #include "texts/texts.h"
 #include "ui/commands/command.h"
@@ -22,6 +24,8 @@
 
 #include <wx/frame.h>
 #include <wx/msgdlg.h>
+
+#include <algorithm>
 
 namespace trassix {
 
@@ -110,12 +114,25 @@ void exportLayout(Desk& desk) {
                &desk.window);
 }
 
+/// Asks before a helix is saved where heights are not.
+bool mayFlattenHelices(Workspace& workspace) {
+  const std::vector<PlacedPiece>& pieces = workspace.layout().pieces();
+  return std::ranges::none_of(
+             pieces, [](const PlacedPiece& piece) { return piece.sel && piece.helix != -1; }) ||
+         workspace.questions().confirm(
+             {tr("Save Block"),
+              tr("A library block holds no heights: its helix comes back flat, as "
+                 "loose rings of track. Save it all the same?")});
+}
+
 void saveSelectionAsBlock(Desk& desk) {
   if (!selectionFitsBlockFile(desk.workspace.layout())) {
     wxMessageBox(_("Select pieces first to save as library block."), _("Save Block"),
                  wxOK | wxICON_INFORMATION, &desk.window);
     return;
   }
+  if (!mayFlattenHelices(desk.workspace))
+    return;
   const std::filesystem::path folder = desk.palette.libraryFolder();
   NameDialog dialog(&desk.window, _("Block name:"), _("Save Library Block"), wxEmptyString,
                     [&folder](const wxString& typed) { return adviseOnBlock(folder, typed); });

@@ -4,6 +4,7 @@
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/recording_surface.h"
 #include "editing/canvas/selection_commands.h"
+#include "editing/helix/helix_edits.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/property_edits.h"
@@ -173,6 +174,40 @@ TEST(SelectTool, HelixTrackIsLockedAgainstMovingAndTurning) {
   EXPECT_EQ(script.host.notices[0].text, "Selection includes track that is part of a helix. Helix "
                                          "track cannot be moveed individually.");
   EXPECT_NEAR(script.pieces()[2].x, before[2].x, 1e-9);
+}
+
+TEST(SelectTool, AHelixIsOneThing) {
+  const HelixKit& kit = *findHelixKit("helix_2_0_r1");
+  CanvasScript script;
+  placeHelix(script.host.plan, {&kit, HelixHand::Right, 80, {600, 400, 0}, 0}, 1);
+  script.host.plan.clearSelection();
+  const Point on{600, 40};
+  script.click(on);
+  EXPECT_EQ(selectedPieces(script.host.plan).size(), 24u);
+  script.drag(on, {650, 60});
+  EXPECT_NEAR(script.host.plan.content().helices[0].cx, 650, 1e-6);
+  EXPECT_TRUE(script.host.notices.empty());
+  deleteSelected(script.canvas.site());
+  ASSERT_EQ(script.host.notices.size(), 1u);
+  EXPECT_THAT(script.host.seen.hint, testing::HasSubstr("Delete Helix"));
+  EXPECT_EQ(script.pieces().size(), 24u);
+  script.takeFromMenu(on, "Delete Helix");
+  EXPECT_TRUE(script.pieces().empty());
+}
+
+TEST(SelectTool, TunnelsComeAndGoByTheMenu) {
+  Plan plan = Plan().place("24188").extend("24611").extend("24188");
+  plan.at(2, 2).extend("24188");
+  CanvasScript script(plan.layout);
+  script.host.answers = {false, true};
+  for (const std::size_t made : {0u, 1u}) { // asked first: track leaves at the turnout
+    for (const std::int32_t id : {1, 2, 3, 4})
+      script.host.plan.select(RecordKind::Piece, id, id < 4);
+    script.takeFromMenu(kOnFirst, "Tunnel");
+    EXPECT_EQ(script.host.plan.content().tunnels.size(), made);
+  }
+  script.takeFromMenu(kOnFirst, "Remove Tunnel");
+  EXPECT_TRUE(script.host.plan.content().tunnels.empty());
 }
 
 TEST(SelectTool, DoubleClicksExtendOrSelectTheChain) {

@@ -1,0 +1,41 @@
+// Helices as units: each edit treats all track of one alike, as one undo step.
+#pragma once
+
+#include "editing/edit_result.h"
+#include "editing/helix/helix_plan.h"
+#include "editing/selection/picking.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace trassix {
+
+class Layout;
+
+/// Why a helix cannot be made so: one sentence, empty when it can. Trains without wire have to pass
+/// below its turns.
+std::string helixProblem(const HelixPlan& plan, std::int32_t units);
+
+/// Places the helix on a level: its track, joined and at its exact heights, and the record. Ends
+/// that meet open ends are joined. It becomes the selection; the result names the helix, then its
+/// pieces.
+EditResult placeHelix(Layout& layout, const HelixPlan& plan, std::int32_t level);
+
+/// Ids of its pieces, sorted.
+std::vector<std::int32_t> piecesOfHelix(const Layout& layout, std::int32_t helix);
+
+/// The helix that a record of the plan is track of, -1 for none.
+std::int32_t helixUnder(const Layout& layout, const Pick& pick);
+
+/// The helix whose pieces are selected, all of them and nothing else that is track; -1 for none.
+std::int32_t selectedHelix(const Layout& layout);
+
+void selectHelix(Layout& layout, std::int32_t helix);
+
+/// Removes its track and the record.
+bool deleteHelix(Layout& layout, std::int32_t helix);
+
+/// Removes the record: the track lies there on its own.
+bool turnIntoLooseTrack(Layout& layout, std::int32_t helix);
+
+} // namespace trassix
