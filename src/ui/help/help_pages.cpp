@@ -111,12 +111,23 @@ constexpr const char* kLevelsAndBaseboard[] = {
         "to, and the highest visible level where it snaps to nothing. The list in the corner of "
         "the plan shows and hides levels, and makes one active, by one click."),
     wxTRANSLATE("Track rides with its level: change the height of a level, and its track is lifted "
-                "or lowered with it. Where it is joined to track of another level it comes apart, "
-                "as the ends no longer meet. A level that is deleted hands what stands on it to "
-                "another one, or takes it along, as you like."),
+                "or lowered with it. Track that leads on to another level climbs or falls as much "
+                "more; where that would be too steep you are asked. A level that is deleted hands "
+                "what stands on it to another one, or takes it along, as you like."),
     wxTRANSLATE("A level can have an outline of its own: that of the baseboard, that of a shape "
                 "you selected before, or one that you draw. Undo brings back track that was "
                 "deleted with its level, but not the level itself."),
+    wxTRANSLATE("# Grades"),
+    wxTRANSLATE("Select the track that is to climb and choose \"Elevation\" in the tool bar: give "
+                "it a grade or a height to reach, raise it, ease it or make it level. The window "
+                "says what comes of it before you do it. Track that is joined to an open run goes "
+                "on climbing until you choose \"End Grade Here\" from its menu."),
+    wxTRANSLATE("View > Show Grades puts grades, heights and the room between crossing tracks on "
+                "the plan. View > Height Profile shows the way through the selected track from the "
+                "side: drag its joints up and down, double-click one to type its height."),
+    wxTRANSLATE("# Tunnels"),
+    wxTRANSLATE("\"Tunnel\" in the tool bar puts portals at both ends of the selected chain, or of "
+                "two parallel ones, and takes them away again. Track in a tunnel is locked."),
     wxTRANSLATE("# Baseboard"),
     wxTRANSLATE("Layout > Layout Shape gives the plan its table: a rectangle, an L, a U or a T of "
                 "exact measures, or a free outline that you draw corner by corner or take from a "
@@ -172,16 +183,14 @@ constexpr const char* kFiles[] = {
 };
 
 constexpr const char* kWizards[] = {
-    wxTRANSLATE("This version plans track on the flat or on levels of a fixed height. These are "
-                "not available in it, and their menu items and tools are greyed out:"),
+    wxTRANSLATE(
+        "These are not available in this version, and their menu items and tools are greyed "
+        "out:"),
     wxTRANSLATE("Layout Wizard|A whole loop of track that follows a table outline"),
     wxTRANSLATE("Bridge Wizard|Bridges with their ramps and pillars"),
-    wxTRANSLATE("Elevation|Grades and inclines along the track"),
-    wxTRANSLATE("Tunnel|Portals on a chain of track"),
     wxTRANSLATE("3D View|The layout seen from any side"),
     wxTRANSLATE("Print|Plans to scale on paper, and their preview"),
-    wxTRANSLATE("Layouts that hold grades, tunnels or helices keep them when they are opened and "
-                "saved."),
+    wxTRANSLATE("Layouts that hold helices keep them when they are opened and saved."),
 };
 
 constexpr HelpPage kPages[] = {
