@@ -6,6 +6,7 @@
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
 #include "document/limits.h"
+#include "document/record_kinds.h"
 #include "document/repairs.h"
 #include "editing/autofill/autofill.h"
 #include "editing/canvas/layout_painter.h"

@@ -2,10 +2,12 @@
 
 #include "document/layout.h"
 #include "document/limits.h"
+#include "document/plan_content.h"
 #include "editing/elevation/way_handles.h"
 #include "editing/selection/selection.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/track_geometry.h"
+#include "host/plan_preview.h"
 #include "measures/measure_format.h"
 #include "measures/measure_input.h"
 #include "texts/texts.h"
@@ -380,6 +382,10 @@ std::string ElevationForm::summary() const {
   if (steepest != 0 && felt > std::abs(steepest) + 0.0005)
     text.append(" ").append(tr("In its curves a train feels up to %1% %%.", {percentText(felt)}));
   return text;
+}
+
+void ElevationForm::showOn(PlanPreview& preview) const {
+  preview.show(picture());
 }
 
 PlanContent ElevationForm::picture() const {

@@ -1,7 +1,7 @@
 // What a user wants of the heights of the selected track, while its dialog is open.
 #pragma once
 
-#include "document/plan_content.h"
+#include "document/records_fwd.h"
 #include "editing/elevation/grade_edits.h"
 
 #include <array>
@@ -13,6 +13,8 @@
 #include <vector>
 
 namespace trassix {
+
+class PlanPreview;
 
 /// Every entry says at once what would come of it, and `plan` is that; nothing is changed. Of
 /// height, rise and grade the last one that was typed holds, and the others follow it.
@@ -72,6 +74,7 @@ class ElevationForm {
   TrainWay wayPlanned() const;
   /// The way's track as it would be, with both ends named.
   PlanContent picture() const;
+  void showOn(PlanPreview& preview) const;
 
  private:
   static std::size_t index(Field field) { return static_cast<std::size_t>(field); }

@@ -139,4 +139,9 @@ bool turnIntoLooseTrack(Layout& layout, std::int32_t helix) {
   return step.keep();
 }
 
+bool anyOfHelixSelected(const Layout& layout) {
+  return std::ranges::any_of(
+      layout.pieces(), [](const PlacedPiece& piece) { return piece.sel && piece.helix != -1; });
+}
+
 } // namespace trassix

@@ -38,4 +38,7 @@ bool deleteHelix(Layout& layout, std::int32_t helix);
 /// Removes the record: the track lies there on its own.
 bool turnIntoLooseTrack(Layout& layout, std::int32_t helix);
 
+/// Whether a piece of any helix is selected.
+bool anyOfHelixSelected(const Layout& layout);
+
 } // namespace trassix

@@ -1,6 +1,7 @@
 #include "editing/helix/helix_plan.h"
 
 #include "document/layout.h"
+#include "document/plan_content.h"
 #include "editing/elevation/crossings.h"
 #include "editing/elevation/end_heights.h"
 #include "editing/track/connector_geometry.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "catalog/helix_kits.h"
-#include "document/records.h"
+#include "document/records_fwd.h"
 #include "geometry/pose.h"
 
 #include <cstdint>

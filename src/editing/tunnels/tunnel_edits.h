@@ -2,7 +2,7 @@
 // says what they cover.
 #pragma once
 
-#include "document/records.h"
+#include "document/records_fwd.h"
 #include "editing/edit_result.h"
 #include "editing/tunnels/tunnel_chain.h"
 #include "editing/tunnels/tunnel_figures.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/records.h"
+#include "document/records_fwd.h"
 #include "editing/tunnels/tunnel_figures.h"
 
 #include <cstdint>

@@ -5,7 +5,7 @@
 #include "catalog/track_system.h"
 #include "document/block_file.h"
 #include "document/open_plan.h"
-#include "document/plan_content.h"
+#include "editing/helix/helix_edits.h"
 #include "editing/selection/selection.h"
 #include "host/command_ids.h"
 #include "host/questions.h"
@@ -116,9 +116,7 @@ void exportLayout(Desk& desk) {
 
 /// Asks before a helix is saved where heights are not.
 bool mayFlattenHelices(Workspace& workspace) {
-  const std::vector<PlacedPiece>& pieces = workspace.layout().pieces();
-  return std::ranges::none_of(
-             pieces, [](const PlacedPiece& piece) { return piece.sel && piece.helix != -1; }) ||
+  return !anyOfHelixSelected(workspace.layout()) ||
          workspace.questions().confirm(
              {tr("Save Block"),
               tr("A library block holds no heights: its helix comes back flat, as "

@@ -231,7 +231,7 @@ void ElevationDialog::refresh() {
   Layout();
   ok_->Enable(form_.ready());
   profile_->Refresh();
-  preview_.show(form_.picture());
+  form_.showOn(preview_);
 }
 
 } // namespace trassix
