@@ -2,6 +2,7 @@
 // read again.
 #include "document/block.h"
 #include "document/block_file.h"
+#include "document/record_kinds.h"
 
 #include <cstdlib>
 

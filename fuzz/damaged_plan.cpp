@@ -1,7 +1,9 @@
 #include "damaged_plan.h"
 
+#include "document/block.h"
 #include "document/block_file.h"
 #include "document/layout_writer.h"
+#include "document/record_kinds.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"

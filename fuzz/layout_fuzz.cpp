@@ -2,6 +2,7 @@
 // and a load unharmed.
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/record_kinds.h"
 #include "document/unread_part.h"
 
 #include <cstdlib>
