@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/control.h>
+#include <wx/eventfilter.h>
 #include <wx/evtloop.h>
 #include <wx/stopwatch.h>
 #include <wx/uiaction.h>
@@ -52,6 +53,26 @@ wxWindow* findIf(const wxWindowList& windows, const std::function<bool(const wxW
   return nullptr;
 }
 
+/// Knows where the last motion was that a window has been told of.
+class MotionWatch : public wxEventFilter {
+ public:
+  MotionWatch() { wxEvtHandler::AddFilter(this); }
+  ~MotionWatch() override { wxEvtHandler::RemoveFilter(this); }
+  MotionWatch(const MotionWatch&) = delete;
+  MotionWatch& operator=(const MotionWatch&) = delete;
+
+  int FilterEvent(wxEvent& event) override {
+    if (event.GetEventType() == wxEVT_MOTION)
+      if (const auto* window = dynamic_cast<wxWindow*>(event.GetEventObject()))
+        told_ = window->ClientToScreen(static_cast<wxMouseEvent&>(event).GetPosition());
+    return Event_Skip;
+  }
+  wxPoint told() const { return told_; }
+
+ private:
+  wxPoint told_;
+};
+
 void movePointer(wxPoint to) {
   const wxPoint from = wxGetMousePosition();
   wxUIActionSimulator simulator;
@@ -93,8 +114,18 @@ wxPoint Spot::onScreen() const {
 }
 
 void moveMouse(const Spot& to) {
-  movePointer(to.onScreen());
+  const MotionWatch motion;
+  const wxPoint target = to.onScreen();
+  movePointer(target);
   settle();
+  // The display server puts motions together and may keep the last one until there is another. A
+  // hand that comes to rest trembles as well.
+  constexpr int kTrembles = 3;
+  for (int i = 0; i < kTrembles && motion.told() != target; ++i) {
+    movePointer(target + wxPoint(1, 0));
+    movePointer(target);
+    settle();
+  }
 }
 
 void pressMouse(const Spot& at, int button) {
