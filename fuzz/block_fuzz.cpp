@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace trassix;
   Block first;
   readBlock(std::string_view(reinterpret_cast<const char*>(data), size), first);
-  if (first.empty())
+  if (isEmpty(first))
     return 0;
   std::string saved;
   const auto append = [&saved](std::string_view part) { saved += part; };

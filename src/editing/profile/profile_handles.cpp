@@ -38,7 +38,8 @@ std::vector<ProfileHandle> handlesOf(const ProfileContent& content, const TrainW
       handles.push_back({joint, px, knee});
   }
   // Knees lie over the others.
-  std::ranges::stable_partition(handles, [](const ProfileHandle& handle) { return !handle.knee; });
+  std::stable_partition(handles.begin(), handles.end(),
+                        [](const ProfileHandle& handle) { return !handle.knee; });
   return handles;
 }
 

@@ -59,9 +59,11 @@ class ChainFinder {
 
   /// The way through a group; empty, with the reason in `problem`, when that is no chain.
   TrainWay wayThrough(const std::set<std::int32_t>& group, TunnelProblem& problem) const {
-    for (const std::int32_t id : group)
-      if (problem = problemOf(*layout_.findPiece(id)))
+    for (const std::int32_t id : group) {
+      problem = problemOf(*layout_.findPiece(id));
+      if (problem)
         return {};
+    }
     const auto first = std::ranges::find_if(
         group, [this](std::int32_t id) { return innerEnds(*layout_.findPiece(id)).size() < 2; });
     if (first == group.end()) {
