@@ -1,3 +1,4 @@
+#include "app/services/file_listing.h"
 #include "document/layout_writer.h"
 #include "document/open_plan.h"
 #include "document/rescue/rescue_schedule.h"
@@ -162,8 +163,12 @@ TEST(RescueSession, copiesAreWholeAlsoWhenThePlanShrinks) {
     writeLayout(randomPlan(1, count), "A", text);
     ASSERT_EQ(session.write(randomPlan(1, count), "A"), "");
     EXPECT_EQ(readText(session.copyFile()), text);
-    const RescuedPlans found = findRescued(folder.path(), RescueSession(folder.path()));
-    EXPECT_EQ(found.plans.at(0).copy, session.copyFile());
+    const TempFolder left; // as if the program were killed now: a lock that lives may not be asked
+    fs::create_directory(left.path() / "session");
+    for (const fs::path& copy : filesIn(session.folder(), ".txl"))
+      fs::copy(copy, left.path() / "session");
+    const RescuedPlans found = findRescued(left.path(), RescueSession(left.path()));
+    EXPECT_EQ(found.plans.at(0).copy.filename(), session.copyFile().filename());
   }
   session.discard();
   EXPECT_FALSE(session.hasCopy());
@@ -231,6 +236,13 @@ TEST(VersionStore, keepsWhatWasThereBefore) {
   EXPECT_EQ(store.plans().size(), 1U);
   store.tidy(now + 31 * kDay);
   EXPECT_TRUE(store.plans().empty());
+
+  const auto once = fs::file_time_type::clock::now();
+  for (const char* const text : {"x", "y", "z"}) {
+    save(text);
+    fs::last_write_time(file, once); // as by a clock that only counts seconds
+  }
+  EXPECT_EQ(kept(store), (std::vector<std::string>{"y", "x"}));
 
   const VersionStore small(folder.path() / "small", 250);
   for (int i = 0; i < 6; ++i) {

@@ -7,6 +7,7 @@
 #include "document/plan_origin.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace trassix {
 
@@ -22,16 +23,17 @@ fs::path pathOf(const std::string& utf8) {
   return std::u8string(utf8.begin(), utf8.end());
 }
 
-/// The latest first.
+/// The latest first. Where the clock of the files only counts seconds the numbers of names tell
+/// which came later.
 std::vector<fs::path> copiesIn(const fs::path& planFolder) {
-  std::vector<std::pair<fs::file_time_type, fs::path>> dated;
+  std::vector<std::tuple<fs::file_time_type, std::size_t, fs::path>> dated;
   std::error_code error;
   for (const fs::path& copy : filesIn(planFolder, kCopyEnd))
-    dated.emplace_back(fs::last_write_time(copy, error), copy);
+    dated.emplace_back(fs::last_write_time(copy, error), copy.native().size(), copy);
   std::ranges::sort(dated, std::greater());
   std::vector<fs::path> copies;
   copies.reserve(dated.size());
-  for (auto& [when, copy] : dated)
+  for (auto& [when, length, copy] : dated)
     copies.push_back(std::move(copy));
   return copies;
 }
