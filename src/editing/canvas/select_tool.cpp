@@ -122,6 +122,15 @@ void SelectTool::select(const Pick& pick) {
   site_.workspace.selectionChanged();
 }
 
+void SelectTool::toggle(const Pick& pick) {
+  Layout& layout = site_.layout();
+  const bool selected = !isSelected(layout, pick);
+  setSelected(layout, pick, selected);
+  if (const std::int32_t helix = helixUnder(layout, pick); helix != -1)
+    for (const std::int32_t piece : piecesOfHelix(layout, helix))
+      layout.select(RecordKind::Piece, piece, selected);
+}
+
 void SelectTool::click(const PointerInput& input) {
   Layout& layout = site_.layout();
   if (corners().click(input))
@@ -133,7 +142,7 @@ void SelectTool::click(const PointerInput& input) {
   if (input.ctrl) {
     if (picks.empty())
       return;
-    setSelected(layout, picks.front(), !isSelected(layout, picks.front()));
+    toggle(picks.front());
     site_.workspace.selectionChanged();
     return;
   }

@@ -40,6 +40,7 @@ class SelectTool : public CanvasTool {
   void tellPointed();
   void click(const PointerInput& input);
   void select(const Pick& pick);
+  void toggle(const Pick& pick);
   void startGesture(const PointerInput& input);
   bool nudge(const KeyInput& input);
   /// Turns the only selected piece round to its next way.

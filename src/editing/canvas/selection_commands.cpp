@@ -4,6 +4,7 @@
 #include "document/plan_content.h"
 #include "editing/elevation/grades.h"
 #include "editing/elevation/propagation.h"
+#include "editing/helix/helix_edits.h"
 #include "editing/levels/level_edits.h"
 #include "editing/placing/block_placing.h"
 #include "editing/records_by_id.h"
@@ -147,6 +148,8 @@ void selectChain(ToolSite& site, std::int32_t piece) {
   layout.clearSelection();
   for (const std::int32_t id : chainOf(layout, piece))
     setSelected(layout, {RecordKind::Piece, id}, true);
+  selectWholeHelices(layout);
+  deselectHidden(layout);
   site.workspace.selectionChanged();
 }
 

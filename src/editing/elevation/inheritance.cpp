@@ -28,13 +28,18 @@ ClimbStart startAt(const Layout& layout, TrackEnd own, TrackEnd target) {
           endHeight(layout, target), slopeGoingOn(layout, target)};
 }
 
-/// What hangs together with a piece inside the group; sorted ids.
+/// What hangs together with a piece inside the group, by joints or in a helix; sorted ids.
 std::vector<std::int32_t> partAround(const Layout& layout, std::span<const std::int32_t> group,
                                      std::int32_t piece) {
   std::unordered_set<std::int32_t> met{piece};
   std::vector<std::int32_t> part{piece};
+  std::unordered_set<std::int32_t> helices{-1};
   for (std::size_t k = 0; k < part.size(); ++k) {
     const PlacedPiece& from = *layout.findPiece(part[k]);
+    if (helices.insert(from.helix).second)
+      for (const std::int32_t id : group)
+        if (layout.findPiece(id)->helix == from.helix && met.insert(id).second)
+          part.push_back(id);
     for (std::size_t i = 0; i < from.joints.size(); ++i)
       if (const PlacedPiece* next = joinedPiece(layout, from, i);
           next != nullptr && containsId(group, next->id) && met.insert(next->id).second)

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_set>
 
 namespace trassix {
 
@@ -117,6 +118,23 @@ void selectHelix(Layout& layout, std::int32_t helix) {
       return record.helix == helix && helix != -1;
     else
       return false;
+  });
+}
+
+void selectWholeHelices(Layout& layout) {
+  if (layout.content().helices.empty())
+    return;
+  std::unordered_set<std::int32_t> chosen;
+  for (const PlacedPiece& piece : layout.pieces())
+    if (piece.sel && recordWithId(layout.content().helices, piece.helix) != nullptr)
+      chosen.insert(piece.helix);
+  if (chosen.empty())
+    return;
+  layout.reselect([&chosen](const auto& record) {
+    if constexpr (requires { record.helix; })
+      return record.sel || chosen.contains(record.helix);
+    else
+      return record.sel;
   });
 }
 

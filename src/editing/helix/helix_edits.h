@@ -32,6 +32,9 @@ std::int32_t selectedHelix(const Layout& layout);
 
 void selectHelix(Layout& layout, std::int32_t helix);
 
+/// Selects the rest of each helix of which a part is selected.
+void selectWholeHelices(Layout& layout);
+
 /// Removes its track and the record.
 bool deleteHelix(Layout& layout, std::int32_t helix);
 

@@ -113,18 +113,6 @@ void copyPairs(const Block& block, const std::vector<PlacedPiece>& pieces,
   }
 }
 
-/// Whether all track of each helix was lifted by the same, also that which is not joined.
-bool helicesRoseWhole(const Layout& layout, const std::vector<PlacedPiece>& before) {
-  std::unordered_map<std::int32_t, double> rises;
-  for (std::size_t i = 0; i < before.size(); ++i) {
-    const double rise = layout.pieces()[i].z - before[i].z;
-    if (before[i].helix != -1 &&
-        std::abs(rises.emplace(before[i].helix, rise).first->second - rise) > kSameHeight)
-      return false;
-  }
-  return true;
-}
-
 void createLevels(Layout& layout, const std::vector<PlacedPiece>& pieces) {
   std::unordered_set<std::int32_t> seen;
   for (const PlacedPiece& piece : pieces) {
@@ -200,10 +188,7 @@ EditResult placeBlock(Layout& layout, const Block& placed, const Pose& pose,
   createLevels(layout, block.content.pieces);
   if (const int opened = block.onLevels ? standOnLevels(layout, placedPieces) : 0; opened != 0)
     result.remark = openedJoints(opened);
-  const std::vector<PlacedPiece> stood = layout.pieces();
   landWhereMeeting(layout, placedPieces, landsOn);
-  if (!helicesRoseWhole(layout, stood))
-    layout.edit().pieces = stood;
   closeMeetingEnds(layout, placedPieces);
   if (!result.remark)
     result.remark = missedEndsNotice(layout, missedEnds(layout, placedPieces));

@@ -3,6 +3,7 @@
 #include "catalog/scenery_catalog.h"
 #include "catalog/track_catalog.h"
 #include "document/plan_content.h"
+#include "editing/helix/helix_edits.h"
 #include "editing/selection/any_record.h"
 #include "editing/selection/selection.h"
 #include "editing/track/short_name.h"
@@ -66,7 +67,7 @@ class Finder {
   template <class Record>
   void add(const Record& record, RecordKind kind, std::string shown, const std::string& searched,
            bool known = false) {
-    if (!isVisible(layout_, record) || !(known || holds(searched)))
+    if (!layout_.levelVisible(record.level) || !(known || holds(searched)))
       return;
     const Level* level =
         layout_.settings().levels.size() > 1 ? layout_.findLevel(record.level) : nullptr;
@@ -106,7 +107,7 @@ std::vector<Pick> piecesOfArticle(const Layout& layout, std::string_view article
   for (const PlacedPiece& piece : layout.pieces()) {
     const bool same = wanted != nullptr ? TrackCatalog::instance().find(piece.cat) == wanted
                                         : piece.cat == article;
-    if (same && isVisible(layout, piece))
+    if (same && layout.levelVisible(piece.level))
       picks.push_back({RecordKind::Piece, piece.id});
   }
   return picks;
@@ -116,6 +117,7 @@ std::optional<Box> selectThese(Layout& layout, std::span<const Pick> records) {
   layout.clearSelection();
   for (const Pick& record : records)
     setSelected(layout, record, true);
+  selectWholeHelices(layout);
   std::optional<Box> box = selectionBox(layout);
   for (const Label& label : layout.content().labels)
     if (label.sel)

@@ -2,6 +2,7 @@
 
 #include "document/record_kinds.h"
 #include "document/reselecting.h"
+#include "editing/helix/helix_edits.h"
 #include "editing/selection/any_record.h"
 #include "editing/selection/plan_index.h"
 #include "editing/selection/record_body.h"
@@ -87,6 +88,7 @@ void selectInBox(Layout& layout, const PlanIndex& index, const Box& box, bool wh
       return isVisible(layout, record) && inBox(box, bodyOf(layout, record, 0).outline, whole);
   };
   layout.reselect([&](const auto& record) { return record.sel || catches(record); });
+  selectWholeHelices(layout);
 }
 
 } // namespace trassix

@@ -28,7 +28,7 @@ inline void setSelected(Layout& layout, const Pick& pick, bool selected) {
 }
 
 /// Selects what the box touches, or with `whole` what lies in it altogether, in addition to what is
-/// selected already.
+/// selected already. A helix is taken whole.
 void selectInBox(Layout& layout, const PlanIndex& index, const Box& box, bool whole);
 
 } // namespace trassix

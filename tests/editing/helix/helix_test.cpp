@@ -3,6 +3,7 @@
 #include "editing/elevation/end_heights.h"
 #include "editing/helix/helix_edits.h"
 #include "editing/placing/block_placing.h"
+#include "editing/placing/placing.h"
 #include "editing/selection/moving.h"
 #include "editing/selection/selection.h"
 #include "support/plan.h"
@@ -134,6 +135,22 @@ TEST(Helices, AreMovedAndCopiedWhole) {
   EXPECT_TRUE(blockFromSelection(layout).content.helices.empty());
   ASSERT_TRUE(placeBlock(layout, blockFromSelection(layout), {6000, 0, 0}).changed());
   EXPECT_EQ(layout.pieces().back().helix, -1);
+}
+
+TEST(Helices, RiseWholeToTheTrackThatOneOfTheirEndsMeets) {
+  Layout layout;
+  HelixPlan plan = planOf(*findHelixKit("helix_1_5_r2r3"), HelixHand::Right);
+  plan.centre = {};
+  placeHelix(layout, plan, 1);
+  const Block block = blockFromSelection(layout);
+  dropPiece(layout, "24188", {3000 - 188.3, -437.5, 0}, {}, false);
+  layout.editPiece(layout.pieces().back().id)->z = 66.7;
+  ASSERT_TRUE(placeBlock(layout, block, {3000, 0, 0}).changed());
+  const Helix& copy = layout.content().helices.at(1);
+  EXPECT_FALSE(layout.findPiece(copy.bottomR1)->joint(0).open());
+  for (const std::int32_t bottom : {copy.bottomR1, copy.bottomR2})
+    EXPECT_NEAR(endHeight(layout, {bottom, 0}), 66.7, 1e-6);
+  EXPECT_EQ(brokenRule(layout), "");
 }
 
 } // namespace
