@@ -40,6 +40,8 @@ struct Layout::Store {
   PlanContent content;
   History history;
   PieceIndex index;
+  std::vector<std::int32_t> covered; ///< sorted ids, as of the stamp
+  std::uint64_t coveredStamp = 0;
 };
 
 Layout::StoreOwner::StoreOwner() : store_(std::make_unique<Store>()) {}
@@ -110,6 +112,30 @@ const Level* Layout::findLevel(std::int32_t id) const {
 bool Layout::levelVisible(std::int32_t id) const {
   const Level* level = findLevel(id);
   return level == nullptr || level->visible;
+}
+
+void Layout::showCovered(bool shown) {
+  if (std::exchange(coveredShown_, shown) != shown)
+    settingsStamp_ = newStamp();
+}
+
+bool Layout::isCovered(std::int32_t piece) const {
+  const std::vector<Tunnel>& tunnels = content().tunnels;
+  if (tunnels.empty())
+    return false;
+  std::vector<std::int32_t>& covered = store_->covered;
+  if (store_->coveredStamp != contentStamp_) {
+    covered.clear();
+    for (const Tunnel& tunnel : tunnels)
+      covered.insert(covered.end(), tunnel.covers.begin(), tunnel.covers.end());
+    std::ranges::sort(covered);
+    store_->coveredStamp = contentStamp_;
+  }
+  return std::ranges::binary_search(covered, piece);
+}
+
+bool Layout::pieceVisible(const PlacedPiece& piece) const {
+  return levelVisible(piece.level) && (coveredShown_ || !isCovered(piece.id));
 }
 
 double Layout::levelHeight(std::int32_t id) const {

@@ -71,6 +71,16 @@ class Layout {
   /// A piece on a level that is not in the list counts as visible.
   bool levelVisible(std::int32_t id) const;
 
+  /// Whether track in tunnels shows on the plan. Like the visible levels a matter of looking at it,
+  /// though no file holds it.
+  bool coveredShown() const { return coveredShown_; }
+  void showCovered(bool shown);
+  /// Whether the piece lies in a tunnel.
+  bool isCovered(std::int32_t piece) const;
+
+  /// On no hidden level, and in no tunnel while what lies there does not show.
+  bool pieceVisible(const PlacedPiece& piece) const;
+
   /// Height of a level in mm, 0 when there is no such level.
   double levelHeight(std::int32_t id) const;
 
@@ -146,6 +156,7 @@ class Layout {
   std::uint64_t contentStamp_ = 0;
   std::uint64_t settingsStamp_ = 0;
   std::uint64_t selectionStamp_ = 0;
+  bool coveredShown_ = true;
   bool inEdit_ = false;           ///< an undo scope is open
   std::uint64_t arrangement_ = 0; ///< the stamp since which pieces kept their places in the list
 };

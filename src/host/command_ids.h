@@ -65,6 +65,7 @@ enum CommandId : int {
   kBoardCorners = 2077,
   kLevelCorners = 2078,
   kShowGrades = 2080,
+  kShowHidden = 2081,
 };
 
 /// What the mouse does on the plan.

@@ -22,6 +22,7 @@ struct EditorSwitches {
   bool grid = true;
   bool labels = true; ///< article labels and join dots
   bool rails = true;
+  bool hidden = true;       ///< track in tunnels
   bool grades = false;      ///< grades, heights and clearances on the plan
   bool spreadLoops = false; ///< what does not add up round a loop, the rest of the loop takes up
   double heightScale = 0;   ///< of the height profile: times distances; 0 for as it fits

@@ -1,7 +1,11 @@
 #include "host/workspace.h"
 
 #include "document/open_plan.h"
+#include "document/plan_content.h"
+#include "editing/selection/selection.h"
+#include "texts/texts.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace trassix {
@@ -51,6 +55,7 @@ void Workspace::planReplaced() {
   // An outline that was going to be drawn belonged to the plan before.
   if (switches_.polygonUse.kind != PolygonUse::Kind::Shape)
     setToolMode(ToolMode::Select);
+  layout().showCovered(switches_.hidden);
   tell(&PlanObserver::planReplaced);
   tell(&PlanObserver::unitsChanged);
 }
@@ -66,7 +71,22 @@ void Workspace::setUnits(std::int32_t units) {
 
 void Workspace::setSwitches(const EditorSwitches& switches) {
   switches_ = switches;
+  layout().showCovered(switches.hidden);
+  if (!switches.hidden)
+    deselectHidden(layout());
   tell(&PlanObserver::switchesChanged);
+}
+
+void Workspace::showSelected() {
+  const auto unseen = [this](const PlacedPiece& piece) {
+    return piece.sel && layout().isCovered(piece.id);
+  };
+  if (switches_.hidden || std::ranges::none_of(layout().pieces(), unseen))
+    return;
+  EditorSwitches shown = switches_;
+  shown.hidden = true;
+  setSwitches(shown);
+  setHint(tr("Hidden track shows again: what is selected lies in a tunnel"));
 }
 
 void Workspace::setToolMode(ToolMode mode, const PolygonUse& use) {

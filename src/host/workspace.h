@@ -76,6 +76,8 @@ class Workspace {
   void fileChanged();
   void setUnits(std::int32_t units);
   void setSwitches(const EditorSwitches& switches);
+  /// Track in tunnels shows again when any that is selected does not.
+  void showSelected();
   void setToolMode(ToolMode mode, const PolygonUse& use = {});
   void repaint();
   /// Brings a part of the plan (mm) into view; one that is in view stays where it is, unless it has

@@ -9,7 +9,7 @@
 #include "support/plan.h"
 #include "support/print_records.h"
 #include "ui/palette/catalog_list.h"
-#include "ui/widgets/remembered_grades.h"
+#include "ui/widgets/remembered_look.h"
 
 #include <wx/choice.h>
 #include <wx/srchctrl.h>
@@ -209,7 +209,7 @@ TEST_F(PlanningTest, ALineClimbsOverAnotherInFewActions) {
   EXPECT_EQ(plan().content(), before);
   EXPECT_EQ(frame().workspace().preview(), nullptr);
   put(kShowGrades);
-  EXPECT_TRUE(rememberedGrades());
+  EXPECT_TRUE(rememberedLook({}).grades);
   finish();
 }
 

@@ -4,6 +4,7 @@
 #include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/record_pictures.h"
+#include "editing/helix/helix_rings.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/track_geometry.h"
 
@@ -122,17 +123,18 @@ void ArticlePlaces::Data::start(const Layout& layout) {
   spots.clear();
   track.clear();
   widest = 0;
+  const HelixRings rings(layout);
   for (std::size_t i = 0; i < pieces.size(); ++i) {
     const PlacedPiece& placed = layout.pieces()[i];
     const PieceDef* definition = index->definition(i);
-    if (definition == nullptr || !layout.levelVisible(placed.level) ||
+    if (definition == nullptr || !layout.pieceVisible(placed) ||
         std::ranges::binary_search(leftOut, placed.id))
       continue;
     Piece& piece = pieces[i];
     piece.definition = definition;
     piece.geometry = &trackGeometryOf(*definition);
     piece.pose = poseOf(placed);
-    if (zoom * piece.geometry->halfWidth / kUsualHalfWidth < kFromZoom)
+    if (zoom * piece.geometry->halfWidth / kUsualHalfWidth < kFromZoom || rings.hold(placed))
       continue;
     const Point at = toWorld(piece.pose, piece.geometry->labelSpot);
     piece.spot = {at.x * zoom, at.y * zoom};

@@ -22,6 +22,7 @@ namespace {
 namespace colors = plan_colors;
 
 constexpr double kSameSlope = 1e-4;     ///< of neighbours, between which there is no knee
+constexpr double kBeneathWidth = 0.55;  ///< of what lies beneath, to what lies on top
 constexpr double kArrowPx = 5;          ///< half its length
 constexpr double kArrowsApartPx = 44;   ///< at least
 constexpr double kPercentApartPx = 150; ///< of the same text
@@ -52,7 +53,8 @@ void GradePainter::paintColors(std::vector<Track> track) {
     const auto [geometry, lines] = piecePainter_.shapeOf(*shown.definition);
     const double slope = slopeOf(*shown.piece);
     const Rgba color = colors::gradeColor(slope);
-    const double width = std::clamp(geometry.gauge * view_.zoom() * 0.55, 3.0, 10.0);
+    const double width = std::clamp(geometry.gauge * view_.zoom() * 0.55, 3.0, 10.0) *
+                         (shown.beneath ? kBeneathWidth : 1);
     for (const auto& line : lines.centreLines) {
       const std::vector<Point>& px = piecePainter_.toScreen(line, poseOf(*shown.piece));
       if (shown.piece->sel)
@@ -123,7 +125,7 @@ void GradePainter::paintClearances(std::span<const TrackCrossing> crossings, Occ
       const PlacedPiece* lower = layout_.findPiece(crossing.lower.piece);
       const PlacedPiece* upper = layout_.findPiece(crossing.upper.piece);
       if (crossing.tooLow() != tooLow || lower == nullptr || upper == nullptr ||
-          !layout_.levelVisible(lower->level) || !layout_.levelVisible(upper->level))
+          !layout_.pieceVisible(*lower) || !layout_.pieceVisible(*upper))
         continue;
       const Point at = view_.toScreen(crossing.at);
       const std::string text = number(crossing.clearance);

@@ -22,6 +22,7 @@ class GradePainter {
   struct Track {
     const PlacedPiece* piece;
     const PieceDef* definition;
+    bool beneath = false; ///< under a hill or a deck
   };
 
   /// Graded track in its colour, with arrows that point uphill; what lies higher over the rest.

@@ -5,9 +5,12 @@
 #include "editing/canvas/article_places.h"
 #include "editing/canvas/grade_painter.h"
 #include "editing/canvas/grid_steps.h"
+#include "editing/canvas/helix_painter.h"
 #include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/record_pictures.h"
+#include "editing/elevation/end_heights.h"
+#include "editing/levels/decks.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/any_record.h"
 #include "editing/selection/selection.h"
@@ -17,7 +20,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <unordered_set>
 
 namespace trassix {
 
@@ -39,6 +41,18 @@ Rgba bedColor(const Layout& layout, const PlacedPiece& piece, const PieceDef& de
   return opaque(definition.bridge ? colors::kBridgeBed : colors::kBed);
 }
 
+/// By the middle of its main way.
+bool liesBeneath(const Decks& decks, const PlacedPiece& piece, const PieceDef& definition) {
+  if (decks.empty())
+    return false;
+  double highest = piece.z;
+  if (isGraded(piece))
+    for (std::int32_t i = 0; i < static_cast<std::int32_t>(definition.connectors.size()); ++i)
+      highest = std::max(highest, endHeight(piece, definition, i));
+  return decks.cover(toWorld(poseOf(piece), trackGeometryOf(definition).labelSpot), piece.level,
+                     highest);
+}
+
 bool isOtherLevel(const Layout& layout, std::int32_t level) {
   return level != layout.settings().activeLevel && layout.findLevel(level) != nullptr;
 }
@@ -50,7 +64,7 @@ struct LayoutPainter::Visible {
   const PieceDef* definition;
   PiecePainter::Shape shape;
   PieceLook look;
-  std::int64_t storey;
+  std::int64_t storey = 0;
 
   bool besides(const Visible& other) const {
     return piece->level == other.piece->level && storey == other.storey;
@@ -156,7 +170,7 @@ std::vector<const SceneryItem*> LayoutPainter::visibleScenery(const Layout& layo
   return shown;
 }
 
-void LayoutPainter::paintSceneryItem(const Layout& layout, const SceneryItem& item) {
+void LayoutPainter::paintSceneryItem(const Layout& layout, const SceneryItem& item, bool beneath) {
   const std::vector<Point> px = view_.toScreen(sceneryOutline(layout, item));
   if (PictureSite{surface_, part_, view_, layout}.isBeside(px, kStrokeReachPx))
     return;
@@ -164,24 +178,27 @@ void LayoutPainter::paintSceneryItem(const Layout& layout, const SceneryItem& it
   if (isOtherLevel(layout, item.level))
     color = colors::faded(color);
   Rgba fill = color;
-  fill.a = 84;
-  surface_.polygon(px, fill,
-                   item.sel && options_.selection ? Stroke{colors::kSelected, 2.5}
-                                                  : Stroke{color, 1.2});
+  fill.a = beneath ? 40 : 84;
+  surface_.polygon(
+      px, fill,
+      item.sel && options_.selection
+          ? Stroke{colors::kSelected, 2.5}
+          : Stroke{color, 1.2, beneath ? Stroke::Style::Dashed : Stroke::Style::Solid});
 }
 
-std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& layout,
-                                                                const PlanIndex& index) {
-  std::unordered_set<std::int32_t> covered;
-  for (const Tunnel& tunnel : layout.content().tunnels)
-    covered.insert(tunnel.covers.begin(), tunnel.covers.end());
+bool LayoutPainter::isLeftOut(std::int32_t piece) const {
+  return std::ranges::binary_search(options_.leftOut, piece);
+}
 
+std::vector<LayoutPainter::Visible>
+LayoutPainter::visibleTrack(const Layout& layout, const PlanIndex& index, const HelixRings& rings) {
   const PiecePainter painter(surface_, view_);
+  const Decks decks(layout);
   std::vector<Visible> shown;
   for (const std::size_t position : index.inBox(shownBox(kDotReachPx), false)) {
     const PlacedPiece& piece = layout.pieces()[position];
     const PieceDef* definition = index.definition(position);
-    if (std::binary_search(options_.leftOut.begin(), options_.leftOut.end(), piece.id))
+    if (isLeftOut(piece.id) || rings.hide(piece))
       continue;
     if (!definition) {
       paintUnknown(piece);
@@ -191,7 +208,7 @@ std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& la
     look.bed = bedColor(layout, piece, *definition);
     look.rails = options_.rails;
     look.sleepers = options_.rails;
-    look.covered = !covered.empty() && covered.contains(piece.id);
+    look.beneath = layout.isCovered(piece.id) || liesBeneath(decks, piece, *definition);
     look.faded = isOtherLevel(layout, piece.level);
     if (piece.sel && options_.selection)
       look.accent = colors::kSelected;
@@ -202,12 +219,18 @@ std::vector<LayoutPainter::Visible> LayoutPainter::visibleTrack(const Layout& la
 }
 
 void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& index) {
-  const std::vector<Visible> track = visibleTrack(layout, index);
+  const HelixRings rings(layout);
+  const std::vector<Visible> track = visibleTrack(layout, index, rings);
   const std::vector<const SceneryItem*> scenery = visibleScenery(layout);
+  const Decks decks(layout);
   std::size_t items = 0;
   const auto sceneryUpTo = [&](double height) {
-    while (items < scenery.size() && layout.levelHeight(scenery[items]->level) <= height)
-      paintSceneryItem(layout, *scenery[items++]);
+    for (; items < scenery.size() && layout.levelHeight(scenery[items]->level) <= height; ++items) {
+      const SceneryItem& item = *scenery[items];
+      const bool beneath =
+          decks.cover({item.x, item.y}, item.level, layout.levelHeight(item.level));
+      paintSceneryItem(layout, item, beneath);
+    }
   };
   PiecePainter painter(surface_, view_);
   std::vector<PiecePainter::Piece> pieces;
@@ -229,7 +252,20 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
     from = to;
   }
   sceneryUpTo(std::numeric_limits<double>::infinity());
+  std::vector<const HelixRing*> shownRings;
+  for (const HelixRing& ring : rings.rings()) {
+    const PlacedPiece& bottom = *layout.findPiece(ring.bottoms.front());
+    if (!layout.pieceVisible(bottom) || isLeftOut(bottom.id))
+      continue;
+    shownRings.push_back(&ring);
+    if (options_.labels)
+      paintLowerEnds(layout, ring);
+  }
   std::optional<Occupancy> taken;
+  const auto paintRingTexts = [&] {
+    for (const HelixRing* ring : shownRings)
+      paintHelixTexts({surface_, part_, view_, layout}, *ring, taken ? &*taken : nullptr);
+  };
   if (options_.grades) {
     taken.emplace(size_);
     for (const Visible& shown : track)
@@ -237,8 +273,11 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
         taken->mark(painter.toScreen(line, poseOf(*shown.piece)),
                     shown.shape.geometry.halfWidth * view_.zoom() - 1);
     const Occupancy onlyTrack = *taken;
+    paintRingTexts();
     paintGrades(layout, track, *taken);
     taken->without(onlyTrack);
+  } else {
+    paintRingTexts();
   }
   if (options_.labels)
     paintArticles(layout, index, taken ? &*taken : nullptr);
@@ -249,7 +288,7 @@ void LayoutPainter::paintGrades(const Layout& layout, std::span<const Visible> p
   GradePainter painter(surface_, size_, view_, layout);
   std::vector<GradePainter::Track> track;
   for (const Visible& shown : pieces)
-    track.push_back({shown.piece, shown.definition});
+    track.push_back({shown.piece, shown.definition, shown.look.beneath});
   painter.paintColors(track);
   painter.paintTexts(track, options_.crossings, taken);
 }
@@ -291,6 +330,16 @@ void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible>
   }
 }
 
+void LayoutPainter::paintLowerEnds(const Layout& layout, const HelixRing& ring) {
+  std::vector<Visible> ends;
+  for (const std::int32_t id : ring.bottoms)
+    if (const PlacedPiece* piece = layout.findPiece(id))
+      if (const PieceDef* definition = definitionOf(*piece))
+        ends.push_back(
+            {piece, definition, PiecePainter(surface_, view_).shapeOf(*definition), {}, 0});
+  paintJoinDots(layout, ends);
+}
+
 void LayoutPainter::paintArticles(const Layout& layout, const PlanIndex& index,
                                   const Occupancy* taken) {
   ArticlePlaces own;
@@ -318,7 +367,7 @@ Box LayoutPainter::shownBox(double marginPx) const {
 void LayoutPainter::paintSelection(const Layout& layout, const PlanIndex& index) {
   std::vector<Visible> track;
   std::vector<PiecePainter::Piece> pieces;
-  for (const Visible& shown : visibleTrack(layout, index)) {
+  for (const Visible& shown : visibleTrack(layout, index, HelixRings(layout))) {
     if (!shown.piece->sel)
       continue;
     track.push_back(shown);
@@ -328,6 +377,8 @@ void LayoutPainter::paintSelection(const Layout& layout, const PlanIndex& index)
   if (options_.labels)
     paintJoinDots(layout, track);
   const PictureSite site{surface_, part_, view_, layout};
+  for (const Tunnel& tunnel : layout.content().tunnels)
+    paintSelected(site, tunnel);
   forEachSelectable(layout.content(), [&](const auto& records) {
     using Record = typename std::remove_cvref_t<decltype(records)>::value_type;
     if constexpr (Record::kKind != RecordKind::Piece)

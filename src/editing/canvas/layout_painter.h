@@ -14,7 +14,9 @@
 namespace trassix {
 
 class ArticlePlaces;
+class HelixRings;
 class Occupancy;
+struct HelixRing;
 struct TrackCrossing;
 
 struct PaintOptions {
@@ -51,11 +53,15 @@ class LayoutPainter {
   void paintBoard(const Layout& layout);
   /// Level by level, for what is higher hides what is below.
   void paintTrackAndScenery(const Layout& layout, const PlanIndex& index);
-  std::vector<Visible> visibleTrack(const Layout& layout, const PlanIndex& index);
+  std::vector<Visible> visibleTrack(const Layout& layout, const PlanIndex& index,
+                                    const HelixRings& rings);
+  bool isLeftOut(std::int32_t piece) const;
   void paintUnknown(const PlacedPiece& piece);
   std::vector<const SceneryItem*> visibleScenery(const Layout& layout) const;
-  void paintSceneryItem(const Layout& layout, const SceneryItem& item);
+  void paintSceneryItem(const Layout& layout, const SceneryItem& item, bool beneath);
   void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);
+  /// Of a helix, over which more of its track lies.
+  void paintLowerEnds(const Layout& layout, const HelixRing& ring);
   void paintGrades(const Layout& layout, std::span<const Visible> pieces, Occupancy& taken);
   void paintArticles(const Layout& layout, const PlanIndex& index, const Occupancy* taken);
   /// Of what is drawn, in mm, with so many px around it.

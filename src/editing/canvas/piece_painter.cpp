@@ -14,7 +14,8 @@ namespace {
 constexpr double kBedFromPx = 5.0;   ///< a narrower track bed is drawn as a line
 constexpr double kRailsFromPx = 3.2; ///< distance between the rails from which both are drawn
 constexpr double kSleepersFromPx = 9.0;
-constexpr double kChordPx = 0.15; ///< by which a chord may miss its curve
+constexpr double kBeneathWidth = 0.7; ///< of what lies beneath, to what lies on top
+constexpr double kChordPx = 0.15;     ///< by which a chord may miss its curve
 
 } // namespace
 
@@ -101,13 +102,13 @@ void PiecePainter::paintBeds(std::span<const Piece> pieces) {
       return std::nullopt;
     const PieceLook& look = piece.look;
     return Stroke{look.faded ? plan_colors::faded(plan_colors::kBedEdge) : plan_colors::kBedEdge,
-                  1.0, look.covered ? Stroke::Style::Dashed : Stroke::Style::Solid};
+                  1.0, look.beneath ? Stroke::Style::Dashed : Stroke::Style::Solid};
   };
   const auto fillOf = [this](const Piece& piece) -> std::optional<Rgba> {
     if (fromAfar(piece.shape.geometry))
       return std::nullopt;
     Rgba fill = piece.look.faded ? plan_colors::faded(piece.look.bed) : piece.look.bed;
-    if (piece.look.covered)
+    if (piece.look.beneath)
       fill.a = 90;
     return fill;
   };
@@ -135,14 +136,14 @@ void PiecePainter::paintRails(std::span<const Piece> pieces) {
     return piece.look.rails && piece.shape.geometry.gauge * zoom >= kRailsFromPx;
   };
   const auto styleOf = [](const Piece& piece) {
-    return piece.look.covered ? Stroke::Style::Dashed : Stroke::Style::Solid;
+    return piece.look.beneath ? Stroke::Style::Dashed : Stroke::Style::Solid;
   };
   const auto shade = [](const Piece& piece, Rgba color) {
     return piece.look.faded ? plan_colors::faded(color) : color;
   };
   const auto sleeperOf = [&](const Piece& piece) -> std::optional<Stroke> {
     const double gaugePx = piece.shape.geometry.gauge * zoom;
-    if (!railsShow(piece) || !piece.look.sleepers || piece.look.covered ||
+    if (!railsShow(piece) || !piece.look.sleepers || piece.look.beneath ||
         gaugePx < kSleepersFromPx)
       return std::nullopt;
     return Stroke{shade(piece, plan_colors::kSleeper), std::max(1.0, gaugePx * 0.17)};
@@ -150,8 +151,10 @@ void PiecePainter::paintRails(std::span<const Piece> pieces) {
   const auto lineOf = [&](const Piece& piece) -> std::optional<Stroke> {
     const TrackGeometry& geometry = piece.shape.geometry;
     if (fromAfar(geometry))
-      return Stroke{shade(piece, plan_colors::kFarTrack), std::max(geometry.halfWidth * zoom, 1.5),
-                    styleOf(piece)};
+      return Stroke{
+          shade(piece, piece.look.beneath ? plan_colors::kFarBeneath : plan_colors::kFarTrack),
+          std::max(geometry.halfWidth * zoom * (piece.look.beneath ? kBeneathWidth : 1), 1.5),
+          styleOf(piece)};
     const double width = railsShow(piece) ? std::max(geometry.gauge * zoom * 0.06, 1.0) : 1.0;
     return Stroke{shade(piece, plan_colors::kRail), width, styleOf(piece)};
   };

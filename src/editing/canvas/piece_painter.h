@@ -17,7 +17,7 @@ struct PieceLook {
   Rgba bed;
   bool rails = true;
   bool sleepers = true;
-  bool covered = false;       ///< runs under a tunnel: dashed
+  bool beneath = false;       ///< lies under a hill or a higher deck: dashed and lighter
   bool faded = false;         ///< on another level than the active one
   std::optional<Rgba> accent; ///< edge and centre line of a selected, hovered or carried piece
 };

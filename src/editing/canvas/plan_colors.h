@@ -24,6 +24,7 @@ inline constexpr Rgba kBedEdge{132, 126, 114, 180}; ///< as dark as half a line 
 inline constexpr Rgba kSleeper{122, 102, 82};
 inline constexpr Rgba kRail{52, 58, 66};
 inline constexpr Rgba kFarTrack{74, 80, 90};
+inline constexpr Rgba kFarBeneath{150, 150, 152};
 
 inline constexpr Rgba kSelected{32, 108, 214};
 inline constexpr Rgba kHover{32, 108, 214, 120};

@@ -5,7 +5,9 @@
 #include "document/plan_content.h"
 #include "editing/canvas/halo.h"
 #include "editing/canvas/plan_colors.h"
+#include "editing/helix/helix_plan.h"
 #include "editing/scenery/scenery_footprint.h"
+#include "editing/selection/picking.h"
 #include "editing/selection/record_body.h"
 #include "editing/tunnels/tunnel_outline.h"
 #include "measures/measure_format.h"
@@ -95,7 +97,7 @@ void paintRecord(const PictureSite& site, const Helix& helix) {
     return;
   site.surface.circle(centre, radius, Rgba{112, 104, 96, 30},
                       Stroke{colors::kTunnel, 1.5, Stroke::Style::Dashed});
-  if (const HelixKit* kit = findHelixKit(helix.variant))
+  if (const HelixKit* kit = findHelixKit(helix.variant); kit && !planOfHelix(site.layout, helix))
     site.surface.text(kit->name, centre, 0, nameStyle(site.view));
 }
 
@@ -104,18 +106,26 @@ void paintCarried(const PictureSite& site, const Helix& helix, const CarriedLook
                       look.edge);
 }
 
-/// A soft hill, marked when any of its track is selected.
+/// A soft hill.
 void paintRecord(const PictureSite& site, const Tunnel& tunnel) {
   const std::vector<Point> px = site.view.toScreen(hillOver(site.layout, tunnel));
   if (px.empty() || site.isBeside(px, kStrokeReachPx))
     return;
-  const bool chosen = std::ranges::any_of(tunnel.covers, [&site](std::int32_t id) {
-    const PlacedPiece* piece = site.layout.findPiece(id);
-    return piece != nullptr && piece->sel;
-  });
-  site.surface.polygon(px, Rgba{112, 104, 96, 40},
-                       Stroke{chosen ? colors::kSelected : colors::kTunnel, 1.5});
+  site.surface.polygon(px, Rgba{112, 104, 96, 40}, Stroke{colors::kTunnel, 1.5});
 }
+
+/// All of it when any of its track or a portal is selected.
+void paintSelected(const PictureSite& site, const Tunnel& tunnel) {
+  const bool chosen = std::ranges::any_of(tunnel.covers, [&site](std::int32_t id) {
+    return isSelected(site.layout, {RecordKind::Piece, id});
+  });
+  if (!chosen && !isSelected(site.layout, {RecordKind::Scenery, tunnel.portalA}) &&
+      !isSelected(site.layout, {RecordKind::Scenery, tunnel.portalB}))
+    return;
+  if (const std::vector<Point> px = site.view.toScreen(hillOver(site.layout, tunnel)); !px.empty())
+    site.surface.polygon(px, {}, kSelectedEdge);
+}
+
 void paintCarried(const PictureSite&, const Tunnel&, const CarriedLook&) {}
 
 // Scenery and track

@@ -30,6 +30,7 @@ struct CarriedLook {
 
 // One of each for every kind of record. What is carried lies where the record says.
 void paintRecord(const PictureSite& site, const Shape& shape);
+/// Without the texts of a helix that is drawn as a ring.
 void paintRecord(const PictureSite& site, const Helix& helix);
 void paintRecord(const PictureSite& site, const Tunnel& tunnel);
 void paintRecord(const PictureSite& site, const Measurement& tape);
@@ -37,6 +38,7 @@ void paintRecord(const PictureSite& site, const Label& label);
 
 // What makes it look selected, over its picture.
 void paintSelected(const PictureSite& site, const Shape& shape);
+void paintSelected(const PictureSite& site, const Tunnel& tunnel);
 void paintSelected(const PictureSite& site, const SceneryItem& item);
 void paintSelected(const PictureSite& site, const Measurement& tape);
 void paintSelected(const PictureSite& site, const Label& label);

@@ -47,7 +47,7 @@ std::vector<PlacedEnd> endsOf(const Layout& layout) {
   ends.reserve(layout.pieces().size() * 5 / 2);
   std::int32_t position = 0;
   for (const PlacedPiece& piece : layout.pieces())
-    appendEnds(ends, piece, position++, layout.levelVisible(piece.level));
+    appendEnds(ends, piece, position++, layout.pieceVisible(piece));
   return ends;
 }
 

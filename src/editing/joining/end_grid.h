@@ -22,7 +22,7 @@ struct PlacedEnd {
   std::int32_t position = -1; ///< of the piece in document order
   std::int32_t connector = -1;
   std::int32_t joinedTo = -1; ///< id of the joined piece, -1 when free
-  bool visible = true;        ///< the piece's level is visible
+  bool visible = true;        ///< the piece shows
   bool graded = false;        ///< the piece has a grade
 };
 

@@ -54,7 +54,7 @@ std::optional<IncompatibleContact> FindIncompatibleContact(const PieceDef& carri
 
 /// The same searches over a whole plan through a grid of connectors: the same results, ties
 /// included, at a cost that does not depend on the plan's size. Valid for the document stamp it was
-/// built at; pieces on hidden levels attract no snap.
+/// built at; pieces that do not show attract no snap.
 class SnapIndex {
  public:
   SnapIndex();

@@ -8,10 +8,12 @@
 
 namespace trassix {
 
-/// On no hidden level.
+/// On no hidden level; of track also in no tunnel that hides it.
 template <class Record>
 bool isVisible(const Layout& layout, const Record& record) {
-  if constexpr (OnLevel<Record>)
+  if constexpr (Record::kKind == RecordKind::Piece)
+    return layout.pieceVisible(record);
+  else if constexpr (OnLevel<Record>)
     return layout.levelVisible(record.level);
   else
     return true;

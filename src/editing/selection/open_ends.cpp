@@ -61,7 +61,7 @@ std::optional<TrackEnd> openEndAfter(const Layout& layout, const std::optional<T
   for (const PlacedPiece& piece : layout.pieces()) {
     const PieceDef* definition = definitionOf(piece);
     if (definition == nullptr || definition->kind == PieceKind::Turntable ||
-        !layout.levelVisible(piece.level))
+        !layout.pieceVisible(piece))
       continue;
     for (std::int32_t i = 0; i < static_cast<std::int32_t>(definition->connectors.size()); ++i)
       if (piece.joint(static_cast<std::size_t>(i)).open())

@@ -85,7 +85,7 @@ PlanIndex::PlanIndex(const Layout& layout) : data_(std::make_unique<Data>()) {
     data_->entries[i] = {definition, &outlineOf(definition), poseOf(piece),
                          storeyOf(piece, definition), 0};
     heights[i] = {layout.levelHeight(piece.level), data_->entries[i].storey};
-    if (!layout.levelVisible(piece.level) || !std::isfinite(piece.x) || !std::isfinite(piece.y) ||
+    if (!layout.pieceVisible(piece) || !std::isfinite(piece.x) || !std::isfinite(piece.y) ||
         !std::isfinite(piece.heading))
       continue;
     boxes.emplace_back(boundsOf(*data_->entries[i].outline, poseOf(piece)),

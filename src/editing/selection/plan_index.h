@@ -14,7 +14,7 @@ namespace trassix {
 /// Derived from a plan as it was at one `Layout::documentStamp`. Results are positions in
 /// `Layout::pieces()`, in drawing order (lower levels first, on each the track that others lead
 /// over, else document order) unless said otherwise.
-/// Pieces on hidden levels are left out.
+/// Pieces that do not show are left out.
 class PlanIndex {
  public:
   PlanIndex();

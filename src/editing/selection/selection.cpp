@@ -94,7 +94,7 @@ std::vector<std::int32_t> doomedPieces(const Layout& layout) {
       continue;
     const std::int32_t other = first ? pair.second : pair.first;
     const PlacedPiece* piece = layout.findPiece(other);
-    if (piece != nullptr && layout.levelVisible(piece->level) &&
+    if (piece != nullptr && layout.pieceVisible(*piece) &&
         !lockGuard(layout, std::span(&other, 1), "delete"))
       ids.push_back(other);
   }

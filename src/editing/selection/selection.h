@@ -15,9 +15,9 @@ namespace trassix {
 bool hasSelection(const Layout& layout);                        ///< any record at all
 std::vector<std::int32_t> selectedPieces(const Layout& layout); ///< ids, sorted
 void selectOnly(Layout& layout, std::int32_t piece);
-void selectAll(Layout& layout); ///< every record on a visible level
+void selectAll(Layout& layout); ///< every record that shows
 
-/// Nothing stays selected on a hidden level, where it could be changed unseen.
+/// Nothing stays selected that does not show, since it could be changed unseen.
 void deselectHidden(Layout& layout);
 
 /// All pieces joined to `piece` directly or through others, `piece` included; sorted ids. Joints

@@ -162,6 +162,7 @@ EditResult placeTunnel(Layout& layout, TunnelOpening opening) {
   PlanContent& content = layout.edit();
   content.scenery.insert(content.scenery.end(), portals.begin(), portals.end());
   content.tunnels.push_back(tunnel);
+  deselectHidden(layout);
   step.keep();
   return {{tunnel.id, tunnel.portalA, tunnel.portalB}, {}};
 }

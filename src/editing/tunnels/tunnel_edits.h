@@ -28,7 +28,8 @@ bool liesInTunnel(const Layout& layout);
 
 /// Makes a tunnel over the selected chains, as one undo step: a portal square on the track at
 /// either outer end, at the farther one of two tracks, and the record. The result names the tunnel,
-/// then its portals. What is selected stays so.
+/// then its portals. What is selected stays
+/// so as far as it shows.
 EditResult placeTunnel(Layout& layout, TunnelOpening opening = TunnelOpening::WithWire);
 
 /// Takes the tunnels with their portals away and leaves their track, as one undo step.

@@ -5,7 +5,7 @@
 #include "ui/commands/command_rules.h"
 #include "ui/commands/desk.h"
 #include "ui/docks/profile_panel.h"
-#include "ui/widgets/remembered_grades.h"
+#include "ui/widgets/remembered_look.h"
 
 #include <wx/intl.h>
 
@@ -31,9 +31,10 @@ void flip(Desk& desk) {
   desk.workspace.setSwitches(switches);
 }
 
-void showGrades(Desk& desk) {
-  flip<&EditorSwitches::grades>(desk);
-  rememberGrades(desk.workspace.switches().grades);
+template <bool EditorSwitches::*which>
+void flipForGood(Desk& desk) {
+  flip<which>(desk);
+  rememberLook(desk.workspace.switches());
 }
 
 // clang-format off
@@ -81,11 +82,15 @@ const Command kCommands[] = {
     {.id = kShowGrades, .menuText = wxTRANSLATE("Show Gra&des\tF8"),
      .menuHelp = wxTRANSLATE("Grades in colours, heights, and clearances where track crosses track"),
      .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
-     .checked = isOn<&EditorSwitches::grades>, .run = showGrades},
+     .checked = isOn<&EditorSwitches::grades>, .run = flipForGood<&EditorSwitches::grades>},
     {.id = kHeightProfile, .menuText = wxTRANSLATE("&Height Profile\tCtrl+Shift+H"),
      .menuHelp = wxTRANSLATE("The heights along the way through the selected track, to be changed by hand"),
      .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
      .panel = &kProfilePanel},
+    {.id = kShowHidden, .menuText = wxTRANSLATE("Show Hidden &Track\tShift+F8"),
+     .menuHelp = wxTRANSLATE("Track in tunnels; while it is hidden it cannot be picked either"),
+     .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
+     .checked = isOn<&EditorSwitches::hidden>, .run = flipForGood<&EditorSwitches::hidden>},
     {.id = kView3D, .toolLabel = wxTRANSLATE("3D View")},
 };
 // clang-format on

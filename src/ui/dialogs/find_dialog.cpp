@@ -64,6 +64,7 @@ void FindDialog::showOnPlan() {
   const Pick chosen = found_.at(static_cast<std::size_t>(rows_->GetSelection())).record;
   const auto box = selectThese(workspace_.layout(), std::span(&chosen, 1));
   workspace_.selectionChanged();
+  workspace_.showSelected();
   if (box)
     workspace_.show(*box, true);
 }

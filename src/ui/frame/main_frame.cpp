@@ -20,7 +20,7 @@
 #include "ui/frame/window_title.h"
 #include "ui/palette/palette_panel.h"
 #include "ui/properties/properties_panel.h"
-#include "ui/widgets/remembered_grades.h"
+#include "ui/widgets/remembered_look.h"
 #include "ui/widgets/sash_rule.h"
 #include "ui/widgets/utf8.h"
 
@@ -123,9 +123,7 @@ void MainFrame::buildPanels() {
 void MainFrame::readPreferences() {
   readPrefsOrMigrate(appPrefs(), StandardFolders::prefsFile(), StandardFolders::legacyPrefsFile());
   workspace_.setUnits(appPrefs().units);
-  EditorSwitches switches = workspace_.switches();
-  switches.grades = rememberedGrades();
-  workspace_.setSwitches(switches);
+  workspace_.setSwitches(rememberedLook(workspace_.switches()));
   if (!appPrefs().asked)
     askExperienceOnceRunning();
 }

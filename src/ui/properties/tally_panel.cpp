@@ -242,6 +242,7 @@ void TallyPanel::showOnPlan(long row) {
   const auto box = selectThese(workspace_.layout(), pieces);
   selecting_ = true;
   workspace_.selectionChanged();
+  workspace_.showSelected();
   selecting_ = false;
   if (box)
     workspace_.show(*box);

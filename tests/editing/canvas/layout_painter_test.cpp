@@ -5,6 +5,7 @@
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/recording_surface.h"
 #include "editing/elevation/crossings.h"
+#include "editing/helix/helix_edits.h"
 #include "support/loose_records.h"
 #include "support/plan.h"
 
@@ -92,6 +93,46 @@ TEST(LayoutPainter, SwitchesLevelsAndTheWindowDecideWhatIsDrawn) {
                           }),
             2)
       << "both rails of the covered curve";
+}
+
+TEST(LayoutPainter, WhatLiesBeneathADeckLooksDifferentAtEveryScale) {
+  Plan plan = Plan().place("24188", {0, 0, 0}).place("24188", {0, 100, 0});
+  plan.layout.clearSelection();
+  plan.layout.editSettings().levels = {
+      {1, "", true, 0, false, {}, {}},
+      {2, "", true, 100, false, {}, {{-50, -50}, {300, -50}, {300, 150}, {-50, 150}}}};
+  plan.layout.editPiece(2)->z = 100;
+  plan.layout.editPiece(2)->level = 2;
+  for (const std::int32_t active : {1, 2})
+    for (const double zoom : {0.1, 0.4, 1.0, 4.0}) {
+      plan.layout.editSettings().activeLevel = active;
+      std::vector<Stroke> looks[2]; // of the track below and above
+      for (const auto& line : drawn(plan.layout, zoom, {400, 300}).lines)
+        if (line.points.front().x >= 400 - 1e-6 && line.points.front().y < 300 + 150 * zoom)
+          looks[line.points.front().y > 300 + 50 * zoom].push_back(line.stroke);
+      ASSERT_FALSE(looks[0].empty() || looks[1].empty());
+      for (const Stroke& stroke : looks[0])
+        EXPECT_THAT(looks[1], Not(Contains(stroke))) << active << " at " << zoom;
+    }
+}
+
+TEST(LayoutPainter, AHelixIsARingWithItsTurnsHeightsAndWayUp) {
+  Layout layout;
+  const HelixKit& kit = *findHelixKit("helix_3_5_r1");
+  placeHelix(layout, {&kit, HelixHand::Left, 80, {0, 0, 0}, 25}, 1);
+  PaintOptions grades;
+  grades.grades = true;
+  for (const PaintOptions& options : {PaintOptions{}, grades}) {
+    const RecordingSurface ring = drawn(layout, 0.8, {600, 400}, options);
+    EXPECT_EQ(ring.linesIn(plan_colors::kRail), 2u * 12);
+    for (const char* text : {"Helix R1, 3.5 turns", "bottom 25 mm", "top 305 mm", "up"})
+      EXPECT_THAT(ring.texts, Contains(text));
+    EXPECT_THAT(ring.texts, Not(Contains("24130")));
+  }
+  EXPECT_THAT(drawn(layout, 0.12).texts, Contains("3.5 turns"));
+  EXPECT_TRUE(drawn(layout, 0.02).texts.size() <= 1); // the scale bar's
+  layout.edit().helices[0].variant = "other";
+  EXPECT_EQ(drawn(layout, 0.8, {600, 400}).linesIn(plan_colors::kRail), 2u * 42);
 }
 
 TEST(LayoutPainter, CurvesAreAsRoundAsThePictureCanShow) {

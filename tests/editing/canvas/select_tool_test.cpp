@@ -7,12 +7,15 @@
 #include "editing/helix/helix_edits.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/annotations.h"
+#include "editing/selection/finding.h"
 #include "editing/selection/property_edits.h"
 #include "host/plan_preview.h"
 #include "support/plan.h"
 #include "support/print_records.h"
 
 #include <gmock/gmock.h>
+
+#include <functional>
 
 namespace trassix::test {
 namespace {
@@ -182,8 +185,16 @@ TEST(SelectTool, AHelixIsOneThing) {
   placeHelix(script.host.plan, {&kit, HelixHand::Right, 80, {600, 400, 0}, 0}, 1);
   script.host.plan.clearSelection();
   const Point on{600, 40};
+  const auto selected = [&] { return selectedPieces(script.host.plan).size(); };
+  script.drag({700, -60}, {500, 100}); // in the box is a part of it
+  EXPECT_EQ(selected(), 24u);
+  for (const std::size_t count : {0u, 24u}) {
+    script.click(on, kCtrl);
+    EXPECT_EQ(selected(), count);
+  }
+  script.host.plan.clearSelection();
   script.click(on);
-  EXPECT_EQ(selectedPieces(script.host.plan).size(), 24u);
+  EXPECT_EQ(selected(), 24u);
   script.drag(on, {650, 60});
   EXPECT_NEAR(script.host.plan.content().helices[0].cx, 650, 1e-6);
   EXPECT_TRUE(script.host.notices.empty());
@@ -208,6 +219,44 @@ TEST(SelectTool, TunnelsComeAndGoByTheMenu) {
   }
   script.takeFromMenu(kOnFirst, "Remove Tunnel");
   EXPECT_TRUE(script.host.plan.content().tunnels.empty());
+}
+
+TEST(SelectTool, WhatIsHiddenInATunnelIsOutOfReach) {
+  CanvasScript script(row());
+  Layout& plan = script.host.plan;
+  plan.edit().tunnels = {{9, -1, -1, 2, 3, {2, 3}}};
+  plan.select(RecordKind::Piece, 3, true);
+  const std::uint64_t shown = script.canvas.planStamp();
+  EditorSwitches switches = script.host.workspace.switches();
+  switches.hidden = false;
+  script.host.workspace.setSwitches(switches);
+  EXPECT_NE(script.canvas.planStamp(), shown);
+  EXPECT_THAT(script.selected(), IsEmpty());
+  script.click(kOnSecond);
+  EXPECT_THAT(script.selected(), IsEmpty());
+  for (const auto& reach : std::vector<std::function<void()>>{
+           [&] {
+             script.drag({-50, -90}, {900, 90});
+           },
+           [&] { selectAll(plan); }, [&] { script.doubleClick(kOnFirst, kAlt); },
+           [&] { script.key(Key::Tab); }, [&] { script.key(Key::Tab); }}) {
+    reach();
+    EXPECT_THAT(script.selected(), ElementsAre(1));
+  }
+  const WorldConnector far = worldEnd(plan.pieces()[2], 1);
+  EXPECT_FALSE(script.canvas.site()
+                   .snapIndex()
+                   .findSnap(*definitionOf(plan.pieces()[0]), {far.x + 3, far.y, 0})
+                   .snapped);
+  RecordingSurface picture;
+  script.canvas.paintPlan(picture, {0, 0, 1600, 1000});
+  EXPECT_THAT(picture.texts, testing::Contains("24188"));
+  EXPECT_EQ(picture.linesIn(plan_colors::kRail), 2u);
+
+  selectThese(plan, piecesOfArticle(plan, "24188")); // as the tally does
+  script.host.workspace.showSelected();
+  EXPECT_TRUE(script.host.workspace.switches().hidden);
+  EXPECT_THAT(script.selected(), ElementsAre(1, 2, 3));
 }
 
 TEST(SelectTool, DoubleClicksExtendOrSelectTheChain) {

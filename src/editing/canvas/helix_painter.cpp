@@ -1,0 +1,131 @@
+#include "editing/canvas/helix_painter.h"
+
+#include "editing/canvas/halo.h"
+#include "editing/canvas/occupancy.h"
+#include "editing/canvas/plan_colors.h"
+#include "editing/track/track_geometry.h"
+#include "measures/measure_format.h"
+#include "measures/measure_input.h"
+#include "texts/texts.h"
+
+#include <array>
+#include <cmath>
+
+namespace trassix {
+
+namespace {
+
+constexpr TextStyle kName{plan_colors::kLabel, 12, true};
+constexpr TextStyle kHeight{plan_colors::kLabel, 11, true};
+constexpr TextStyle kUp{plan_colors::kMeasure, 11, true};
+constexpr double kGapPx = 6;
+constexpr double kArrowFrom = 25; ///< degrees from the lower ends, the way it climbs
+constexpr double kArrowTo = 70;
+constexpr double kHeadPx = 6;
+
+class HelixTexts {
+ public:
+  HelixTexts(const PictureSite& site, const HelixRing& ring, Occupancy* taken)
+      : site_(site), plan_(ring.plan), taken_(taken),
+        centre_(site.view.toScreen({plan_.centre.x, plan_.centre.y})) {
+    const double zoom = site.view.zoom();
+    const PieceDef& curve = *plan_.kit->inner;
+    inner_ = (curve.radius - trackGeometryOf(curve).halfWidth) * zoom;
+  }
+
+  void paint() {
+    const double name = paintName();
+    paintArrow(name);
+    const double turned = plan_.kit->turns * 360;
+    const bool sameSide = std::abs(std::remainder(turned, 360)) < 1;
+    paintHeight(tr("top %1%", {heightText(plan_.height + plan_.climb())}), turned, 0);
+    paintHeight(tr("bottom %1%", {heightText(plan_.height)}), 0, sameSide ? 1 : 0);
+  }
+
+ private:
+  /// Returns half its width.
+  double paintName() {
+    const std::string turns =
+        plan_.kit->turns == 1 ? tr("1 turn") : tr("%1% turns", {formatAngle(plan_.kit->turns)});
+    for (const std::string& text : {plan_.kit->name, turns}) {
+      const SizePx size = site_.surface.textSize(text, kName);
+      if (std::hypot(size.width, size.height) / 2 > inner_ - 1)
+        continue;
+      put(text, centre_, size, kName);
+      return size.width / 2;
+    }
+    return 0;
+  }
+
+  /// Between the name and the track.
+  void paintArrow(double name) {
+    const SizePx size = site_.surface.textSize(tr("up"), kUp);
+    const double radius = inner_ - kGapPx - kHeadPx;
+    const Point text = at((kArrowFrom + kArrowTo) / 2, radius - kGapPx - size.width / 2);
+    const double room = std::abs(text.x - centre_.x) - size.width / 2 - name;
+    if (radius < 3 * kHeadPx || (room < kGapPx && std::abs(text.y - centre_.y) < size.height))
+      return;
+    std::array<Point, 13> arc;
+    for (std::size_t i = 0; i < arc.size(); ++i)
+      arc[i] = at(kArrowFrom + (kArrowTo - kArrowFrom) * static_cast<double>(i) /
+                                   static_cast<double>(arc.size() - 1),
+                  radius);
+    site_.surface.polyline(arc, {kUp.color, 2});
+    const double along = toRadians(headingAt(kArrowTo));
+    const Point way{std::cos(along), std::sin(along)};
+    const Point tip = arc.back();
+    const auto corner = [&](double ahead, double aside) {
+      return Point{tip.x + way.x * ahead - way.y * aside, tip.y + way.y * ahead + way.x * aside};
+    };
+    const std::array<Point, 3> head{corner(kHeadPx * 1.5, 0), corner(0, kHeadPx * 0.8),
+                                    corner(0, -kHeadPx * 0.8)};
+    site_.surface.polygon(head, kUp.color, {});
+    put(tr("up"), text, size, kUp);
+  }
+
+  /// Beside an end, inside the ring, after so many others.
+  void paintHeight(const std::string& text, double turned, int line) {
+    const SizePx size = site_.surface.textSize(text, kHeight);
+    if (inner_ < size.width + kGapPx) // it would lie on the name
+      return;
+    const double angle = toRadians(headingAt(turned));
+    const double across = std::abs(std::cos(angle)) * size.height;
+    const double along = std::abs(std::sin(angle)) * size.width;
+    put(text, at(turned, inner_ - kGapPx - (across + along) * (0.5 + line)), size, kHeight);
+  }
+
+  void put(const std::string& text, Point where, SizePx size, const TextStyle& style) {
+    paintTextWithHalo(site_.surface, text, where, 0, style);
+    if (taken_ != nullptr)
+      taken_->take(where, size, 0);
+  }
+
+  std::string heightText(double mm) const {
+    return formatBriefLength(mm, site_.layout.settings().units);
+  }
+
+  /// Of trains that go up, so many degrees from the lower ends.
+  double headingAt(double turned) const {
+    return plan_.centre.heading + (plan_.hand == HelixHand::Right ? turned : -turned);
+  }
+
+  /// There, so many px from the centre.
+  Point at(double turned, double radius) const {
+    const double out = toRadians(headingAt(turned) + (plan_.hand == HelixHand::Right ? -90 : 90));
+    return {centre_.x + std::cos(out) * radius, centre_.y + std::sin(out) * radius};
+  }
+
+  const PictureSite& site_;
+  const HelixPlan& plan_;
+  Occupancy* taken_;
+  Point centre_;
+  double inner_; ///< px, of the free space in the middle
+};
+
+} // namespace
+
+void paintHelixTexts(const PictureSite& site, const HelixRing& ring, Occupancy* taken) {
+  HelixTexts(site, ring, taken).paint();
+}
+
+} // namespace trassix
