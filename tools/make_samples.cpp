@@ -2,13 +2,16 @@
 // that also serve the mouse, so that every joint is what the program itself would have made.
 #include "document/layout_writer.h"
 #include "editing/elevation/grade_edits.h"
+#include "editing/helix/helix_edits.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/annotations.h"
+#include "editing/tunnels/tunnel_edits.h"
 #include "support/plan.h"
 
 #include <cstdio>
 #include <exception>
 #include <filesystem>
+#include <numeric>
 #include <vector>
 
 namespace trassix {
@@ -561,16 +564,133 @@ Sample cMountainLine() {
   return s;
 }
 
+/// The pieces between two of them, both included, in the order in which they were placed.
+std::vector<std::int32_t> from(std::int32_t first, std::int32_t last) {
+  std::vector<std::int32_t> ids(static_cast<std::size_t>(last - first + 1));
+  std::iota(ids.begin(), ids.end(), first);
+  return ids;
+}
+
+void cover(Layout& layout, const std::vector<std::int32_t>& pieces) {
+  layout.clearSelection();
+  for (const std::int32_t id : pieces)
+    layout.select(RecordKind::Piece, id, true);
+  placeTunnel(layout);
+}
+
+/// A double-track line through a town that goes down in a helix to a station under it, and turns
+/// back at both ends.
+Sample cHiddenYard() {
+  Sample s;
+  constexpr double kTown = 220;
+  s.table(-3460, -1060, 4080, 2140);
+  s.area({{-560, -1030}, {380, -1000}, {590, -700}, {590, 820}, {330, 1040}, {-560, 1050}}, kHill);
+  s.area({{-2950, 330}, {-2700, 270}, {-2500, 400}, {-2520, 610}, {-2760, 700}, {-2980, 560}},
+         kWater, "Forest lake");
+  s.area({{-2150, -950}, {-760, -960}, {-720, -100}, {-1100, 130}, {-2050, 60}, {-2200, -400}},
+         kMeadow);
+  s.layout.ensureLevel();
+  s.layout.editSettings().levels.front().name = "Hidden yard";
+  Level town;
+  town.id = 2;
+  town.name = "Hochwald";
+  town.height = kTown;
+  town.trackcolor = true;
+  town.color = {196, 178, 142};
+  town.outline = {{-3460, -1060}, {-575, -1060}, {-575, 1080}, {-3460, 1080}};
+  s.layout.editSettings().levels.push_back(town);
+
+  const HelixPlan down{findHelixKit("helix_2_5_r2r3"), HelixHand::Right, kTown / 2.5, {}, 0};
+  placeHelix(s.layout, down, 1);
+  const Helix helix = s.layout.content().helices.front();
+
+  // The station below: two tracks with a siding beside each.
+  s.at(helix.bottomR1, 0).extend("24188", 2).extend("24611");
+  const std::int32_t innerYard = s.last();
+  s.extend("24172").extend("24188", 5).extend("24172").extendBy("24612", 1, 0);
+  const std::int32_t innerEnd = s.last();
+  s.at(innerYard, 2).extend("24224").extend("24188", 5).extend("24224");
+  s.at(helix.bottomR2, 0).extend("24188", 2).extend("24612");
+  const std::int32_t outerYard = s.last();
+  s.extend("24172").extend("24188", 5).extend("24172").extendBy("24611", 1, 0);
+  s.at(outerYard, 2).extendLeft("24224").extend("24188", 5).extendLeft("24224");
+  s.at(innerEnd, 0);
+  s.extendLeft("24230", 2).extend("24330", 10).extendLeft("24230", 2);
+
+  // The line through the town.
+  const std::int32_t above = s.layout.nextPieceId();
+  s.at(helix.topR1, 1).extend("24188", 2);
+  const std::int32_t mouth = s.last();
+  s.extend("24612");
+  const std::int32_t platform = s.last();
+  s.extend("24172").extend("24188", 5).extend("24172").extendBy("24611", 1, 0);
+  const std::int32_t west = s.last();
+  s.at(platform, 2).extendLeft("24224").extend("24188", 5).extendLeft("24224");
+  s.at(helix.topR2, 1).extend("24188", 2);
+  const std::int32_t outerMouth = s.last();
+  s.extend("24611");
+  const std::int32_t goods = s.last();
+  s.extend("24172").extend("24188", 5).extend("24172").extendBy("24612", 1, 0);
+  s.at(goods, 2).extend("24224").extend("24188", 5).extend("24224");
+  s.at(west, 0).extend("24230", 2);
+  const std::int32_t loop = s.layout.nextPieceId();
+  s.extendLeft("24330", 10).extend("24230", 2);
+  for (PlacedPiece& piece : s.layout.edit().pieces)
+    if (piece.id >= above)
+      piece.level = town.id;
+  s.layout.editSettings().activeLevel = town.id;
+  std::vector<std::int32_t> mouths = from(mouth - 1, mouth);
+  mouths.insert(mouths.end(), {outerMouth - 1, outerMouth});
+  cover(s.layout, mouths);
+  cover(s.layout, from(loop + 2, loop + 7));
+
+  s.row("plat.island77", -840, 399, -180, 0, 5);
+  s.row("plat.island77", -840, 554, -180, 0, 5);
+  s.row("plat.side", -840, 637, -180, 0, 5);
+  s.scenery("stn.medium", -1200, 725, 180);
+  s.scenery("goods.shed", -1560, 715, 180);
+  s.scenery("box.ground", -700, 300);
+  s.scenery("sig.light.home", -620, 395);
+  s.scenery("sig.light.home", -1960, 560);
+  s.row("road.minor", -2070, 860, 250, 0, 6);
+  s.row("road.minor", -2000, 200, 250, 0, 6);
+  s.scenery("church.village", -1450, -330, 20);
+  s.scenery("inn", -1150, -200);
+  s.scenery("house.timber", -1750, -150, 350);
+  s.scenery("house.two", -1700, -450, 8);
+  s.scenery("house.detached", -1000, -480, 12);
+  s.scenery("house.timber", -1250, -650);
+  s.scenery("farm.house", -1900, -700, 10);
+  s.scenery("farm.barn", -1650, -760, 15);
+  s.scenery("house.detached", -900, 30, 350);
+  s.scenery("kiosk", -1400, 60);
+  s.scenery("castle.ruin", -2900, -330, 15);
+  s.trees({{-3330, -900}, {-3150, -700}, {-3300, -520}, {-2900, -850}, {-2700, -620}, {-3350, -200},
+           {-2620, -330}, {-2550, -800}, {-2450, -450}, {-2600, -150}, {-2350, -700}, {-3150, 100},
+           {-2350, 60},   {-2250, 250},  {-2350, 800},  {-2500, 950},  {-3000, 250},  {-2550, 720},
+           {-2850, 780},  {-1900, 960},  {-1500, 980},  {-1100, 970},  {-750, 950},   {-1000, -850},
+           {-1350, -900}, {-800, -700},  {-1550, -550}, {-480, -900},  {-150, -850},  {200, -900},
+           {480, -700},   {-450, 900},   {-100, 800},   {250, 900},    {500, 650},    {540, -420}});
+  s.label(-1200, 800, "Hochwald");
+  s.label(-2890, -590, "Hidden yard below");
+  return s;
+}
+
 struct File {
   const char* name;
   Sample (*make)();
 };
 
 constexpr File kFiles[] = {
-    {"C-Track Oval with Siding", cTrackOval}, {"K-Track Freight Yard", kTrackYard},
-    {"Z-Track Tabletop", zTrackTabletop},     {"M-Track Oval with Crossing", mTrackCrossing},
-    {"Gauge 1 Garden Loop", gauge1Loop},      {"TRIX on Two Levels", trixTwoLevels},
-    {"C-Track Two Towns", cTrackTwoTowns},    {"Mountain Line", cMountainLine},
+    {"C-Track Oval with Siding", cTrackOval},
+    {"K-Track Freight Yard", kTrackYard},
+    {"Z-Track Tabletop", zTrackTabletop},
+    {"M-Track Oval with Crossing", mTrackCrossing},
+    {"Gauge 1 Garden Loop", gauge1Loop},
+    {"TRIX on Two Levels", trixTwoLevels},
+    {"C-Track Two Towns", cTrackTwoTowns},
+    {"Mountain Line", cMountainLine},
+    {"Hidden Yard", cHiddenYard},
 };
 
 int writeAll(const std::filesystem::path& folder) {
