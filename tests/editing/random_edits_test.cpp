@@ -47,7 +47,7 @@ namespace {
 /// In each of the eight runs; more by hand.
 int editsOfARun() {
   const char* number = std::getenv("TRASSIX_RANDOM_EDITS");
-  return number == nullptr ? 2400 : std::atoi(number);
+  return number == nullptr ? 1800 : std::atoi(number);
 }
 
 /// Both ends of each joint, and how they lie to each other.
@@ -79,19 +79,20 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
     return items[static_cast<std::size_t>(any(0, static_cast<int>(std::size(items)) - 1))];
   }
 
-  /// Heights come back from a file to its four decimals.
+  /// All comes back from a file to its four decimals, and so as the same file.
   void expectSavedAlike() {
     Layout loaded;
     std::string text;
+    std::string again;
     std::string name;
     writeLayout(plan, name, text);
     ASSERT_EQ(readLayout(text, loaded, name), "");
-    ASSERT_EQ(loaded.content().gradeRuns.size(), plan.content().gradeRuns.size());
     for (std::size_t i = 0; i < plan.pieces().size(); ++i) {
       ASSERT_NEAR(loaded.pieces()[i].z, plan.pieces()[i].z, 5.1e-5);
       ASSERT_NEAR(loaded.pieces()[i].grade, plan.pieces()[i].grade, 5.1e-5);
-      ASSERT_EQ(loaded.pieces()[i].rev, plan.pieces()[i].rev);
     }
+    writeLayout(loaded, name, again);
+    ASSERT_EQ(again, text);
   }
 
   bool place(Block block, bool fromFile) {
@@ -373,6 +374,7 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
     bool (*run)(RandomEdits&); ///< true when it changed the plan, as one undo step
     bool remakesJoints = false;
     bool attaches = false; ///< one of the joints that it makes lies at one height
+    int weight = 1;        ///< more for what is seldom possible
   };
   static const Edit kEdits[];
 
@@ -403,9 +405,7 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
   /// got coarse are deleted, and a part of a crowded plan.
   const Edit& next() {
     const auto loose = std::ranges::count(plan.pieces(), -1, &PlacedPiece::helix);
-    const Edit* edit = loose < 3    ? &kEdits[0]
-                       : loose > 36 ? &kEdits[1]
-                                    : &anyOf(std::span(kEdits, kinds()));
+    const Edit* edit = loose < 3 ? &kEdits[0] : loose > 36 ? &kEdits[1] : anyOf(dice());
     for (Level& level : plan.editSettings().levels)
       level.visible = any(0, 3) != 0;
     for (PlacedPiece& each : plan.edit().pieces) {
@@ -424,7 +424,8 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
     return *edit;
   }
 
-  static std::size_t kinds();
+  /// Each kind as often as it weighs.
+  static const std::vector<const Edit*>& dice();
 
  private:
   std::mt19937 random_;
@@ -443,7 +444,7 @@ const R::Edit R::kEdits[] = {
                   ? !content.helices.empty() && deleteHelix(r.plan, content.helices[0].id)
                   : removeTunnels(r.plan, {content.tunnels[0].id});
      }},
-    {"insert", [](R& r) { return r.insert(); }, false, true},
+    {"insert", [](R& r) { return r.insert(); }, false, true, 2},
     {"clone", [](R& r) { return cloneAndExtend(r.plan, r.piece.id).changed(); }, false, true},
     {"extend", [](R& r) { return extendSelected(r.plan, r.article->article).changed(); }, false,
      true},
@@ -453,7 +454,7 @@ const R::Edit R::kEdits[] = {
        return placeRun(r.plan, r.article->article, r.any(2, 8), {}, first).result.changed();
      },
      false, true},
-    {"fill", [](R& r) { return r.fill(); }, false, true},
+    {"fill", [](R& r) { return r.fill(); }, false, true, 3},
     {"ring", [](R& r) { return r.ring(); }},
     {"swap", [](R& r) { return r.swap(); }, true},
     {"flip",
@@ -478,12 +479,14 @@ const R::Edit R::kEdits[] = {
     {"target", [](R& r) { return r.target(); }},
     {"pull", [](R& r) { return r.pull(); }},
     {"raise", [](R& r) { return r.apply(planRaise(r.plan, r.piece.id, r.any(-9, 9))); }},
-    {"ease", [](R& r) { return r.apply(planEase(r.plan, r.anyWay(), r.anyRule())); }},
+    {"ease", [](R& r) { return r.apply(planEase(r.plan, r.anyWay(), r.anyRule())); }, false, false,
+     3},
     {"flatten",
      [](R& r) {
        const std::vector<std::int32_t> chain = chainOf(r.plan, r.piece.id);
        return r.apply(planLevel(r.plan, chain, {r.piece.id, 0}, r.anyRule()));
-     }},
+     },
+     false, false, 2},
     {"end height",
      [](R& r) {
        const EndRule rule = r.any(0, 1) == 0 ? EndRule::LiftAll : EndRule::TiltPiece;
@@ -493,7 +496,8 @@ const R::Edit R::kEdits[] = {
      [](R& r) {
        const auto& runs = r.plan.content().gradeRuns;
        return !runs.empty() && endGradeHere(r.plan, r.anyOf(runs).anchor);
-     }},
+     },
+     false, false, 2},
     {"level",
      [](R& r) { return setSelectedLevel(r.plan, r.anyOf(r.plan.settings().levels).id).changed; }},
     {"colour",
@@ -518,8 +522,14 @@ const R::Edit R::kEdits[] = {
     {"helix", [](R& r) { return r.helix(); }, true},
 };
 
-std::size_t R::kinds() {
-  return std::size(kEdits);
+const std::vector<const R::Edit*>& R::dice() {
+  static const std::vector<const Edit*> sides = [] {
+    std::vector<const Edit*> each;
+    for (const Edit& edit : kEdits)
+      each.insert(each.end(), static_cast<std::size_t>(edit.weight), &edit);
+    return each;
+  }();
+  return sides;
 }
 
 TEST_P(RandomEdits, KeepThePlanSoundAndUndoExact) {
@@ -578,7 +588,7 @@ TEST_P(RandomEdits, KeepThePlanSoundAndUndoExact) {
       plan.undo();
   }
   for (const Edit& edit : kEdits)
-    EXPECT_GT(done[edit.name], edits / 2500) << edit.name;
+    EXPECT_GT(done[edit.name], edits / 2000) << edit.name;
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomEdits, testing::Range(1U, 9U));
