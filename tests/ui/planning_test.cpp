@@ -14,6 +14,7 @@
 #include <wx/choice.h>
 #include <wx/srchctrl.h>
 #include <wx/statusbr.h>
+#include <wx/toolbar.h>
 
 #include <algorithm>
 #include <fstream>
@@ -210,6 +211,50 @@ TEST_F(PlanningTest, ALineClimbsOverAnotherInFewActions) {
   EXPECT_EQ(frame().workspace().preview(), nullptr);
   put(kShowGrades);
   EXPECT_TRUE(rememberedLook({}).grades);
+  finish();
+}
+
+TEST_F(PlanningTest, ATunnelComesAndGoesOverADoubleTrackLine) {
+  startLaidOut();
+  const Plan line =
+      Plan().place("24188").extend("24188", 4).place("24188", {0, 77.5, 0}).extend("24188", 4);
+  plan().edit() = line.layout.content();
+  plan().setNextPieceId(line.layout.nextPieceId());
+  plan().clearSelection();
+  frame().workspace().changed();
+  pressKey('0', wxMOD_CONTROL);
+  settle();
+  const auto selected = [this](std::size_t count) {
+    return waitUntil("selected", [&] { return selectedPieces(plan()).size() == count; });
+  };
+  const auto tool = [this](const wxString& label) {
+    return waitUntil(label.ToStdString(),
+                     [&] { return frame().GetToolBar()->FindById(kTunnel)->GetLabel() == label; });
+  };
+  const auto& tunnels = plan().content().tunnels;
+  drag(onPlan({150, -90}), {onPlan({400, 50}), onPlan({610, 170})});
+  ASSERT_TRUE(selected(4) && tool("Tunnel"));
+  put(kTunnel);
+  ASSERT_EQ(tunnels.size(), 1u);
+  EXPECT_EQ(tunnels[0].covers.size(), 4u);
+  EXPECT_TRUE(tool("Remove Tunnel"));
+
+  for (const bool shown : {false, true}) {
+    pressKey(WXK_F8, wxMOD_SHIFT);
+    ASSERT_TRUE(waitUntil("shown or hidden",
+                          [&] { return frame().workspace().switches().hidden == shown; }));
+    EXPECT_EQ(rememberedLook({}).hidden, shown);
+    click(onPlan({300, 4}));
+    EXPECT_TRUE(selected(shown ? 1 : 0));
+  }
+  dialogs.answer("Tunnel is locked", wxID_OK);
+  pressKey(WXK_DELETE);
+  settle();
+  EXPECT_EQ(pieces(), 10u);
+  put(kTunnel);
+  EXPECT_TRUE(tunnels.empty() && plan().content().scenery.empty() && tool("Tunnel"));
+  pressKey('Z', wxMOD_CONTROL);
+  ASSERT_TRUE(waitUntil("undone", [&] { return tunnels.size() == 1; }));
   finish();
 }
 

@@ -55,13 +55,16 @@ Box around(Point at, double reach) {
   return {at.x - reach, at.y - reach, at.x + reach, at.y + reach};
 }
 
+} // namespace
+
 /// Two turned boxes have no point in common when a side of one parts them.
-bool overlap(const ArticlePlaces::Place& a, const ArticlePlaces::Place& b) {
+bool ArticlePlaces::Place::overlaps(const Place& b) const {
+  const Place& a = *this;
   const Point between{b.at.x - a.at.x, b.at.y - a.at.y};
-  const auto parted = [&](const ArticlePlaces::Place& by) {
+  const auto parted = [&](const Place& by) {
     const double c = std::cos(toRadians(by.angle));
     const double s = std::sin(toRadians(by.angle));
-    const auto reach = [&](const ArticlePlaces::Place& of, double alongX, double alongY) {
+    const auto reach = [&](const Place& of, double alongX, double alongY) {
       const double pc = std::cos(toRadians(of.angle));
       const double ps = std::sin(toRadians(of.angle));
       return (std::abs(alongX * pc + alongY * ps) * of.size.width +
@@ -73,8 +76,6 @@ bool overlap(const ArticlePlaces::Place& a, const ArticlePlaces::Place& b) {
   };
   return !parted(a) && !parted(b);
 }
-
-} // namespace
 
 /// A piece keeps its first place off the track unless an earlier one has chosen a place there; then
 /// it takes another one that nobody chose first, unless an earlier one of those that had to give
@@ -242,7 +243,7 @@ bool ArticlePlaces::Data::givesWay(std::uint32_t position, Surface& surface) {
     if (other > position)
       return false;
     const auto& first = firstOf(other, surface);
-    return first && overlap(place, *first);
+    return first && place.overlaps(*first);
   });
 }
 
@@ -260,7 +261,7 @@ const std::optional<ArticlePlaces::Place>& ArticlePlaces::Data::secondOf(std::ui
       break;
     const bool taken = anyNear(*place, position, [&](std::uint32_t other) {
       const auto& first = firstOf(other, surface);
-      return first && overlap(*place, *first);
+      return first && place->overlaps(*first);
     });
     if (!taken) {
       piece.second = place;
@@ -282,7 +283,7 @@ const std::optional<ArticlePlaces::Place>& ArticlePlaces::Data::placeOf(std::uin
     if (other > position)
       return false;
     const auto& theirs = secondOf(other, surface);
-    return theirs && overlap(*second, *theirs);
+    return theirs && second->overlaps(*theirs);
   });
   return taken ? kNone : second;
 }

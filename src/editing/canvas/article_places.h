@@ -30,6 +30,8 @@ class ArticlePlaces {
     Point at; ///< of its centre, px from the plan's origin
     double angle = 0;
     SizePx size;
+
+    bool overlaps(const Place& other) const;
   };
   using Visit = std::function<void(std::size_t position, const Place& place)>;
 

@@ -1,7 +1,6 @@
 #include "editing/canvas/helix_painter.h"
 
 #include "editing/canvas/halo.h"
-#include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/track/track_geometry.h"
 #include "measures/measure_format.h"
@@ -10,6 +9,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace trassix {
 
@@ -25,21 +25,22 @@ constexpr double kHeadPx = 6;
 
 class HelixTexts {
  public:
-  HelixTexts(const PictureSite& site, const HelixRing& ring, Occupancy* taken)
-      : site_(site), plan_(ring.plan), taken_(taken),
+  HelixTexts(const PictureSite& site, const HelixRing& ring)
+      : site_(site), plan_(ring.plan),
         centre_(site.view.toScreen({plan_.centre.x, plan_.centre.y})) {
     const double zoom = site.view.zoom();
     const PieceDef& curve = *plan_.kit->inner;
     inner_ = (curve.radius - trackGeometryOf(curve).halfWidth) * zoom;
   }
 
-  void paint() {
+  std::vector<ArticlePlaces::Place> paint() {
     const double name = paintName();
     paintArrow(name);
     const double turned = plan_.kit->turns * 360;
     const bool sameSide = std::abs(std::remainder(turned, 360)) < 1;
     paintHeight(tr("top %1%", {heightText(plan_.height + plan_.climb())}), turned, 0);
     paintHeight(tr("bottom %1%", {heightText(plan_.height)}), 0, sameSide ? 1 : 0);
+    return std::move(places_);
   }
 
  private:
@@ -96,8 +97,7 @@ class HelixTexts {
 
   void put(const std::string& text, Point where, SizePx size, const TextStyle& style) {
     paintTextWithHalo(site_.surface, text, where, 0, style);
-    if (taken_ != nullptr)
-      taken_->take(where, size, 0);
+    places_.push_back({where, 0, size});
   }
 
   std::string heightText(double mm) const {
@@ -117,15 +117,15 @@ class HelixTexts {
 
   const PictureSite& site_;
   const HelixPlan& plan_;
-  Occupancy* taken_;
+  std::vector<ArticlePlaces::Place> places_;
   Point centre_;
   double inner_; ///< px, of the free space in the middle
 };
 
 } // namespace
 
-void paintHelixTexts(const PictureSite& site, const HelixRing& ring, Occupancy* taken) {
-  HelixTexts(site, ring, taken).paint();
+std::vector<ArticlePlaces::Place> paintHelixTexts(const PictureSite& site, const HelixRing& ring) {
+  return HelixTexts(site, ring).paint();
 }
 
 } // namespace trassix

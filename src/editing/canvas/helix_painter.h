@@ -1,15 +1,16 @@
 #pragma once
 
+#include "editing/canvas/article_places.h"
 #include "editing/canvas/record_pictures.h"
 #include "editing/helix/helix_rings.h"
 
+#include <vector>
+
 namespace trassix {
 
-class Occupancy;
-
 /// What stands on the ring of a helix: its kit and turns in the middle, an arrow that climbs with
-/// it, and the heights of its ends. Left out where there is no room; what there is takes its place
-/// in `taken`, if given.
-void paintHelixTexts(const PictureSite& site, const HelixRing& ring, Occupancy* taken);
+/// it, and the heights of its ends. Left out where there is no room. Returns the places of the
+/// texts, px.
+std::vector<ArticlePlaces::Place> paintHelixTexts(const PictureSite& site, const HelixRing& ring);
 
 } // namespace trassix

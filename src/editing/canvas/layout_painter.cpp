@@ -2,7 +2,6 @@
 
 #include "catalog/scenery_catalog.h"
 #include "document/record_kinds.h"
-#include "editing/canvas/article_places.h"
 #include "editing/canvas/grade_painter.h"
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/helix_painter.h"
@@ -19,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace trassix {
@@ -252,20 +252,8 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
     from = to;
   }
   sceneryUpTo(std::numeric_limits<double>::infinity());
-  std::vector<const HelixRing*> shownRings;
-  for (const HelixRing& ring : rings.rings()) {
-    const PlacedPiece& bottom = *layout.findPiece(ring.bottoms.front());
-    if (!layout.pieceVisible(bottom) || isLeftOut(bottom.id))
-      continue;
-    shownRings.push_back(&ring);
-    if (options_.labels)
-      paintLowerEnds(layout, ring);
-  }
+  const std::vector<ArticlePlaces::Place> ringTexts = paintOnRings(layout, rings);
   std::optional<Occupancy> taken;
-  const auto paintRingTexts = [&] {
-    for (const HelixRing* ring : shownRings)
-      paintHelixTexts({surface_, part_, view_, layout}, *ring, taken ? &*taken : nullptr);
-  };
   if (options_.grades) {
     taken.emplace(size_);
     for (const Visible& shown : track)
@@ -273,14 +261,13 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
         taken->mark(painter.toScreen(line, poseOf(*shown.piece)),
                     shown.shape.geometry.halfWidth * view_.zoom() - 1);
     const Occupancy onlyTrack = *taken;
-    paintRingTexts();
+    for (const ArticlePlaces::Place& text : ringTexts)
+      taken->take(text.at, text.size, text.angle);
     paintGrades(layout, track, *taken);
     taken->without(onlyTrack);
-  } else {
-    paintRingTexts();
   }
   if (options_.labels)
-    paintArticles(layout, index, taken ? &*taken : nullptr);
+    paintArticles(layout, index, taken ? &*taken : nullptr, ringTexts);
 }
 
 void LayoutPainter::paintGrades(const Layout& layout, std::span<const Visible> pieces,
@@ -330,18 +317,30 @@ void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible>
   }
 }
 
-void LayoutPainter::paintLowerEnds(const Layout& layout, const HelixRing& ring) {
-  std::vector<Visible> ends;
-  for (const std::int32_t id : ring.bottoms)
-    if (const PlacedPiece* piece = layout.findPiece(id))
-      if (const PieceDef* definition = definitionOf(*piece))
-        ends.push_back(
-            {piece, definition, PiecePainter(surface_, view_).shapeOf(*definition), {}, 0});
-  paintJoinDots(layout, ends);
+std::vector<ArticlePlaces::Place> LayoutPainter::paintOnRings(const Layout& layout,
+                                                              const HelixRings& rings) {
+  std::vector<ArticlePlaces::Place> texts;
+  for (const HelixRing& ring : rings.rings()) {
+    std::vector<Visible> lowerEnds; // over which more of its track lies
+    for (const std::int32_t id : ring.bottoms)
+      if (const PlacedPiece* piece = layout.findPiece(id);
+          piece != nullptr && layout.pieceVisible(*piece) && !isLeftOut(id))
+        if (const PieceDef* definition = definitionOf(*piece))
+          lowerEnds.push_back(
+              {piece, definition, PiecePainter(surface_, view_).shapeOf(*definition), {}, 0});
+    if (lowerEnds.empty())
+      continue;
+    if (options_.labels)
+      paintJoinDots(layout, lowerEnds);
+    std::ranges::move(paintHelixTexts({surface_, part_, view_, layout}, ring),
+                      std::back_inserter(texts));
+  }
+  return texts;
 }
 
 void LayoutPainter::paintArticles(const Layout& layout, const PlanIndex& index,
-                                  const Occupancy* taken) {
+                                  const Occupancy* taken,
+                                  std::span<const ArticlePlaces::Place> others) {
   ArticlePlaces own;
   ArticlePlaces& articles = options_.articles ? *options_.articles : own;
   articles.follow(layout, index, view_.zoom(), options_.leftOut);
@@ -350,7 +349,9 @@ void LayoutPainter::paintArticles(const Layout& layout, const PlanIndex& index,
       {part_.minX - origin.x, part_.minY - origin.y, part_.maxX - origin.x, part_.maxY - origin.y},
       surface_, [&](std::size_t position, const ArticlePlaces::Place& place) {
         const Point at{place.at.x + origin.x, place.at.y + origin.y};
-        if (taken != nullptr && !taken->isFree(at, place.size, place.angle))
+        const ArticlePlaces::Place here{at, place.angle, place.size};
+        if ((taken != nullptr && !taken->isFree(at, place.size, place.angle)) ||
+            std::ranges::any_of(others, [&](const auto& other) { return here.overlaps(other); }))
           return;
         const PlacedPiece& piece = layout.pieces()[position];
         surface_.text(index.definition(position)->article, at, place.angle,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/layout.h"
+#include "editing/canvas/article_places.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
@@ -13,10 +14,8 @@
 
 namespace trassix {
 
-class ArticlePlaces;
 class HelixRings;
 class Occupancy;
-struct HelixRing;
 struct TrackCrossing;
 
 struct PaintOptions {
@@ -60,10 +59,12 @@ class LayoutPainter {
   std::vector<const SceneryItem*> visibleScenery(const Layout& layout) const;
   void paintSceneryItem(const Layout& layout, const SceneryItem& item, bool beneath);
   void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);
-  /// Of a helix, over which more of its track lies.
-  void paintLowerEnds(const Layout& layout, const HelixRing& ring);
+  /// What lies on the rings of helices; returns the places of its texts, px.
+  std::vector<ArticlePlaces::Place> paintOnRings(const Layout& layout, const HelixRings& rings);
   void paintGrades(const Layout& layout, std::span<const Visible> pieces, Occupancy& taken);
-  void paintArticles(const Layout& layout, const PlanIndex& index, const Occupancy* taken);
+  /// Those that keep off what is taken and off other texts.
+  void paintArticles(const Layout& layout, const PlanIndex& index, const Occupancy* taken,
+                     std::span<const ArticlePlaces::Place> others);
   /// Of what is drawn, in mm, with so many px around it.
   Box shownBox(double marginPx) const;
 

@@ -152,7 +152,7 @@ void PiecePainter::paintRails(std::span<const Piece> pieces) {
     const TrackGeometry& geometry = piece.shape.geometry;
     if (fromAfar(geometry))
       return Stroke{
-          shade(piece, piece.look.beneath ? plan_colors::kFarBeneath : plan_colors::kFarTrack),
+          piece.look.beneath ? plan_colors::kFarBeneath : shade(piece, plan_colors::kFarTrack),
           std::max(geometry.halfWidth * zoom * (piece.look.beneath ? kBeneathWidth : 1), 1.5),
           styleOf(piece)};
     const double width = railsShow(piece) ? std::max(geometry.gauge * zoom * 0.06, 1.0) : 1.0;

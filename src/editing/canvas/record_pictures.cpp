@@ -112,6 +112,8 @@ void paintRecord(const PictureSite& site, const Tunnel& tunnel) {
   if (px.empty() || site.isBeside(px, kStrokeReachPx))
     return;
   site.surface.polygon(px, Rgba{112, 104, 96, 40}, Stroke{colors::kTunnel, 1.5});
+  if (site.selection)
+    paintSelected(site, tunnel);
 }
 
 /// All of it when any of its track or a portal is selected.

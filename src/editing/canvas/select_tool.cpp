@@ -6,9 +6,11 @@
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/canvas/selection_menu.h"
+#include "editing/canvas/tunnel_command.h"
 #include "editing/helix/helix_edits.h"
 #include "editing/placing/placing.h"
 #include "editing/selection/selection.h"
+#include "editing/tunnels/tunnel_facts.h"
 #include "texts/texts.h"
 
 #include <algorithm>
@@ -44,6 +46,10 @@ void paintEnd(Surface& surface, const ToolSite& site, TrackEnd end, bool chosen)
   };
   const std::array<Point, 3> head{spot(radius + 12, 0), spot(radius + 3, -5), spot(radius + 3, 5)};
   surface.polygon(head, plan_colors::kSelected, Stroke{plan_colors::kPaper, 1});
+}
+
+std::string lockedByTunnel() {
+  return tr("Locked by its tunnel: \"Remove Tunnel\" leaves the track as it lies");
 }
 
 } // namespace
@@ -395,9 +401,15 @@ std::string SelectTool::hint() const {
       }
     };
     const bool onTrack = pick->kind == RecordKind::Piece;
-    return hintOf({name, below(), tr("Drag: move"), doubleClick(), tr("Right-click: more"),
+    const bool locked =
+        onTrack ? layout.isCovered(pick->id)
+                : pick->kind == RecordKind::Scenery && tunnelOfPortal(layout, pick->id) != nullptr;
+    return hintOf({name, below(), locked ? lockedByTunnel() : tr("Drag: move"), doubleClick(),
+                   tr("Right-click: more"),
                    onTrack ? tr("Alt+double-click or right-click: joined track") : std::string()});
   }
+  if (!tunnelChoiceNow(layout).present.empty())
+    return hintOf({lockedByTunnel(), tr("Esc: deselect")});
   if (hasSelection(layout))
     return hintOf({tr("Drag: move"), tr("Alt+drag or Shift+drag: turn"),
                    tr("Ctrl+wheel: turn 15\u00b0 (Shift: 5\u00b0)"),

@@ -108,7 +108,7 @@ TunnelChoice tunnelChoice(const Layout& layout) {
       return choice;
     choice.present.clear();
     choice.problem =
-        TunnelProblem::plain(trLater("Some of the selected track lies in a tunnel already."));
+        TunnelProblem::plain(trLater("Some of what is selected belongs to a tunnel already."));
     return choice;
   }
   if (helixGuard(layout, pieces, "")) {

@@ -8,6 +8,7 @@
 #include "editing/tunnels/tunnel_chain.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace trassix {
 
@@ -49,7 +50,13 @@ std::optional<TunnelFacts> tunnelFacts(const Layout& layout, const Tunnel& tunne
       facts.sharpest = radius;
   }
   const OpeningSize plain = openingOf(system, TunnelOpening::WithWire, facts.tracks);
-  facts.needed = plain.width + 2 * sideAddition(system, facts.sharpest);
+  facts.needed = openingOf(system, TunnelOpening::WithWire, 1).width +
+                 2 * sideAddition(system, facts.sharpest);
+  if (facts.tracks == 2) {
+    const WorldConnector there = outerEnd(layout, chains.ways[1].start());
+    facts.needed +=
+        std::abs(besideEnd(outerEnd(layout, chains.ways[0].start()), {there.x, there.y}).right);
+  }
   facts.heightWithWire = plain.height;
   const OpeningSize a = openingThrough(layout, tunnel.portalA, system, facts.tracks);
   const OpeningSize b = openingThrough(layout, tunnel.portalB, system, facts.tracks);

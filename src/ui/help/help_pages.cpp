@@ -125,9 +125,21 @@ constexpr const char* kLevelsAndBaseboard[] = {
     wxTRANSLATE("View > Show Grades puts grades, heights and the room between crossing tracks on "
                 "the plan. View > Height Profile shows the way through the selected track from the "
                 "side: drag its joints up and down, double-click one to type its height."),
-    wxTRANSLATE("# Tunnels"),
-    wxTRANSLATE("\"Tunnel\" in the tool bar puts portals at both ends of the selected chain, or of "
-                "two parallel ones, and takes them away again. Track in a tunnel is locked."),
+    wxTRANSLATE("# Tunnels and hidden track"),
+    wxTRANSLATE(
+        "Select a chain of track, or two side by side, and choose \"Tunnel\" in the tool bar "
+        "or the context menu: portals stand at both ends, with a hill over the track between "
+        "them. The chain may lead through turnouts; track that leaves it on the way gets no "
+        "portal, and you are told so first. Portals of old stone, in the context menu, are "
+        "too low for overhead wire. Properties say how long the tunnel is and whether its "
+        "opening is wide enough for its sharpest curve."),
+    wxTRANSLATE("Track in a tunnel is locked. Select any of it, or a portal, and choose \"Remove "
+                "Tunnel\": the track stays as it lies."),
+    wxTRANSLATE(
+        "Track in a tunnel, and whatever lies beneath the outline of a higher level, is "
+        "dashed and lighter than the rest. View > Show Hidden Track leaves track in tunnels "
+        "out altogether: it cannot be clicked or snapped to then, and shows again when Find "
+        "or the tally leads to it."),
     wxTRANSLATE("# Baseboard"),
     wxTRANSLATE("Layout > Layout Shape gives the plan its table: a rectangle, an L, a U or a T of "
                 "exact measures, or a free outline that you draw corner by corner or take from a "

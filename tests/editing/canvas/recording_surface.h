@@ -18,13 +18,18 @@ class RecordingSurface : public Surface {
 
   std::vector<Line> lines;
   std::vector<Line> hatches; ///< from `segments`
+  std::vector<Line> areas;   ///< with an edge
   std::vector<Point> dots;
   std::vector<std::string> texts;
 
   void polyline(std::span<const Point> points, const Stroke& stroke) override {
     lines.push_back({{points.begin(), points.end()}, stroke});
   }
-  void polygon(std::span<const Point>, std::optional<Rgba>, std::optional<Stroke>) override {}
+  void polygon(std::span<const Point> points, std::optional<Rgba>,
+               std::optional<Stroke> outline) override {
+    if (outline)
+      areas.push_back({{points.begin(), points.end()}, *outline});
+  }
   void segments(std::span<const Point> ends, const Stroke& stroke) override {
     hatches.push_back({{ends.begin(), ends.end()}, stroke});
   }

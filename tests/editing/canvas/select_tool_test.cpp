@@ -217,6 +217,17 @@ TEST(SelectTool, TunnelsComeAndGoByTheMenu) {
     script.takeFromMenu(kOnFirst, "Tunnel");
     EXPECT_EQ(script.host.plan.content().tunnels.size(), made);
   }
+  script.host.plan.clearSelection();
+  for (const Point& part : {kOnFirst, Point{2, -40}}) { // track, a portal
+    script.click(part);
+    RecordingSurface picture;
+    script.canvas.paintSelection(picture, {0, 0, 1600, 1000});
+    const bool marked = std::ranges::any_of(picture.areas, [](const auto& area) {
+      return area.points.size() > 4 && area.stroke.color == plan_colors::kSelected;
+    });
+    EXPECT_TRUE(marked) << "the hill over it";
+    EXPECT_THAT(script.host.seen.hint, testing::HasSubstr("Remove Tunnel"));
+  }
   script.takeFromMenu(kOnFirst, "Remove Tunnel");
   EXPECT_TRUE(script.host.plan.content().tunnels.empty());
 }

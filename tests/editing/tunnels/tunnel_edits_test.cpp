@@ -86,6 +86,42 @@ TEST(Tunnels, TwoTracksSideBySideShareTheirPortals) {
   }
 }
 
+TEST(Tunnels, CoverTheChainWithTheSmallestIdAndThenTheOtherTheSameWay) {
+  struct Row {
+    const char* straight;
+    double spacing;
+  };
+  for (const auto& [straight, spacing] :
+       {Row{"24188", 77.5}, Row{"24188", -64.3}, Row{"2200", 64.6}, Row{"5106", -77.4},
+        Row{"8500", 25}, Row{"59059", 125}, Row{"62188", 77.5}})
+    for (const double heading : {0.0, 180.0}) { // of the second track
+      Plan plan;
+      const double length = cataloguePiece(straight).length;
+      plan.place(straight, {length, 0, 0}).extend(straight).at(1, 0).extendLeft(straight); // 3 1 2
+      plan.place(straight, {heading == 0 ? 0 : 3 * length, spacing, heading});
+      plan.extend(straight, 2);
+      selectPieces(plan.layout, {1, 2, 3, 4, 5, 6});
+      ASSERT_TRUE(placeTunnel(plan.layout).changed()) << straight;
+      const Tunnel& tunnel = plan.layout.content().tunnels[0];
+      EXPECT_EQ(tunnel.anchorA, 2);
+      EXPECT_EQ(tunnel.anchorB, 3);
+      EXPECT_EQ(tunnel.covers, heading == 0 ? Ids({2, 1, 3, 6, 5, 4}) : Ids({2, 1, 3, 4, 5, 6}));
+      for (const SceneryItem& portal : plan.layout.content().scenery)
+        EXPECT_NEAR(portal.y, spacing / 2, 1e-6);
+      const auto facts = tunnelFacts(plan.layout, tunnel);
+      EXPECT_TRUE(facts && facts->sufficesForWire() && facts->sufficesForCurve()) << straight;
+    }
+}
+
+TEST(Tunnels, NeedNoMoreWidthThanTheirTracksAreApart) {
+  Plan slim = Plan().place("24330").place("24430", {0, -64.3, 0});
+  selectPieces(slim.layout, {1, 2});
+  ASSERT_TRUE(placeTunnel(slim.layout).changed());
+  const auto facts = tunnelFacts(slim.layout, slim.layout.content().tunnels[0]);
+  EXPECT_NEAR(facts->needed, 58 + 64.3 + 2 * 5, 1e-6);
+  EXPECT_TRUE(facts->sufficesForCurve());
+}
+
 TEST(Tunnels, AreRefusedWithTheReason) {
   Plan ring;
   ring.place("24130").extend("24130", 11);
