@@ -2,11 +2,14 @@
 #include "catalog/track_catalog.h"
 #include "document/layout_reader.h"
 #include "document/layout_writer.h"
+#include "document/plan_content.h"
 #include "editing/elevation/crossings.h"
+#include "editing/elevation/train_way.h"
 #include "support/plan.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <set>
 
@@ -34,6 +37,16 @@ TEST(Samples, OpenSoundAndClosedAndSaveBackByteForByte) {
     std::string saved;
     ASSERT_EQ(writeLayout(layout, name, saved), "");
     EXPECT_EQ(saved, text);
+    if (name == "Hidden Yard") { // its profile runs all the way
+      const TrainWay way = wayThrough(layout, layout.content().tunnels.at(0).anchorA);
+      const auto counted = [&](auto is) { return std::ranges::count_if(way.stretches, is); };
+      EXPECT_EQ(counted([&](const WayStretch& stretch) { return layout.isCovered(stretch.piece); }),
+                10);
+      EXPECT_EQ(counted([&](const WayStretch& stretch) {
+                  return layout.findPiece(stretch.piece)->helix != -1;
+                }),
+                60);
+    }
     systems.insert(definitionOf(layout.pieces().at(0))->system);
   }
   EXPECT_EQ(systems.size(), 6u);

@@ -41,6 +41,12 @@ double helixRadius(const PictureSite& site, const Helix& helix) {
   return helixHalfSize(helix.variant) * site.view.zoom();
 }
 
+/// Whether this piece of a helix or a tunnel is on a hidden level.
+bool isHidden(const Layout& layout, std::int32_t id) {
+  const PlacedPiece* piece = layout.findPiece(id);
+  return piece != nullptr && !layout.levelVisible(piece->level);
+}
+
 void paintOutline(const PictureSite& site, const auto& record, const CarriedLook& look) {
   site.surface.polygon(site.view.toScreen(bodyOf(site.layout, record, 0).outline), {}, look.edge);
 }
@@ -93,7 +99,7 @@ std::string nameOf(const Layout&, const Shape& shape) {
 void paintRecord(const PictureSite& site, const Helix& helix) {
   const Point centre = site.view.toScreen({helix.cx, helix.cy});
   const double radius = helixRadius(site, helix);
-  if (site.isBeside({&centre, 1}, radius + kStrokeReachPx))
+  if (site.isBeside({&centre, 1}, radius + kStrokeReachPx) || isHidden(site.layout, helix.bottomR1))
     return;
   site.surface.circle(centre, radius, Rgba{112, 104, 96, 30},
                       Stroke{colors::kTunnel, 1.5, Stroke::Style::Dashed});
@@ -108,6 +114,8 @@ void paintCarried(const PictureSite& site, const Helix& helix, const CarriedLook
 
 /// A soft hill.
 void paintRecord(const PictureSite& site, const Tunnel& tunnel) {
+  if (isHidden(site.layout, tunnel.anchorA))
+    return;
   const std::vector<Point> px = site.view.toScreen(hillOver(site.layout, tunnel));
   if (px.empty() || site.isBeside(px, kStrokeReachPx))
     return;

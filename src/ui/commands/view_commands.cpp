@@ -87,7 +87,7 @@ const Command kCommands[] = {
      .menuHelp = wxTRANSLATE("The heights along the way through the selected track, to be changed by hand"),
      .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
      .panel = &kProfilePanel},
-    {.id = kShowHidden, .menuText = wxTRANSLATE("Show Hidden &Track\tShift+F8"),
+    {.id = kShowHidden, .menuText = wxTRANSLATE("Show Hidden Trac&k\tShift+F8"),
      .menuHelp = wxTRANSLATE("Track in tunnels; while it is hidden it cannot be picked either"),
      .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
      .checked = isOn<&EditorSwitches::hidden>, .run = flipForGood<&EditorSwitches::hidden>},

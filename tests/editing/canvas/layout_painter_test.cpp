@@ -79,8 +79,11 @@ TEST(LayoutPainter, SwitchesLevelsAndTheWindowDecideWhatIsDrawn) {
   EXPECT_EQ(bare.linesIn(plan_colors::kRail), 3u) << "a centre line for each route";
 
   Layout hidden = plan;
+  hidden.edit().tunnels = {{9, -1, -1, 1, 1, {1}}};
+  EXPECT_EQ(drawn(hidden, 1.5).areas.size(), 1u) << "the hill";
   hidden.editSettings().levels[0].visible = false;
   EXPECT_EQ(drawn(hidden, 1.5).lines.size(), drawn(Layout(), 1.5).lines.size());
+  EXPECT_TRUE(drawn(hidden, 1.5).areas.empty());
   EXPECT_EQ(drawn(plan, 1.5, {-4000, 0}).lines.size(), drawn(Layout(), 1.5).lines.size());
 
   Layout tunnelled = plan;
