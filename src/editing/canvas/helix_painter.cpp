@@ -7,6 +7,7 @@
 #include "measures/measure_input.h"
 #include "texts/texts.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
@@ -19,7 +20,7 @@ constexpr TextStyle kName{plan_colors::kLabel, 12, true};
 constexpr TextStyle kHeight{plan_colors::kLabel, 11, true};
 constexpr TextStyle kUp{plan_colors::kMeasure, 11, true};
 constexpr double kGapPx = 6;
-constexpr double kArrowFrom = 25; ///< degrees from the lower ends, the way it climbs
+constexpr double kArrowFrom = 35; ///< degrees from the lower ends, the way it climbs
 constexpr double kArrowTo = 70;
 constexpr double kHeadPx = 6;
 
@@ -34,37 +35,33 @@ class HelixTexts {
   }
 
   std::vector<ArticlePlaces::Place> paint() {
-    const double name = paintName();
-    paintArrow(name);
+    paintName();
     const double turned = plan_.kit->turns * 360;
     const bool sameSide = std::abs(std::remainder(turned, 360)) < 1;
     paintHeight(tr("top %1%", {heightText(plan_.height + plan_.climb())}), turned, 0);
     paintHeight(tr("bottom %1%", {heightText(plan_.height)}), 0, sameSide ? 1 : 0);
+    paintArrow();
     return std::move(places_);
   }
 
  private:
-  /// Returns half its width.
-  double paintName() {
+  void paintName() {
     const std::string turns =
         plan_.kit->turns == 1 ? tr("1 turn") : tr("%1% turns", {formatAngle(plan_.kit->turns)});
     for (const std::string& text : {plan_.kit->name, turns}) {
       const SizePx size = site_.surface.textSize(text, kName);
-      if (std::hypot(size.width, size.height) / 2 > inner_ - 1)
-        continue;
-      put(text, centre_, size, kName);
-      return size.width / 2;
+      if (std::hypot(size.width, size.height) / 2 <= inner_ - 1 && put(text, centre_, size, kName))
+        return;
     }
-    return 0;
   }
 
-  /// Between the name and the track.
-  void paintArrow(double name) {
+  /// Along the inner edge of the track, with what it means.
+  void paintArrow() {
     const SizePx size = site_.surface.textSize(tr("up"), kUp);
     const double radius = inner_ - kGapPx - kHeadPx;
-    const Point text = at((kArrowFrom + kArrowTo) / 2, radius - kGapPx - size.width / 2);
-    const double room = std::abs(text.x - centre_.x) - size.width / 2 - name;
-    if (radius < 3 * kHeadPx || (room < kGapPx && std::abs(text.y - centre_.y) < size.height))
+    if (radius < 3 * kHeadPx ||
+        !put(tr("up"), at((kArrowFrom + kArrowTo) / 2, radius - kGapPx - size.width / 2), size,
+             kUp))
       return;
     std::array<Point, 13> arc;
     for (std::size_t i = 0; i < arc.size(); ++i)
@@ -81,23 +78,30 @@ class HelixTexts {
     const std::array<Point, 3> head{corner(kHeadPx * 1.5, 0), corner(0, kHeadPx * 0.8),
                                     corner(0, -kHeadPx * 0.8)};
     site_.surface.polygon(head, kUp.color, {});
-    put(tr("up"), text, size, kUp);
   }
 
   /// Beside an end, inside the ring, after so many others.
   void paintHeight(const std::string& text, double turned, int line) {
     const SizePx size = site_.surface.textSize(text, kHeight);
-    if (inner_ < size.width + kGapPx) // it would lie on the name
-      return;
     const double angle = toRadians(headingAt(turned));
-    const double across = std::abs(std::cos(angle)) * size.height;
-    const double along = std::abs(std::sin(angle)) * size.width;
-    put(text, at(turned, inner_ - kGapPx - (across + along) * (0.5 + line)), size, kHeight);
+    const double c = std::abs(std::cos(angle)) / 2;
+    const double s = std::abs(std::sin(angle)) / 2;
+    const double along = c * size.width + s * size.height; // half of it, as the track runs
+    const double across = s * size.width + c * size.height;
+    const double reach = inner_ - kGapPx / 2;
+    if (reach > along)
+      put(text, at(turned, std::sqrt(reach * reach - along * along) - across * (1 + 2 * line)),
+          size, kHeight);
   }
 
-  void put(const std::string& text, Point where, SizePx size, const TextStyle& style) {
+  /// False where another text stands.
+  bool put(const std::string& text, Point where, SizePx size, const TextStyle& style) {
+    const ArticlePlaces::Place place{where, 0, size};
+    if (std::ranges::any_of(places_, [&](const auto& other) { return place.overlaps(other); }))
+      return false;
     paintTextWithHalo(site_.surface, text, where, 0, style);
-    places_.push_back({where, 0, size});
+    places_.push_back(place);
+    return true;
   }
 
   std::string heightText(double mm) const {
