@@ -48,6 +48,13 @@ class PlanningTest : public FrameTest {
     return {*list, rect.GetPosition() + wxPoint(rect.width / 2, rect.height / 2)};
   }
 
+  void show(const Plan& lines) {
+    plan().edit() = lines.layout.content();
+    plan().setNextPieceId(lines.layout.nextPieceId());
+    plan().clearSelection();
+    frame().workspace().changed();
+  }
+
   /// Throws when they do not come, since nothing that follows makes sense then.
   void waitForPieces(std::size_t count) {
     if (!waitUntil(std::to_string(count) + " pieces", [&] { return pieces() == count; }))
@@ -172,11 +179,7 @@ TEST_F(PlanningTest, TheReadmesOvalComesOutAsItSays) {
 
 TEST_F(PlanningTest, ALineClimbsOverAnotherInFewActions) {
   startLaidOut();
-  const Plan lines = Plan().place("24188").extend("24188", 30).place("24188", {2900, -94.15, 90});
-  plan().edit() = lines.layout.content();
-  plan().setNextPieceId(lines.layout.nextPieceId());
-  plan().clearSelection();
-  frame().workspace().changed();
+  show(Plan().place("24188").extend("24188", 30).place("24188", {2900, -94.15, 90}));
   int actions = 0;
   pressKey('0', wxMOD_CONTROL);
   ++actions;
@@ -216,12 +219,7 @@ TEST_F(PlanningTest, ALineClimbsOverAnotherInFewActions) {
 
 TEST_F(PlanningTest, ATunnelComesAndGoesOverADoubleTrackLine) {
   startLaidOut();
-  const Plan line =
-      Plan().place("24188").extend("24188", 4).place("24188", {0, 77.5, 0}).extend("24188", 4);
-  plan().edit() = line.layout.content();
-  plan().setNextPieceId(line.layout.nextPieceId());
-  plan().clearSelection();
-  frame().workspace().changed();
+  show(Plan().place("24188").extend("24188", 4).place("24188", {0, 77.5, 0}).extend("24188", 4));
   pressKey('0', wxMOD_CONTROL);
   settle();
   const auto selected = [this](std::size_t count) {
