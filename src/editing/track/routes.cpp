@@ -301,6 +301,19 @@ std::vector<RoutePoint> sampleRoute(const Route& route, double tolerance, double
   return points;
 }
 
+RoutePoint pointAlong(const std::vector<RoutePoint>& line, double along) {
+  const auto after =
+      std::ranges::lower_bound(line, along, {}, [](const RoutePoint& p) { return p.along; });
+  if (after == line.begin() || after == line.end())
+    return after == line.end() ? line.back() : line.front();
+  const RoutePoint& a = *(after - 1);
+  const double t = (along - a.along) / (after->along - a.along);
+  return {{a.position.x + (after->position.x - a.position.x) * t,
+           a.position.y + (after->position.y - a.position.y) * t},
+          a.heading + std::remainder(after->heading - a.heading, 360.0) * t,
+          along};
+}
+
 const std::vector<Route>& routesOf(const PieceDef& definition) {
   static const auto known = [] {
     std::unordered_map<const PieceDef*, std::vector<Route>> routes;

@@ -59,6 +59,9 @@ double routeLength(const Route& route);
 /// `tolerance` mm and no two points are more than `maxStep` mm apart.
 std::vector<RoutePoint> sampleRoute(const Route& route, double tolerance, double maxStep = 1e9);
 
+/// Interpolated between the points of a sampled route around it; beyond its ends the last ones.
+RoutePoint pointAlong(const std::vector<RoutePoint>& line, double along);
+
 /// The routes of a catalogue definition, derived once and kept for the life of the process. The
 /// reference must be to a record owned by the catalogue.
 const std::vector<Route>& routesOf(const PieceDef& definition);

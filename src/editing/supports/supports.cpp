@@ -1,0 +1,285 @@
+#include "editing/supports/supports.h"
+
+#include "catalog/scenery_catalog.h"
+#include "document/layout.h"
+#include "document/plan_content.h"
+#include "editing/elevation/end_heights.h"
+#include "editing/helix/helix_plan.h"
+#include "editing/supports/span_graph.h"
+#include "editing/track/connector_geometry.h"
+#include "editing/track/track_geometry.h"
+#include "editing/tunnels/tunnel_figures.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <set>
+
+namespace trassix {
+
+namespace {
+
+constexpr double kH0Span = 360;       // mm
+constexpr double kStepShare = 5.0;    // mm in H0 by which a pier is moved to find a place
+constexpr double kLongestMove = 90.0; // mm in H0
+constexpr int kRounds = 3;            // of filling long spans, each of which may shorten others
+constexpr int kRods = 8;              // around a helix
+constexpr double kRodSize = 6;        // mm
+constexpr double kRodTurn = 5;        // degrees by which a rod moves aside
+constexpr int kRodMoves = 3;
+constexpr double kRodTop = 15; // mm by which rods stand out above the top ring
+
+SupportSpan::Reason reasonOf(PierObstacle obstacle) {
+  switch (obstacle) {
+  case PierObstacle::Road:
+    return SupportSpan::Reason::Road;
+  case PierObstacle::Ground:
+    return SupportSpan::Reason::Ground;
+  default:
+    return SupportSpan::Reason::Track;
+  }
+}
+
+class Planner {
+ public:
+  explicit Planner(const Layout& layout)
+      : layout_(layout), grounds_(layout), room_(layout), graph_(layout, grounds_) {}
+
+  SupportPlan run() {
+    for (SpanJoint& joint : graph_.joints)
+      if (joint.raised)
+        holdJoint(joint);
+    std::vector<SpanPath> paths = graph_.paths(kFollowedSpan);
+    for (int round = 0; round < kRounds && fill(paths); ++round)
+      paths = graph_.paths(kFollowedSpan);
+    for (const SpanPath& path : paths)
+      plan_.spans.push_back(spanOf(path));
+    for (const PlacedPiece& piece : layout_.pieces())
+      holdTurntable(piece);
+    for (const Helix& helix : layout_.content().helices)
+      hangHelix(helix);
+    return std::move(plan_);
+  }
+
+ private:
+  static constexpr double kFollowedSpan = 980; ///< the longest of all gauges
+
+  static double scaleOf(TrackSystem system) { return longestSpan(system) / kH0Span; }
+
+  /// Puts a pier there if one has room, narrow if need be, and returns what is in the way.
+  PierObstacle tryPier(const Pose& pose, double head, TrackSystem system,
+                       std::span<const std::int32_t> carried) {
+    const Ground ground = grounds_.below({pose.x, pose.y}, head);
+    if (ground.kind == GroundKind::None)
+      return PierObstacle::Ground;
+    const PierSize size = pierSize(system);
+    PierObstacle obstacle = PierObstacle::None;
+    for (const double across : {size.across, 2 * trackHalfWidth(system)}) {
+      obstacle = room_.obstacleAt({pose, size.along, across, ground.height, head}, carried);
+      if (obstacle == PierObstacle::None) {
+        plan_.supports.push_back({SupportKind::Pier, carried.front(), pose, ground.height, head,
+                                  size.along, across, ground});
+        return obstacle;
+      }
+    }
+    return obstacle;
+  }
+
+  void holdJoint(SpanJoint& joint) {
+    std::vector<std::int32_t> carried;
+    for (const SpanJoint::Link& link : joint.links)
+      carried.push_back(graph_.edges[link.edge].piece);
+    const TrackSystem system = graph_.edges[joint.links.front().edge].definition->system;
+    joint.obstacle = tryPier(joint.pose, joint.height, system, carried);
+    joint.held = joint.obstacle == PierObstacle::None;
+    const double step = kStepShare * scaleOf(system);
+    for (double move = step; !joint.held && move <= kLongestMove * scaleOf(system); move += step)
+      for (const SpanJoint::Link& link : joint.links)
+        if (pierBeside(link, move, system, carried))
+          return;
+  }
+
+  /// On an edge that leaves the joint, where it does not come nearer to the next one.
+  bool pierBeside(const SpanJoint::Link& link, double move, TrackSystem system,
+                  std::span<const std::int32_t> carried) {
+    const SpanEdge& edge = graph_.edges[link.edge];
+    const double along = link.end == 0 ? move : edge.length() - move;
+    return !(2 * move > edge.length()) && edge.bridge == BridgeKind::None && edge.raised &&
+           !hasStopNear(edge, along, move) &&
+           pierOn(link.edge, along, system, carried) == PierObstacle::None;
+  }
+
+  static bool hasStopNear(const SpanEdge& edge, double along, double near) {
+    return std::ranges::any_of(edge.stops,
+                               [&](double stop) { return std::abs(stop - along) < near; });
+  }
+
+  PierObstacle pierOn(std::size_t edge, double along, TrackSystem system,
+                      std::span<const std::int32_t> carried) {
+    const PierObstacle obstacle = tryPier(graph_.edges[edge].poseAt(along),
+                                          graph_.edges[edge].heightAt(along), system, carried);
+    if (obstacle == PierObstacle::None)
+      graph_.addStop(edge, along);
+    return obstacle;
+  }
+
+  TrackSystem systemOf(const SpanPath& path) const {
+    return graph_.edges[path.parts.front().edge].definition->system;
+  }
+
+  /// Puts piers into spans that are too long. Whether any found a place.
+  bool fill(const std::vector<SpanPath>& paths) {
+    bool any = false;
+    std::set<std::size_t> touched;
+    for (const SpanPath& path : paths) {
+      const auto known = [&](const SpanPath::Part& part) { return touched.contains(part.edge); };
+      if (path.length() <= longestSpan(systemOf(path)) || std::ranges::any_of(path.parts, known))
+        continue;
+      for (const SpanPath::Part& part : path.parts)
+        touched.insert(part.edge);
+      any = fill(path) || any;
+    }
+    return any;
+  }
+
+  bool fill(const SpanPath& path) {
+    const TrackSystem system = systemOf(path);
+    const double longest = longestSpan(system);
+    const double step = kStepShare * scaleOf(system);
+    const double least = pierSize(system).along;
+    bool any = false;
+    double done = 0;
+    for (double left = path.length(); left > longest; left = path.length() - done) {
+      const double want = done + left / std::ceil(left / longest);
+      std::optional<double> found;
+      for (double off = 0; !found && off < longest; off += step)
+        for (const double at : {want - off, want + off})
+          if (!found && at > done + least && at < done + left - least && pierAt(path, at))
+            found = at;
+      any = any || found;
+      done = found ? *found : done + longest;
+    }
+    return any;
+  }
+
+  /// So far along a path, if a pier can carry the track there.
+  bool pierAt(const SpanPath& path, double at) {
+    for (const SpanPath::Part& part : path.parts) {
+      if (at > part.length()) {
+        at -= part.length();
+        continue;
+      }
+      const SpanEdge& edge = graph_.edges[part.edge];
+      const std::int32_t carried[] = {edge.piece};
+      const double along = part.from < part.to ? part.from + at : part.from - at;
+      return edge.bridge == BridgeKind::None && edge.raised &&
+             pierOn(part.edge, along, edge.definition->system, carried) == PierObstacle::None;
+    }
+    return false;
+  }
+
+  SupportSpan spanOf(const SpanPath& path) const {
+    SupportSpan span;
+    span.length = path.length();
+    double onBridge = 0;
+    for (const SpanPath::Part& part : path.parts) {
+      const SpanEdge& edge = graph_.edges[part.edge];
+      span.pieces.push_back(edge.piece);
+      if (edge.bridge != BridgeKind::None) {
+        span.bridge = edge.bridge;
+        onBridge += part.length();
+      }
+    }
+    const double longest = longestSpan(systemOf(path));
+    if (span.length > longest)
+      span.reason = onBridge > longest ? SupportSpan::Reason::Bridge : reasonOf(path.obstacle);
+    return span;
+  }
+
+  /// Turntables stand on four piers.
+  void holdTurntable(const PlacedPiece& piece) {
+    const PieceDef* definition = definitionOf(piece);
+    if (definition == nullptr || definition->kind != PieceKind::Turntable)
+      return;
+    const Ground ground = grounds_.below({piece.x, piece.y}, piece.z);
+    if (ground.kind == GroundKind::None || piece.z - ground.height <= kRaised)
+      return;
+    const std::int32_t carried[] = {piece.id};
+    for (const double turn : {45, 135, 225, 315}) {
+      const Point at =
+          toWorld({piece.x, piece.y, piece.heading + turn}, {definition->radius / 2, 0});
+      tryPier({at.x, at.y, normaliseHeading(piece.heading + turn)}, piece.z, definition->system,
+              carried);
+    }
+  }
+
+  void hangHelix(const Helix& record) {
+    const std::optional<HelixPlan> helix = planOfHelix(layout_, record);
+    if (!helix)
+      return;
+    std::vector<std::int32_t> own;
+    for (const PlacedPiece& piece : layout_.pieces())
+      if (piece.helix == record.id)
+        own.push_back(piece.id);
+    const TrackSystem system = helix->kit->system;
+    const auto beside = [&](const PieceDef& curve) {
+      return std::max(halfFreeWidth(system), trackHalfWidth(system)) +
+             sideAddition(system, curve.radius) + kRodSize;
+    };
+    for (int i = 0; i < kRods; ++i) {
+      const double turn = 360.0 / kRods * (i + 0.5);
+      rodAt(*helix, own, helix->kit->outermost().radius + beside(helix->kit->outermost()), turn);
+      rodAt(*helix, own, helix->kit->inner->radius - beside(*helix->kit->inner), turn);
+    }
+  }
+
+  void rodAt(const HelixPlan& helix, const std::vector<std::int32_t>& own, double radius,
+             double turn) {
+    for (int move = 0; move <= 2 * kRodMoves; ++move) {
+      const double aside = (move % 2 == 0 ? 1 : -1) * kRodTurn * ((move + 1) / 2);
+      const Pose spoke{helix.centre.x, helix.centre.y, helix.centre.heading + turn + aside};
+      const Point at = toWorld(spoke, {radius, 0});
+      const Ground ground = grounds_.below(at, helix.height);
+      const double head = helix.height + helix.climb() + kRodTop * scaleOf(helix.kit->system);
+      const Pose pose{at.x, at.y, normaliseHeading(spoke.heading)};
+      if (ground.kind == GroundKind::None ||
+          room_.obstacleAt({pose, kRodSize, kRodSize, ground.height, head}, own) !=
+              PierObstacle::None)
+        continue;
+      plan_.supports.push_back(
+          {SupportKind::Rod, own.front(), pose, ground.height, head, kRodSize, kRodSize, ground});
+      return;
+    }
+  }
+
+  const Layout& layout_;
+  Grounds grounds_;
+  PierRoom room_;
+  SpanGraph graph_;
+  SupportPlan plan_;
+};
+
+} // namespace
+
+PierSize pierSize(TrackSystem system) {
+  const Footprint size = findScenery("br.pier")->footprint(system);
+  return {size.depth, size.width}; // the item's width lies across the track
+}
+
+double longestSpan(TrackSystem system) {
+  switch (gaugeOf(system)) {
+  case Gauge::Z:
+    return 140;
+  case Gauge::Gauge1:
+    return 980;
+  case Gauge::H0:
+    break;
+  }
+  return kH0Span;
+}
+
+SupportPlan supportsOf(const Layout& layout) {
+  return Planner(layout).run();
+}
+
+} // namespace trassix
