@@ -72,6 +72,14 @@ bool isHill(const Shape& shape) {
   return shape.height > 0 && !shape.outline && shape.points.size() >= 3;
 }
 
+Hill hillOf(const Layout& layout, const Shape& shape) {
+  Hill hill = makeHill(shape.points, layout.levelHeight(shape.level), shape.height,
+                       kSideShare * shape.height);
+  hill.shape = shape.id;
+  hill.level = shape.level;
+  return hill;
+}
+
 Grounds::Grounds(const Layout& layout) {
   const PlanSettings& settings = layout.settings();
   if (settings.baseboard.size() >= 3)
@@ -82,12 +90,8 @@ Grounds::Grounds(const Layout& layout) {
       plates_.push_back({level.id, level.height, level.outline});
   }
   for (const Shape& shape : layout.content().shapes)
-    if (isHill(shape)) {
-      hills_.push_back(makeHill(shape.points, layout.levelHeight(shape.level), shape.height,
-                                kSideShare * shape.height));
-      hills_.back().shape = shape.id;
-      hills_.back().level = shape.level;
-    }
+    if (isHill(shape))
+      hills_.push_back(hillOf(layout, shape));
 }
 
 Ground Grounds::below(Point at, double height) const {

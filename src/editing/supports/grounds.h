@@ -40,8 +40,9 @@ struct Hill {
 /// A hill of this outline, its top standing back by at most `run`, as far as the outline has room.
 Hill makeHill(const Polygon& foot, double base, double rise, double run);
 
-/// Whether a shape is a hill rather than painted ground.
+/// Whether a shape is a hill rather than painted ground, and the hill that it is.
 bool isHill(const Shape& shape);
+Hill hillOf(const Layout& layout, const Shape& shape);
 
 class Grounds {
  public:

@@ -1,0 +1,161 @@
+#include "view3d/scene/ground_mesh.h"
+
+#include "document/layout.h"
+#include "document/plan_content.h"
+#include "editing/elevation/crossings.h"
+#include "editing/elevation/end_heights.h"
+#include "editing/selection/content_box.h"
+#include "editing/track/connector_geometry.h"
+#include "editing/tunnels/tunnel_figures.h"
+#include "editing/tunnels/tunnel_outline.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace trassix {
+
+namespace {
+
+constexpr Color kBoardTop{156, 163, 128};
+constexpr Color kWood{190, 160, 118};
+constexpr Color kPlywood{206, 182, 142};
+constexpr Color kGrass{120, 142, 84};
+constexpr Color kRock{132, 124, 108};
+
+constexpr double kBoardThickness = 16; // mm
+constexpr double kPlateThickness = 10;
+constexpr double kFrameDepth = 80;
+constexpr double kFrameInset = 12;
+constexpr double kLegLength = 700;
+constexpr double kLegSize = 40;
+constexpr double kBesideTrack = 100; // of board where a plan has none
+constexpr double kPaint = 0.3;       // mm that painted ground lies above what it is painted on
+constexpr double kLayer = 0.06;      // mm from one layer of it to the next
+constexpr int kLayers = 20;
+constexpr double kLineWidth = 2;
+constexpr double kHillAbove = 25;   // mm above the opening of a tunnel
+constexpr double kTunnelSide = 0.2; // of the rise, by which the sides of such a hill lean
+
+Polygon inScene(const Polygon& plan) {
+  Polygon scene;
+  for (const Point p : plan)
+    scene.push_back({p.x, -p.y});
+  return scene;
+}
+
+void addLegs(MeshBuilder& builder, const Polygon& corners) {
+  for (const Point at : corners)
+    builder.box({at.x - kLegSize / 2, at.y - kLegSize / 2, -kBoardThickness - kLegLength},
+                {at.x + kLegSize / 2, at.y + kLegSize / 2, -kBoardThickness}, shaded(kWood, 0.85));
+}
+
+/// A line along an outline that is only drawn.
+void addLine(MeshBuilder& builder, const Polygon& outline, double z, Color color) {
+  for (std::size_t i = 0; i < outline.size(); ++i) {
+    const Point a = outline[i];
+    const Point b = outline[(i + 1) % outline.size()];
+    builder.bar({a.x, a.y, z}, {b.x, b.y, z}, kLineWidth, color);
+  }
+}
+
+} // namespace
+
+bool isWater(const Shape& shape) {
+  constexpr int kClearly = 24;
+  return !shape.outline && shape.color.b > shape.color.r + kClearly &&
+         shape.color.b > shape.color.g + kClearly / 3;
+}
+
+Polygon boardOutline(const Layout& layout) {
+  if (layout.settings().baseboard.size() >= 3)
+    return layout.settings().baseboard;
+  const std::optional<Box> box = contentBox(layout);
+  if (!box)
+    return {};
+  const auto low = [](double at) { return (std::floor(at / kBesideTrack) - 1) * kBesideTrack; };
+  const auto high = [](double at) { return (std::ceil(at / kBesideTrack) + 1) * kBesideTrack; };
+  return {{low(box->minX), low(box->minY)},
+          {high(box->maxX), low(box->minY)},
+          {high(box->maxX), high(box->maxY)},
+          {low(box->minX), high(box->maxY)}};
+}
+
+void addBoard(Mesh& mesh, const Polygon& plan) {
+  if (plan.empty())
+    return;
+  const Polygon outline = inScene(plan);
+  MeshBuilder builder(mesh);
+  builder.prism(outline, -kBoardThickness, 0, kWood, kBoardTop);
+  builder.area(outline, -kBoardThickness, shaded(kWood, 0.7), false);
+  const Hill frame = makeHill(outline, 0, 1, kFrameInset);
+  builder.skirt(frame.top, -kBoardThickness - kFrameDepth, frame.top, -kBoardThickness,
+                shaded(kWood, 0.92));
+  addLegs(builder, makeHill(outline, 0, 1, kFrameInset + kLegSize).top);
+}
+
+void addPlate(Mesh& mesh, const Level& level) {
+  if (level.outline.size() < 3)
+    return;
+  MeshBuilder builder(mesh);
+  const Polygon outline = inScene(level.outline);
+  const Color top = mixed(kBoardTop, kPlywood, 0.35);
+  if (std::abs(level.height) < kPaint) // it is the board, with another colour
+    return builder.area(outline, level.height + kPaint / 2, top);
+  builder.prism(outline, level.height - kPlateThickness, level.height, kPlywood, top);
+  builder.area(outline, level.height - kPlateThickness, shaded(kPlywood, 0.75), false);
+}
+
+void addShape(Mesh& mesh, const Layout& layout, const Shape& shape, int layer) {
+  if (shape.points.size() < 3)
+    return;
+  const double base = layout.levelHeight(shape.level);
+  if (isHill(shape) && !isWater(shape))
+    return addHill(mesh, hillOf(layout, shape), shape.color);
+  MeshBuilder builder(mesh);
+  const double z = base + (isHill(shape) ? shape.height : 0) + kPaint + kLayer * (layer % kLayers);
+  const Polygon outline = inScene(shape.points);
+  if (shape.outline)
+    return addLine(builder, outline, z, shape.color);
+  if (isWater(shape))
+    builder.setMaterial(Material::Glossy);
+  const Color color = mixed(kBoardTop, shape.color, shape.a / 255.0);
+  if (isHill(shape))
+    builder.prism(outline, base, z, shaded(color, 0.8), color);
+  else
+    builder.area(outline, z, color);
+}
+
+std::optional<Hill> tunnelHill(const Layout& layout, const Grounds& grounds, const Tunnel& tunnel) {
+  const Polygon foot = hillOver(layout, tunnel);
+  if (foot.size() < 3)
+    return std::nullopt;
+  double low = 1e9;
+  double high = -1e9;
+  for (const std::int32_t id : tunnel.covers) {
+    const PlacedPiece* piece = layout.findPiece(id);
+    const PieceDef* definition = piece == nullptr ? nullptr : definitionOf(*piece);
+    if (definition == nullptr)
+      continue;
+    const double opening = openingOf(definition->system, TunnelOpening::WithWire, 1).height +
+                           railTop(definition->system);
+    for (std::int32_t end = 0; end < static_cast<std::int32_t>(definition->connectors.size());
+         ++end) {
+      const double height = endHeight(*piece, *definition, end);
+      low = std::min(low, height);
+      high = std::max(high, height + opening + kHillAbove);
+    }
+  }
+  const double base = std::min(grounds.below(foot.front(), low).height, low);
+  return makeHill(foot, base, high - base, kTunnelSide * (high - base));
+}
+
+void addHill(Mesh& mesh, const Hill& hill, Color color) {
+  MeshBuilder builder(mesh);
+  const Polygon foot = inScene(hill.foot);
+  const Polygon top = inScene(hill.top);
+  const Color green = color == Color{} ? kGrass : color;
+  builder.skirt(foot, hill.base, top, hill.base + hill.rise, mixed(green, kRock, 0.35));
+  builder.area(top, hill.base + hill.rise, green);
+}
+
+} // namespace trassix
