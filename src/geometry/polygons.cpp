@@ -55,6 +55,16 @@ bool edgeTouches(Point a, Point b, const Box& box) {
 
 } // namespace
 
+double signedArea(const Polygon& polygon) {
+  double twice = 0;
+  for (std::size_t i = 0; i < polygon.size(); ++i) {
+    const Point a = polygon[i];
+    const Point b = polygon[(i + 1) % polygon.size()];
+    twice += a.x * b.y - a.y * b.x;
+  }
+  return twice / 2;
+}
+
 bool inside(const Polygon& polygon, Point at) {
   bool in = false;
   anyEdge(polygon, [&](Point a, Point b) {

@@ -11,6 +11,9 @@ namespace trassix {
 /// Corners of a closed area; the last one is joined to the first.
 using Polygon = std::vector<Point>;
 
+/// In mm2, positive for corners that turn from +x towards +y.
+double signedArea(const Polygon& polygon);
+
 bool inside(const Polygon& polygon, Point at);
 Point nearestOnEdge(Point at, Point a, Point b);
 double distanceToEdge(Point at, Point a, Point b);

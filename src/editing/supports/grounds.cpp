@@ -14,16 +14,6 @@ constexpr double kTouch = 1;        // mm by which what lies on a ground may lie
 constexpr double kSideShare = 0.45; // run of a hill's side by its rise
 constexpr int kNarrowings = 5;      // of the side where an outline has little room
 
-double signedArea(const Polygon& polygon) {
-  double twice = 0;
-  for (std::size_t i = 0; i < polygon.size(); ++i) {
-    const Point a = polygon[i];
-    const Point b = polygon[(i + 1) % polygon.size()];
-    twice += a.x * b.y - a.y * b.x;
-  }
-  return twice / 2;
-}
-
 /// Corner by corner set back from both of its edges; empty where that turns the outline over.
 Polygon setBack(const Polygon& outline, double by) {
   const double side = signedArea(outline) > 0 ? by : -by;
@@ -70,6 +60,12 @@ Hill makeHill(const Polygon& foot, double base, double rise, double run) {
 
 bool isHill(const Shape& shape) {
   return shape.height > 0 && !shape.outline && shape.points.size() >= 3;
+}
+
+bool isWater(const Shape& shape) {
+  constexpr int kClearly = 24;
+  return !shape.outline && shape.color.b > shape.color.r + kClearly &&
+         shape.color.b > shape.color.g + kClearly / 3;
 }
 
 Hill hillOf(const Layout& layout, const Shape& shape) {

@@ -44,6 +44,9 @@ Hill makeHill(const Polygon& foot, double base, double rise, double run);
 bool isHill(const Shape& shape);
 Hill hillOf(const Layout& layout, const Shape& shape);
 
+/// Whether a shape is filled mainly blue, which is water: flat and glossy.
+bool isWater(const Shape& shape);
+
 class Grounds {
  public:
   explicit Grounds(const Layout& layout);

@@ -197,9 +197,9 @@ void addStation(const SceneryKit& kit) {
   for (const Facade& wall : wallsOf(kit.w, d, 0, eaves, kit.look.storeys > 2 ? 2 : 1))
     addWindows(kit, wall);
   addRoof(wing, {kit.w - 6 * kit.u, d, eaves, kit.h * 0.62, 3 * kit.u, true});
-  // The awning towards the platform.
-  kit.b.box({-kit.w * 0.42, kit.d / 2 - 14 * kit.u, 26 * kit.u},
-            {kit.w * 0.42, kit.d / 2, 28 * kit.u}, kSteel, {120, 110, 100});
+  for (const double side : {-1.0, 1.0}) // awnings, since either side may be the platform's
+    kit.b.box({-kit.w * 0.42, side > 0 ? d / 2 : -kit.d / 2, 26 * kit.u},
+              {kit.w * 0.42, side > 0 ? kit.d / 2 : -d / 2, 28 * kit.u}, kSteel, {120, 110, 100});
 }
 
 void addShelter(const SceneryKit& kit) {
@@ -287,29 +287,29 @@ void addSawTooth(const SceneryKit& kit) {
 }
 
 void addRoundhouse(const SceneryKit& kit) {
-  // The doors are the narrow side, towards the turntable.
+  // The doors are the narrow side, towards the turntable, at the back of the footprint.
   const double front = kit.w * 0.55 / 2;
   const double back = kit.w / 2;
   const double y = kit.d / 2;
   const double eaves = kit.h * 0.78;
-  const Polygon plan{{-front, -y}, {front, -y}, {back, y}, {-back, y}};
+  const Polygon plan{{front, y}, {-front, y}, {-back, -y}, {back, -y}};
   kit.b.skirt(plan, 0, plan, eaves, kit.look.wall);
-  const Polygon ridge{{-front * 0.8, -y * 0.2},
-                      {front * 0.8, -y * 0.2},
-                      {back * 0.62, y * 0.45},
-                      {-back * 0.62, y * 0.45}};
+  const Polygon ridge{{front * 0.8, y * 0.2},
+                      {-front * 0.8, y * 0.2},
+                      {-back * 0.62, -y * 0.45},
+                      {back * 0.62, -y * 0.45}};
   kit.b.skirt(plan, eaves, ridge, kit.h * 0.94, kit.look.roof);
   kit.b.area(ridge, kit.h * 0.94, shaded(kit.look.roof, 0.85));
   const int stalls = 3;
-  const Facade doors{{-front, -y, 0}, {1, 0, 0}, 2 * front, eaves, 1};
+  const Facade doors{{front, y, 0}, {-1, 0, 0}, 2 * front, eaves, 1};
   for (int i = 0; i < stalls; ++i) {
     const double width = 2 * front / stalls;
     addPatch(kit, doors, width * (i + 0.12), width * (i + 0.88), 0, eaves * 0.85, {66, 84, 70},
              0.8 * kit.u);
     const double x = back * 1.2 * ((i + 0.5) / stalls - 0.5);
-    kit.b.box({x - 3 * kit.u, y * 0.05, kit.h * 0.9}, {x + 3 * kit.u, y * 0.15, kit.h}, kSteel);
+    kit.b.box({x - 3 * kit.u, -y * 0.15, kit.h * 0.9}, {x + 3 * kit.u, -y * 0.05, kit.h}, kSteel);
   }
-  addWindows(kit, {{back, y, 0}, {-1, 0, 0}, kit.w, eaves, 1});
+  addWindows(kit, {{-back, -y, 0}, {1, 0, 0}, kit.w, eaves, 1});
 }
 
 void addSignalBox(const SceneryKit& kit) {

@@ -60,12 +60,6 @@ void addLine(MeshBuilder& builder, const Polygon& outline, double z, Color color
 
 } // namespace
 
-bool isWater(const Shape& shape) {
-  constexpr int kClearly = 24;
-  return !shape.outline && shape.color.b > shape.color.r + kClearly &&
-         shape.color.b > shape.color.g + kClearly / 3;
-}
-
 Polygon boardOutline(const Layout& layout) {
   if (layout.settings().baseboard.size() >= 3)
     return layout.settings().baseboard;

@@ -30,7 +30,4 @@ void addShape(Mesh& mesh, const Layout& layout, const Shape& shape, int layer);
 std::optional<Hill> tunnelHill(const Layout& layout, const Grounds& grounds, const Tunnel& tunnel);
 void addHill(Mesh& mesh, const Hill& hill, Color color);
 
-/// Whether a shape is filled mainly blue, which is water: flat and glossy.
-bool isWater(const Shape& shape);
-
 } // namespace trassix

@@ -188,16 +188,6 @@ void MeshBuilder::blob(Vec3 middle, Vec3 radii, int sides, Color color) {
     }
 }
 
-double signedArea(const Polygon& outline) {
-  double twice = 0;
-  for (std::size_t i = 0; i < outline.size(); ++i) {
-    const Point a = outline[i];
-    const Point b = outline[(i + 1) % outline.size()];
-    twice += a.x * b.y - a.y * b.x;
-  }
-  return twice / 2;
-}
-
 std::vector<std::array<std::size_t, 3>> fillOutline(const Polygon& outline) {
   std::vector<std::size_t> left(outline.size());
   for (std::size_t i = 0; i < left.size(); ++i)

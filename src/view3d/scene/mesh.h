@@ -85,9 +85,6 @@ class MeshBuilder {
 /// triangle runs as the outline does. An outline that crosses itself is filled somehow.
 std::vector<std::array<std::size_t, 3>> fillOutline(const Polygon& outline);
 
-/// Twice the area is positive for an outline whose corners run anticlockwise in the scene's frame.
-double signedArea(const Polygon& outline);
-
 /// A colour made lighter (above 1) or darker.
 Color shaded(Color color, double factor);
 Color mixed(Color a, Color b, double share);

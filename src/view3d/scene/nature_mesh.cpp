@@ -141,7 +141,7 @@ void addForest(const SceneryKit& kit) {
               {kit.w / 2, kit.d / 2},
               {-kit.w / 2, kit.d / 2}},
              0.6 * kit.u, {104, 112, 70});
-  const double apart = 36 * kit.u;
+  const double apart = (kit.fine ? 36 : 60) * kit.u;
   const int columns = std::clamp(static_cast<int>(kit.w / apart), 1, 12);
   const int rows = std::clamp(static_cast<int>(kit.d / apart), 1, 12);
   SceneryKit far = kit;

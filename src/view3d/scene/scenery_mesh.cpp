@@ -18,7 +18,7 @@ constexpr Color kSandstone{190, 164, 128};
 constexpr Color kGrey{166, 162, 156};
 constexpr Color kWood{128, 98, 70};
 constexpr Color kStone{150, 142, 130};
-constexpr Color kTiles{150, 76, 56};
+constexpr Color kTiles{146, 86, 68};
 constexpr Color kSlate{92, 94, 100};
 constexpr Color kFelt{96, 92, 90};
 constexpr Color kAsphalt{104, 103, 101};

@@ -99,6 +99,23 @@ TEST(Supports, KeepOutOfTheWay) {
   }
 }
 
+TEST(Supports, KeepOffRoads) {
+  Layout layout = raised(Plan().place("24188").extend("24188", 2).layout, 100);
+  SceneryItem road;
+  road.id = 9;
+  road.item = "road.main";
+  road.x = 188.3;
+  road.heading = 90;
+  for (const double height : {0.0, 150.0}) { // the road below, and above
+    layout.editSettings().levels[0].height = height;
+    layout.edit().scenery = {road};
+    double nearest = 1e9;
+    for (const Support& support : supportsOf(layout).supports)
+      nearest = std::min(nearest, std::abs(support.pose.x - 188.3));
+    EXPECT_NEAR(nearest, height > 0 ? 0 : 75 / 2 + 35 / 2, height > 0 ? 1e-6 : 6);
+  }
+}
+
 TEST(Supports, RandomPlansOnTwoLevels) {
   std::mt19937 random(18);
   const auto pick = [&](unsigned count) { return static_cast<int>(random() % count); };

@@ -2,6 +2,7 @@
 #include "document/plan_content.h"
 #include "editing/elevation/end_heights.h"
 #include "editing/track/routes.h"
+#include "support/loose_records.h"
 #include "support/plan.h"
 #include "support/random_plan.h"
 #include "view3d/scene/glb_writer.h"
@@ -66,6 +67,7 @@ void expectSound(const Scene& scene) {
 }
 
 TEST(Scene, EveryPieceIsBuiltWithItsRailsAtTheHeightsOfItsEnds) {
+  std::size_t seenFromAfar = 0;
   for (const PieceDef& definition : wholeCatalogue()) {
     SCOPED_TRACE(definition.article);
     Layout layout = Plan().place(definition.article, {300, -200, 33}).layout;
@@ -90,10 +92,14 @@ TEST(Scene, EveryPieceIsBuiltWithItsRailsAtTheHeightsOfItsEnds) {
     for (const Route& route : routesOf(definition))
       way += routeLength(route);
     EXPECT_LE(static_cast<double>(mesh.triangles()), 1500 * std::max(1.0, way / 180));
+    for (const auto& [key, batch] : scene.batches)
+      seenFromAfar += key.group == SceneGroup::Board ? 0 : batch.coarse.triangles();
   }
+  EXPECT_LT(seenFromAfar, 130 * wholeCatalogue().size()); // and 240 for an item
 }
 
 TEST(Scene, EverySceneryItemFillsItsFootprint) {
+  std::size_t seenFromAfar = 0; // 2000 pieces and 500 items stay below 400,000
   for (const char* track : {"24188", "8500", "59059"})
     for (const SceneryDef& definition : sceneryItems()) {
       SCOPED_TRACE(std::string(definition.key) + " beside " + track);
@@ -117,7 +123,9 @@ TEST(Scene, EverySceneryItemFillsItsFootprint) {
         EXPECT_GE(batch.most.y - batch.least.y, 0.5 * size.width);
       }
       EXPECT_GT(batch.fine.triangles(), 10U) << "a plain box";
+      seenFromAfar += batch.coarse.triangles();
     }
+  EXPECT_LT(seenFromAfar, 240 * 3 * sceneryItems().size());
 }
 
 TEST(Scene, UnknownThingsAreMarkedAndGroundsSound) {
@@ -156,6 +164,79 @@ TEST(SceneKeeper, MakesAnewOnlyWhatLooksDifferent) {
   }
   layout.editSettings().levels[0].visible = false;
   EXPECT_FALSE(keeper.update(layout).any());
+}
+
+TEST(SceneKeeper, ComesToTheSameAsASceneMadeAnew) {
+  Layout layout = test::randomPlan(18, 40);
+  SceneKeeper keeper;
+  const std::function<void(PlanContent&)> edits[] = {
+      [](PlanContent& c) { c.pieces[3].z += 40; },
+      [](PlanContent& c) { c.pieces.erase(c.pieces.begin()); }, // perhaps with the plan's gauge
+      [](PlanContent& c) {
+        c.shapes.push_back(test::shapeOf(9001, {{-900, -900}, {900, -900}, {0, 900}}, 1, 50));
+      },
+      [](PlanContent& c) { c.scenery[0].x += 10; },
+      [](PlanContent& c) { c.shapes.clear(); },
+      [](PlanContent& c) { c.tunnels.clear(); },
+      [](PlanContent& c) { c.labels.clear(); },
+      [](PlanContent& c) { std::ranges::reverse(c.pieces); },
+  };
+  const auto compare = [&](const std::string& when) {
+    keeper.update(layout);
+    const Scene whole = sceneOf(layout);
+    EXPECT_EQ(whole.labels, keeper.scene().labels) << when;
+    ASSERT_EQ(whole.batches.size(), keeper.scene().batches.size()) << when;
+    for (const auto& [key, batch] : whole.batches) {
+      ASSERT_TRUE(keeper.scene().batches.contains(key)) << when;
+      EXPECT_EQ(batch.fine, keeper.scene().batches.at(key).fine) << when << " " << key.id;
+    }
+  };
+  for (std::size_t i = 0; i < std::size(edits); ++i) {
+    layout.pushHistory();
+    edits[i](layout.edit());
+    compare("after edit " + std::to_string(i));
+  }
+  while (layout.undo())
+    compare("after undo");
+  layout.editSettings().levels[0].height += 30;
+  compare("with a level lifted");
+  layout.editSettings().baseboard.clear();
+  compare("without a board");
+}
+
+TEST(Scene, SceneryStandsOnWhatIsBelowIt) {
+  Layout layout = Plan().place("24188").layout;
+  layout.editPiece(1)->z = 25;
+  layout.ensureLevel(2);
+  layout.editSettings().levels.back().height = 120;
+  PlanContent& content = layout.edit();
+  content.shapes = {test::shapeOf(5, {{900, 0}, {1300, 0}, {1300, 400}, {900, 400}}, 1, 60)};
+  const std::tuple<Point, std::int32_t, double> cases[] = {
+      {{500, 500}, 1, 0},    {{500, 500}, 2, 120}, {{1100, 200}, 1, 60},
+      {{1100, 200}, 2, 120}, {{0, 0}, 1, 25}, // the portal of the tunnel
+  };
+  for (const auto& [at, level, height] : cases) {
+    SceneryItem item;
+    item.id = 20 + static_cast<std::int32_t>(content.scenery.size());
+    item.item = "tun.single";
+    item.x = at.x;
+    item.y = at.y;
+    item.level = level;
+    content.scenery.push_back(item);
+  }
+  Tunnel tunnel;
+  tunnel.id = 8;
+  tunnel.portalA = 24;
+  tunnel.anchorA = 1;
+  tunnel.covers = {1};
+  content.tunnels = {tunnel};
+  const Scene scene = sceneOf(layout);
+  for (std::size_t i = 0; i < std::size(cases); ++i)
+    EXPECT_NEAR(
+        scene.batches.at({SceneGroup::Scenery, RecordKind::Scenery, content.scenery[i].id}).least.z,
+        std::get<2>(cases[i]), 1e-3);
+  const SceneBatch& hill = scene.batches.at({SceneGroup::Ground, RecordKind::Tunnel, 8});
+  EXPECT_NEAR(hill.most.z, 25 + 10 + 72 + 25, 1e-3); // track, rails, opening, and hill above it
 }
 
 TEST(Scene, RaysMeetWhatTheyPointAt) {
