@@ -32,8 +32,8 @@ bool anyRaised(const SpanEdge& edge, const Grounds& grounds) {
 
 class Walk {
  public:
-  Walk(const SpanGraph& graph, double longest, std::vector<SpanPath>& found)
-      : graph_(graph), longest_(longest), found_(found) {}
+  Walk(const SpanGraph& graph, TrackSystem system, std::vector<SpanPath>& found)
+      : graph_(graph), farthest_(kFollowed * longestSpan(system)), found_(found) {}
 
   /// From a place on an edge towards one of its ends.
   void go(std::size_t edge, double along, bool onwards) {
@@ -66,7 +66,7 @@ class Walk {
       if (graph_.edges[link.edge].piece == graph_.edges[part.edge].piece)
         continue;
       ends = false;
-      if (path_.length() > kFollowed * longest_ || passed(link.edge))
+      if (path_.length() > farthest_ || passed(link.edge))
         keep();
       else
         go(link.edge, link.end == 0 ? 0 : graph_.edges[link.edge].length(), link.end == 0);
@@ -105,7 +105,7 @@ class Walk {
   }
 
   const SpanGraph& graph_;
-  double longest_;
+  double farthest_;
   std::vector<SpanPath>& found_;
   SpanPath path_;
 };
@@ -134,7 +134,6 @@ SpanGraph::SpanGraph(const Layout& layout, const Grounds& grounds) {
       SpanEdge edge;
       edge.piece = piece.id;
       edge.definition = definition;
-      edge.route = &route;
       edge.frame = poseOf(piece);
       edge.line = sampleRoute(route, kChordPlay, kSampleStep);
       edge.from = endHeight(piece, *definition, route.from);
@@ -178,12 +177,12 @@ std::size_t SpanGraph::jointAt(const Layout& layout, const PlacedPiece& piece,
   return joints.size() - 1;
 }
 
-std::vector<SpanPath> SpanGraph::paths(double longest) const {
+std::vector<SpanPath> SpanGraph::paths() const {
   std::vector<SpanPath> found;
   for (std::size_t i = 0; i < edges.size(); ++i) {
     const SpanEdge& edge = edges[i];
     std::vector<SpanPath> here; // what reaches a support is found from there as well
-    Walk walk(*this, longest, here);
+    Walk walk(*this, edge.definition->system, here);
     if (joints[edge.joints[0]].held)
       walk.go(i, 0, true);
     if (joints[edge.joints[1]].held)
@@ -196,7 +195,38 @@ std::vector<SpanPath> SpanGraph::paths(double longest) const {
       if (!path.reaches || path.parts.back().edge >= i)
         found.push_back(std::move(path));
   }
+  addUnheld(found);
   return found;
+}
+
+void SpanGraph::addUnheld(std::vector<SpanPath>& paths) const {
+  std::vector<bool> known(edges.size());
+  for (const SpanPath& path : paths)
+    for (const SpanPath::Part& part : path.parts)
+      known[part.edge] = true;
+  for (std::size_t first = 0; first < edges.size(); ++first) {
+    if (known[first] || !edges[first].raised || !edges[first].stops.empty())
+      continue;
+    SpanPath path;
+    path.unheld = true;
+    std::vector<std::size_t> open{first};
+    known[first] = true;
+    while (!open.empty()) {
+      const std::size_t edge = open.back();
+      open.pop_back();
+      path.parts.push_back({edge, 0, edges[edge].length()});
+      for (const std::size_t end : edges[edge].joints) {
+        if (path.obstacle == PierObstacle::None)
+          path.obstacle = joints[end].obstacle;
+        for (const SpanJoint::Link& link : joints[end].links)
+          if (!known[link.edge] && edges[link.edge].raised && edges[link.edge].stops.empty()) {
+            known[link.edge] = true;
+            open.push_back(link.edge);
+          }
+      }
+    }
+    paths.push_back(std::move(path));
+  }
 }
 
 void SpanGraph::addStop(std::size_t edge, double along) {

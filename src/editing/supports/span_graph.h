@@ -35,7 +35,6 @@ struct SpanJoint {
 struct SpanEdge {
   std::int32_t piece = -1;
   const PieceDef* definition = nullptr;
-  const Route* route = nullptr;
   Pose frame;
   std::vector<RoutePoint> line;
   std::array<std::size_t, 2> joints{};
@@ -62,6 +61,7 @@ struct SpanPath {
   std::vector<Part> parts;
   PierObstacle obstacle = PierObstacle::None; ///< the first that kept a pier from a joint on it
   bool reaches = false;                       ///< another support, not only an open end
+  bool unheld = false;                        ///< nothing holds it anywhere
 
   double length() const;
 };
@@ -72,14 +72,16 @@ struct SpanGraph {
 
   SpanGraph(const Layout& layout, const Grounds& grounds);
 
-  /// Every stretch between neighbouring supports, once. None is followed for more than three times
-  /// `longest`.
-  std::vector<SpanPath> paths(double longest) const;
+  /// Every raised stretch between neighbouring supports, once. Track that has none for far too long
+  /// is not followed any farther: what is left of it comes in one path for each part that hangs
+  /// together.
+  std::vector<SpanPath> paths() const;
 
   /// Puts a support between the ends of an edge, and of the others of its piece that run there.
   void addStop(std::size_t edge, double along);
 
  private:
+  void addUnheld(std::vector<SpanPath>& paths) const;
   std::size_t jointAt(const Layout& layout, const PlacedPiece& piece, const PieceDef& definition,
                       std::int32_t connector, const Grounds& grounds);
 

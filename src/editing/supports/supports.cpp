@@ -49,9 +49,9 @@ class Planner {
     for (SpanJoint& joint : graph_.joints)
       if (joint.raised)
         holdJoint(joint);
-    std::vector<SpanPath> paths = graph_.paths(kFollowedSpan);
+    std::vector<SpanPath> paths = graph_.paths();
     for (int round = 0; round < kRounds && fill(paths); ++round)
-      paths = graph_.paths(kFollowedSpan);
+      paths = graph_.paths();
     for (const SpanPath& path : paths)
       plan_.spans.push_back(spanOf(path));
     for (const PlacedPiece& piece : layout_.pieces())
@@ -62,8 +62,6 @@ class Planner {
   }
 
  private:
-  static constexpr double kFollowedSpan = 980; ///< the longest of all gauges
-
   static double scaleOf(TrackSystem system) { return longestSpan(system) / kH0Span; }
 
   /// Puts a pier there if one has room, narrow if need be, and returns what is in the way.
@@ -191,7 +189,7 @@ class Planner {
       }
     }
     const double longest = longestSpan(systemOf(path));
-    if (span.length > longest)
+    if (span.length > longest || path.unheld)
       span.reason = onBridge > longest ? SupportSpan::Reason::Bridge : reasonOf(path.obstacle);
     return span;
   }

@@ -135,7 +135,7 @@ class TrackBuilder {
  public:
   TrackBuilder(Mesh& mesh, const Layout& layout, const PlacedPiece& piece,
                const PieceDef& definition, Detail detail)
-      : mesh_(mesh), builder_(mesh, frameAt(poseOf(piece), 0)), layout_(layout), piece_(piece),
+      : mesh_(mesh), builder_(mesh, frameAt(poseOf(piece), 0)), piece_(piece),
         definition_(definition), section_(trackSection(definition.system)),
         scale_(section_.gauge / trackGauge(TrackSystem::CTrack)), detail_(detail),
         bed_(bedColor(layout, piece, definition.system)) {}
@@ -282,7 +282,6 @@ class TrackBuilder {
 
   Mesh& mesh_;
   MeshBuilder builder_;
-  const Layout& layout_;
   const PlacedPiece& piece_;
   const PieceDef& definition_;
   TrackSection section_;

@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <random>
+#include <set>
 #include <tuple>
 
 namespace trassix {
@@ -97,6 +98,25 @@ TEST(Supports, KeepOutOfTheWay) {
     EXPECT_LE(nearest, moved + 6);
     EXPECT_EQ(unexplained(plan, 360), 0U);
   }
+}
+
+TEST(Supports, TrackOverTrackAllTheWayIsListed) {
+  Layout layout = Plan().place("24188").extend("24611").extend("24188").layout;
+  std::vector<PlacedPiece>& pieces = layout.edit().pieces;
+  for (const PlacedPiece& below : std::vector<PlacedPiece>(pieces)) {
+    pieces.push_back(below);
+    pieces.back().id += 3;
+    pieces.back().z = 100;
+    for (Joint& joint : pieces.back().joints)
+      joint.target += joint.open() ? 0 : 3;
+  }
+  const SupportPlan plan = supportsOf(layout);
+  std::set<std::int32_t> listed;
+  for (const SupportSpan& span : plan.spans)
+    if (span.reason == SupportSpan::Reason::Track)
+      listed.insert(span.pieces.begin(), span.pieces.end());
+  EXPECT_TRUE(plan.supports.empty());
+  EXPECT_THAT(listed, testing::ElementsAre(4, 5, 6));
 }
 
 TEST(Supports, KeepOffRoads) {
