@@ -116,8 +116,10 @@ class Planner {
                       std::span<const std::int32_t> carried) {
     const PierObstacle obstacle = tryPier(graph_.edges[edge].poseAt(along),
                                           graph_.edges[edge].heightAt(along), system, carried);
-    if (obstacle == PierObstacle::None)
+    if (obstacle == PierObstacle::None) {
+      plan_.supports.back().piece = graph_.edges[edge].piece;
       graph_.addStop(edge, along);
+    }
     return obstacle;
   }
 

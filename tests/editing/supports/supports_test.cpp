@@ -165,6 +165,35 @@ TEST(Supports, RandomPlansOnTwoLevels) {
   EXPECT_LT(20 * listed, spans) << listed;
 }
 
+TEST(Supports, HeadsMeetTheSlopeAboveThem) {
+  Plan plan = Plan().place("24130").extend("24188", 6).extend("24130", 3);
+  double height = 20;
+  for (PlacedPiece& piece : plan.layout.edit().pieces) {
+    lay(piece, layTowards(piece, *definitionOf(piece), 0, 1, height, 0.04));
+    height = endHeight(piece, *definitionOf(piece), 1);
+  }
+  plan.place("24188", {400, -150, 60}); // drives piers aside
+  const SupportPlan supports = supportsOf(plan.layout);
+  EXPECT_GE(supports.supports.size(), 9U);
+  for (const Support& support : supports.supports) {
+    const PlacedPiece& piece = *plan.layout.findPiece(support.piece);
+    const PieceDef& definition = *definitionOf(piece);
+    const std::vector<RoutePoint> line = sampleRoute(routesOf(definition).front(), 0.01, 0.5);
+    double nearest = 1e9;
+    double along = 0;
+    for (const RoutePoint& at : line) {
+      const Point p = toWorld(poseOf(piece), at.position);
+      const double d = std::hypot(p.x - support.pose.x, p.y - support.pose.y);
+      if (d < nearest) {
+        nearest = d;
+        along = at.along;
+      }
+    }
+    EXPECT_LT(nearest, 0.5);
+    EXPECT_NEAR(support.head, endHeight(piece, definition, 0) + along * slopeOf(piece), 0.1);
+  }
+}
+
 TEST(Supports, HelixHangsOnRods) {
   HelixPlan helix{findHelixKit(kDefaultHelixKit), HelixHand::Right, 90, {0, 0, 0}, 0};
   Layout layout;
