@@ -1,5 +1,6 @@
 // Pictures of a plan as the toolkit draws it, against pictures that somebody has looked at.
 #include "document/layout_reader.h"
+#include "document/plan_content.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/canvas/plan_colors.h"
@@ -11,6 +12,7 @@
 #include <wx/dcmemory.h>
 #include <wx/image.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdlib>
@@ -139,19 +141,38 @@ TEST_F(PlanPicture, IsAsItWasAtThreeZooms) {
   }
 }
 
-wxImage shown(trassix::PlanPicture& picture, double scale) {
+wxImage shown(trassix::PlanPicture& picture, double scale, Canvas* overlay = nullptr,
+              bool hurried = false) {
   wxBitmap bitmap;
   bitmap.CreateScaled(kWidth, kHeight, 24, scale);
   {
     wxMemoryDC dc(bitmap);
-    picture.draw(dc, {{kWidth, kHeight}, scale, 1}, false);
+    picture.draw(dc, {{kWidth, kHeight}, scale, 1}, hurried);
+    const bool bodyDrawn = picture.drawBody(dc);
+    const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
+    GcSurface surface(*context, scale);
+    if (overlay)
+      overlay->paintOverlay(surface, !bodyDrawn);
   }
   return bitmap.ConvertToImage();
 }
 
+/// Colours that differ.
+int different(const wxImage& a, const wxImage& b, int alike = 8) {
+  int count = 0;
+  for (int i = 0; i < a.GetWidth() * a.GetHeight() * 3; ++i)
+    count += std::abs(a.GetData()[i] - b.GetData()[i]) > alike ? 1 : 0;
+  return count;
+}
+
 TEST_F(PlanPicture, MovesWithThePlanAsIfDrawnAnew) {
-  for (const double scale : {1.0, 2.0}) {
+  for (const auto& [scale, grades] : {std::pair{1.0, false}, {2.0, false}, {1.0, true}}) {
     CanvasScript script(layout_);
+    for (PlacedPiece& piece : script.host.plan.edit().pieces)
+      piece.grade = piece.id % 7 * 0.6;
+    EditorSwitches switches = script.host.workspace.switches();
+    switches.grades = grades;
+    script.host.workspace.setSwitches(switches);
     script.canvas.resize({kWidth, kHeight});
     script.canvas.view() = ViewTransform::ofScale(0.6, {-350, 40.25});
     trassix::PlanPicture kept(script.canvas);
@@ -166,12 +187,62 @@ TEST_F(PlanPicture, MovesWithThePlanAsIfDrawnAnew) {
       trassix::PlanPicture fresh(script.canvas);
       const wxImage moved = shown(kept, scale);
       const wxImage anew = shown(fresh, scale);
-      const auto bytes = static_cast<std::size_t>(moved.GetWidth() * moved.GetHeight() * 3);
-      int different = 0;
-      for (std::size_t i = 0; i < bytes; ++i)
-        different += std::abs(moved.GetData()[i] - anew.GetData()[i]) > 8 ? 1 : 0;
-      EXPECT_LE(different, 3 * kAllowed);
+      EXPECT_LE(different(moved, anew), 3 * kAllowed);
     }
+  }
+}
+
+TEST_F(PlanPicture, IsScaledFromTheViewThatItHas) {
+  CanvasScript script(layout_);
+  Canvas& canvas = script.canvas;
+  canvas.resize({kWidth, kHeight});
+  canvas.view() = ViewTransform::ofScale(0.6, {-350, 40});
+  trassix::PlanPicture kept(canvas, -1);
+  const auto pictures = [&](double factor, bool selects) {
+    setSelected(script.host.plan, {RecordKind::Piece, 20}, selects);
+    canvas.view().zoomAbout(factor, {kWidth / 2.0, kHeight / 2.0});
+    const wxImage hurried = shown(kept, 1, nullptr, true);
+    trassix::PlanPicture fresh(canvas);
+    const wxImage anew = shown(fresh, 1);
+    return different(hurried.Scale(kWidth / 8, kHeight / 8, wxIMAGE_QUALITY_BOX_AVERAGE),
+                     anew.Scale(kWidth / 8, kHeight / 8, wxIMAGE_QUALITY_BOX_AVERAGE), 30);
+  };
+  constexpr int kBlurred = kWidth / 8 * kHeight / 8 * 3 / 50;
+  EXPECT_EQ(pictures(1, true), 0);
+  EXPECT_LE(pictures(1.1, true), kBlurred);
+  shown(kept, 1);
+  EXPECT_EQ(pictures(1, false), 0);
+  EXPECT_LE(pictures(1.6, false), kBlurred);
+  shown(kept, 1);
+  EXPECT_LE(pictures(1.1, true), kBlurred) << "what was selected at another zoom";
+}
+
+TEST_F(PlanPicture, CarriesAGroupAsIfDrawnAnew) {
+  for (const auto& [scale, zoom, mods] :
+       {std::tuple{1.0, 0.3, kNone}, {2.0, 0.3, kNone}, {1.0, 0.3, kAlt}, {1.0, 6.0, kNone}}) {
+    SCOPED_TRACE(zoom);
+    CanvasScript script(layout_);
+    Canvas& canvas = script.canvas;
+    const PlacedPiece& held = *script.host.plan.findPiece(20);
+    const Point from{held.x, held.y};
+    canvas.resize({kWidth, kHeight});
+    canvas.view() = ViewTransform::ofScale(zoom, {240 - from.x * zoom, 160.25 - from.y * zoom});
+    for (std::int32_t id = 18; id < 24; ++id)
+      setSelected(script.host.plan, {RecordKind::Piece, id}, true);
+    trassix::PlanPicture kept(canvas);
+    script.press(from, mods);
+    std::size_t most = 0;
+    for (const Point px : {Point{20, 0}, {33, 7}, {-90, 20}, {-300, -40}, {12, 31}}) {
+      script.move({from.x + px.x / zoom, from.y + px.y / zoom}, mods);
+      if (px.x == 12)
+        script.wheel(from, 1);
+      trassix::PlanPicture fresh(canvas);
+      EXPECT_LE(different(shown(kept, scale, &canvas), shown(fresh, scale, &canvas)), 200);
+      most = std::max(most, kept.keptPixels());
+    }
+    const auto windows = static_cast<double>(most) / (kWidth * kHeight * scale * scale);
+    EXPECT_LE(windows, 4);
+    EXPECT_EQ(windows > 2, zoom < 1 && mods == kNone);
   }
 }
 

@@ -105,6 +105,7 @@ struct ArticlePlaces::Data {
 
   void start(const Layout& layout);
   const Occupancy& trackIn(Block block);
+  bool offTrack(Point centre, SizePx box, double degrees);
   bool offTrack(const Place& place);
   SizePx sizeOf(const Piece& piece, Surface& surface) const;
   Place placeAt(const Piece& piece, std::size_t attempt, SizePx size) const;
@@ -170,14 +171,17 @@ const Occupancy& ArticlePlaces::Data::trackIn(Block block) {
   return taken;
 }
 
-bool ArticlePlaces::Data::offTrack(const Place& place) {
-  const SizePx slim{place.size.width - 2, place.size.height - 5};
+bool ArticlePlaces::Data::offTrack(Point centre, SizePx box, double degrees) {
   bool free = true;
-  forEachBlock(around(place.at, std::hypot(slim.width, slim.height) / 2), [&](Block block) {
-    const Point at{place.at.x - block.first * kBlockPx, place.at.y - block.second * kBlockPx};
-    free = free && trackIn(block).isFree(at, slim, place.angle);
+  forEachBlock(around(centre, std::hypot(box.width, box.height) / 2), [&](Block block) {
+    const Point at{centre.x - block.first * kBlockPx, centre.y - block.second * kBlockPx};
+    free = free && trackIn(block).isFree(at, box, degrees);
   });
   return free;
+}
+
+bool ArticlePlaces::Data::offTrack(const Place& place) {
+  return offTrack(place.at, {place.size.width - 2, place.size.height - 5}, place.angle);
 }
 
 SizePx ArticlePlaces::Data::sizeOf(const Piece& piece, Surface& surface) const {
@@ -301,6 +305,10 @@ void ArticlePlaces::follow(const Layout& layout, const PlanIndex& index, double 
   data_->zoom = zoom;
   data_->leftOut.assign(leftOut.begin(), leftOut.end());
   data_->start(layout);
+}
+
+bool ArticlePlaces::isOffTrack(Point centre, SizePx box, double degrees) {
+  return data_->offTrack(centre, box, degrees);
 }
 
 void ArticlePlaces::visit(const Box& px, Surface& surface, const Visit& visitor) {

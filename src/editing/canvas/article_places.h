@@ -35,6 +35,9 @@ class ArticlePlaces {
   };
   using Visit = std::function<void(std::size_t position, const Place& place)>;
 
+  /// Whether a box, turned by `degrees`, lies on no track; px from the plan's origin.
+  bool isOffTrack(Point centre, SizePx box, double degrees);
+
   /// Those of pieces near the box (px from the plan's origin), with their positions in the plan, in
   /// its order.
   void visit(const Box& px, Surface& surface, const Visit& visitor);

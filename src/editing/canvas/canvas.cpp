@@ -3,6 +3,7 @@
 #include "editing/canvas/article_places.h"
 #include "editing/canvas/canvas_tools.h"
 #include "editing/canvas/carry_tool.h"
+#include "editing/canvas/grade_painter.h"
 #include "editing/canvas/placing_offer.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/placing/runs.h"
@@ -31,7 +32,8 @@ bool beyondThreshold(Point a, Point b) {
 
 Canvas::Canvas(Workspace& workspace)
     : site_(std::make_unique<ToolSite>(workspace)), articles_(std::make_unique<ArticlePlaces>()),
-      offer_(std::make_unique<PlacingOffer>(*site_)), base_(makeTool(ToolMode::Select, *site_)) {
+      grades_(std::make_unique<GradePlaces>()), offer_(std::make_unique<PlacingOffer>(*site_)),
+      base_(makeTool(ToolMode::Select, *site_)) {
   site_->carry = [this](const Carried& what) { carry(what, last_, false); };
 }
 
@@ -247,6 +249,7 @@ bool Canvas::wantsCapture() const {
 
 void Canvas::startCarry(std::unique_ptr<CarryTool> carry, const PointerInput& at) {
   cancel();
+  ++carries_;
   carry_ = std::move(carry);
   carry_->hover(at);
   afterInput();

@@ -18,6 +18,7 @@ namespace trassix {
 class ArticlePlaces;
 class CanvasTool;
 class CarryTool;
+class GradePlaces;
 class PlacingOffer;
 class PlanPreview;
 class ToolSite;
@@ -92,16 +93,20 @@ class Canvas {
   // every mouse move. `part` is what of it has to be drawn, px.
   void paintPlan(Surface& surface, const Box& part);
   void paintSelection(Surface& surface, const Box& part);
-  void paintOverlay(Surface& surface);
+  void paintOverlay(Surface& surface, bool withBody = true);
   /// Stay the same as long as `paintPlan` would draw the same, and `paintSelection` on it, but for
-  /// the view's origin.
-  std::uint64_t planStamp();
+  /// the view.
+  std::uint64_t contentStamp();
   std::uint64_t selectionStamp();
   bool anySelected() const;
-  /// The same but for the view altogether.
-  std::uint64_t contentStamp();
-  /// Whether parts drawn with the origin at several places make one picture.
-  bool partsFit() const;
+  /// What is carried as one body: `paintBody` draws the same, only elsewhere, as long as `stamp`
+  /// stays the same.
+  struct Body {
+    std::uint64_t stamp = 0;
+    Point at; ///< of a point that goes with it, px
+  };
+  std::optional<Body> body() const;
+  void paintBody(Surface& surface) const;
 
   std::string hint() const;
   /// Tells the window the hint again, after something outside changed what the mouse would do.
@@ -139,6 +144,7 @@ class Canvas {
 
   std::unique_ptr<ToolSite> site_;
   std::unique_ptr<ArticlePlaces> articles_;
+  std::unique_ptr<GradePlaces> grades_;
   std::unique_ptr<PlacingOffer> offer_;
   ViewTransform told_; ///< the view for which the window knows the pointer's place
   std::unique_ptr<CanvasTool> base_;
@@ -146,6 +152,7 @@ class Canvas {
   /// Tools that were put away while one of their functions ran, until it is back.
   std::vector<std::unique_ptr<CanvasTool>> retired_;
   int inputDepth_ = 0;
+  std::uint64_t carries_ = 0; ///< begun so far
   ToolMode mode_ = ToolMode::Select;
   Gesture gesture_ = Gesture::None;
   Button button_ = Button::Left; ///< that began the gesture

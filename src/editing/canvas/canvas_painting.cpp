@@ -7,11 +7,11 @@
 #include "editing/canvas/grade_painter.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/canvas/placing_offer.h"
+#include "editing/canvas/stamp_mixer.h"
 #include "editing/selection/selection.h"
 #include "editing/track/connector_geometry.h"
 #include "host/plan_preview.h"
 
-#include <bit>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -32,6 +32,7 @@ PaintOptions Canvas::paintOptions(const Box& part) const {
   options.selection = switches.grades; // their colours hide any other mark
   options.part = part;
   options.articles = articles_.get();
+  options.gradePlaces = grades_.get();
   return options;
 }
 
@@ -49,13 +50,18 @@ void Canvas::paintSelection(Surface& surface, const Box& part) {
       .paintSelection(site_->layout(), site_->planIndex());
 }
 
-void Canvas::paintOverlay(Surface& surface) {
-  LayoutPainter(surface, site_->size, site_->view, {})
-      .paintScaleBar(site_->layout().settings().units);
+void Canvas::paintOverlay(Surface& surface, bool withBody) {
+  PaintOptions options;
+  options.grades = site_->workspace.switches().grades;
+  LayoutPainter fixed(surface, site_->size, site_->view, options);
+  fixed.paintScaleBar(site_->layout().settings().units);
+  fixed.paintLegend(site_->layout());
   if (const PlanPreview* preview = site_->workspace.preview())
     paintPreview(surface, *preview);
   if (!carry_)
     offer_->paint(surface);
+  if (withBody)
+    paintBody(surface);
   tool().paint(surface);
 }
 
@@ -69,27 +75,8 @@ void Canvas::paintPreview(Surface& surface, const PlanPreview& preview) {
   for (const PlacedPiece& piece : preview.records().pieces)
     if (const PieceDef* definition = definitionOf(piece))
       track.push_back({&piece, definition});
-  GradePainter(surface, site_->size, site_->view, site_->layout()).paintColors(std::move(track));
+  GradePainter(surface, site_->view, site_->layout()).paintColors(std::move(track));
 }
-
-namespace {
-
-/// FNV-1a.
-class StampMixer {
- public:
-  template <class... Values>
-  explicit StampMixer(Values... values) {
-    (add(values), ...);
-  }
-  void add(std::uint64_t value) { stamp_ = (stamp_ ^ value) * 1099511628211U; }
-  void add(double value) { add(std::bit_cast<std::uint64_t>(value)); }
-  std::uint64_t stamp() const { return stamp_; }
-
- private:
-  std::uint64_t stamp_ = 14695981039346656037U;
-};
-
-} // namespace
 
 std::uint64_t Canvas::contentStamp() {
   const EditorSwitches& switches = site_->workspace.switches();
@@ -104,20 +91,31 @@ std::uint64_t Canvas::contentStamp() {
   return mixer.stamp();
 }
 
-std::uint64_t Canvas::planStamp() {
-  return StampMixer(contentStamp(), site_->view.zoom()).stamp();
+std::uint64_t Canvas::selectionStamp() {
+  return StampMixer(contentStamp(), site_->layout().selectionStamp()).stamp();
 }
 
-std::uint64_t Canvas::selectionStamp() {
-  return StampMixer(planStamp(), site_->layout().selectionStamp()).stamp();
+std::optional<Canvas::Body> Canvas::body() const {
+  const std::optional<CarriedBody> carried = tool().body();
+  if (!carried)
+    return std::nullopt;
+  const Point at = site_->view.toScreen({carried->pose.x, carried->pose.y});
+  StampMixer mixer(site_->layout().revision(), carries_, carried->grasp.x, carried->grasp.y,
+                   carried->pose.heading, site_->view.zoom());
+  mixer.add(std::uint64_t{carried->fits});
+  if (carried->fits) { // where it is to lie exactly
+    mixer.add(at.x);
+    mixer.add(at.y);
+  }
+  return Body{mixer.stamp(), at};
+}
+
+void Canvas::paintBody(Surface& surface) const {
+  tool().paintBody(surface);
 }
 
 bool Canvas::anySelected() const {
   return !site_->workspace.switches().grades && hasSelection(site_->layout());
-}
-
-bool Canvas::partsFit() const {
-  return !site_->workspace.switches().grades; // whose texts stand where there is room in view
 }
 
 } // namespace trassix

@@ -74,6 +74,13 @@ class ToolSite {
 /// A hint of several phrases, with room between them; empty ones are left out.
 std::string hintOf(std::initializer_list<std::string> phrases);
 
+/// What a tool carries as one rigid body, by the place of one of its points.
+struct CarriedBody {
+  Pose pose;
+  Point grasp;       ///< tells bodies of the same records apart: where it is held, mm
+  bool fits = false; ///< looks as if it were where it belongs
+};
+
 /// What the mouse and keys do on the plan. The canvas holds one active tool and forwards to it; the
 /// drag threshold and panning are the canvas's own.
 class CanvasTool {
@@ -97,6 +104,9 @@ class CanvasTool {
 
   /// Pieces (sorted ids) that the tool draws itself at another place.
   virtual std::span<const std::int32_t> lifted() const { return {}; }
+  /// What is carried, and its picture, which is under that of `paint`.
+  virtual std::optional<CarriedBody> body() const { return std::nullopt; }
+  virtual void paintBody(Surface&) const {}
   virtual void paint(Surface&) const {}
   virtual std::string hint() const = 0;
   virtual CursorShape cursor() const { return CursorShape::Arrow; }

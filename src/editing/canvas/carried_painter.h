@@ -3,6 +3,8 @@
 #include "editing/canvas/record_pictures.h"
 #include "geometry/pose.h"
 
+#include <vector>
+
 namespace trassix {
 
 /// Draws records that are not on the plan, such as those that hang on the pointer or that a dialog
@@ -18,10 +20,13 @@ class CarriedPainter {
   void paintSelection(const RigidMotion& motion);
 
  private:
-  void paintOne(auto record, const RigidMotion& motion);
+  void paintOne(const auto& record, const RigidMotion& motion);
+  void paintTrack();
 
   PictureSite site_;
   CarriedLook look_;
+  PiecePainter piecePainter_;
+  std::vector<PiecePainter::Piece> track_; ///< of one kind, to be drawn at one go
 };
 
 } // namespace trassix

@@ -42,9 +42,16 @@ EditResult CarryBlockTool::drop() {
   return placeBlock(site_.layout(), *block_, landing_, landsOn_);
 }
 
-void CarryBlockTool::paint(Surface& surface) const {
+std::optional<CarriedBody> CarryBlockTool::body() const {
+  return CarriedBody{landing_, {}, !meetings_.empty()};
+}
+
+void CarryBlockTool::paintBody(Surface& surface) const {
   CarriedPainter(surface, site_.view, site_.layout(), !meetings_.empty())
       .paint(block_->content, {{}, landing_});
+}
+
+void CarryBlockTool::paint(Surface& surface) const {
   paintMeetings(surface, site_.view, meetings_);
 }
 

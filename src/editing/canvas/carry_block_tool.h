@@ -17,6 +17,8 @@ class CarryBlockTool : public CarryTool {
   /// The block's origin hangs on the pointer.
   CarryBlockTool(ToolSite& site, SharedBlock block, bool held);
 
+  std::optional<CarriedBody> body() const override;
+  void paintBody(Surface& surface) const override;
   void paint(Surface& surface) const override;
   std::string hint() const override;
 

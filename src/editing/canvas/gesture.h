@@ -17,6 +17,8 @@ class Gesture {
   virtual void drag(const PointerInput& input) = 0;
   virtual void drop() = 0;
   virtual std::span<const std::int32_t> lifted() const { return {}; }
+  virtual std::optional<CarriedBody> body() const { return std::nullopt; }
+  virtual void paintBody(Surface&) const {}
   virtual void paint(Surface& surface) const = 0;
   virtual std::string hint() const = 0;
   virtual CursorShape cursor() const { return CursorShape::Arrow; }
@@ -51,6 +53,8 @@ class MoveGesture : public Gesture {
   void drag(const PointerInput& input) override;
   void drop() override;
   std::span<const std::int32_t> lifted() const override { return move_.pieces(); }
+  std::optional<CarriedBody> body() const override;
+  void paintBody(Surface& surface) const override;
   void paint(Surface& surface) const override;
   std::string hint() const override;
   CursorShape cursor() const override { return turning_ ? CursorShape::Rotate : CursorShape::Move; }

@@ -4,8 +4,11 @@
 #include "editing/canvas/halo.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/record_pictures.h"
+#include "editing/canvas/stamp_mixer.h"
 #include "editing/elevation/end_heights.h"
 #include "editing/elevation/train_way.h"
+#include "editing/helix/helix_rings.h"
+#include "editing/selection/plan_index.h"
 #include "editing/track/track_geometry.h"
 #include "measures/measure_format.h"
 #include "measures/measure_input.h"
@@ -14,6 +17,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace trassix {
 
@@ -46,9 +50,18 @@ std::string GradePainter::number(double mm) const {
   return formatAngle(std::round(mm / millimetresPer(layout_.settings().units) * 10) / 10);
 }
 
-void GradePainter::paintColors(std::vector<Track> track) {
-  std::erase_if(track, [](const Track& shown) { return !isGraded(*shown.piece); });
-  std::ranges::stable_sort(track, {}, [](const Track& shown) { return shown.piece->z; });
+namespace {
+
+/// What lies higher comes later.
+void keepGraded(std::vector<GradePainter::Track>& track) {
+  std::erase_if(track, [](const auto& shown) { return !isGraded(*shown.piece); });
+  std::ranges::stable_sort(track, {}, [](const auto& shown) { return shown.piece->z; });
+}
+
+} // namespace
+
+void GradePainter::paintColors(std::vector<Track> track, const GradePlaces* places) {
+  keepGraded(track);
   for (const Track& shown : track) {
     const auto [geometry, lines] = piecePainter_.shapeOf(*shown.definition);
     const double slope = slopeOf(*shown.piece);
@@ -63,18 +76,25 @@ void GradePainter::paintColors(std::vector<Track> track) {
       if (gradeBand(slope) == GradeBand::TooSteep)
         surface_.polyline(px, {colors::kPaper, width * 0.5, Stroke::Style::Dashed});
     }
-    paintArrow(shown, color);
+    if (places ? places->hasArrow(shown.piece->id) : takeArrow(shown))
+      paintArrow(shown, color);
   }
+}
+
+bool GradePainter::takeArrow(const Track& track) {
+  const TrackGeometry& geometry = trackGeometryOf(*track.definition);
+  const Point at = view_.toScreen(toWorld(poseOf(*track.piece), geometry.labelSpot));
+  if (geometry.mainLength * view_.zoom() < 2 * kArrowPx ||
+      std::ranges::any_of(arrows_, [at](Point p) { return between(p, at) < kArrowsApartPx; }))
+    return false;
+  arrows_.push_back(at);
+  return true;
 }
 
 void GradePainter::paintArrow(const Track& track, Rgba color) {
   const TrackGeometry& geometry = trackGeometryOf(*track.definition);
   const Pose pose = poseOf(*track.piece);
   const Point at = view_.toScreen(toWorld(pose, geometry.labelSpot));
-  if (geometry.mainLength * view_.zoom() < 2 * kArrowPx ||
-      std::ranges::any_of(arrows_, [at](Point p) { return between(p, at) < kArrowsApartPx; }))
-    return;
-  arrows_.push_back(at);
   const double uphill =
       pose.heading + geometry.labelHeading + (slopeOf(*track.piece) < 0 ? 180 : 0);
   const Point tip = towards(at, uphill, kArrowPx + 2);
@@ -85,16 +105,16 @@ void GradePainter::paintArrow(const Track& track, Rgba color) {
 }
 
 void GradePainter::paintTexts(std::span<const Track> track,
-                              std::span<const TrackCrossing> crossings, Occupancy& taken) {
-  paintClearances(crossings, taken);
+                              std::span<const TrackCrossing> crossings, ArticlePlaces& articles) {
+  paintClearances(crossings);
   for (const Track& shown : track)
     for (std::int32_t i = 0; i < static_cast<std::int32_t>(shown.definition->connectors.size());
          ++i)
       if (isKnee(shown, i))
-        paintKnee(shown, i, taken);
+        paintKnee(shown, i, articles);
   for (const Track& shown : track)
     if (isGraded(*shown.piece))
-      paintPercent(shown, taken);
+      paintPercent(shown, articles);
 }
 
 SizePx GradePainter::badgeSize(const std::string& text) {
@@ -118,7 +138,7 @@ void GradePainter::badge(const std::string& text, Point centre, bool tooLow) {
   surface_.text(text, centre, 0, {tooLow ? colors::kPaper : colors::kLabel, 11, true});
 }
 
-void GradePainter::paintClearances(std::span<const TrackCrossing> crossings, Occupancy& taken) {
+void GradePainter::paintClearances(std::span<const TrackCrossing> crossings) {
   // They lie on the track, which their own map does not know; what is too low comes first.
   for (const bool tooLow : {true, false})
     for (const TrackCrossing& crossing : crossings) {
@@ -130,11 +150,10 @@ void GradePainter::paintClearances(std::span<const TrackCrossing> crossings, Occ
       const Point at = view_.toScreen(crossing.at);
       const std::string text = number(crossing.clearance);
       const SizePx box = badgeSize(text);
-      if (at.x < -box.width || at.y < -box.height || at.x > size_.width + box.width ||
-          at.y > size_.height + box.height || !badges_.isFree(at, box, 0))
+      if (!badges_.isFree(at, box, 0))
         continue;
       badges_.take(at, box, 0);
-      taken.take(at, box, 0);
+      taken_.take(at, box, 0);
       badge(text, at, tooLow);
     }
 }
@@ -151,7 +170,7 @@ bool GradePainter::isKnee(const Track& track, std::int32_t connector) const {
   return std::abs(here - there) > kSameSlope;
 }
 
-void GradePainter::paintKnee(const Track& track, std::int32_t connector, Occupancy& taken) {
+void GradePainter::paintKnee(const Track& track, std::int32_t connector, ArticlePlaces& articles) {
   const WorldConnector end = ConnectorToWorld(*track.piece, *track.definition, connector);
   const Point at = view_.toScreen({end.x, end.y});
   if (!badges_.isFree(at, {6, 6}, 0))
@@ -164,16 +183,17 @@ void GradePainter::paintKnee(const Track& track, std::int32_t connector, Occupan
     const double reach = away + farther + std::abs(std::cos(toRadians(across))) * box.width / 2 +
                          std::abs(std::sin(toRadians(across))) * box.height / 2;
     const Point place = towards(at, across, reach);
-    if (!taken.isFree(place, {box.width + 2, box.height - 2}, 0))
+    const SizePx slim{box.width + 2, box.height - 2};
+    if (!taken_.isFree(place, slim, 0) || !articles.isOffTrack(place, slim, 0))
       continue;
-    taken.take(place, {box.width + 4, box.height}, 0);
+    taken_.take(place, {box.width + 4, box.height}, 0);
     surface_.circle(at, 3, colors::kPaper, Stroke{colors::kLabel, 1.5});
     paintTextWithHalo(surface_, text, place, 0, kHeightText);
     return;
   }
 }
 
-void GradePainter::paintPercent(const Track& track, Occupancy& taken) {
+void GradePainter::paintPercent(const Track& track, ArticlePlaces& articles) {
   const TrackGeometry& geometry = trackGeometryOf(*track.definition);
   const double slope = slopeOf(*track.piece);
   const std::string text = formatFixed(std::abs(percentOf(slope)), 1) + " %";
@@ -190,16 +210,54 @@ void GradePainter::paintPercent(const Track& track, Occupancy& taken) {
   const double away = geometry.halfWidth * view_.zoom() + box.height / 2 + 1;
   for (const auto& [side, farther] : kPlaces) {
     const Point place = towards(spot, heading + 90 * side, away + farther);
-    if (!taken.isFree(place, {box.width, box.height - 4}, angle))
+    const SizePx slim{box.width, box.height - 4};
+    if (!taken_.isFree(place, slim, angle) || !articles.isOffTrack(place, slim, angle))
       continue;
-    taken.take(place, box, angle);
+    taken_.take(place, box, angle);
     told_.push_back({spot, text});
     paintTextWithHalo(surface_, text, place, angle, style);
     return;
   }
 }
 
-void GradePainter::paintLegend() {
+void GradePlaces::follow(Surface& surface, const Plan& plan, double zoom, ArticlePlaces& articles) {
+  const Layout& layout = plan.layout;
+  StampMixer mixer(layout.documentStamp(), zoom);
+  for (const std::int32_t id : plan.leftOut)
+    mixer.add(static_cast<std::uint64_t>(id));
+  if (stamp_ == mixer.stamp())
+    return;
+  stamp_ = mixer.stamp();
+  constexpr double kAll = 1e9; // mm
+  std::vector<GradePainter::Track> track;
+  for (const std::size_t position : plan.index.inBox({-kAll, -kAll, kAll, kAll}, false)) {
+    const PlacedPiece& piece = layout.pieces()[position];
+    if (const PieceDef* definition = plan.index.definition(position);
+        definition != nullptr && !std::ranges::binary_search(plan.leftOut, piece.id) &&
+        !plan.rings.hide(piece))
+      track.push_back({&piece, definition});
+  }
+  const ViewTransform fromOrigin = ViewTransform::ofScale(zoom, {});
+  texts_.clear();
+  texts_.measureLike(surface);
+  GradePainter painter(texts_, fromOrigin, layout);
+  for (const ArticlePlaces::Place& other : plan.others)
+    painter.taken_.take(other.at, other.size, other.angle);
+  painter.paintTexts(track, plan.crossings, articles);
+  taken_ = std::move(painter.taken_);
+  keepGraded(track);
+  arrows_.clear();
+  for (const GradePainter::Track& graded : track)
+    if (painter.takeArrow(graded))
+      arrows_.push_back(graded.piece->id);
+  std::ranges::sort(arrows_);
+}
+
+bool GradePlaces::hasArrow(std::int32_t piece) const {
+  return std::ranges::binary_search(arrows_, piece);
+}
+
+void GradePainter::paintLegend(SizePx size) {
   constexpr double kRow = 17;
   constexpr double kSample = 34;
   constexpr double kEdge = 8;
@@ -215,8 +273,8 @@ void GradePainter::paintLegend() {
   double wide = 0;
   for (const std::string& text : texts)
     wide = std::max(wide, surface_.textSize(text, style).width);
-  const double right = size_.width - 12;
-  const double bottom = size_.height - 12;
+  const double right = size.width - 12;
+  const double bottom = size.height - 12;
   const double left = right - wide - kSample - 3 * kEdge;
   const double top = bottom - kRow * static_cast<double>(texts.size()) - kEdge;
   const std::array<Point, 4> ground{{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};

@@ -5,7 +5,6 @@
 #include "editing/canvas/grade_painter.h"
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/helix_painter.h"
-#include "editing/canvas/occupancy.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/record_pictures.h"
 #include "editing/elevation/end_heights.h"
@@ -99,10 +98,15 @@ void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
         if (isVisible(layout, record))
           paintRecord(site, record);
   });
-  if (options_.scaleBar)
+  if (options_.scaleBar) {
     paintScaleBar(layout.settings().units);
+    paintLegend(layout);
+  }
+}
+
+void LayoutPainter::paintLegend(const Layout& layout) {
   if (options_.grades)
-    GradePainter(surface_, size_, view_, layout).paintLegend();
+    GradePainter(surface_, view_, layout).paintLegend(size_);
 }
 
 void LayoutPainter::paintBoard(const Layout& layout) {
@@ -190,12 +194,28 @@ bool LayoutPainter::isLeftOut(std::int32_t piece) const {
   return std::ranges::binary_search(options_.leftOut, piece);
 }
 
+/// Positions of selected pieces, those in view among them.
+std::vector<std::size_t> LayoutPainter::selectedTrack(const Layout& layout,
+                                                      const PlanIndex& index) const {
+  constexpr std::size_t kFew = 100; // to look for what is in view would take longer
+  std::vector<std::size_t> selected;
+  for (std::size_t i = 0; i < layout.pieces().size() && selected.size() <= kFew; ++i)
+    if (layout.pieces()[i].sel && layout.pieceVisible(layout.pieces()[i]))
+      selected.push_back(i);
+  if (selected.size() <= kFew)
+    return selected;
+  selected = index.inBox(shownBox(kDotReachPx), false);
+  std::erase_if(selected, [&](std::size_t position) { return !layout.pieces()[position].sel; });
+  return selected;
+}
+
 std::vector<LayoutPainter::Visible>
-LayoutPainter::visibleTrack(const Layout& layout, const PlanIndex& index, const HelixRings& rings) {
+LayoutPainter::visibleTrack(const Layout& layout, const PlanIndex& index, const HelixRings& rings,
+                            std::span<const std::size_t> positions) {
   const PiecePainter painter(surface_, view_);
   const Decks decks(layout);
   std::vector<Visible> shown;
-  for (const std::size_t position : index.inBox(shownBox(kDotReachPx), false)) {
+  for (const std::size_t position : positions) {
     const PlacedPiece& piece = layout.pieces()[position];
     const PieceDef* definition = index.definition(position);
     if (isLeftOut(piece.id) || rings.hide(piece))
@@ -220,7 +240,8 @@ LayoutPainter::visibleTrack(const Layout& layout, const PlanIndex& index, const 
 
 void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& index) {
   const HelixRings rings(layout);
-  const std::vector<Visible> track = visibleTrack(layout, index, rings);
+  const std::vector<Visible> track =
+      visibleTrack(layout, index, rings, index.inBox(shownBox(kDotReachPx), false));
   const std::vector<const SceneryItem*> scenery = visibleScenery(layout);
   const Decks decks(layout);
   std::size_t items = 0;
@@ -252,32 +273,7 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
     from = to;
   }
   sceneryUpTo(std::numeric_limits<double>::infinity());
-  const std::vector<ArticlePlaces::Place> ringTexts = paintOnRings(layout, rings);
-  std::optional<Occupancy> taken;
-  if (options_.grades) {
-    taken.emplace(size_);
-    for (const Visible& shown : track)
-      for (const auto& line : shown.shape.lines.centreLines)
-        taken->mark(painter.toScreen(line, poseOf(*shown.piece)),
-                    shown.shape.geometry.halfWidth * view_.zoom() - 1);
-    const Occupancy onlyTrack = *taken;
-    for (const ArticlePlaces::Place& text : ringTexts)
-      taken->take(text.at, text.size, text.angle);
-    paintGrades(layout, track, *taken);
-    taken->without(onlyTrack);
-  }
-  if (options_.labels)
-    paintArticles(layout, index, taken ? &*taken : nullptr, ringTexts);
-}
-
-void LayoutPainter::paintGrades(const Layout& layout, std::span<const Visible> pieces,
-                                Occupancy& taken) {
-  GradePainter painter(surface_, size_, view_, layout);
-  std::vector<GradePainter::Track> track;
-  for (const Visible& shown : pieces)
-    track.push_back({shown.piece, shown.definition, shown.look.beneath});
-  painter.paintColors(track);
-  painter.paintTexts(track, options_.crossings, taken);
+  paintTexts(layout, index, rings, track, paintOnRings(layout, rings));
 }
 
 void LayoutPainter::paintUnknown(const PlacedPiece& piece) {
@@ -338,23 +334,39 @@ std::vector<ArticlePlaces::Place> LayoutPainter::paintOnRings(const Layout& layo
   return texts;
 }
 
-void LayoutPainter::paintArticles(const Layout& layout, const PlanIndex& index,
-                                  const Occupancy* taken,
-                                  std::span<const ArticlePlaces::Place> others) {
-  ArticlePlaces own;
-  ArticlePlaces& articles = options_.articles ? *options_.articles : own;
-  articles.follow(layout, index, view_.zoom(), options_.leftOut);
+void LayoutPainter::paintTexts(const Layout& layout, const PlanIndex& index,
+                               const HelixRings& rings, std::span<const Visible> pieces,
+                               std::vector<ArticlePlaces::Place> others) {
+  if (!options_.labels && !options_.grades)
+    return;
+  ArticlePlaces ownArticles;
+  ArticlePlaces& articles = options_.articles ? *options_.articles : ownArticles;
+  GradePlaces ownGrades;
+  GradePlaces& grades = options_.gradePlaces ? *options_.gradePlaces : ownGrades;
   const Point origin = view_.origin();
+  for (ArticlePlaces::Place& other : others)
+    other.at = {other.at.x - origin.x, other.at.y - origin.y};
+  articles.follow(layout, index, view_.zoom(), options_.leftOut);
+  if (options_.grades) {
+    grades.follow(surface_, {layout, index, rings, options_.leftOut, options_.crossings, others},
+                  view_.zoom(), articles);
+    std::vector<GradePainter::Track> track;
+    for (const Visible& shown : pieces)
+      track.push_back({shown.piece, shown.definition, shown.look.beneath});
+    GradePainter(surface_, view_, layout).paintColors(std::move(track), &grades);
+    grades.paint(surface_, origin, part_);
+  }
+  if (!options_.labels)
+    return;
   articles.visit(
       {part_.minX - origin.x, part_.minY - origin.y, part_.maxX - origin.x, part_.maxY - origin.y},
       surface_, [&](std::size_t position, const ArticlePlaces::Place& place) {
-        const Point at{place.at.x + origin.x, place.at.y + origin.y};
-        const ArticlePlaces::Place here{at, place.angle, place.size};
-        if ((taken != nullptr && !taken->isFree(at, place.size, place.angle)) ||
-            std::ranges::any_of(others, [&](const auto& other) { return here.overlaps(other); }))
+        if ((options_.grades && !grades.isFree(place.at, place.size, place.angle)) ||
+            std::ranges::any_of(others, [&](const auto& other) { return place.overlaps(other); }))
           return;
         const PlacedPiece& piece = layout.pieces()[position];
-        surface_.text(index.definition(position)->article, at, place.angle,
+        surface_.text(index.definition(position)->article,
+                      {place.at.x + origin.x, place.at.y + origin.y}, place.angle,
                       articleStyle(isOtherLevel(layout, piece.level)));
       });
 }
@@ -366,14 +378,11 @@ Box LayoutPainter::shownBox(double marginPx) const {
 }
 
 void LayoutPainter::paintSelection(const Layout& layout, const PlanIndex& index) {
-  std::vector<Visible> track;
+  const std::vector<Visible> track =
+      visibleTrack(layout, index, HelixRings(layout), selectedTrack(layout, index));
   std::vector<PiecePainter::Piece> pieces;
-  for (const Visible& shown : visibleTrack(layout, index, HelixRings(layout))) {
-    if (!shown.piece->sel)
-      continue;
-    track.push_back(shown);
+  for (const Visible& shown : track)
     pieces.push_back({shown.shape, poseOf(*shown.piece), shown.look});
-  }
   PiecePainter(surface_, view_).paintAccents(pieces);
   if (options_.labels)
     paintJoinDots(layout, track);

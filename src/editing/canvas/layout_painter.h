@@ -14,21 +14,22 @@
 
 namespace trassix {
 
+class GradePlaces;
 class HelixRings;
-class Occupancy;
 struct TrackCrossing;
 
 struct PaintOptions {
   bool grid = true;
   bool labels = true; ///< article labels and join dots
   bool rails = true;
-  bool grades = false; ///< grades, heights and clearances
-  bool scaleBar = true;
+  bool grades = false;                      ///< grades, heights and clearances
+  bool scaleBar = true;                     ///< and the legend of the grades
   bool desk = true;                         ///< fill the background; off for printing
   std::span<const std::int32_t> leftOut;    ///< sorted ids of pieces that are drawn elsewhere
   std::span<const TrackCrossing> crossings; ///< of the plan, to be shown with the grades
   std::optional<Box> part;                  ///< px, what of the surface is to be drawn: all of it
   ArticlePlaces* articles = nullptr;        ///< kept between pictures of a plan
+  GradePlaces* gradePlaces = nullptr;       ///< likewise
   bool selection = true;                    ///< what is selected looks selected
 };
 
@@ -40,8 +41,9 @@ class LayoutPainter {
                 const PaintOptions& options);
 
   void paint(const Layout& layout, const PlanIndex& index);
-  /// Over the plan, what stays where it is in the window.
+  // Over the plan, what stays where it is in the window.
   void paintScaleBar(std::int32_t units);
+  void paintLegend(const Layout& layout);
   /// Over a plan drawn without it.
   void paintSelection(const Layout& layout, const PlanIndex& index);
 
@@ -52,8 +54,10 @@ class LayoutPainter {
   void paintBoard(const Layout& layout);
   /// Level by level, for what is higher hides what is below.
   void paintTrackAndScenery(const Layout& layout, const PlanIndex& index);
+  std::vector<std::size_t> selectedTrack(const Layout& layout, const PlanIndex& index) const;
   std::vector<Visible> visibleTrack(const Layout& layout, const PlanIndex& index,
-                                    const HelixRings& rings);
+                                    const HelixRings& rings,
+                                    std::span<const std::size_t> positions);
   bool isLeftOut(std::int32_t piece) const;
   void paintUnknown(const PlacedPiece& piece);
   std::vector<const SceneryItem*> visibleScenery(const Layout& layout) const;
@@ -61,10 +65,9 @@ class LayoutPainter {
   void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);
   /// What lies on the rings of helices; returns the places of its texts, px.
   std::vector<ArticlePlaces::Place> paintOnRings(const Layout& layout, const HelixRings& rings);
-  void paintGrades(const Layout& layout, std::span<const Visible> pieces, Occupancy& taken);
-  /// Those that keep off what is taken and off other texts.
-  void paintArticles(const Layout& layout, const PlanIndex& index, const Occupancy* taken,
-                     std::span<const ArticlePlaces::Place> others);
+  /// Articles, and what is told of grades, off which they keep; all of them off other texts.
+  void paintTexts(const Layout& layout, const PlanIndex& index, const HelixRings& rings,
+                  std::span<const Visible> pieces, std::vector<ArticlePlaces::Place> others);
   /// Of what is drawn, in mm, with so many px around it.
   Box shownBox(double marginPx) const;
 

@@ -74,10 +74,17 @@ void MoveGesture::drop() {
   site_.workspace.repaint();
 }
 
-void MoveGesture::paint(Surface& surface) const {
-  const Layout& layout = site_.layout();
-  CarriedPainter(surface, site_.view, layout, move_.snap().has_value())
+std::optional<CarriedBody> MoveGesture::body() const {
+  return CarriedBody{move_.moved(Pose{from_.world.x, from_.world.y, 0}), from_.world,
+                     move_.snap().has_value()};
+}
+
+void MoveGesture::paintBody(Surface& surface) const {
+  CarriedPainter(surface, site_.view, site_.layout(), move_.snap().has_value())
       .paintSelection(move_.motion());
+}
+
+void MoveGesture::paint(Surface& surface) const {
   if (turning_)
     surface.circle(site_.view.toScreen(centre_), 4, plan_colors::kSelected,
                    Stroke{plan_colors::kPaper, 1.5});

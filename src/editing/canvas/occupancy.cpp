@@ -71,9 +71,30 @@ void Occupancy::take(Point centre, SizePx box, double degrees) {
   });
 }
 
-void Occupancy::without(const Occupancy& other) {
-  for (std::size_t i = 0; i < taken_.size(); ++i)
-    taken_[i] = static_cast<unsigned char>(taken_[i] & ~other.taken_[i]);
+bool OpenOccupancy::visitBlocks(Point centre, SizePx box, const std::function<bool(Point)>& visit) {
+  const double reach = std::hypot(box.width, box.height) / 2;
+  const auto first = [](double px) { return std::floor(px / kBlockPx) * kBlockPx; };
+  for (double y = first(centre.y - reach); y <= centre.y + reach; y += kBlockPx)
+    for (double x = first(centre.x - reach); x <= centre.x + reach; x += kBlockPx)
+      if (!visit({x, y}))
+        return false;
+  return true;
+}
+
+bool OpenOccupancy::isFree(Point centre, SizePx box, double degrees) const {
+  return visitBlocks(centre, box, [&](Point corner) {
+    const auto block = blocks_.find({corner.x, corner.y});
+    return block == blocks_.end() ||
+           block->second.isFree({centre.x - corner.x, centre.y - corner.y}, box, degrees);
+  });
+}
+
+void OpenOccupancy::take(Point centre, SizePx box, double degrees) {
+  visitBlocks(centre, box, [&](Point corner) {
+    blocks_.try_emplace({corner.x, corner.y}, SizePx{kBlockPx, kBlockPx})
+        .first->second.take({centre.x - corner.x, centre.y - corner.y}, box, degrees);
+    return true;
+  });
 }
 
 } // namespace trassix

@@ -3,6 +3,9 @@
 #include "editing/canvas/surface.h"
 #include "geometry/point.h"
 
+#include <functional>
+#include <map>
+#include <utility>
 #include <vector>
 
 namespace trassix {
@@ -20,9 +23,6 @@ class Occupancy {
   bool isFree(Point centre, SizePx box, double degrees) const;
   void take(Point centre, SizePx box, double degrees);
 
-  /// Frees what another map of the same size has taken.
-  void without(const Occupancy& other);
-
  private:
   static constexpr double kCellPx = 4;
 
@@ -32,6 +32,22 @@ class Occupancy {
   int columns_;
   int rows_;
   std::vector<unsigned char> taken_;
+};
+
+/// The same without an edge, in blocks that are made when something in them is taken.
+class OpenOccupancy {
+ public:
+  static constexpr double kBlockPx = 256;
+
+  /// Whether anything of a box lies in a block, told by the block's corner: `visit` gets it, and
+  /// returns false to end.
+  static bool visitBlocks(Point centre, SizePx box, const std::function<bool(Point)>& visit);
+
+  bool isFree(Point centre, SizePx box, double degrees) const;
+  void take(Point centre, SizePx box, double degrees);
+
+ private:
+  std::map<std::pair<double, double>, Occupancy> blocks_; ///< by their corners
 };
 
 } // namespace trassix

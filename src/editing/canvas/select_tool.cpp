@@ -355,6 +355,15 @@ void SelectTool::contextMenu(const PointerInput& input) {
   site_.questions().popupMenu(rows);
 }
 
+std::optional<CarriedBody> SelectTool::body() const {
+  return gesture_ ? gesture_->body() : std::nullopt;
+}
+
+void SelectTool::paintBody(Surface& surface) const {
+  if (gesture_)
+    gesture_->paintBody(surface);
+}
+
 void SelectTool::paint(Surface& surface) const {
   if (gesture_)
     return gesture_->paint(surface);

@@ -28,6 +28,8 @@ class SelectTool : public CanvasTool {
   void cancel() override;
   void leave() override;
   std::span<const std::int32_t> lifted() const override;
+  std::optional<CarriedBody> body() const override;
+  void paintBody(Surface& surface) const override;
   void paint(Surface& surface) const override;
   std::string hint() const override;
   CursorShape cursor() const override;

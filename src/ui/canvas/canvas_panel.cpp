@@ -274,12 +274,16 @@ void CanvasPanel::onPaint(wxPaintEvent&) {
     return;
   // While the wheel turns the scaled picture will do, which is sharp again when it rests.
   const bool hurried = !std::exchange(sharpen_, false);
-  if (picture_.draw(dc, {size, GetContentScaleFactor(), pixelScale()}, hurried))
+  const bool scaled = picture_.draw(dc, {size, GetContentScaleFactor(), pixelScale()}, hurried);
+  // Only a further step of zooming puts it off.
+  const double zoom = canvas_.view().zoom();
+  if (scaled && (std::exchange(scaledTo_, zoom) != zoom || !sharpTimer_.IsRunning()))
     sharpTimer_.StartOnce(kSharpMs);
-  const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(dc));
+  const bool bodyDrawn = picture_.drawBody(dc);
+  const std::unique_ptr<wxGraphicsContext> context(planRenderer().CreateContext(dc));
   context->Scale(pixelScale(), pixelScale());
   GcSurface surface(*context, pixelScale() * GetContentScaleFactor(), &picture_.texts());
-  canvas_.paintOverlay(surface);
+  canvas_.paintOverlay(surface, !bodyDrawn);
   if (welcome_->IsShown())
     Welcome::paintWords(surface, {size.x / pixelScale(), size.y / pixelScale()});
 }

@@ -71,6 +71,7 @@ class CanvasPanel : public wxPanel, private PlanObserver {
   Welcome* welcome_;
   PlanPicture picture_{canvas_};
   wxTimer sharpTimer_;
+  double scaledTo_ = 0;  ///< the zoom of the last picture that was not sharp
   bool sharpen_ = false; ///< the next picture is to be sharp
   wxTimer edgeTimer_;
   CursorShape cursorShown_ = CursorShape::Arrow;

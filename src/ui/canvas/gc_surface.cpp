@@ -57,6 +57,14 @@ void add(wxGraphicsPath& path, std::span<const Point> points) {
 
 } // namespace
 
+wxGraphicsRenderer& planRenderer() {
+#ifdef __WXMSW__
+  return *wxGraphicsRenderer::GetGDIPlusRenderer();
+#else
+  return *wxGraphicsRenderer::GetDefaultRenderer();
+#endif
+}
+
 void GcSurface::usePen(const std::optional<Stroke>& stroke) {
   if (pen_ == stroke && pen_)
     return;

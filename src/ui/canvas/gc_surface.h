@@ -17,6 +17,10 @@ struct GcTexts {
   std::map<std::tuple<double, bool, std::string>, SizePx> sizes;
 };
 
+/// What draws plans: on Windows GDI+ by name and not what the toolkit may come to prefer there, for
+/// kept pictures need a renderer that draws into bitmaps, with transparency, and always the same.
+wxGraphicsRenderer& planRenderer();
+
 /// Draws on a toolkit graphics context, with anti-aliasing and in fractions of pixels.
 class GcSurface : public Surface {
  public:

@@ -1,5 +1,8 @@
 #include "ui/canvas/plan_picture.h"
 
+#include "document/layout.h"
+#include "editing/canvas/canvas_tool.h"
+#include "editing/canvas/extent_surface.h"
 #include "editing/canvas/plan_colors.h"
 
 #include <wx/dcmemory.h>
@@ -16,9 +19,6 @@ namespace trassix {
 
 namespace {
 
-/// A picture that takes no longer is drawn anew even in a hurry.
-constexpr long kQuickMs = 12;
-
 /// Whole units of the toolkit between two origins; none when they are not.
 std::optional<wxPoint> wholeUnits(Point from, Point to, double scale) {
   const double x = (to.x - from.x) * scale;
@@ -29,12 +29,18 @@ std::optional<wxPoint> wholeUnits(Point from, Point to, double scale) {
   return wxPoint(static_cast<int>(std::round(x)), static_cast<int>(std::round(y)));
 }
 
+std::size_t pixelsOf(const wxBitmap& bitmap) {
+  return bitmap.IsOk() ? static_cast<std::size_t>(bitmap.GetWidth()) *
+                             static_cast<std::size_t>(bitmap.GetHeight())
+                       : 0;
+}
+
 } // namespace
 
 template <class Paint>
 void PlanPicture::paintOn(wxDC& dc, const Box& part, Paint paint) const {
   auto& memory = static_cast<wxMemoryDC&>(dc);
-  const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(memory));
+  const std::unique_ptr<wxGraphicsContext> context(planRenderer().CreateContext(memory));
   context->Clip(part.minX, part.minY, part.maxX - part.minX, part.maxY - part.minY);
   context->Scale(window_.pixelScale, window_.pixelScale);
   GcSurface surface(*context, window_.pixelScale * window_.contentScale, &texts_);
@@ -65,12 +71,12 @@ bool PlanPicture::moveBy(Layer& layer, wxPoint by, const PaintPart& paint) {
 }
 
 void PlanPicture::renew(Layer& layer, std::uint64_t stamp, const PaintPart& paint) {
-  const Point origin = canvas_.view().origin();
-  if (layer.drawn && layer.stamp == stamp && layer.origin == origin)
+  const ViewTransform& view = canvas_.view();
+  if (layer.shows(stamp) && layer.view == view)
     return;
-  const bool same = layer.drawn && layer.stamp == stamp;
-  const auto by = same && canvas_.partsFit() ? wholeUnits(layer.origin, origin, window_.pixelScale)
-                                             : std::nullopt;
+  const bool moved = layer.shows(stamp) && layer.view.zoom() == view.zoom();
+  const auto by =
+      moved ? wholeUnits(layer.view.origin(), view.origin(), window_.pixelScale) : std::nullopt;
   if (!by || !moveBy(layer, *by, paint)) {
     const wxSize size = window_.size;
     if (!layer.bitmap.IsOk())
@@ -78,13 +84,13 @@ void PlanPicture::renew(Layer& layer, std::uint64_t stamp, const PaintPart& pain
     wxMemoryDC memory(layer.bitmap);
     paint(memory, {0, 0, static_cast<double>(size.x), static_cast<double>(size.y)});
   }
-  layer.origin = origin;
+  layer.view = view;
   layer.stamp = stamp;
   layer.drawn = true;
 }
 
 void PlanPicture::renewPlan() {
-  renew(plan_, canvas_.planStamp(), [this](wxDC& dc, const Box& part) {
+  renew(plan_, canvas_.contentStamp(), [this](wxDC& dc, const Box& part) {
     paintOn(dc, part, [this](Surface& surface, const Box& px) { canvas_.paintPlan(surface, px); });
   });
 }
@@ -103,14 +109,15 @@ void PlanPicture::renewShown() {
   });
 }
 
-void PlanPicture::drawScaled(wxDC& dc) const {
-  const Rgba ground = plan_colors::kBoard;
+void PlanPicture::drawScaled(wxDC& dc, const Layer& layer) const {
+  const bool onDesk = canvas_.site().layout().settings().baseboard.size() >= 3;
+  const Rgba ground = onDesk ? plan_colors::kDesk : plan_colors::kBoard;
   dc.SetBackground(wxBrush(wxColour(ground.r, ground.g, ground.b)));
   dc.Clear();
-  const double factor = canvas_.view().zoom() / drawnAs_.zoom();
-  const Point corner = canvas_.view().toScreen(drawnAs_.toWorld({0, 0}));
+  const double factor = canvas_.view().zoom() / layer.view.zoom();
+  const Point corner = canvas_.view().toScreen(layer.view.toWorld({0, 0}));
   const double unit = window_.pixelScale;
-  wxMemoryDC from(const_cast<wxBitmap&>(top().bitmap)); // read only
+  wxMemoryDC from(const_cast<wxBitmap&>(layer.bitmap)); // read only
   dc.StretchBlit(static_cast<int>(std::floor(corner.x * unit)),
                  static_cast<int>(std::floor(corner.y * unit)),
                  static_cast<int>(std::ceil(window_.size.x * factor)),
@@ -127,24 +134,81 @@ bool PlanPicture::draw(wxDC& dc, const Window& window, bool hurried) {
     window_ = window;
     plan_ = shown_ = {};
     spare_ = wxNullBitmap;
+    body_ = {};
   }
-  const std::uint64_t content = canvas_.contentStamp();
-  if (hurried && top().drawn && drawingMs_ > kQuickMs && drawnStamp_ == content &&
-      drawnAs_.zoom() != canvas_.view().zoom()) {
-    drawScaled(dc);
+  // Without a selection the plan is enough.
+  const bool selected = canvas_.anySelected();
+  const Layer& top = selected ? shown_ : plan_;
+  const double zoom = canvas_.view().zoom();
+  if (hurried && drawingMs_ > quickMs_ && top.view.zoom() != zoom &&
+      top.shows(selected ? canvas_.selectionStamp() : canvas_.contentStamp())) {
+    drawScaled(dc, top);
     return true;
   }
   const wxStopWatch watch;
-  const bool whole = !plan_.drawn || drawnAs_.zoom() != canvas_.view().zoom();
+  const bool whole = !plan_.drawn || plan_.view.zoom() != zoom;
   renewPlan();
-  if (canvas_.anySelected())
+  if (selected)
     renewShown();
   if (whole)
     drawingMs_ = watch.Time();
-  drawnAs_ = canvas_.view();
-  drawnStamp_ = content;
-  dc.DrawBitmap(top().bitmap, 0, 0);
+  dc.DrawBitmap(top.bitmap, 0, 0);
   return false;
+}
+
+bool PlanPicture::drawBody(wxDC& dc) {
+  const auto body = canvas_.body();
+  if (!body || body_.stamp != body->stamp) {
+    // What looks different each time, as when it turns, is better drawn where it is shown.
+    body_ = {};
+    body_.stamp = body ? body->stamp : 0;
+    return false;
+  }
+  if (!body_.bitmap.IsOk() && body_.fits)
+    renewBody(body->at);
+  if (!body_.bitmap.IsOk())
+    return false;
+  const double unit = window_.pixelScale;
+  dc.DrawBitmap(body_.bitmap,
+                body_.corner.x + static_cast<int>(std::lround((body->at.x - body_.at.x) * unit)),
+                body_.corner.y + static_cast<int>(std::lround((body->at.y - body_.at.y) * unit)),
+                true);
+  return true;
+}
+
+void PlanPicture::renewBody(Point at) {
+  const std::unique_ptr<wxGraphicsContext> measuring(planRenderer().CreateMeasuringContext());
+  GcSurface texts(*measuring, window_.pixelScale * window_.contentScale, &texts_);
+  ExtentSurface room(texts);
+  canvas_.paintBody(room);
+  const Box px = room.extent().value_or(Box());
+  const double unit = window_.pixelScale;
+  const Box box{std::floor(px.minX * unit), std::floor(px.minY * unit), std::ceil(px.maxX * unit),
+                std::ceil(px.maxY * unit)};
+  const double width = box.maxX - box.minX;
+  const double height = box.maxY - box.minY;
+  body_.fits = width >= 1 && height >= 1 && width * height <= 1.0 * window_.size.x * window_.size.y;
+  if (!body_.fits)
+    return;
+  body_.at = at;
+  body_.corner = {static_cast<int>(box.minX), static_cast<int>(box.minY)};
+  body_.bitmap.CreateScaled(static_cast<int>(width), static_cast<int>(height), 32,
+                            window_.contentScale);
+  wxMemoryDC memory(body_.bitmap);
+  const std::unique_ptr<wxGraphicsContext> context(planRenderer().CreateContext(memory));
+  context->SetCompositionMode(wxCOMPOSITION_SOURCE);
+  context->SetBrush(wxBrush(wxColour(0, 0, 0, 0)));
+  context->DrawRectangle(0, 0, width, height);
+  context->SetCompositionMode(wxCOMPOSITION_OVER);
+  context->Translate(-box.minX, -box.minY);
+  context->Scale(unit, unit);
+  GcSurface surface(*context, unit * window_.contentScale, &texts_);
+  canvas_.paintBody(surface);
+}
+
+std::size_t PlanPicture::keptPixels() const {
+  return pixelsOf(plan_.bitmap) + pixelsOf(shown_.bitmap) + pixelsOf(spare_) +
+         pixelsOf(body_.bitmap);
 }
 
 } // namespace trassix

@@ -237,11 +237,11 @@ TEST(SelectTool, WhatIsHiddenInATunnelIsOutOfReach) {
   Layout& plan = script.host.plan;
   plan.edit().tunnels = {{9, -1, -1, 2, 3, {2, 3}}};
   plan.select(RecordKind::Piece, 3, true);
-  const std::uint64_t shown = script.canvas.planStamp();
+  const std::uint64_t shown = script.canvas.contentStamp();
   EditorSwitches switches = script.host.workspace.switches();
   switches.hidden = false;
   script.host.workspace.setSwitches(switches);
-  EXPECT_NE(script.canvas.planStamp(), shown);
+  EXPECT_NE(script.canvas.contentStamp(), shown);
   EXPECT_THAT(script.selected(), IsEmpty());
   script.click(kOnSecond);
   EXPECT_THAT(script.selected(), IsEmpty());
