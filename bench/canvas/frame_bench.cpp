@@ -2,13 +2,11 @@
 // window: against the same picture drawn plainly, on plans of very different sizes, and what a
 // mouse move costs until it is painted.
 #include "canvas/plain_drawing.h"
-#include "catalog/track_catalog.h"
+#include "canvas/yard.h"
 #include "document/block.h"
 #include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/layout_painter.h"
-#include "editing/joining/joining.h"
-#include "editing/placing/placing.h"
 #include "editing/selection/content_box.h"
 #include "editing/selection/picking.h"
 #include "ratio.h"
@@ -20,7 +18,6 @@
 #include <wx/dcmemory.h>
 #include <wx/image.h>
 
-#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <memory>
@@ -33,43 +30,6 @@ namespace {
 
 constexpr int kWidth = 1920;
 constexpr int kHeight = 1080;
-
-/// Lays a winding track of straights, turnouts and curves, joined all along, on to the right.
-void addRow(Layout& layout, Point from, int pieces) {
-  struct Step {
-    const char* article;
-    std::int32_t enter;
-  };
-  static constexpr std::array<Step, 6> kSteps{
-      {{"24172", 0}, {"24611", 0}, {"24130", 0}, {"24130", 1}, {"24130", 1}, {"24130", 0}}};
-  WorldConnector front;
-  front.x = from.x;
-  front.y = from.y;
-  std::int32_t before = -1;
-  std::int32_t exit = -1;
-  for (int i = 0; i < pieces; ++i) {
-    const Step& step = kSteps[static_cast<std::size_t>(i) % kSteps.size()];
-    const PieceDef& definition = *TrackCatalog::instance().find(step.article);
-    const std::int32_t id =
-        addPiece(layout, definition, AttachPose(definition, step.enter, front), 1, 0);
-    if (before != -1)
-      join(layout, id, step.enter, before, exit);
-    before = id;
-    exit = 1 - step.enter;
-    front = ConnectorToWorld(*layout.findPiece(id), definition, exit);
-  }
-}
-
-constexpr double kRowGap = 96;
-
-/// Rows below one another, beginning at the origin.
-Layout yard(int rows, int piecesInRow) {
-  Layout layout;
-  layout.ensureLevel();
-  for (int row = 0; row < rows; ++row)
-    addRow(layout, {0, row * kRowGap}, piecesInRow);
-  return layout;
-}
 
 template <class Draw>
 void drawOn(wxBitmap& bitmap, Draw draw) {
@@ -251,9 +211,10 @@ class BusyWindow {
   void paint() {
     wxMemoryDC window(window_);
     picture_.draw(window, shown_, false);
+    const bool bodyDrawn = picture_.drawBody(window);
     const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(window));
     GcSurface surface(*context, shown_.contentScale, &picture_.texts());
-    script.canvas.paintOverlay(surface);
+    script.canvas.paintOverlay(surface, !bodyDrawn);
   }
 
   /// As if nothing of it had been kept.
@@ -269,9 +230,9 @@ class BusyWindow {
         [this] {
           for (int i = 0; i < kMoves; ++i) {
             ++moves_;
-            script.move(
-                script.canvas.view().toWorld({kWidth * (0.4 + 0.3 * std::sin(moves_ * 0.37)),
-                                              kHeight * (0.4 + 0.3 * std::cos(moves_ * 0.23))}));
+            script.move(script.canvas.view().toWorld(
+                {std::round(kWidth * (0.4 + 0.3 * std::sin(moves_ * 0.37))),
+                 std::round(kHeight * (0.4 + 0.3 * std::cos(moves_ * 0.23)))}));
             paint();
           }
         },
@@ -330,8 +291,15 @@ BENCHMARK_CAPTURE(move, fromPalette, takeFromPalette)->Arg(1)->Iterations(1);
 BENCHMARK_CAPTURE(move, block, carryBlock)->Arg(500)->Iterations(1);
 BENCHMARK_CAPTURE(move, drag, drag)->Arg(1)->Arg(500)->Iterations(1);
 
-void pan(benchmark::State& state) {
-  BusyWindow window(yard(44, 46), {1378, 926}, static_cast<double>(state.range(0)));
+void pan(benchmark::State& state, bool grades) {
+  Layout plan = yard(44, 46);
+  if (grades)
+    for (PlacedPiece& piece : plan.edit().pieces)
+      piece.grade = piece.id % 5;
+  BusyWindow window(std::move(plan), {1378, 926}, static_cast<double>(state.range(0)));
+  EditorSwitches switches = window.script.host.workspace.switches();
+  switches.grades = grades;
+  window.script.host.workspace.setSwitches(switches);
   window.script.canvas.fit();
   window.paint();
   int step = 0;
@@ -344,7 +312,8 @@ void pan(benchmark::State& state) {
   };
   compare(state, 0.10, "the whole picture", timed(panned), timed([&] { window.paintAll(); }));
 }
-BENCHMARK(pan)->Arg(1)->Arg(2)->Iterations(1);
+BENCHMARK_CAPTURE(pan, plain, false)->Name("pan")->Arg(1)->Arg(2)->Iterations(1);
+BENCHMARK_CAPTURE(pan, grades, true)->Name("pan/grades")->Arg(1)->Iterations(1);
 
 void dragOfFiveHundred(benchmark::State& state) {
   BusyWindow window;
@@ -362,6 +331,7 @@ int main(int argc, char** argv) {
   wxApp::SetInstance(new wxApp);
   if (!wxEntryStart(argc, argv))
     return 2;
+  wxInitAllImageHandlers();
   benchmark::RunSpecifiedBenchmarks();
   wxEntryCleanup();
 }

@@ -11,9 +11,31 @@
 
 namespace trassix {
 
+namespace {
+
+/// Is painted when everything is, where the toolkit's own would be at once, and all else that is
+/// out of date with it: between a press and a release that would be twice for nothing.
+class StatusBar : public wxStatusBar {
+ public:
+  using wxStatusBar::wxStatusBar;
+
+#ifdef __WXGTK__
+ private:
+  void DoUpdateStatusText(int field) override {
+    wxRect rect;
+    GetFieldRect(field, rect);
+    Refresh(true, &rect);
+  }
+#endif
+};
+
+} // namespace
+
 StatusLine::StatusLine(wxFrame& window, Workspace& workspace)
     : PlanObserver(workspace), window_(window), workspace_(workspace), hint_(tr("Ready")) {
-  wxStatusBar* bar = window_.CreateStatusBar(3);
+  auto* bar = new StatusBar(&window_);
+  bar->SetFieldsCount(3);
+  window_.SetStatusBar(bar);
   const wxString widestCount = "Pieces: 000000";
   const wxString widestPlace = "x: -00000.00  y: -00000.00 mm";
   const int widths[] = {-1, bar->GetTextExtent(widestCount).x + 12,

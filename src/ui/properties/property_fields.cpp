@@ -23,6 +23,7 @@ namespace {
 
 constexpr int kGap = 6;
 constexpr int kLeastWrap = 120;
+constexpr std::size_t kMostPages = 8;
 
 /// Of the editing control, for tests and for accessibility tools.
 wxString controlName(const Property& property) {
@@ -50,65 +51,90 @@ PropertyFields::PropertyFields(wxWindow* parent, Workspace& workspace)
   SetScrollRate(0, FromDIP(12));
   Bind(wxEVT_SIZE, [this, width = 0](wxSizeEvent& event) mutable {
     event.Skip();
-    if (std::exchange(width, event.GetSize().x) != event.GetSize().x && title_ != nullptr)
-      arrange();
+    if (std::exchange(width, event.GetSize().x) != event.GetSize().x && !pages_.empty())
+      arrange(true);
   });
+  SetSizer(new wxBoxSizer(wxVERTICAL));
 }
 
 void PropertyFields::show(const PropertySheet& sheet) {
-  const bool keeps = title_ != nullptr && sameShape(sheet, sheet_);
+  const bool turns = pages_.empty() || !sameShape(sheet, pages_.front()->shape);
+  if (turns)
+    turnTo(sheet);
   sheet_ = sheet;
-  if (!keeps)
-    rebuild();
   refresh();
+  arrange(turns);
 }
 
-void PropertyFields::rebuild() {
-  // Hiding a field takes the focus from it, which must enter nothing into the new sheet.
-  rows_.clear();
+void PropertyFields::turnTo(const PropertySheet& sheet) {
   const bool hadFocus = IsDescendant(FindFocus());
-  wxWindowList old = GetChildren();
-  SetSizer(nullptr);
-  for (wxWindow* child : old) {
-    // One of them may be at work on the very key that brought us here.
-    child->Hide();
-    child->CallAfter([child] { child->Destroy(); });
+  const auto kept = std::ranges::find_if(
+      pages_, [&sheet](const auto& page) { return sameShape(sheet, page->shape); });
+  Page* before = pages_.empty() ? nullptr : pages_.front().get();
+  if (before)
+    for (const auto& [window, name] : before->names)
+      window->SetName({});
+  if (kept == pages_.end())
+    pages_.insert(pages_.begin(), makePage(sheet));
+  else
+    std::rotate(pages_.begin(), kept, kept + 1);
+  // Hiding a field takes the focus from it, which must enter nothing into the new sheet.
+  if (before)
+    before->window->Hide();
+  Page& page = *pages_.front();
+  for (const auto& [window, name] : page.names)
+    window->SetName(name);
+  page.window->Show();
+  // Without a focus anywhere no key would do anything.
+  if (hadFocus)
+    SetFocus();
+  if (pages_.size() > kMostPages) {
+    wxWindow* oldest = pages_.back()->window;
+    pages_.pop_back();
+    GetSizer()->Detach(oldest);
+    // One of its fields may be at work on the very key that brought us here.
+    oldest->CallAfter([oldest] { oldest->Destroy(); });
   }
-  rows_.assign(sheet_.rows.size(), {});
-  title_ = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
-                            "properties.title");
-  title_->SetFont(GetFont().Bold());
+}
+
+std::unique_ptr<PropertyFields::Page> PropertyFields::makePage(const PropertySheet& sheet) {
+  auto page = std::make_unique<Page>();
+  page->shape = sheet;
+  page->rows.resize(sheet.rows.size());
+  page->window = new wxPanel(this);
+  page->title = new wxStaticText(page->window, wxID_ANY, wxEmptyString);
+  page->title->SetFont(GetFont().Bold());
+  page->names.emplace_back(page->title, "properties.title");
   const int gap = FromDIP(kGap);
   auto* grid = new wxFlexGridSizer(2, FromDIP(3), gap);
   grid->AddGrowableCol(1);
-  for (std::size_t i = 0; i < sheet_.rows.size(); ++i) {
-    const Property& property = sheet_.rows[i];
-    auto* name = new wxStaticText(this, wxID_ANY, fromUtf8(property.name));
-    rows_[i].editor = makeEditor(property, i);
-    wxSizer* value = makeValue(property, rows_[i]);
+  for (std::size_t i = 0; i < sheet.rows.size(); ++i) {
+    const Property& property = sheet.rows[i];
+    auto* name = new wxStaticText(page->window, wxID_ANY, fromUtf8(property.name));
+    page->rows[i].editor = makeEditor(*page, property, i);
+    page->names.emplace_back(page->rows[i].editor, controlName(property));
+    wxSizer* value = makeValue(*page, property, page->rows[i]);
     // In the middle of the field, not of what may stand below it.
     const int lower = (value->GetItem(std::size_t{0})->CalcMin().y - name->GetBestSize().y) / 2;
     grid->Add(name, wxSizerFlags().Border(wxTOP, std::max(lower, 0)));
     grid->Add(value, wxSizerFlags().Expand());
   }
   auto* column = new wxBoxSizer(wxVERTICAL);
-  column->Add(title_, wxSizerFlags().Expand().Border(wxALL, gap));
+  column->Add(page->title, wxSizerFlags().Expand().Border(wxALL, gap));
   column->Add(grid, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
-  SetSizer(column);
-  // Without a focus anywhere no key would do anything.
-  if (hadFocus)
-    SetFocus();
+  page->window->SetSizer(column);
+  GetSizer()->Add(page->window, wxSizerFlags().Expand());
+  return page;
 }
 
-wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index) {
-  const wxString name = controlName(property);
+wxWindow* PropertyFields::makeEditor(Page& page, const Property& property, std::size_t index) {
+  wxWindow* parent = page.window;
   switch (property.editor) {
   case PropertyEditor::None:
-    return new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, {1, -1},
-                            wxST_ELLIPSIZE_END | wxST_NO_AUTORESIZE, name);
+    return new wxStaticText(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, {1, -1},
+                            wxST_ELLIPSIZE_END | wxST_NO_AUTORESIZE);
   case PropertyEditor::Choice: {
-    auto* choice = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
-                                wxDefaultValidator, name);
+    auto* choice = new wxChoice(parent, wxID_ANY);
     for (const std::string& text : property.choices)
       choice->Append(fromUtf8(text));
     // The wheel scrolls the panel and must not change the plan on the way.
@@ -124,8 +150,8 @@ wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index
     return choice;
   }
   case PropertyEditor::Color: {
-    auto* picker = new wxColourPickerCtrl(this, wxID_ANY, *wxBLACK, wxDefaultPosition,
-                                          wxDefaultSize, 0, wxDefaultValidator, name);
+    auto* picker =
+        new wxColourPickerCtrl(parent, wxID_ANY, *wxBLACK, wxDefaultPosition, wxDefaultSize, 0);
     picker->Bind(wxEVT_COLOURPICKER_CHANGED, [this, index](wxColourPickerEvent& event) {
       const wxColour colour = event.GetColour();
       enter(index, OwnColor(Color{colour.Red(), colour.Green(), colour.Blue()}));
@@ -133,8 +159,7 @@ wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index
     return picker;
   }
   case PropertyEditor::Check: {
-    auto* box = new wxCheckBox(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
-                               wxDefaultValidator, name);
+    auto* box = new wxCheckBox(parent, wxID_ANY, wxEmptyString);
     box->Bind(wxEVT_CHECKBOX,
               [this, index](wxCommandEvent& event) { enter(index, event.IsChecked()); });
     return box;
@@ -142,12 +167,13 @@ wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index
   case PropertyEditor::Text:
     break;
   }
-  auto* text = new wxTextCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, {1, -1},
-                              wxTE_PROCESS_ENTER, wxDefaultValidator, name);
+  auto* text = new wxTextCtrl(parent, wxID_ANY, wxEmptyString, wxDefaultPosition, {1, -1},
+                              wxTE_PROCESS_ENTER);
   text->Bind(wxEVT_TEXT_ENTER, [this, index](wxCommandEvent&) { enterText(index); });
   text->Bind(wxEVT_KILL_FOCUS, [this, index, text](wxFocusEvent& event) {
     event.Skip();
-    if (index < rows_.size() && rows_[index].editor == text)
+    const std::vector<Row>& rows = pages_.front()->rows;
+    if (index < rows.size() && rows[index].editor == text)
       enterText(index);
   });
   text->Bind(wxEVT_CHAR_HOOK, [this, index, text](wxKeyEvent& event) {
@@ -163,13 +189,14 @@ wxWindow* PropertyFields::makeEditor(const Property& property, std::size_t index
   return text;
 }
 
-wxSizer* PropertyFields::makeValue(const Property& property, Row& row) {
+wxSizer* PropertyFields::makeValue(Page& page, const Property& property, Row& row) {
   auto* line = new wxBoxSizer(wxHORIZONTAL);
   line->Add(row.editor, wxSizerFlags(1).CenterVertical());
   if (property.mayBeNone) {
-    auto* none = new wxButton(this, wxID_ANY, _("None"), wxDefaultPosition, wxDefaultSize,
-                              wxBU_EXACTFIT, wxDefaultValidator, "property.color.none");
-    const auto index = static_cast<std::size_t>(&row - rows_.data());
+    auto* none = new wxButton(page.window, wxID_ANY, _("None"), wxDefaultPosition, wxDefaultSize,
+                              wxBU_EXACTFIT);
+    page.names.emplace_back(none, "property.color.none");
+    const auto index = static_cast<std::size_t>(&row - page.rows.data());
     none->Bind(wxEVT_BUTTON, [this, index](wxCommandEvent&) { enter(index, OwnColor()); });
     none->SetMinSize(none->GetBestSize() + wxSize(FromDIP(14), 0));
     line->Add(none, wxSizerFlags().CenterVertical().Border(wxLEFT, FromDIP(4)));
@@ -177,74 +204,112 @@ wxSizer* PropertyFields::makeValue(const Property& property, Row& row) {
   }
   auto* column = new wxBoxSizer(wxVERTICAL);
   column->Add(line, wxSizerFlags().Expand());
-  row.note = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
-                              controlName(property) + ".note");
+  const auto under = [&](const char* what) {
+    auto* text = new wxStaticText(page.window, wxID_ANY, wxEmptyString);
+    text->Hide();
+    page.names.emplace_back(text, controlName(property) + what);
+    column->Add(text, wxSizerFlags().Expand());
+    return text;
+  };
+  row.note = under(".note");
   row.note->SetFont(GetFont().Smaller());
-  column->Add(row.note, wxSizerFlags().Expand());
-  row.problem = new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, 0,
-                                 controlName(property) + ".problem");
+  row.problem = under(".problem");
   row.problem->SetForegroundColour(problemColour());
-  column->Add(row.problem, wxSizerFlags().Expand());
   return column;
 }
 
+namespace {
+
+// A control that is given what it shows would be laid out and painted for nothing.
+
+void showText(wxStaticText& shown, const wxString& text) {
+  if (shown.GetLabelText() == text)
+    return;
+  shown.SetLabelText(text);
+  shown.SetToolTip(text);
+}
+
+void showText(wxTextCtrl& shown, const wxString& text) {
+  if (shown.GetValue() != text)
+    shown.ChangeValue(text);
+}
+
+void showColour(wxColourPickerCtrl& shown, const wxColour& colour) {
+  if (shown.GetColour() != colour)
+    shown.SetColour(colour);
+}
+
+} // namespace
+
 void PropertyFields::refresh() {
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
+  std::vector<Row>& rows = pages_.front()->rows;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
     const Property& property = sheet_.rows[i];
-    wxWindow* editor = rows_[i].editor;
+    wxWindow* editor = rows[i].editor;
     const wxString value = fromUtf8(property.value);
     switch (property.editor) {
     case PropertyEditor::None:
-      static_cast<wxStaticText*>(editor)->SetLabelText(value);
-      editor->SetToolTip(value);
+      showText(static_cast<wxStaticText&>(*editor), value);
       break;
     case PropertyEditor::Choice:
       static_cast<wxChoice*>(editor)->SetSelection(
           property.chosen ? static_cast<int>(*property.chosen) : wxNOT_FOUND);
       break;
     case PropertyEditor::Color:
-      static_cast<wxColourPickerCtrl*>(editor)->SetColour(property.color ? toColour(*property.color)
-                                                                         : wxColour(203, 198, 187));
-      if (rows_[i].none != nullptr)
-        rows_[i].none->Enable(!property.isNone);
+      showColour(static_cast<wxColourPickerCtrl&>(*editor),
+                 property.color ? toColour(*property.color) : wxColour(203, 198, 187));
+      if (rows[i].none != nullptr)
+        rows[i].none->Enable(!property.isNone);
       break;
     case PropertyEditor::Check:
       static_cast<wxCheckBox*>(editor)->SetValue(property.checked);
       break;
     case PropertyEditor::Text:
-      static_cast<wxTextCtrl*>(editor)->ChangeValue(value);
+      showText(static_cast<wxTextCtrl&>(*editor), value);
       break;
     }
-    rows_[i].problemText.clear();
+    rows[i].problemText.clear();
   }
-  arrange();
 }
 
-void PropertyFields::arrange() {
-  Layout(); // gives the fields their width
-  wrapTexts();
-  FitInside();
+void PropertyFields::arrange(bool anew) {
+  if (anew)
+    Layout(); // gives the fields their width
+  const bool rewrapped = wrapTexts();
+  if (rewrapped || anew)
+    FitInside();
+  if (!rewrapped)
+    return;
   Layout();
+  pages_.front()->window->Layout(); // which may be as large as before
 }
 
-void PropertyFields::wrapTexts() {
-  const auto wrap = [](wxStaticText& text, const std::string& label, int width) {
+bool PropertyFields::wrapTexts() {
+  Page& page = *pages_.front();
+  bool changed = false;
+  const auto wrap = [&](wxStaticText& text, const std::string& label, int width) {
+    auto& now = page.wrapped[&text];
+    if (now == std::pair(label, label.empty() ? 0 : width))
+      return;
+    now = {label, label.empty() ? 0 : width};
     showWrapped(text, fromUtf8(label), width);
     text.Show(!label.empty());
+    changed = true;
   };
-  wrap(*title_, sheet_.title, GetClientSize().x - 2 * FromDIP(kGap));
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const int width =
-        std::max(rows_[i].problem->GetContainingSizer()->GetSize().x, FromDIP(kLeastWrap));
-    wrap(*rows_[i].note, sheet_.rows[i].note, width);
-    wrap(*rows_[i].problem, rows_[i].problemText, width);
+  wrap(*page.title, sheet_.title, GetClientSize().x - 2 * FromDIP(kGap));
+  for (std::size_t i = 0; i < page.rows.size(); ++i) {
+    Row& row = page.rows[i];
+    const int width = std::max(row.problem->GetContainingSizer()->GetSize().x, FromDIP(kLeastWrap));
+    wrap(*row.note, sheet_.rows[i].note, width);
+    wrap(*row.problem, row.problemText, width);
   }
+  return changed;
 }
 
 void PropertyFields::enterPending() {
   const wxWindow* focus = FindFocus();
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    if (rows_[i].editor == focus && sheet_.rows[i].editor == PropertyEditor::Text) {
+  for (std::size_t i = 0; i < sheet_.rows.size(); ++i) {
+    if (pages_.front()->rows[i].editor == focus && sheet_.rows[i].editor == PropertyEditor::Text) {
       enterText(i);
       return;
     }
@@ -252,7 +317,7 @@ void PropertyFields::enterPending() {
 }
 
 void PropertyFields::enterText(std::size_t index) {
-  const auto* text = static_cast<wxTextCtrl*>(rows_[index].editor);
+  const auto* text = static_cast<wxTextCtrl*>(pages_.front()->rows[index].editor);
   if (text->GetValue() == fromUtf8(sheet_.rows[index].value))
     showProblem(index, {});
   else
@@ -276,17 +341,18 @@ void PropertyFields::enter(std::size_t index, const PropertyValue& value) {
       workspace_.changed();
     return given;
   }();
-  if (index >= rows_.size())
+  if (index >= sheet_.rows.size())
     return;
-  if (answer.problem.empty())
+  if (answer.problem.empty()) {
     refresh();
-  else
+    arrange(false);
+  } else
     showProblem(index, answer.problem);
 }
 
 void PropertyFields::showProblem(std::size_t index, const std::string& problem) {
-  if (std::exchange(rows_[index].problemText, problem) != problem)
-    arrange();
+  if (std::exchange(pages_.front()->rows[index].problemText, problem) != problem)
+    arrange(false);
 }
 
 } // namespace trassix

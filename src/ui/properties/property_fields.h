@@ -5,6 +5,10 @@
 
 #include <wx/scrolwin.h>
 
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
 #include <vector>
 
 class wxStaticText;
@@ -32,21 +36,33 @@ class PropertyFields : public wxScrolledWindow {
     std::string problemText;
   };
 
-  void rebuild();
+  /// The controls for sheets of one shape. They are kept for the next one, since making them takes
+  /// longer than all else that follows a click.
+  struct Page {
+    wxWindow* window = nullptr;
+    PropertySheet shape;
+    std::vector<Row> rows;
+    wxStaticText* title = nullptr;
+    std::vector<std::pair<wxWindow*, wxString>> names; ///< which only the page in view has
+    std::map<wxStaticText*, std::pair<std::string, int>> wrapped; ///< text and width
+  };
+
+  void turnTo(const PropertySheet& sheet);
+  std::unique_ptr<Page> makePage(const PropertySheet& sheet);
   void refresh();
-  wxSizer* makeValue(const Property& property, Row& row);
-  wxWindow* makeEditor(const Property& property, std::size_t index);
+  wxSizer* makeValue(Page& page, const Property& property, Row& row);
+  wxWindow* makeEditor(Page& page, const Property& property, std::size_t index);
   void enterText(std::size_t index);
   void enter(std::size_t index, const PropertyValue& value);
-  /// Breaks the texts into lines as wide as there is room.
-  void wrapTexts();
-  void arrange();
+  /// Breaks the texts into lines as wide as there is room; false when they are already.
+  bool wrapTexts();
+  /// `anew`: other controls are in view, or there is other room for them.
+  void arrange(bool anew);
   void showProblem(std::size_t index, const std::string& problem);
 
   Workspace& workspace_;
   PropertySheet sheet_;
-  std::vector<Row> rows_;
-  wxStaticText* title_ = nullptr;
+  std::vector<std::unique_ptr<Page>> pages_; ///< the one in view first; never more than a few
   bool entering_ = false;
 };
 

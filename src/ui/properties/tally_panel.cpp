@@ -249,7 +249,7 @@ void TallyPanel::showOnPlan(long row) {
 }
 
 void TallyPanel::selectionChanged() {
-  if (!selecting_)
+  if (!selecting_ && list_->GetSelectedItemCount() > 0)
     list_->SetItemState(-1, 0, wxLIST_STATE_SELECTED);
 }
 
