@@ -25,6 +25,7 @@
 #endif
 
 #include <csignal>
+#include <cstdlib>
 #include <ctime>
 #include <exception>
 #include <filesystem>
@@ -84,6 +85,8 @@ TrassixApp::TrassixApp() : faults_(std::make_unique<FaultGuard>()) {
 #ifdef __WXGTK__
   // Reading the font set-up takes a good part of the start; nothing needs it until the first text.
   fonts_ = std::async(std::launch::async, [] { FcInit(); });
+  // Scroll bars that fade in and out have all that they lie on painted anew for each step.
+  setenv("GTK_OVERLAY_SCROLLING", "0", 0);
 #endif
 }
 

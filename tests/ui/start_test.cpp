@@ -3,6 +3,7 @@
 #include "ui_test.h"
 
 #include <wx/app.h>
+#include <wx/splitter.h>
 
 #include <chrono>
 #include <cmath>
@@ -10,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <map>
 #include <regex>
 #include <stdexcept>
 #include <sys/wait.h>
@@ -44,6 +46,33 @@ TEST_F(UiTest, StartWritesItsLogAndTraceAnew) {
             "created + split done + adding to sizer + outerSplit added + sizer set + layout done + "
             "palette populated\nD: Panels done\nE: StatusBar done\n"
             "F: MainFrame constructor complete\n");
+}
+
+/// Counts how often windows are painted.
+class PaintCounter : public wxEventFilter {
+ public:
+  PaintCounter() { wxEvtHandler::AddFilter(this); }
+  ~PaintCounter() override { wxEvtHandler::RemoveFilter(this); }
+
+  int FilterEvent(wxEvent& event) override {
+    if (event.GetEventType() == wxEVT_PAINT)
+      ++times[dynamic_cast<wxWindow*>(event.GetEventObject())];
+    return Event_Skip;
+  }
+
+  std::map<wxWindow*, int> times;
+};
+
+TEST_F(UiTest, NoPanelIsPaintedMoreThanTwiceByAStart) {
+  PaintCounter counter;
+  startLaidOut();
+  for (const char* list : {"pieces", "tally"})
+    waitUntil("the panels are painted", [&] { return counter.times[findNamed(list)] > 0; });
+  settle();
+  for (const auto& [window, times] : counter.times)
+    if (window->GetParent() != nullptr && dynamic_cast<wxSplitterWindow*>(window) == nullptr) {
+      EXPECT_LE(times, 2) << window->GetName();
+    }
 }
 
 struct Answer {

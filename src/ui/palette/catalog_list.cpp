@@ -59,6 +59,7 @@ CatalogList::CatalogList(wxWindow* parent, const wxString& name, Actions actions
 
 void CatalogList::setRows(std::vector<CatalogRow> rows, const wxString& whenEmpty) {
   rows_ = std::move(rows);
+  laid_.clear();
   whenEmpty_ = whenEmpty;
   pressedRow_ = wxNOT_FOUND;
   tipRow_ = wxNOT_FOUND;
@@ -190,20 +191,34 @@ int CatalogList::pictureWidth() const {
   return std::min(FromDIP(kPictureWidth), GetClientSize().x * 2 / 5);
 }
 
-wxArrayString CatalogList::titleLines(wxDC& dc, const CatalogRow& row) const {
-  dc.SetFont(row.bold ? GetFont().Bold() : GetFont());
-  return wrappedLines(dc, row.title, GetClientSize().x - pictureWidth() - FromDIP(4 * kPadding));
+/// Measuring words takes longer than drawing them.
+const CatalogList::Laid& CatalogList::laidOut(std::size_t index) const {
+  const int width = GetClientSize().x;
+  if (std::exchange(laidFor_, width) != width || laid_.size() != rows_.size())
+    laid_.assign(rows_.size(), {});
+  std::optional<Laid>& laid = laid_[index];
+  if (laid)
+    return *laid;
+  const CatalogRow& row = rows_[index];
+  wxClientDC dc(const_cast<CatalogList*>(this));
+  dc.SetFont(GetFont());
+  const int room = width - pictureWidth() - FromDIP(4 * kPadding);
+  laid.emplace();
+  laid->detail =
+      wxControl::Ellipsize(row.detail, dc, wxELLIPSIZE_END, room, wxELLIPSIZE_FLAGS_NONE);
+  if (row.bold)
+    dc.SetFont(GetFont().Bold());
+  laid->title = wrappedLines(dc, row.title, room);
+  laid->lineHeight = dc.GetCharHeight();
+  const int lines = static_cast<int>(laid->title.size()) + (row.detail.empty() ? 0 : 1);
+  const double picture = row.pictureHeight * pictureWidth() / FromDIP(kPictureWidth);
+  laid->height = std::max({FromDIP(kEntry), FromDIP(static_cast<int>(picture) + 2 * kPadding),
+                           lines * laid->lineHeight + FromDIP(kPadding)});
+  return *laid;
 }
 
-wxCoord CatalogList::OnMeasureItem(size_t index) const {
-  const CatalogRow& row = rows_[index];
-  if (row.heading)
-    return FromDIP(kHeading);
-  wxClientDC dc(const_cast<CatalogList*>(this));
-  const int lines = static_cast<int>(titleLines(dc, row).size()) + (row.detail.empty() ? 0 : 1);
-  const double picture = row.pictureHeight * pictureWidth() / FromDIP(kPictureWidth);
-  return std::max({FromDIP(kEntry), FromDIP(static_cast<int>(picture) + 2 * kPadding),
-                   lines * dc.GetCharHeight() + FromDIP(kPadding)});
+wxCoord CatalogList::OnMeasureItem(size_t row) const {
+  return rows_[row].heading ? FromDIP(kHeading) : laidOut(row).height;
 }
 
 void CatalogList::OnDrawBackground(wxDC& dc, const wxRect& rect, size_t row) const {
@@ -219,7 +234,7 @@ void CatalogList::OnDrawBackground(wxDC& dc, const wxRect& rect, size_t row) con
 void CatalogList::OnDrawItem(wxDC& dc, const wxRect& rect, size_t row) const {
   const CatalogRow& shown = rows_[row];
   if (!shown.heading) {
-    drawEntry(dc, rect, shown, IsSelected(row));
+    drawEntry(dc, rect, row);
     return;
   }
   dc.SetFont(GetFont().Bold());
@@ -228,8 +243,9 @@ void CatalogList::OnDrawItem(wxDC& dc, const wxRect& rect, size_t row) const {
               rect.y + (rect.height - dc.GetTextExtent(shown.title).y) / 2);
 }
 
-void CatalogList::drawEntry(wxDC& dc, const wxRect& rect, const CatalogRow& row,
-                            bool chosen) const {
+void CatalogList::drawEntry(wxDC& dc, const wxRect& rect, std::size_t index) const {
+  const CatalogRow& row = rows_[index];
+  const Laid& laid = laidOut(index);
   const int picture = pictureWidth();
   const int padding = FromDIP(kPadding);
   const wxRect frame(rect.x, rect.y, picture + 2 * padding, rect.height);
@@ -256,22 +272,17 @@ void CatalogList::drawEntry(wxDC& dc, const wxRect& rect, const CatalogRow& row,
     }
   }
   const int left = frame.GetRight() + padding;
-  const int room = rect.GetRight() - left - padding;
   dc.SetTextForeground(
-      systemColour(chosen ? wxSYS_COLOUR_HIGHLIGHTTEXT : wxSYS_COLOUR_LISTBOXTEXT));
-  const wxArrayString title = titleLines(dc, row);
-  const int line = dc.GetCharHeight();
-  const int lines = static_cast<int>(title.size()) + (row.detail.empty() ? 0 : 1);
-  int top = rect.y + (rect.height - lines * line) / 2;
-  for (const wxString& text : title) {
+      systemColour(IsSelected(index) ? wxSYS_COLOUR_HIGHLIGHTTEXT : wxSYS_COLOUR_LISTBOXTEXT));
+  const int lines = static_cast<int>(laid.title.size()) + (row.detail.empty() ? 0 : 1);
+  int top = rect.y + (rect.height - lines * laid.lineHeight) / 2;
+  dc.SetFont(row.bold ? GetFont().Bold() : GetFont());
+  for (const wxString& text : laid.title) {
     dc.DrawText(text, left, top);
-    top += line;
+    top += laid.lineHeight;
   }
-  if (row.detail.empty())
-    return;
   dc.SetFont(GetFont());
-  dc.DrawText(wxControl::Ellipsize(row.detail, dc, wxELLIPSIZE_END, room, wxELLIPSIZE_FLAGS_NONE),
-              left, top);
+  dc.DrawText(laid.detail, left, top);
 }
 
 void CatalogList::paintEmptyText(wxPaintEvent& event) {

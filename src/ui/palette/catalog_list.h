@@ -5,6 +5,7 @@
 #include <wx/vlbox.h>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace trassix {
@@ -61,7 +62,7 @@ class CatalogList : public wxVListBox {
   void OnDrawItem(wxDC& dc, const wxRect& rect, size_t row) const override;
   void OnDrawBackground(wxDC& dc, const wxRect& rect, size_t row) const override;
   wxCoord OnMeasureItem(size_t row) const override;
-  void drawEntry(wxDC& dc, const wxRect& rect, const CatalogRow& row, bool chosen) const;
+  void drawEntry(wxDC& dc, const wxRect& rect, std::size_t index) const;
   void paintEmptyText(wxPaintEvent& event);
   void onMouse(wxMouseEvent& event);
   void onKey(wxKeyEvent& event);
@@ -69,9 +70,19 @@ class CatalogList : public wxVListBox {
   bool isEntry(int row) const;
   int rowsOnPage() const;
   int pictureWidth() const;
-  wxArrayString titleLines(wxDC& dc, const CatalogRow& row) const;
+
+  /// The words of an entry as there is room for them.
+  struct Laid {
+    wxArrayString title;
+    wxString detail;
+    int lineHeight = 0;
+    int height = 0; ///< of the row
+  };
+  const Laid& laidOut(std::size_t index) const;
 
   std::vector<CatalogRow> rows_;
+  mutable std::vector<std::optional<Laid>> laid_; ///< by row, as far as they were looked at
+  mutable int laidFor_ = 0;                       ///< the width
   wxString whenEmpty_;
   Actions actions_;
   int pressedRow_ = wxNOT_FOUND;

@@ -90,11 +90,12 @@ void PalettePanel::onFirstPaint(wxPaintEvent& event) {
 void PalettePanel::build() {
   if (search_)
     return;
-  choice_ = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
+  wxArrayString systems;
+  for (const TrackSystem system : systems_)
+    systems.Add(fromUtf8(systemName(system)));
+  choice_ = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, systems, 0,
                          wxDefaultValidator, "systems");
   choice_->SetToolTip(_("Track system"));
-  for (const TrackSystem system : systems_)
-    choice_->Append(fromUtf8(systemName(system)));
   search_ = new wxSearchCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
                              wxTE_PROCESS_ENTER, wxDefaultValidator, "search");
   search_->SetDescriptiveText(_("Article, name or number"));
