@@ -4,6 +4,7 @@
 #include "catalog/scenery_catalog.h"
 
 #include <array>
+#include <cmath>
 #include <unordered_map>
 #include <vector>
 
@@ -15,15 +16,17 @@ struct HelixSystem {
   TrackSystem system = TrackSystem::CTrack;
   const char* suffix = "";
   int firstRadius = 1; ///< what the system calls its smallest radius
-  double spacing = 0;  ///< of its double track, mm
+  double slimmest = 0; ///< spacing of its double track, mm
+  double widest = 0;
 };
 
-constexpr std::array<HelixSystem, 6> kSystems{{{TrackSystem::CTrack, "", 1, 77.5},
-                                               {TrackSystem::TrixCTrack, "_trix", 1, 77.5},
-                                               {TrackSystem::KTrack, "_k", 1, 64.6},
-                                               {TrackSystem::MTrack, "_m", 0, 77.4},
-                                               {TrackSystem::ZTrack, "_z", 1, 25},
-                                               {TrackSystem::Gauge1, "_1", 1, 125}}};
+// From its fourth radius on C-Track is made for the slim spacing.
+constexpr std::array<HelixSystem, 6> kSystems{{{TrackSystem::CTrack, "", 1, 64.3, 77.5},
+                                               {TrackSystem::TrixCTrack, "_trix", 1, 64.3, 77.5},
+                                               {TrackSystem::KTrack, "_k", 1, 64.6, 64.6},
+                                               {TrackSystem::MTrack, "_m", 0, 74, 77.4},
+                                               {TrackSystem::ZTrack, "_z", 1, 25, 25},
+                                               {TrackSystem::Gauge1, "_1", 1, 125, 125}}};
 
 /// Two tracks lie so many spacings apart.
 constexpr double kLeastApart = 0.95;
@@ -31,6 +34,7 @@ constexpr double kMostApart = 1.5;
 
 constexpr int kLeastHalfTurns = 2;
 constexpr int kMostHalfTurns = 24;
+constexpr double kOrdinaryTurns = 2.5;
 
 /// Half a roadbed, what vehicles lean out, and the posts beside them.
 double besideOuterTrack(TrackSystem system) {
@@ -62,13 +66,13 @@ HelixKit makeKit(const HelixSystem& of, NamedCurve inner, NamedCurve outer, int 
   kit.turns = halfTurns / 2.0;
   kit.outerSize = kit.outermost().radius + besideOuterTrack(of.system);
   kit.key.append("helix_").append(whole).append("_").append(half).append("_r").append(first);
-  kit.name.append("Helix R").append(first);
+  kit.radii.append("R").append(first);
   if (outer.piece != nullptr) {
     kit.key.append("r").append(second);
-    kit.name.append("/R").append(second);
+    kit.radii.append("/R").append(second);
   }
   kit.key.append(of.suffix);
-  kit.name.append(", ").append(whole);
+  kit.name.append("Helix ").append(kit.radii).append(", ").append(whole);
   if (halfTurns % 2 != 0)
     kit.name.append(".5");
   kit.name.append(halfTurns == 2 ? " turn" : " turns");
@@ -88,8 +92,8 @@ void addKits(const HelixSystem& of, std::vector<HelixKit>& kits) {
   for (const NamedCurve& curve : curves)
     add(curve, {});
   for (std::size_t i = 1; i < curves.size(); ++i) {
-    const double apart = (curves[i].piece->radius - curves[i - 1].piece->radius) / of.spacing;
-    if (apart >= kLeastApart && apart <= kMostApart)
+    const double apart = curves[i].piece->radius - curves[i - 1].piece->radius;
+    if (apart >= kLeastApart * of.slimmest && apart <= kMostApart * of.widest)
       add(curves[i - 1], curves[i]);
   }
 }
@@ -120,6 +124,23 @@ std::span<const HelixKit> helixKits() {
 const HelixKit* findHelixKit(std::string_view key) {
   const auto found = kits().byKey.find(key);
   return found == kits().byKey.end() ? nullptr : found->second;
+}
+
+std::vector<const HelixKit*> helixSizes(TrackSystem system) {
+  std::vector<const HelixKit*> sizes;
+  for (const HelixKit& kit : helixKits())
+    if (kit.system == system && kit.turns == kOrdinaryTurns)
+      sizes.push_back(&kit);
+  return sizes;
+}
+
+const HelixKit& withTurns(const HelixKit& kit, double turns) {
+  const HelixKit* nearest = &kit;
+  for (const HelixKit& other : helixKits())
+    if (other.inner == kit.inner && other.outer == kit.outer &&
+        std::abs(other.turns - turns) < std::abs(nearest->turns - turns))
+      nearest = &other;
+  return *nearest;
 }
 
 double helixHalfSize(std::string_view key) {

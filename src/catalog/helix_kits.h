@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace trassix {
 
@@ -17,6 +18,7 @@ inline constexpr double kUnknownHelixHalfSize = 500.0;
 struct HelixKit {
   std::string key; ///< holds turns, radii and, but for C-Track, the system
   std::string name;
+  std::string radii; ///< as the system counts them, for example "R1" or "R1/R2"
   TrackSystem system = TrackSystem::CTrack;
   const PieceDef* inner = nullptr; ///< the curve that the track is made of
   const PieceDef* outer = nullptr; ///< that of the second track, null when there is one only
@@ -27,12 +29,19 @@ struct HelixKit {
   const PieceDef& outermost() const { return outer == nullptr ? *inner : *outer; }
 };
 
-/// Of each system one track on each of its radii and two on neighbouring radii that lie far enough
-/// apart for trains to pass, in each number of turns.
+/// Of each system one track on each of its radii and two on neighbouring radii that lie as far
+/// apart as its double track does, or a little more, in each number of turns.
 std::span<const HelixKit> helixKits();
 
 /// Null on a miss.
 const HelixKit* findHelixKit(std::string_view key);
+
+/// One kit for each radius and pair of radii of a system, single tracks first, the smallest first;
+/// of the ordinary number of turns. None for a system without kits.
+std::vector<const HelixKit*> helixSizes(TrackSystem system);
+
+/// The kit on the same radii with another number of turns, the nearest one that there is.
+const HelixKit& withTurns(const HelixKit& kit, double turns);
 
 /// Half the side of the square around its centre that a helix of this kit covers.
 double helixHalfSize(std::string_view key);

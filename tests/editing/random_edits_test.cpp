@@ -192,6 +192,12 @@ class RandomEdits : public testing::TestWithParam<std::uint32_t> {
       return (any(0, 3) == 0 ? turnIntoLooseTrack(plan, id) : deleteHelix(plan, id)) && step.keep();
     case 1:
       return place(blockFromSelection(plan), false) && step.keep();
+    case 2: {
+      HelixPlan other = planOfHelix(plan, *recordWithId(helices, id)).value();
+      other.kit = &withTurns(*other.kit, any(2, 4) / 2.0);
+      other.hand = static_cast<HelixHand>(any(0, 1));
+      return changeHelix(plan, id, other).changed() && step.keep();
+    }
     default:
       piece = *plan.findPiece(selectedPieces(plan).front());
       return move(any(0, 1) == 0) && step.keep();

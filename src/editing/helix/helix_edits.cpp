@@ -4,9 +4,12 @@
 #include "document/plan_content.h"
 #include "document/reselecting.h"
 #include "document/undo_scope.h"
+#include "editing/elevation/inheritance.h"
+#include "editing/helix/helix_ends.h"
 #include "editing/joining/joining.h"
 #include "editing/records_by_id.h"
 #include "editing/selection/selection.h"
+#include "editing/tunnels/tunnel_facts.h"
 #include "measures/measure_format.h"
 #include "texts/texts.h"
 
@@ -52,38 +55,150 @@ bool removeRecord(PlanContent& content, std::int32_t helix) {
 
 } // namespace
 
+namespace {
+
+/// Lays the track on the plan and fills the record in, but for its id. Returns the ids.
+std::vector<std::int32_t> layHelix(Layout& layout, const HelixPlan& plan, std::int32_t level,
+                                   Helix& helix) {
+  helix.cx = plan.centre.x;
+  helix.cy = plan.centre.y;
+  helix.heading = normaliseHeading(plan.centre.heading);
+  helix.variant = plan.kit->key;
+  helix.bottomR2 = helix.topR2 = -1;
+  std::vector<std::int32_t> all;
+  for (HelixTrack& track : helixTracks(plan)) {
+    const bool outer = !all.empty();
+    const std::vector<std::int32_t> ids = add(layout, std::move(track), helix.id, level);
+    (outer ? helix.bottomR2 : helix.bottomR1) = ids.front();
+    (outer ? helix.topR2 : helix.topR1) = ids.back();
+    all.insert(all.end(), ids.begin(), ids.end());
+  }
+  return all;
+}
+
+/// Ends the edit that laid a helix: joins what meets, and selects it.
+EditResult finishHelix(Layout& layout, const Helix& helix, std::span<const std::int32_t> pieces) {
+  std::vector<std::int32_t> sorted(pieces.begin(), pieces.end());
+  std::ranges::sort(sorted);
+  closeMeetingEnds(layout, sorted);
+  selectHelix(layout, helix.id);
+  EditResult result{{helix.id}, {}};
+  result.placed.insert(result.placed.end(), pieces.begin(), pieces.end());
+  result.remark = missedEndsNotice(layout, missedEnds(layout, sorted));
+  return result;
+}
+
+std::optional<Notice> refusalOf(const HelixPlan& plan, std::int32_t units) {
+  if (std::string problem = helixProblem(plan, units); !problem.empty())
+    return Notice{tr("Helix"), std::move(problem)};
+  return fitsPlan(plan) ? std::nullopt : std::optional(beyondPlan());
+}
+
+/// The ends of other track that the ends of a helix are joined to, by its list of ends.
+std::vector<std::optional<PlacedEnd>> neighboursOf(const Layout& layout, const Helix& helix,
+                                                   const HelixPlan& plan) {
+  std::vector<std::optional<PlacedEnd>> neighbours;
+  for (const HelixEnd& end : endsOf(plan)) {
+    const PlacedPiece* piece = layout.findPiece(end.top ? (end.outer ? helix.topR2 : helix.topR1)
+                                                : end.outer ? helix.bottomR2
+                                                            : helix.bottomR1);
+    const auto connector =
+        static_cast<std::size_t>((plan.hand == HelixHand::Right) == end.top ? 1 : 0);
+    const PlacedPiece* other = piece == nullptr ? nullptr : joinedPiece(layout, *piece, connector);
+    neighbours.emplace_back();
+    if (other == nullptr || other->helix == helix.id)
+      continue;
+    std::vector<PlacedEnd> ends;
+    appendEnds(ends, *other, 0, true);
+    neighbours.back() = ends.at(static_cast<std::size_t>(piece->joint(connector).tconn));
+  }
+  return neighbours;
+}
+
+/// The wanted helix where most of what the present one is joined to can stay joined.
+HelixPlan inPlaceOf(const HelixPlan& present, const HelixPlan& wanted,
+                    const std::vector<std::optional<PlacedEnd>>& neighbours) {
+  const std::vector<HelixEnd> before = endsOf(present);
+  const auto neighbourOf = [&](const HelixEnd& end) -> std::optional<PlacedEnd> {
+    for (std::size_t i = 0; i < before.size(); ++i)
+      if (before[i].top == end.top && before[i].outer == end.outer)
+        return neighbours[i];
+    return std::nullopt;
+  };
+  HelixPlan best = wanted;
+  best.centre = present.centre;
+  best.height = present.height;
+  long most = 0;
+  const std::vector<HelixEnd> ends = endsOf(wanted);
+  for (std::size_t i = 0; i < ends.size(); ++i) {
+    const std::optional<PlacedEnd> held = neighbourOf(ends[i]);
+    if (!held)
+      continue;
+    const HelixPlan standing = standingBy(wanted, i, *held);
+    const long kept = std::ranges::count_if(endsOf(standing), [&](const HelixEnd& end) {
+      const std::optional<PlacedEnd> other = neighbourOf(end);
+      if (!other)
+        return false;
+      const EndContact contact{
+          end.placed, *other,
+          std::hypot(end.placed.at.x - other->at.x, end.placed.at.y - other->at.y)};
+      return meetsInPlan(contact) && meetsInHeight(contact);
+    });
+    if (kept > most) {
+      most = kept;
+      best = standing;
+    }
+  }
+  return best;
+}
+
+} // namespace
+
 std::string helixProblem(const HelixPlan& plan, std::int32_t units) {
   const double least = leastPitch(plan.kit->system, false);
-  if (std::isfinite(plan.pitch) && plan.pitch >= least)
+  if (std::isfinite(plan.pitch) && plan.pitch >= least - kPitchPlay)
     return {};
   return tr("Trains need at least %1% from turn to turn.", {formatBriefLength(least, units)});
 }
 
 EditResult placeHelix(Layout& layout, const HelixPlan& plan, std::int32_t level) {
-  if (std::string problem = helixProblem(plan, layout.settings().units); !problem.empty())
-    return {{}, Notice{tr("Helix"), std::move(problem)}};
-  if (!fitsPlan(plan))
-    return {{}, beyondPlan()};
+  if (std::optional<Notice> refusal = refusalOf(plan, layout.settings().units))
+    return {{}, std::move(refusal)};
   UndoScope step(layout);
   Helix helix;
   helix.id = layout.takeId();
-  helix.cx = plan.centre.x;
-  helix.cy = plan.centre.y;
-  helix.heading = normaliseHeading(plan.centre.heading);
-  helix.variant = plan.kit->key;
-  EditResult result{{helix.id}, {}};
   layout.ensureLevel(level);
-  bool outer = false;
-  for (HelixTrack& track : helixTracks(plan)) {
-    const std::vector<std::int32_t> ids = add(layout, std::move(track), helix.id, level);
-    (outer ? helix.bottomR2 : helix.bottomR1) = ids.front();
-    (outer ? helix.topR2 : helix.topR1) = ids.back();
-    result.placed.insert(result.placed.end(), ids.begin(), ids.end());
-    outer = true;
-  }
+  const std::vector<std::int32_t> pieces = layHelix(layout, plan, level, helix);
   layout.edit().helices.push_back(helix);
-  closeMeetingEnds(layout, piecesOfHelix(layout, helix.id));
-  selectHelix(layout, helix.id);
+  EditResult result = finishHelix(layout, helix, pieces);
+  step.keep();
+  return result;
+}
+
+EditResult changeHelix(Layout& layout, std::int32_t helix, const HelixPlan& plan) {
+  const Helix* record = recordWithId(layout.content().helices, helix);
+  const auto present = record == nullptr ? std::nullopt : planOfHelix(layout, *record);
+  if (!present || (present->kit == plan.kit && present->hand == plan.hand &&
+                   std::abs(present->pitch - plan.pitch) < kSameHeight))
+    return {};
+  const std::vector<std::int32_t> old = piecesOfHelix(layout, helix);
+  if (std::ranges::any_of(old, [&layout](std::int32_t id) { return tunnelOver(layout, id); }))
+    return {{}, Notice{tr("Helix"), tr("Its track lies in a tunnel. Remove the tunnel first.")}};
+  const HelixPlan wanted = inPlaceOf(*present, plan, neighboursOf(layout, *record, *present));
+  if (std::optional<Notice> refusal = refusalOf(wanted, layout.settings().units))
+    return {{}, std::move(refusal)};
+  const PlacedPiece model = *layout.findPiece(record->bottomR1);
+  Helix changed = *record;
+  UndoScope step(layout);
+  removePieces(layout.edit(), old);
+  const std::vector<std::int32_t> pieces = layHelix(layout, wanted, model.level, changed);
+  for (const std::int32_t id : pieces) {
+    PlacedPiece& piece = *layout.editPiece(id);
+    piece.hasColor = model.hasColor;
+    piece.color = model.color;
+  }
+  *std::ranges::find(layout.edit().helices, helix, &Helix::id) = changed;
+  EditResult result = finishHelix(layout, changed, pieces);
   step.keep();
   return result;
 }

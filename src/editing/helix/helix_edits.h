@@ -17,9 +17,15 @@ class Layout;
 std::string helixProblem(const HelixPlan& plan, std::int32_t units);
 
 /// Places the helix on a level: its track, joined and at its exact heights, and the record. Ends
-/// that meet open ends are joined. It becomes the selection; the result names the helix, then its
-/// pieces.
+/// that meet open ends are joined, and those that meet one at another height remarked. It becomes
+/// the selection; the result names the helix, then its pieces.
 EditResult placeHelix(Layout& layout, const HelixPlan& plan, std::int32_t level);
+
+/// Makes a helix into another one, whatever place and height `plan` tells: the ends that are joined
+/// stay where they are, as many as can, else its centre and its bottom. The others are opened. It
+/// keeps its id, level and colour, and its pieces get new ids. Refused for what `placeHelix`
+/// refuses, and in a tunnel.
+EditResult changeHelix(Layout& layout, std::int32_t helix, const HelixPlan& plan);
 
 /// Ids of its pieces, sorted.
 std::vector<std::int32_t> piecesOfHelix(const Layout& layout, std::int32_t helix);

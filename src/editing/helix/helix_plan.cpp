@@ -4,6 +4,7 @@
 #include "document/plan_content.h"
 #include "editing/elevation/crossings.h"
 #include "editing/elevation/end_heights.h"
+#include "editing/elevation/grades.h"
 #include "editing/track/connector_geometry.h"
 
 #include <algorithm>
@@ -48,6 +49,13 @@ double HelixPlan::slope(bool outer) const {
   return pitch / (2 * kPi * curve.radius);
 }
 
+HelixWish usualHelix(const HelixKit& kit) {
+  HelixPlan plan{&kit, HelixHand::Right, leastPitch(kit.system, true), {}, 0};
+  if (gradeBand(plan.slope(false)) != GradeBand::Comfortable)
+    plan.pitch = leastPitch(kit.system, false);
+  return {plan};
+}
+
 double leastPitch(TrackSystem system, bool wire) {
   return leastClearance(system, wire) + railTop(system) + kDeckThickness;
 }
@@ -71,6 +79,11 @@ std::optional<HelixPlan> planOfHelix(const Layout& layout, const Helix& helix) {
   plan.hand = atOne >= atZero ? HelixHand::Right : HelixHand::Left;
   plan.height = std::min(atZero, atOne);
   plan.pitch = std::abs(atOne - atZero) * 360 / curve->angle;
+  // Over all its turns what a file rounds counts least.
+  const PlacedPiece* top = layout.findPiece(helix.topR1);
+  if (const PieceDef* last = top == nullptr ? nullptr : definitionOf(*top))
+    plan.pitch = (std::max(endHeight(*top, *last, 0), endHeight(*top, *last, 1)) - plan.height) /
+                 plan.kit->turns;
   plan.centre = {helix.cx, helix.cy, helix.heading};
   return plan;
 }

@@ -32,6 +32,18 @@ struct HelixPlan {
   double slope(bool outer) const;
 };
 
+/// A helix as a user wants it, before it has a place on the plan.
+struct HelixWish {
+  HelixPlan plan;         ///< its place and height say nothing
+  bool leadsDown = false; ///< it is joined by its top, and leads down from there
+};
+
+/// A helix of the kit, with a pitch for trains with wire where that is comfortable, else without.
+HelixWish usualHelix(const HelixKit& kit);
+
+/// What the decimals of a file may take from a pitch, in mm.
+inline constexpr double kPitchPlay = 0.01;
+
 /// The least rise of a turn under which trains of a system pass, with rails and deck.
 double leastPitch(TrackSystem system, bool wire);
 

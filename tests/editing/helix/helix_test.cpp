@@ -2,6 +2,8 @@
 #include "document/plan_content.h"
 #include "editing/elevation/end_heights.h"
 #include "editing/helix/helix_edits.h"
+#include "editing/helix/helix_ends.h"
+#include "editing/joining/joining.h"
 #include "editing/placing/block_placing.h"
 #include "editing/placing/placing.h"
 #include "editing/selection/moving.h"
@@ -66,10 +68,70 @@ TEST(HelixKits, stackExactTurnsWhateverTheSystem) {
   EXPECT_EQ(systems.size(), 6U);
   for (const char* known :
        {"proses_2_5_r1r2", "helix_2_5_r2r3", "helix_1_0_r5", "helix_12_0_r0r1_m",
-        "helix_3_5_r2r3_z", "helix_2_0_r1r2_k", "helix_2_0_r1r2_1"})
+        "helix_3_5_r2r3_z", "helix_2_0_r1r2_k", "helix_2_0_r1r2_1", "helix_2_5_r3r4",
+        "helix_1_0_r4r5", "helix_1_0_r2r3_trix"})
     EXPECT_NE(findHelixKit(known), nullptr) << known;
-  for (const char* tooNear : {"helix_2_5_r3r4", "helix_2_5_r1r2_z"})
-    EXPECT_EQ(findHelixKit(tooNear), nullptr) << tooNear;
+  EXPECT_EQ(findHelixKit("helix_2_5_r1r2_z"), nullptr) << "too far apart";
+}
+
+TEST(Helices, ChangeWhereTheyAreJoined) {
+  // Both tracks of a helix between two lines, of which the upper one is joined at its top.
+  const HelixPlan first{findHelixKit("helix_2_0_r1r2"), HelixHand::Right, 80, {0, 0, 0}, 0};
+  Layout joined;
+  placeHelix(joined, first, 1);
+  for (const HelixEnd& end : endsOf(first)) {
+    const PieceDef& straight = cataloguePiece("24188");
+    const std::int32_t id =
+        addPiece(joined, straight,
+                 AttachPose(straight, 0, {end.placed.at.x, end.placed.at.y, end.placed.heading}), 1,
+                 end.placed.height);
+    closeMeetingEnds(joined, std::span(&id, 1));
+  }
+  joined.editPiece(joined.content().helices[0].bottomR1)->hasColor = true;
+  const std::int32_t helix = joined.content().helices[0].id;
+  ASSERT_EQ(openEnds(joined), 4);
+  struct Case {
+    const char* kit;
+    HelixHand hand;
+    double pitch;
+    int open; ///< ends then
+    double x, y, height;
+  };
+  for (const Case& c :
+       {Case{"helix_2_0_r1r2", HelixHand::Right, 90, 8, 0, 0, 0},
+        Case{"helix_3_0_r1r2", HelixHand::Right, 160 / 3.0, -1, 0, 0, 0}, // trains cannot pass
+        Case{"helix_1_0_r1r2", HelixHand::Right, 160, 4, 0, 0, 0},
+        Case{"helix_2_0_r1", HelixHand::Right, 80, 6, 0, 0, 0},
+        Case{"helix_2_0_r2r3", HelixHand::Right, 80, 4, 0, 77.5, 0},
+        Case{"helix_2_0_r1r2", HelixHand::Left, 80, 8, 0, -720, 0}}) {
+    SCOPED_TRACE(c.kit);
+    Layout layout = joined;
+    const EditResult changed =
+        changeHelix(layout, helix, {findHelixKit(c.kit), c.hand, c.pitch, {5, 5, 5}, 5});
+    if (c.open < 0) {
+      EXPECT_TRUE(changed.refusal);
+      EXPECT_EQ(layout.content(), joined.content());
+      continue;
+    }
+    ASSERT_EQ(brokenRule(layout), "");
+    EXPECT_EQ(openEnds(layout), c.open);
+    const Helix& now = layout.content().helices.at(0);
+    EXPECT_EQ(now.id, helix);
+    const HelixPlan plan = planOfHelix(layout, now).value();
+    EXPECT_EQ(plan.kit->key, c.kit);
+    EXPECT_EQ(plan.hand, c.hand);
+    EXPECT_NEAR(plan.pitch, c.pitch, 1e-6);
+    EXPECT_NEAR(now.cx, c.x, 0.01);
+    EXPECT_NEAR(now.cy, c.y, 0.01);
+    EXPECT_NEAR(plan.height, c.height, 1e-6);
+    EXPECT_LE(std::abs(largestPlay(layout).step), 0.01);
+    EXPECT_TRUE(layout.findPiece(now.topR1)->hasColor);
+    EXPECT_EQ(selectedHelix(layout), helix);
+    layout.undo();
+    EXPECT_EQ(layout.content().pieces.size(), joined.pieceCount());
+    EXPECT_EQ(layout.content().helices, joined.content().helices);
+  }
+  EXPECT_FALSE(changeHelix(joined, helix, first).changed());
 }
 
 TEST(Helices, AreOneStepEachAndRefuseTrainsThatCannotPass) {
