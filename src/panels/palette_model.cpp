@@ -189,6 +189,7 @@ void PaletteModel::setSystem(TrackSystem system) {
   }
   fillPieces();
   fillScenery();
+  fillHelices();
 }
 
 void PaletteModel::setSearch(std::string_view text) {
@@ -196,6 +197,7 @@ void PaletteModel::setSearch(std::string_view text) {
   search_ = wordsOf(text);
   fillPieces();
   fillScenery();
+  fillHelices();
 }
 
 void PaletteModel::noteUse(std::string_view article) {
@@ -209,12 +211,19 @@ void PaletteModel::noteUse(std::string_view article) {
   fillPieces();
 }
 
-bool PaletteModel::found(const Entry& entry) const {
-  return std::ranges::all_of(search_, [&entry](const std::string& word) {
-    return entry.words.find(word) != std::string::npos ||
-           std::ranges::any_of(entry.numbers, [&word](const std::string& number) {
-             return number.starts_with(word);
-           });
+bool PaletteModel::found(std::string_view words, std::span<const std::string> numbers) const {
+  return std::ranges::all_of(search_, [&](const std::string& word) {
+    return words.find(word) != std::string::npos ||
+           std::ranges::any_of(
+               numbers, [&word](const std::string& number) { return number.starts_with(word); });
+  });
+}
+
+void PaletteModel::fillHelices() {
+  helices_ = helixSizes(system_);
+  std::erase_if(helices_, [this](const HelixKit* kit) {
+    const std::array numbers{numberText(kit->inner->radius), numberText(kit->outermost().radius)};
+    return !found(lowerCase("helix spiral " + kit->radii), numbers);
   });
 }
 
@@ -227,14 +236,14 @@ void PaletteModel::fillPieces() {
     entry.pieces.push_back(piece);
   };
   for (const Entry& entry : entries_) {
-    if (found(entry)) {
+    if (found(entry.words, entry.numbers)) {
       const bool curve = entry.group == PieceGroup::Curves;
       file(entry.group, curve ? entry.piece->radius : 0, entry.piece);
     }
   }
   for (const PieceDef* piece : recent_) {
     const auto entry = std::ranges::find(entries_, piece, &Entry::piece);
-    if (entry != entries_.end() && found(*entry)) {
+    if (entry != entries_.end() && found(entry->words, entry->numbers)) {
       file(PieceGroup::Recent, 0, piece);
     }
   }

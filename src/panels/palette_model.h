@@ -2,11 +2,13 @@
 // both narrowed by a search.
 #pragma once
 
+#include "catalog/helix_kits.h"
 #include "catalog/piece_def.h"
 #include "catalog/scenery_catalog.h"
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -72,6 +74,8 @@ class PaletteModel {
 
   const std::vector<PaletteGroup>& groups() const { return groups_; }
   const std::vector<SceneryGroup>& scenery() const { return scenery_; }
+  /// A kit for each radius and pair of radii of the system.
+  const std::vector<const HelixKit*>& helices() const { return helices_; }
 
  private:
   struct Entry {
@@ -81,9 +85,10 @@ class PaletteModel {
     std::vector<std::string> numbers; ///< length, radius and angle as they are written
   };
 
-  bool found(const Entry& entry) const;
+  bool found(std::string_view words, std::span<const std::string> numbers) const;
   void fillPieces();
   void fillScenery();
+  void fillHelices();
 
   TrackSystem system_ = TrackSystem::CTrack;
   std::vector<std::string> search_; ///< lower-case words
@@ -92,6 +97,7 @@ class PaletteModel {
   std::vector<const PieceDef*> recent_; ///< newest first, of any system
   std::vector<PaletteGroup> groups_;
   std::vector<SceneryGroup> scenery_;
+  std::vector<const HelixKit*> helices_;
 };
 
 } // namespace trassix

@@ -1,3 +1,4 @@
+#include "editing/helix/helix_edits.h"
 #include "editing/joining/joining.h"
 #include "editing/scenery/annotations.h"
 #include "editing/selection/selection.h"
@@ -248,6 +249,31 @@ TEST(PropertyChange, refusedInputChangesNothing) {
   sample.layout.edit().tunnels.emplace_back().portalA = sample.scenery;
   sample.select({sample.scenery}); // a portal
   EXPECT_TRUE(enter(sample.layout, "y", "9", answers.confirm).refusal);
+}
+
+TEST(PropertySheet, showsAHelixAsOneThing) {
+  Layout layout;
+  Answers answers;
+  placeHelix(layout, usualHelix(*findHelixKit("helix_2_0_r1")).plan, 1);
+  EXPECT_EQ(textOf(propertySheetOf(layout)),
+            "Helix R1\nSystem: Märklin C\nTurns: 2, clockwise uphill\n"
+            "Pitch = 80.0 mm (Rise of one turn. Ends that are joined stay where they are, as many "
+            "as can.)\nHeight = 0.0 mm (Of its bottom. All track joined to it goes along.)\n"
+            "Height of the top: 160.0 mm\nClimb: 160.0 mm\nGrade: 3.5 %, felt 5.8 %\n"
+            "Clearance: 60.0 mm\nNeeded, no wire: 60 mm: enough\nNeeded for wire: 90 mm: too "
+            "low\nExit: Above, straight on\nBoard: 800.0 \u00d7 800.0 mm\n"
+            "Pieces: 24 \u00d7 24130\nLevel = Level 1\nColour = none\n");
+  const auto plan = [&layout] { return planOfHelix(layout, layout.content().helices[0]).value(); };
+  EXPECT_TRUE(enter(layout, "pitch", "90", answers.confirm).changed);
+  EXPECT_TRUE(enter(layout, "height", "25", answers.confirm).changed);
+  EXPECT_NEAR(plan().pitch, 90, 1e-6);
+  EXPECT_NEAR(plan().height, 25, 1e-6);
+  EXPECT_FALSE(enter(layout, "pitch", "79", answers.confirm).problem.empty());
+  layout.edit().helices[0].variant = "of another program";
+  EXPECT_EQ(textOf(propertySheetOf(layout)), "Helix\nKit: of another program\nPieces: 24\n");
+  layout.clearSelection();
+  layout.select(RecordKind::Piece, layout.pieces()[0].id, true);
+  EXPECT_NE(propertySheetOf(layout).title, "Helix") << "a part of it";
 }
 
 TEST(PropertyChange, heightsNeverLeaveAStepInTheTrack) {

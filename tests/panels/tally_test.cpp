@@ -1,5 +1,6 @@
 #include "document/layout.h"
 #include "document/record_kinds.h"
+#include "editing/helix/helix_edits.h"
 #include "panels/tally.h"
 #include "support/loose_records.h"
 
@@ -47,6 +48,15 @@ TEST(Tally, measuresThePlan) {
 
   EXPECT_FALSE(tallyOf(planOf({"unknown"})).extent);
   EXPECT_EQ(tallyOf(planOf({"74861"})).openEnds, 0);
+}
+
+TEST(Tally, countsTheTrackOfHelices) {
+  Layout layout;
+  placeHelix(layout, usualHelix(*findHelixKit("proses_2_5_r1r2")).plan, 1);
+  const Tally tally = tallyOf(layout);
+  ASSERT_EQ(tally.rows.size(), 2U);
+  EXPECT_EQ(tally.rows[0].placed + tally.rows[1].placed, 60);
+  EXPECT_NEAR(tally.trackLength, 5 * 3.14159265 * (360 + 437.5), 0.01);
 }
 
 TEST(Tally, sortsByAnyColumn) {

@@ -88,6 +88,9 @@ inline constexpr const char* kCountedAs<Measurement> = trLater("Measurements");
 /// What covers a piece, or has a scenery item for a portal.
 void describeTunnel(SheetBuilder& build, const Tunnel& tunnel);
 
+/// The helix whose track is all that is selected.
+void describeHelix(SheetBuilder& build, const Helix& helix);
+
 /// For other selections and for none.
 void describeSeveral(SheetBuilder& build);
 void describePlan(SheetBuilder& build);

@@ -1,6 +1,7 @@
 #include "editing/canvas/fake_host.h"
 #include "editing/canvas/recording_surface.h"
 #include "editing/elevation/way_handles.h"
+#include "editing/helix/helix_edits.h"
 #include "editing/profile/height_profile.h"
 #include "support/plan.h"
 
@@ -215,6 +216,19 @@ TEST(HeightProfile, ShowsTheRoomBetweenTracksAsItChanges) {
   script.profile.cancel();
   script.profile.move({{script.at(1).x + 5, script.at(1).y}, {}});
   EXPECT_EQ(script.host.workspace.pointed(), 2);
+}
+
+TEST(HeightProfile, GoesUpHelices) {
+  Layout layout = Plan().place("24188").layout;
+  HelixPlan plan = usualHelix(*findHelixKit("helix_3_0_r1")).plan;
+  plan.centre = {188.3, 360, 0};
+  placeHelix(layout, plan, 1);
+  const std::vector<double> heights = heightsOf(layout, 1);
+  ASSERT_EQ(heights.size(), 2U + 36U);
+  EXPECT_NEAR(heights.back(), 240, 1e-6);
+  const ProfileContent content = profileOf(layout, {1, {}}, {});
+  ASSERT_EQ(content.marks.size(), 1U);
+  EXPECT_EQ(content.marks[0].kind, ProfileMark::Kind::Helix);
 }
 
 } // namespace
