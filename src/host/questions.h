@@ -15,6 +15,7 @@ namespace trassix {
 class Layout;
 class Workspace;
 struct HeightPlan;
+struct HelixWish;
 struct LongWork;
 struct Shape;
 struct ShapeAnswer;
@@ -64,6 +65,10 @@ class Questions {
   virtual std::optional<ShapeAnswer> askShape(const Layout& layout, const Shape& shape) = 0;
   /// What is to become of the heights of the selected track; none when cancelled.
   virtual std::optional<HeightPlan> askHeights(Workspace& workspace) = 0;
+  /// A helix as the user wants it, beginning with `from`: a new one, or what the one with this id
+  /// is to become. None when cancelled.
+  virtual std::optional<HelixWish> askHelix(Workspace& workspace, const HelixWish& from,
+                                            std::int32_t helix = -1) = 0;
   /// Does all of the work before it returns, while the window lives on but takes no input; shows
   /// how far it is when it takes longer than a moment. False when the user cancelled it. What a
   /// step throws ends the work and is thrown from here.

@@ -3,6 +3,7 @@
 #include "catalog/track_catalog.h"
 #include "editing/canvas/board_corners_tool.h"
 #include "editing/canvas/carry_block_tool.h"
+#include "editing/canvas/carry_helix_tool.h"
 #include "editing/canvas/carry_piece_tool.h"
 #include "editing/canvas/carry_scenery_tool.h"
 #include "editing/canvas/measure_tool.h"
@@ -52,6 +53,9 @@ struct CarryToolMaker {
     if (isEmpty(*block))
       return nullptr;
     return std::make_unique<CarryBlockTool>(site, block, held);
+  }
+  std::unique_ptr<CarryTool> operator()(const HelixWish& helix) const {
+    return std::make_unique<CarryHelixTool>(site, helix, held);
   }
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/block_file.h"
+#include "editing/helix/helix_plan.h"
 
 #include <string>
 #include <variant>
@@ -18,7 +19,7 @@ struct CarriedScenery {
 
 /// What can hang on the pointer on its way to the plan. A block, which is never null, hangs on it
 /// by its origin.
-struct Carried : std::variant<CarriedPiece, CarriedScenery, SharedBlock> {
+struct Carried : std::variant<CarriedPiece, CarriedScenery, SharedBlock, HelixWish> {
   using variant::variant;
 };
 

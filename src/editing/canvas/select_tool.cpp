@@ -2,6 +2,7 @@
 
 #include "document/piece_lines.h"
 #include "document/plan_content.h"
+#include "editing/canvas/helix_command.h"
 #include "editing/canvas/hover.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/canvas/selection_commands.h"
@@ -242,7 +243,11 @@ void SelectTool::doubleClick(const PointerInput& input) {
     editShape(site_, shape->id);
     return;
   }
-  if (piece)
+  if (!piece)
+    return;
+  if (const std::int32_t helix = helixUnder(layout, *piece); helix != -1)
+    runEditHelix(site_, helix);
+  else
     site_.reportExtension(cloneAndExtend(layout, piece->id));
 }
 
@@ -397,10 +402,11 @@ std::string SelectTool::hint() const {
              : under_.size() > 1  ? tr("Click: what lies below")
                                   : std::string();
     };
-    const auto doubleClick = [pick]() -> std::string {
+    const auto doubleClick = [pick, &layout]() -> std::string {
       switch (pick->kind) {
       case RecordKind::Piece:
-        return tr("Double-click: extend");
+        return helixUnder(layout, *pick) != -1 ? tr("Double-click: edit the helix")
+                                               : tr("Double-click: extend");
       case RecordKind::Label:
         return tr("Double-click: edit the text");
       case RecordKind::Shape:

@@ -5,6 +5,7 @@
 #include "editing/autofill/autofill.h"
 #include "editing/canvas/arrange_commands.h"
 #include "editing/canvas/autofill_command.h"
+#include "editing/canvas/helix_command.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/canvas/swap_command.h"
 #include "editing/canvas/tunnel_command.h"
@@ -27,24 +28,17 @@ std::vector<MenuRow> selectionMenu(ToolSite& site, const std::vector<Pick>& unde
   const bool onPiece = !under.empty() && under.front().kind == RecordKind::Piece;
   if (onPiece) {
     const std::int32_t piece = under.front().id;
-    rows.push_back({tr("Extend"), tr("Double-click"), {}, [&site, piece] {
-                      const ExtensionWish wish{site.choice.end(site.layout()), {}};
-                      site.reportExtension(cloneAndExtend(site.layout(), piece, wish));
-                    }});
+    if (const std::int32_t helix = helixUnder(layout, under.front()); helix != -1)
+      rows = helixRows(site, helix);
+    else
+      rows.push_back({tr("Extend"), tr("Double-click"), {}, [&site, piece] {
+                        const ExtensionWish wish{site.choice.end(site.layout()), {}};
+                        site.reportExtension(cloneAndExtend(site.layout(), piece, wish));
+                      }});
     rows.push_back({tr("Select Joined Track"), tr("Alt+Double-click"), {}, [&site, piece] {
                       selectChain(site, piece);
                     }});
     rows.push_back({tr("Elevation..."), "", {}, [&site] { changeHeights(site); }});
-    if (const std::int32_t helix = helixUnder(layout, under.front()); helix != -1) {
-      const auto edit = [&site, helix](bool (*change)(Layout&, std::int32_t)) {
-        return [&site, helix, change] {
-          if (change(site.layout(), helix))
-            site.workspace.changed();
-        };
-      };
-      rows.push_back({tr("Delete Helix"), "", {}, edit(deleteHelix)});
-      rows.push_back({tr("Turn into Loose Track"), "", {}, edit(turnIntoLooseTrack)});
-    }
     if (runOver(layout, piece) != -1)
       rows.push_back({tr("End Grade Here"), "", {}, [&site, piece] {
                         if (endGradeHere(site.layout(), piece))

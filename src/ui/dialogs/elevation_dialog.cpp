@@ -5,15 +5,14 @@
 #include "ui/dialogs/elevation_profile.h"
 #include "ui/widgets/problem_text.h"
 #include "ui/widgets/utf8.h"
+#include "ui/widgets/whole_window.h"
 
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
-#include <wx/display.h>
 #include <wx/sizer.h>
 #include <wx/textctrl.h>
 
-#include <algorithm>
 #include <array>
 
 namespace trassix {
@@ -93,7 +92,7 @@ ElevationDialog::ElevationDialog(wxWindow* parent, Workspace& workspace)
   ok_->SetDefault();
   showEnds();
   SetSizerAndFit(page);
-  placeBeside(*parent);
+  placeBeside(*this, *parent);
   wxTextCtrl* height = fields_[static_cast<std::size_t>(Field::Height)];
   height->SetFocus();
   height->SelectAll();
@@ -177,16 +176,6 @@ void ElevationDialog::addSwitches(wxSizer& page) {
     if (which != Switch::Spread)
       rows_.push_back({box, box, [this, which] { return form_.uses(which); }});
   }
-}
-
-void ElevationDialog::placeBeside(const wxWindow& parent) {
-  const wxRect window = parent.GetScreenRect();
-  const wxRect room = wxDisplay(&parent).GetClientArea();
-  const wxSize size = GetSize();
-  const int right = std::min(window.GetRight(), room.GetRight()) - FromDIP(12);
-  Move(std::max(room.x, right - size.x),
-       std::max(room.y,
-                std::min(window.y + (window.height - size.y) / 2, room.GetBottom() - size.y)));
 }
 
 void ElevationDialog::showEnds() {

@@ -35,7 +35,6 @@ class ElevationDialog : public wxDialog {
   wxChoice* addChoice(wxFlexGridSizer& grid, const wxString& label, const char* name,
                       const std::function<void(std::size_t)>& chosen);
   void addSwitches(wxSizer& page);
-  void placeBeside(const wxWindow& parent);
   void showEnds();
   /// Which rows there are goes by the task.
   void showRows();

@@ -4,6 +4,7 @@
 #include "host/shape_answer.h"
 #include "ui/dialogs/choice_dialog.h"
 #include "ui/dialogs/elevation_dialog.h"
+#include "ui/dialogs/helix_dialog.h"
 #include "ui/dialogs/shape_dialog.h"
 #include "ui/dialogs/work_dialog.h"
 #include "ui/widgets/menu_help.h"
@@ -101,6 +102,12 @@ std::optional<ShapeAnswer> WindowQuestions::askShape(const Layout& layout, const
 std::optional<HeightPlan> WindowQuestions::askHeights(Workspace& workspace) {
   ElevationDialog dialog(&window_, workspace);
   return dialog.ShowModal() == wxID_OK ? std::optional(dialog.plan()) : std::nullopt;
+}
+
+std::optional<HelixWish> WindowQuestions::askHelix(Workspace& workspace, const HelixWish& from,
+                                                   std::int32_t helix) {
+  HelixDialog dialog(&window_, workspace, from, helix);
+  return dialog.ShowModal() == wxID_OK ? std::optional(dialog.wish()) : std::nullopt;
 }
 
 bool WindowQuestions::finish(const LongWork& work) {

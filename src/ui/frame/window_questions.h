@@ -23,6 +23,8 @@ class WindowQuestions : public Questions {
   void popupMenu(const std::vector<MenuRow>& rows) override;
   std::optional<ShapeAnswer> askShape(const Layout& layout, const Shape& shape) override;
   std::optional<HeightPlan> askHeights(Workspace& workspace) override;
+  std::optional<HelixWish> askHelix(Workspace& workspace, const HelixWish& from,
+                                    std::int32_t helix) override;
   bool finish(const LongWork& work) override;
 
  private:

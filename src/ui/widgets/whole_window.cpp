@@ -1,6 +1,9 @@
 #include "ui/widgets/whole_window.h"
 
+#include <wx/display.h>
 #include <wx/toplevel.h>
+
+#include <algorithm>
 
 namespace trassix {
 
@@ -12,6 +15,16 @@ void showWhole(wxTopLevelWindow& window) {
   // pushed onto the screen: to its corner. A window that was given a client size is shown at once,
   // decorations added.
   window.SetClientSize(window.GetClientSize());
+}
+
+void placeBeside(wxTopLevelWindow& window, const wxWindow& parent) {
+  const wxRect over = parent.GetScreenRect();
+  const wxRect room = wxDisplay(&parent).GetClientArea();
+  const wxSize size = window.GetSize();
+  const int right = std::min(over.GetRight(), room.GetRight()) - window.FromDIP(12);
+  const int middle = over.y + (over.height - size.y) / 2;
+  window.Move(std::max(room.x, right - size.x),
+              std::max(room.y, std::min(middle, room.GetBottom() - size.y)));
 }
 
 } // namespace trassix

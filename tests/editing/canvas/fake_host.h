@@ -2,6 +2,7 @@
 
 #include "document/open_plan.h"
 #include "editing/elevation/propagation.h"
+#include "editing/helix/helix_plan.h"
 #include "editing/selection/selection.h"
 #include "host/clipboard.h"
 #include "host/long_work.h"
@@ -23,6 +24,7 @@ class FakeHost : public Questions, public Clipboard {
   std::optional<std::size_t> choice;
   std::function<void()> whileChoosing;
   std::optional<std::string> typed;
+  std::function<HelixWish(HelixWish)> wishing; ///< what is asked for a helix; none cancels
   std::string clipboardText;
   int patience = -1; ///< steps of long work after which it is cancelled; negative: never
 
@@ -71,6 +73,9 @@ class FakeHost : public Questions, public Clipboard {
   void popupMenu(const std::vector<MenuRow>& rows) override { menu = rows; }
   std::optional<ShapeAnswer> askShape(const Layout&, const Shape&) override { return {}; }
   std::optional<HeightPlan> askHeights(Workspace&) override { return {}; }
+  std::optional<HelixWish> askHelix(Workspace&, const HelixWish& from, std::int32_t) override {
+    return wishing ? std::optional(wishing(from)) : std::nullopt;
+  }
   bool finish(const LongWork& work) override {
     for (int step = 0; step != patience; ++step)
       if (!work.step({}))
