@@ -66,6 +66,8 @@ enum CommandId : int {
   kLevelCorners = 2078,
   kShowGrades = 2080,
   kShowHidden = 2081,
+  kHelix = 2085,
+  kEditHelix = 2086,
 };
 
 /// What the mouse does on the plan.

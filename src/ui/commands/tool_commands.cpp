@@ -1,15 +1,20 @@
 #include "document/layout.h"
 #include "editing/arranging/corner_edits.h"
 #include "editing/canvas/canvas_tool.h"
+#include "editing/canvas/helix_command.h"
 #include "editing/canvas/tunnel_command.h"
+#include "editing/helix/helix_edits.h"
 #include "host/command_ids.h"
 #include "host/workspace.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui/commands/command.h"
 #include "ui/commands/desk.h"
 #include "ui/dialogs/rectangle_dialog.h"
+#include "ui/palette/palette_panel.h"
 
 #include <wx/frame.h>
+
+#include <algorithm>
 
 namespace trassix {
 
@@ -81,6 +86,24 @@ const char* tunnelLabel(const Workspace& workspace) {
                                                              : wxTRANSLATE("Remove Tunnel");
 }
 
+void newHelix(Desk& desk) {
+  const std::vector<const HelixKit*> sizes = helixSizes(desk.palette.system());
+  const auto pair = std::ranges::find(sizes, 2U, &HelixKit::tracks);
+  const HelixKit& kit = sizes.empty()         ? *findHelixKit(kDefaultHelixKit)
+                        : pair == sizes.end() ? *sizes.front()
+                                              : **pair;
+  runNewHelix(desk.canvasPanel.canvas().site(), usualHelix(kit));
+}
+
+const char* noHelix(const ToolSite& site) {
+  return selectedHelix(site.layout()) == -1 ? wxTRANSLATE("Select a helix first") : nullptr;
+}
+
+void editHelix(Desk& desk) {
+  ToolSite& site = desk.canvasPanel.canvas().site();
+  runEditHelix(site, selectedHelix(site.layout()));
+}
+
 // clang-format off
 const Command kCommands[] = {
     {.id = kTunnel, .toolLabel = wxTRANSLATE("Tunnel"),
@@ -98,6 +121,12 @@ const Command kCommands[] = {
     {.id = kRectangle, .toolLabel = wxTRANSLATE("Rectangle"),
      .toolTip = wxTRANSLATE("Place a rectangle of an exact size -- easier than drawing one by hand"),
      .run = placeRectangle},
+    {.id = kHelix, .menuText = wxTRANSLATE("Heli&x..."),
+     .menuHelp = wxTRANSLATE("Choose a helix and carry it to the plan"),
+     .menu = Command::Menu::Layout, .run = newHelix},
+    {.id = kEditHelix, .menuText = wxTRANSLATE("&Edit Helix..."),
+     .menuHelp = wxTRANSLATE("Give the selected helix another kit, pitch or hand"),
+     .menu = Command::Menu::Layout, .unusable = noHelix, .run = editHelix},
     {.id = kBoardCorners, .menuText = wxTRANSLATE("Baseboard &Corners"),
      .menuHelp = wxTRANSLATE("Drag, add and remove corners of the baseboard on the plan"),
      .menu = Command::Menu::Layout, .kind = Kind::Check,

@@ -140,6 +140,18 @@ constexpr const char* kLevelsAndBaseboard[] = {
         "dashed and lighter than the rest. View > Show Hidden Track leaves track in tunnels "
         "out altogether: it cannot be clicked or snapped to then, and shows again when Find "
         "or the tally leads to it."),
+    wxTRANSLATE("# Helices"),
+    wxTRANSLATE("At the end of each system's track the palette has its helices, of one track or of "
+                "two. Drag one onto the plan, or double-click it to choose turns or the height to "
+                "climb, the pitch, which is the rise of one turn, and the way round: of what you "
+                "enter the last holds, and the rest follows. The window says at once how steep "
+                "each track is, bare and as its curve makes trains feel it, and whether they "
+                "pass below its turns, with wire and without."),
+    wxTRANSLATE("It hangs on the pointer by one of its ends and snaps to open ends, as high as "
+                "these; F goes on to its next end. On the plan a click selects it as a whole. "
+                "Drag, wheel and height are for all of it. Double-click it to change it: the ends "
+                "that are joined stay, as many as can. Its menu deletes it, or turns it into loose "
+                "track."),
     wxTRANSLATE("# Baseboard"),
     wxTRANSLATE("Layout > Layout Shape gives the plan its table: a rectangle, an L, a U or a T of "
                 "exact measures, or a free outline that you draw corner by corner or take from a "

@@ -3,6 +3,7 @@
 #include "document/block.h"
 #include "document/block_file.h"
 #include "document/plan_content.h"
+#include "editing/canvas/helix_picture.h"
 #include "editing/canvas/piece_painter.h"
 #include "editing/canvas/plan_colors.h"
 #include "editing/scenery/scenery_footprint.h"
@@ -109,6 +110,18 @@ void drawScenery(Surface& surface, const PictureRoom& room, const SceneryDef& it
   const Rgba ink = plan_colors::sceneryColor(&item);
   surface.polygon(sceneryOutline(item.form, drawn, room.middle, 0), Rgba{ink.r, ink.g, ink.b, 90},
                   Stroke{ink, 1});
+}
+
+void drawHelix(Surface& surface, const PictureRoom& room, const HelixPlan& plan, double widest) {
+  HelixPlan shown = plan;
+  shown.centre = {};
+  const double reach = plan.kit->outerSize;
+  const ViewTransform view =
+      centred({-reach, -reach, reach, reach}, room, room.size.width / widest);
+  PieceLook look;
+  look.bed = opaque(plan_colors::kBed);
+  paintHelixTrack(surface, view, shown, look);
+  paintHelixMarks(surface, view, shown);
 }
 
 void drawBlock(Surface& surface, const PictureRoom& room, const Block& block) {

@@ -10,6 +10,7 @@
 namespace trassix {
 
 struct Block;
+struct HelixPlan;
 
 /// The one scale to which the pieces of a group, never empty, are drawn, px per mm: all of them fit
 /// the width, unless track would get too thin to be told apart; then the longest straights show
@@ -23,6 +24,9 @@ void drawPiece(Surface& surface, const PictureRoom& room, const PieceDef& piece,
 /// `widest` mm, at least the item's own width and depth, fill the room's width.
 void drawScenery(Surface& surface, const PictureRoom& room, const SceneryDef& item,
                  const Footprint& size, double widest);
+
+/// `widest` mm, at least the helix's own width, fill the room's width.
+void drawHelix(Surface& surface, const PictureRoom& room, const HelixPlan& plan, double widest);
 
 /// The block's track and the places of its scenery, as large as the room allows.
 void drawBlock(Surface& surface, const PictureRoom& room, const Block& block);

@@ -5,13 +5,14 @@
 #include "app/desktop/user_paths.h"
 #include "app/services/program_memory.h"
 #include "editing/canvas/carried.h"
+#include "editing/helix/helix_plan.h"
 #include "editing/selection/plan_systems.h"
-#include "editing/track/short_name.h"
-#include "measures/measure_format.h"
+#include "host/questions.h"
 #include "panels/block_library.h"
 #include "texts/texts.h"
 #include "ui/palette/catalog_list.h"
 #include "ui/palette/palette_drawings.h"
+#include "ui/palette/palette_rows.h"
 #include "ui/widgets/file_boxes.h"
 #include "ui/widgets/utf8.h"
 
@@ -30,42 +31,6 @@ namespace trassix {
 namespace {
 
 const std::string kTopic = "palette"; ///< of what the program remembers
-
-wxString headingOf(const PaletteGroup& group, std::int32_t units) {
-  const wxString name = wxGetTranslation(fromUtf8(groupName(group.group)));
-  if (group.group != PieceGroup::Curves)
-    return name;
-  return wxString::Format(_("%s, radius %s"), name,
-                          fromUtf8(formatBriefLength(group.radius, units)));
-}
-
-wxString sizeText(const Footprint& size, std::int32_t units) {
-  return wxString::Format(wxS("%s \u00d7 %s"),
-                          fromUtf8(formatLength(size.width, units)).BeforeFirst(' '),
-                          fromUtf8(formatLength(size.depth, units)));
-}
-
-CatalogRow heading(const wxString& title) {
-  CatalogRow row;
-  row.heading = true;
-  row.title = title;
-  return row;
-}
-
-/// `scale` in px per mm of a drawing in full width.
-CatalogRow rowOf(const PieceDef& piece, double scale, std::int32_t units) {
-  const ShortName name = shortNameOf(piece, units);
-  CatalogRow row;
-  row.bold = true;
-  row.title = fromUtf8(name.text);
-  row.detail = fromUtf8(piece.article + (name.rest.empty() ? "" : "  " + name.rest));
-  row.tip = fromUtf8(piece.name);
-  row.picture = [&piece, scale](Surface& surface, const PictureRoom& room) {
-    drawPiece(surface, room, piece, scale * room.size.width / CatalogList::kPictureWidth);
-  };
-  row.pictureHeight = drawnHeight(piece, scale);
-  return row;
-}
 
 } // namespace
 
@@ -160,6 +125,8 @@ CatalogList* PalettePanel::makeList(Tab tab) {
   case kTrackTab:
     return new CatalogList(pages_, "pieces",
                            {[this](std::size_t row) {
+                              if (helices_[row])
+                                return actions_.drag(usualHelix(*helices_[row]));
                               const std::string article = pieces_[row]->article;
                               actions_.drag(CarriedPiece{article, model_.count()});
                               model_.noteUse(article);
@@ -328,6 +295,10 @@ Offer PalettePanel::offerOfRow(std::size_t row) const {
   Offer offer;
   switch (shownTab_) {
   case kTrackTab:
+    if (helices_[row]) {
+      offer.name = helices_[row]->name;
+      break;
+    }
     offer.article = pieces_[row]->article;
     offer.name =
         model_.count() > 1 ? tr("%1% \u00d7 %2%", {model_.count(), offer.article}) : offer.article;
@@ -380,7 +351,7 @@ void PalettePanel::fillTrack() {
   std::vector<CatalogRow> rows;
   pieces_.clear();
   for (const PaletteGroup& group : model_.groups()) {
-    rows.push_back(heading(headingOf(group, units)));
+    rows.push_back(headingRow(headingOf(group, units)));
     pieces_.push_back(nullptr);
     const double scale = scaleOfGroup(group.pieces, CatalogList::kPictureWidth);
     for (const PieceDef* piece : group.pieces) {
@@ -388,31 +359,34 @@ void PalettePanel::fillTrack() {
       pieces_.push_back(piece);
     }
   }
+  helices_.assign(rows.size(), nullptr);
+  if (!model_.helices().empty()) {
+    rows.push_back(headingRow(_("Helix")));
+    helices_.push_back(nullptr);
+  }
+  double widest = 1;
+  for (const HelixKit* kit : helixSizes(system()))
+    widest = std::max(widest, 2 * kit->outerSize);
+  for (const HelixKit* kit : model_.helices()) {
+    rows.push_back(rowOf(*kit, widest, units));
+    helices_.push_back(kit);
+  }
+  pieces_.resize(rows.size());
   lists_[kTrackTab]->setRows(std::move(rows), _("No track of this system\nfits the search."));
 }
 
 void PalettePanel::fillScenery() {
-  const std::int32_t units = workspace_.units();
   const TrackSystem shown = model_.system();
   std::vector<CatalogRow> rows;
   scenery_.clear();
   for (const SceneryGroup& group : model_.scenery()) {
-    rows.push_back(heading(wxGetTranslation(fromUtf8(categoryName(group.category)))));
+    rows.push_back(headingRow(wxGetTranslation(fromUtf8(categoryName(group.category)))));
     scenery_.push_back(nullptr);
     double widest = 1;
     for (const SceneryDef* item : group.items)
       widest = std::max({widest, item->footprint(shown).width, item->footprint(shown).depth});
     for (const SceneryDef* item : group.items) {
-      const Footprint size = item->footprint(shown);
-      wxString name = fromUtf8(item->name);
-      if (!name.empty())
-        name[0] = wxToupper(name[0]);
-      const wxString measures = sizeText(size, units);
-      rows.push_back({false, false, name, measures, name + "\n" + measures,
-                      [item, size, widest](Surface& surface, const PictureRoom& room) {
-                        drawScenery(surface, room, *item, size, widest);
-                      },
-                      size.depth / widest * CatalogList::kPictureWidth});
+      rows.push_back(rowOf(*item, shown, widest, workspace_.units()));
       scenery_.push_back(item);
     }
   }
@@ -448,6 +422,11 @@ void PalettePanel::fillLibrary() {
 }
 
 void PalettePanel::usePiece(std::size_t row) {
+  if (const HelixKit* kit = helices_[row])
+    return CallAfter([this, kit] {
+      if (const auto wish = workspace_.questions().askHelix(workspace_, usualHelix(*kit)))
+        actions_.use(*wish);
+    });
   noteUse(*pieces_[row]);
   actions_.use(CarriedPiece{pieces_[row]->article, model_.count()});
 }

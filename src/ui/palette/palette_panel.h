@@ -96,6 +96,7 @@ class PalettePanel : public wxPanel, private PlanObserver {
   std::vector<TrackSystem> systems_;
   std::optional<Offer> offered_;
   std::vector<const PieceDef*> pieces_;     ///< by row of the list, null for a heading
+  std::vector<const HelixKit*> helices_;    ///< likewise, behind the pieces
   std::vector<const SceneryDef*> scenery_;  ///< likewise
   std::vector<LibraryEntry> library_;       ///< all blocks of the folder
   std::vector<const LibraryEntry*> blocks_; ///< by row
