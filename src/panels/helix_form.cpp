@@ -16,7 +16,7 @@ namespace {
 constexpr double kLeastTurns = 1;
 constexpr double kMostTurns = 12;
 constexpr double kHighest = 10000; // mm
-constexpr double kWhole = 1e-6;    ///< what rounding takes from a number of half turns
+constexpr double kWhole = 1e-4;    ///< what a rounded pitch takes from a number of half turns
 
 double halves(double turns) {
   return std::clamp(turns / 2, kLeastTurns, kMostTurns);

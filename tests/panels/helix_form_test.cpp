@@ -46,6 +46,15 @@ TEST(HelixForm, WhatWasEnteredLastHoldsAndTheRestFollows) {
   }
 }
 
+TEST(HelixForm, APitchFromAFileLeavesNoTurnOut) {
+  HelixWish read = usualHelix(*findHelixKit("helix_2_5_r1"));
+  read.plan.pitch = 80.0002;
+  HelixForm form(read, kMillimetres);
+  form.enter(Field::Climb, "320");
+  EXPECT_EQ(form.wish().plan.kit->turns, 4);
+  EXPECT_TRUE(form.ready());
+}
+
 TEST(HelixForm, TellsWhetherTrainsGetUpAndThrough) {
   struct Case {
     const char *kit, *pitch;

@@ -24,6 +24,7 @@ namespace {
 
 constexpr int kPicture = 210;    // px
 constexpr int kEntryWidth = 250; // px, of the column with the fields
+constexpr int kRadiiWidth = 250; // px, room for the radii of two tracks
 constexpr int kTextWidth = 250;  // px, of what is told of it
 constexpr std::size_t kMostFacts = 9;
 
@@ -139,6 +140,7 @@ wxSizer* HelixDialog::makeEntries() {
                       [this](std::size_t row) { form_.setTracks(row + 1); });
   size_ = addChoice(*grid, _("&Radius:"), "helixRadius", {},
                     [this](std::size_t row) { form_.setSize(row); });
+  size_->SetMinSize(FromDIP(wxSize(kRadiiWidth, -1)));
   turns_ = addChoice(*grid, _("T&urns:"), "helixTurns", HelixForm::turnNames(),
                      [this](std::size_t row) { form_.setTurns(row); });
   addField(*grid, _("&Height to climb:"), "helixClimb", HelixForm::Field::Climb);
