@@ -7,11 +7,6 @@
 
 namespace trassix {
 
-void runNewHelix(ToolSite& site, const HelixWish& from) {
-  if (const std::optional<HelixWish> wish = site.questions().askHelix(site.workspace, from))
-    site.carry(*wish);
-}
-
 void runEditHelix(ToolSite& site, std::int32_t helix) {
   Layout& layout = site.layout();
   const Helix* record = recordWithId(layout.content().helices, helix);

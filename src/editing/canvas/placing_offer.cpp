@@ -66,6 +66,9 @@ std::string PlacingOffer::hint() const {
     return hintOf({tr("What is selected has no free end for %1%: select another piece, or nothing",
                       {offer_->name}),
                    others, back});
+  if (offer_->asks)
+    return hintOf({tr("Enter: choose how %1% is to be", {offer_->name}),
+                   tr("Drag: place it as it is usual"), others, back});
   return hintOf(
       {tr("Enter: %1% hangs on the pointer, a click places it", {offer_->name}), others, back});
 }

@@ -17,6 +17,7 @@ struct Offer {
   bool flips = false;  ///< F is no letter of what is typed
   std::string article; ///< of track; empty for anything else
   std::string name;    ///< as a hint calls it; empty for nothing that could be taken
+  bool asks = false;   ///< how it is to be is asked first
 
   bool operator==(const Offer&) const = default;
 };

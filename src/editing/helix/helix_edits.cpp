@@ -110,7 +110,9 @@ std::vector<std::optional<PlacedEnd>> neighboursOf(const Layout& layout, const H
       continue;
     std::vector<PlacedEnd> ends;
     appendEnds(ends, *other, 0, true);
-    neighbours.back() = ends.at(static_cast<std::size_t>(piece->joint(connector).tconn));
+    if (const auto slot = static_cast<std::size_t>(piece->joint(connector).tconn);
+        slot < ends.size())
+      neighbours.back() = ends[slot];
   }
   return neighbours;
 }

@@ -1,6 +1,7 @@
 #include "document/layout.h"
 #include "editing/arranging/corner_edits.h"
 #include "editing/canvas/canvas_tool.h"
+#include "editing/canvas/carried.h"
 #include "editing/canvas/helix_command.h"
 #include "editing/canvas/tunnel_command.h"
 #include "editing/helix/helix_edits.h"
@@ -92,7 +93,9 @@ void newHelix(Desk& desk) {
   const HelixKit& kit = sizes.empty()         ? *findHelixKit(kDefaultHelixKit)
                         : pair == sizes.end() ? *sizes.front()
                                               : **pair;
-  runNewHelix(desk.canvasPanel.canvas().site(), usualHelix(kit));
+  Workspace& workspace = desk.workspace;
+  if (const auto wish = workspace.questions().askHelix(workspace, usualHelix(kit)))
+    desk.canvasPanel.pickUp(*wish);
 }
 
 const char* noHelix(const ToolSite& site) {

@@ -296,7 +296,8 @@ Offer PalettePanel::offerOfRow(std::size_t row) const {
   switch (shownTab_) {
   case kTrackTab:
     if (helices_[row]) {
-      offer.name = helices_[row]->name;
+      offer.asks = true;
+      offer.name = tr("Helix %1%", {helices_[row]->radii});
       break;
     }
     offer.article = pieces_[row]->article;
