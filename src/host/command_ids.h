@@ -45,6 +45,8 @@ enum CommandId : int {
   kShowProperties = 2042,
   kOpenSample = 2043,
   kHeightProfile = 2044,
+  kHelix = 2050,
+  kEditHelix = 2051,
   kCut = 2060,
   kCopy = 2061,
   kPaste = 2062,
@@ -66,8 +68,6 @@ enum CommandId : int {
   kLevelCorners = 2078,
   kShowGrades = 2080,
   kShowHidden = 2081,
-  kHelix = 2085,
-  kEditHelix = 2086,
 };
 
 /// What the mouse does on the plan.

@@ -77,6 +77,10 @@ TEST(PaletteModel, findsByArticleNameSortAndNumbers) {
   EXPECT_EQ(found("103.3"), "Crossings and slips: 24649");
   EXPECT_EQ(found("buffer"), "Specials: 24977 24978");
   EXPECT_EQ(found("nothing like it"), "");
+  EXPECT_TRUE(palette.helices().empty());
+  EXPECT_EQ(found("spiral 437.5"), "");
+  ASSERT_EQ(palette.helices().size(), 3U);
+  EXPECT_EQ(palette.helices()[1]->radii, "R1/R2");
   EXPECT_EQ(found("  "), shown(PaletteModel(TrackSystem::CTrack)));
   palette.setSystem(TrackSystem::ZTrack);
   EXPECT_EQ(found("113.8"), ""); // the arc length of 8510, nowhere written

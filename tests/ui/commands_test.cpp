@@ -54,7 +54,7 @@ const char* const kMenus[] = {
     "2044 check|Show Hidden Trac&k\tShift+F8 2081 check on",
     "&Layout|Units of Measure|Millimetres (mm) 2021 radio on|Centimetres (cm) 2022 radio|"
     "Inches (in) 2023 radio|-|Layout &Shape... 2020|Layout &Wizard (Experimental)... 2018|"
-    "&Bridge Wizard (Experimental)... 2019|-|Heli&x... 2085|&Edit Helix... 2086|Baseboard &Corners "
+    "&Bridge Wizard (Experimental)... 2019|-|Heli&x... 2050|&Edit Helix... 2051|Baseboard &Corners "
     "2077 check|"
     "Le&vel Corners 2078 check",
     "&Help|&Help\tF1 2027|Layout &Wizard Help 2028|-|&Options... 2029"};
