@@ -1,77 +1,27 @@
+#include "planning_test.h"
+
 #include "catalog/track_catalog.h"
 #include "document/block_file.h"
 #include "editing/elevation/crossings.h"
 #include "editing/elevation/grade_edits.h"
-#include "editing/helix/helix_edits.h"
 #include "editing/selection/open_ends.h"
 #include "editing/selection/selection.h"
-#include "frame_test.h"
 #include "host/command_ids.h"
-#include "support/plan.h"
 #include "support/print_records.h"
-#include "ui/palette/catalog_list.h"
 #include "ui/widgets/remembered_look.h"
 
 #include <wx/choice.h>
 #include <wx/srchctrl.h>
 #include <wx/statusbr.h>
 #include <wx/toolbar.h>
-#include <wx/uiaction.h>
 
 #include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <regex>
-#include <stdexcept>
 
 namespace trassix::test {
 namespace {
-
-/// Plans with real mouse and keys.
-class PlanningTest : public FrameTest {
- protected:
-  /// The middle of an entry of the palette, scrolled into view.
-  Spot inPalette(const wxString& title, const char* listName = "pieces") {
-    waitUntil("the palette lists something", [&] { return findNamed(listName) != nullptr; });
-    auto* list = dynamic_cast<CatalogList*>(findNamed(listName));
-    const auto& rows = list->rows();
-    const auto row = static_cast<std::size_t>(
-        std::find_if(rows.begin(), rows.end(),
-                     [&](const CatalogRow& r) {
-                       return r.title == title || r.detail.BeforeFirst(' ') == title;
-                     }) -
-        rows.begin());
-    list->select(row, 1);
-    wxRect rect;
-    waitUntil("the palette shows " + title.ToStdString(), [&] {
-      rect = list->GetItemRect(row);
-      return !rect.IsEmpty();
-    });
-    return {*list, rect.GetPosition() + wxPoint(rect.width / 2, rect.height / 2)};
-  }
-
-  void show(const Plan& lines) {
-    plan().edit() = lines.layout.content();
-    plan().setNextPieceId(lines.layout.nextPieceId());
-    plan().clearSelection();
-    frame().workspace().changed();
-  }
-
-  /// Throws when they do not come, since nothing that follows makes sense then.
-  void waitForPieces(std::size_t count) {
-    if (!waitUntil(std::to_string(count) + " pieces", [&] { return pieces() == count; }))
-      throw std::runtime_error("the plan has " + std::to_string(pieces()) + " pieces");
-  }
-
-  /// Goes on from the selected piece by Enter in the palette.
-  void extendByEnter(const wxString& article, std::size_t times) {
-    click(inPalette(article));
-    for (std::size_t count = pieces(), i = 0; i < times; ++i) {
-      pressKey(WXK_RETURN);
-      waitForPieces(++count);
-    }
-  }
-};
 
 TEST_F(PlanningTest, AnOvalIsPlannedSavedAndFoundAgainAllJoined) {
   startLaidOut();
@@ -255,79 +205,6 @@ TEST_F(PlanningTest, ATunnelComesAndGoesOverADoubleTrackLine) {
   EXPECT_TRUE(tunnels.empty() && plan().content().scenery.empty() && tool("Tunnel"));
   pressKey('Z', wxMOD_CONTROL);
   ASSERT_TRUE(waitUntil("undone", [&] { return tunnels.size() == 1; }));
-  finish();
-}
-
-TEST_F(PlanningTest, AHelixIsChosenSnappedMovedSavedEditedDeletedAndUndone) {
-  startLaidOut();
-  plan().edit() = Plan().place("24188").extend("24188", 5).layout.content();
-  plan().setNextPieceId(7);
-  GradeTask climb{{1, 2, 3, 4, 5, 6}, {1, 0}, 1, 0.03};
-  applyHeights(plan(), planGrade(plan(), climb));
-  plan().clearSelection();
-  frame().workspace().changed();
-  const Point end{6 * 188.3, 0};
-  const double height = endHeight(plan(), {6, 1});
-  dialogs.drive("Helix", [](wxDialog&) {
-    typeText("240");
-    pressKey(WXK_RETURN);
-  });
-  doubleClick(inPalette("Helix R1"));
-  waitUntil("it hangs on the pointer", [&] { return canvas().carrying(); });
-  click(onPlan({end.x + 9, end.y + 9}));
-  waitForPieces(6 + 36);
-  const auto helix = [&] { return plan().content().helices.at(0); };
-  const auto shape = [&] { return planOfHelix(plan(), helix()).value(); };
-  EXPECT_EQ(plan().findPiece(6)->joint(1).target, helix().bottomR1);
-  EXPECT_NEAR(shape().height, height, 1e-6);
-  EXPECT_LT(std::abs(largestPlay(plan()).step), 1e-6);
-
-  put(kZoomFit);
-  settle();
-  const double right = helix().cx + 360;
-  const double middle = helix().cy;
-  dialogs.answer("Move", wxID_YES); // away from the graded line
-  drag(onPlan({right, middle}), {onPlan({right + 60, middle + 90}), onPlan({right, middle + 200})});
-  waitUntil("it was moved whole", [&] { return helix().cy > middle + 150; });
-  EXPECT_TRUE(plan().findPiece(6)->joint(1).open());
-  pressKey('Z', wxMOD_CONTROL);
-  waitUntil("it is back", [&] { return helix().cy == middle; });
-
-  saveAs("Helix");
-  const std::string key = helix().variant;
-  put(wxID_NEW);
-  waitForPieces(0);
-  dialogs.drive("Open Layout", [](wxDialog&) {
-    pressKey(WXK_DOWN);
-    pressKey(WXK_RETURN);
-  });
-  put(wxID_OPEN);
-  waitForPieces(6 + 36);
-  EXPECT_EQ(helix().variant, key);
-  put(kZoomFit);
-  settle();
-  dialogs.drive("Edit Helix", [](wxDialog&) {
-    EXPECT_EQ(dynamic_cast<wxTextCtrl&>(*findNamed("helixClimb")).GetValue(), "240.0 mm");
-    typeText("320");
-    pressKey(WXK_RETURN);
-  });
-  doubleClick(onPlan({right, middle}));
-  waitForPieces(6 + 48);
-  EXPECT_NEAR(shape().climb(), 320, 1e-6);
-  EXPECT_EQ(plan().findPiece(6)->joint(1).target, helix().bottomR1) << "still joined";
-
-  frame().Bind(wxEVT_MENU_OPEN, [](wxMenuEvent& event) {
-    event.Skip();
-    for (const int row : {WXK_DOWN, WXK_DOWN, WXK_RETURN}) // "Delete Helix"
-      wxUIActionSimulator().Char(row);
-  });
-  rightClick(onPlan({right, middle}));
-  waitForPieces(6);
-  EXPECT_TRUE(plan().content().helices.empty());
-  put(kUndo);
-  put(kUndo);
-  EXPECT_EQ(pieces(), 42U);
-  EXPECT_NEAR(shape().climb(), 240, 1e-3);
   finish();
 }
 
