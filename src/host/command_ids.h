@@ -40,6 +40,7 @@ enum CommandId : int {
   kLayoutWizardHelp = 2028,
   kOptions = 2029,
   kOlderVersions = 2030,
+  kExportPicture = 2031,
   kFind = 2040,
   kShowPalette = 2041,
   kShowProperties = 2042,

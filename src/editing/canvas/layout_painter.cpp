@@ -14,6 +14,7 @@
 #include "editing/selection/selection.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/track_geometry.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -50,6 +51,21 @@ bool liesBeneath(const Decks& decks, const PlacedPiece& piece, const PieceDef& d
       highest = std::max(highest, endHeight(piece, definition, i));
   return decks.cover(toWorld(poseOf(piece), trackGeometryOf(definition).labelSpot), piece.level,
                      highest);
+}
+
+std::string groupName(RecordKind kind) {
+  switch (kind) {
+  case RecordKind::Shape:
+    return tr("Shapes");
+  case RecordKind::Helix:
+    return tr("Helices");
+  case RecordKind::Tunnel:
+    return tr("Tunnels");
+  case RecordKind::Measurement:
+    return tr("Dimensions");
+  default:
+    return tr("Labels");
+  }
 }
 
 bool isOtherLevel(const Layout& layout, std::int32_t level) {
@@ -91,12 +107,14 @@ void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
   const PictureSite site{surface_, part_, view_, layout, options_.selection};
   forEachKind(layout.content(), [&](const auto& records) {
     constexpr RecordKind kind = std::remove_cvref_t<decltype(records)>::value_type::kKind;
-    if constexpr (kind == RecordKind::Piece)
+    if constexpr (kind == RecordKind::Piece) {
       paintTrackAndScenery(layout, index);
-    else if constexpr (kind != RecordKind::Scenery)
+    } else if constexpr (kind != RecordKind::Scenery) {
+      const SurfaceGroup group(surface_, groupName(kind));
       for (const auto& record : records)
         if (isVisible(layout, record))
           paintRecord(site, record);
+    }
   });
   if (options_.scaleBar) {
     paintScaleBar(layout.settings().units);
@@ -110,6 +128,7 @@ void LayoutPainter::paintLegend(const Layout& layout) {
 }
 
 void LayoutPainter::paintBoard(const Layout& layout) {
+  const SurfaceGroup group(surface_, tr("Baseboard and levels"));
   const PlanSettings& settings = layout.settings();
   if (settings.baseboard.size() >= 3)
     surface_.polygon(view_.toScreen(settings.baseboard), colors::kBoard,
@@ -124,6 +143,7 @@ void LayoutPainter::paintBoard(const Layout& layout) {
 }
 
 void LayoutPainter::paintGrid(std::int32_t units) {
+  const SurfaceGroup group(surface_, tr("Grid"));
   const GridSteps steps = gridSteps(view_.zoom(), units, kGridFromPx);
   const Box shown = shownBox(1);
   std::vector<Point> fine;
@@ -133,13 +153,15 @@ void LayoutPainter::paintGrid(std::int32_t units) {
     for (auto i = static_cast<std::int64_t>(std::ceil(from / steps.fine)); i <= last; ++i)
       add(i % steps.major == 0 ? coarse : fine, static_cast<double>(i) * steps.fine);
   };
-  // Half-pixel positions keep one-pixel lines crisp.
+  // On the middles of the display's pixels thin lines are crisp.
+  const double scale = surface_.deviceScale();
+  const auto crisp = [scale](double px) { return (std::floor(px * scale) + 0.5) / scale; };
   lines(shown.minX, shown.maxX, [&](std::vector<Point>& to, double mm) {
-    const double x = std::floor(view_.toScreen({mm, 0}).x) + 0.5;
+    const double x = crisp(view_.toScreen({mm, 0}).x);
     to.insert(to.end(), {{x, part_.minY}, {x, part_.maxY}});
   });
   lines(shown.minY, shown.maxY, [&](std::vector<Point>& to, double mm) {
-    const double y = std::floor(view_.toScreen({0, mm}).y) + 0.5;
+    const double y = crisp(view_.toScreen({0, mm}).y);
     to.insert(to.end(), {{part_.minX, y}, {part_.maxX, y}});
   });
   surface_.segments(fine, {colors::kGridFine, 1});
@@ -246,6 +268,9 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
   const Decks decks(layout);
   std::size_t items = 0;
   const auto sceneryUpTo = [&](double height) {
+    if (items == scenery.size() || layout.levelHeight(scenery[items]->level) > height)
+      return;
+    const SurfaceGroup group(surface_, tr("Scenery"));
     for (; items < scenery.size() && layout.levelHeight(scenery[items]->level) <= height; ++items) {
       const SceneryItem& item = *scenery[items];
       const bool beneath =
@@ -261,7 +286,10 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
     std::size_t to = from;
     while (to < track.size() && track[to].besides(track[from]))
       ++to;
+    const Level* level = layout.findLevel(track[from].piece->level);
+    const SurfaceGroup levelGroup(surface_, level ? level->name : "");
     sceneryUpTo(layout.levelHeight(track[from].piece->level));
+    const SurfaceGroup trackGroup(surface_, tr("Track"));
     pieces.clear();
     for (std::size_t i = from; i < to; ++i)
       pieces.push_back({track[i].shape, poseOf(*track[i].piece), track[i].look});

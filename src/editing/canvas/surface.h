@@ -2,6 +2,7 @@
 
 #include "document/color.h"
 #include "editing/canvas/point_runs.h"
+#include "geometry/box.h"
 #include "geometry/point.h"
 
 #include <cstdint>
@@ -31,6 +32,10 @@ struct Stroke {
   double width = 1; ///< px
   Style style = Style::Solid;
 
+  /// Lengths of what is drawn and of what is left out in turns, px, on paper and in files.
+  double dash() const { return style == Style::Dotted ? width : 4 + 2 * width; }
+  double gap() const { return style == Style::Dotted ? 2 * width : 3 + width; }
+
   bool operator==(const Stroke&) const = default;
 };
 
@@ -38,6 +43,9 @@ struct TextStyle {
   Rgba color;
   double size = 11; ///< px from baseline to baseline, near enough
   bool bold = false;
+
+  /// Size of the font, px.
+  double em() const { return size * 0.88; }
 
   bool operator==(const TextStyle&) const = default;
 };
@@ -55,6 +63,15 @@ class Surface {
 
   /// How many pixels of the display one of the surface's is wide.
   virtual double deviceScale() const { return 1; }
+
+  /// Until `unclip` nothing is drawn outside the box, px. Not to be nested. Surfaces that only look
+  /// at what is drawn need not follow.
+  virtual void clip(const Box& /*part*/) {}
+  virtual void unclip() {}
+
+  /// Names what is drawn until `endGroup`, for surfaces whose readers want to know. May be nested.
+  virtual void beginGroup(std::string_view /*name*/) {}
+  virtual void endGroup() {}
 
   virtual void polyline(std::span<const Point> points, const Stroke& stroke) = 0;
   virtual void polygon(std::span<const Point> points, std::optional<Rgba> fill,
@@ -78,6 +95,20 @@ class Surface {
   virtual void text(std::string_view text, Point centre, double degrees,
                     const TextStyle& style) = 0;
   virtual SizePx textSize(std::string_view text, const TextStyle& style) = 0;
+};
+
+/// Names what is drawn while it lives.
+class SurfaceGroup {
+ public:
+  SurfaceGroup(Surface& surface, std::string_view name) : surface_(surface) {
+    surface_.beginGroup(name);
+  }
+  ~SurfaceGroup() { surface_.endGroup(); }
+  SurfaceGroup(const SurfaceGroup&) = delete;
+  SurfaceGroup& operator=(const SurfaceGroup&) = delete;
+
+ private:
+  Surface& surface_;
 };
 
 } // namespace trassix

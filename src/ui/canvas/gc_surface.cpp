@@ -11,7 +11,7 @@ namespace {
 
 /// Finding a font by its height in pixels costs the toolkit several trial fonts. Whoever makes the
 /// context scales it to the display's resolution, so points are those of the usual one.
-constexpr double kPointsPerPixel = 0.66;
+constexpr double kPointsPerPixel = 0.75;
 const wxRealPoint kDpi(96, 96);
 
 /// The face that texts in the window are really drawn with.
@@ -89,9 +89,17 @@ void GcSurface::useFont(const TextStyle& style) {
   const auto [entry, isNew] = texts_.fonts.try_emplace({style.size, style.bold, packed});
   if (isNew)
     entry->second = context_.CreateFont(
-        wxFont(wxFontInfo(style.size * kPointsPerPixel).FaceName(guiFace()).Bold(style.bold)),
+        wxFont(wxFontInfo(style.em() * kPointsPerPixel).FaceName(guiFace()).Bold(style.bold)),
         colour(style.color));
   context_.SetFont(entry->second);
+}
+
+void GcSurface::clip(const Box& part) {
+  context_.Clip(part.minX, part.minY, part.maxX - part.minX, part.maxY - part.minY);
+}
+
+void GcSurface::unclip() {
+  context_.ResetClip();
 }
 
 void GcSurface::polyline(std::span<const Point> points, const Stroke& stroke) {

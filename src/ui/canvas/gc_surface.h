@@ -30,6 +30,8 @@ class GcSurface : public Surface {
 
   double deviceScale() const override { return deviceScale_; }
 
+  void clip(const Box& part) override;
+  void unclip() override;
   void polyline(std::span<const Point> points, const Stroke& stroke) override;
   void polygon(std::span<const Point> points, std::optional<Rgba> fill,
                std::optional<Stroke> outline) override;

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "ui/commands/plan_files.h"
-
-#include <wx/cmndata.h>
+#include "ui/print/printing.h"
 
 class wxFrame;
 
@@ -12,14 +11,6 @@ class CanvasPanel;
 class DockArea;
 class PalettePanel;
 class Workspace;
-
-/// Paper, margins and printer: kept while the window lives.
-struct PrintSettings {
-  PrintSettings();
-
-  wxPrintData data;
-  wxPageSetupDialogData page;
-};
 
 /// What commands have to hand. Windows belong to the toolkit.
 struct Desk {

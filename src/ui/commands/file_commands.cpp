@@ -14,7 +14,6 @@
 
 #include <wx/frame.h>
 #include <wx/msgdlg.h>
-#include <wx/printdlg.h>
 
 namespace trassix {
 
@@ -65,16 +64,6 @@ void openRecent(Desk& desk) {
     desk.files.openNamed(recent[row]);
 }
 
-void pageSetup(Desk& desk) {
-  PrintSettings& print = desk.print;
-  print.page.SetPrintData(print.data);
-  wxPageSetupDialog dialog(&desk.window, &print.page);
-  if (dialog.ShowModal() != wxID_OK)
-    return;
-  print.page = dialog.GetPageSetupData();
-  print.data = print.page.GetPrintData();
-}
-
 // clang-format off
 const Command kCommands[] = {
     {.id = wxID_NEW, .menuText = wxTRANSLATE("&New Layout\tCtrl+N"),
@@ -89,16 +78,21 @@ const Command kCommands[] = {
     {.id = wxID_CLOSE, .menuText = wxTRANSLATE("&Close Layout\tCtrl+W"),
      .menuHelp = wxTRANSLATE("Close the plan"), .run = newLayout},
     {.id = wxID_PAGE_SETUP, .menuText = wxTRANSLATE("Page Set&up..."),
-     .menuHelp = wxTRANSLATE("Paper and margins"), .run = pageSetup},
+     .menuHelp = wxTRANSLATE("Paper and margins"), .run = [](Desk& desk) { setUpPage(desk.window, desk.print); }},
     {.id = wxID_PREVIEW, .menuText = wxTRANSLATE("Print Pre&view..."),
-     .menuHelp = wxTRANSLATE("See the plan as it would be printed")},
+     .menuHelp = wxTRANSLATE("See the plan as it would be printed"),
+     .run = [](Desk& desk) { previewPlan(desk.window, desk.workspace, desk.print); }},
     {.id = wxID_PRINT, .menuText = wxTRANSLATE("&Print...\tCtrl+P"),
-     .menuHelp = wxTRANSLATE("Print the plan to scale")},
+     .menuHelp = wxTRANSLATE("Print the plan to scale"),
+     .run = [](Desk& desk) { printPlan(desk.window, desk.workspace, desk.print); }},
     {.id = wxID_EXIT, .menuText = wxTRANSLATE("E&xit"), .menuHelp = wxTRANSLATE("End the program"),
      .run = [](Desk& desk) { desk.window.Close(); }},
     {.id = kOlderVersions, .menuText = wxTRANSLATE("Ol&der Versions..."),
      .menuHelp = wxTRANSLATE("What plans held before they were saved over or deleted"),
      .menu = Command::Menu::File, .run = openOlderVersion},
+    {.id = kExportPicture, .menuText = wxTRANSLATE("Expo&rt Picture..."),
+     .menuHelp = wxTRANSLATE("Write the plan as PNG, SVG or PDF"), .menu = Command::Menu::File,
+     .run = [](Desk& desk) { exportPicture(desk.window, desk.workspace, desk.print); }},
     {.id = wxID_FILE1, .run = openRecent<0>},
     {.id = wxID_FILE2, .run = openRecent<1>},
     {.id = wxID_FILE3, .run = openRecent<2>},
@@ -111,15 +105,7 @@ const Command kCommands[] = {
 };
 // clang-format on
 
-constexpr int kMarginMm = 15;
-
 } // namespace
-
-PrintSettings::PrintSettings() {
-  page.SetPrintData(data);
-  page.SetMarginTopLeft({kMarginMm, kMarginMm});
-  page.SetMarginBottomRight({kMarginMm, kMarginMm});
-}
 
 std::span<const Command> fileCommands() {
   return kCommands;
