@@ -48,29 +48,41 @@ TEST_F(UiTest, StartWritesItsLogAndTraceAnew) {
             "F: MainFrame constructor complete\n");
 }
 
-/// Counts how often windows are painted.
+/// Counts how often windows are painted anew, as large as they are: a window manager may give them
+/// another size, and strips of them may come into view.
 class PaintCounter : public wxEventFilter {
  public:
   PaintCounter() { wxEvtHandler::AddFilter(this); }
   ~PaintCounter() override { wxEvtHandler::RemoveFilter(this); }
 
   int FilterEvent(wxEvent& event) override {
-    if (event.GetEventType() == wxEVT_PAINT)
-      ++times[dynamic_cast<wxWindow*>(event.GetEventObject())];
+    if (event.GetEventType() != wxEVT_PAINT)
+      return Event_Skip;
+    auto* window = dynamic_cast<wxWindow*>(event.GetEventObject());
+    const wxSize size = window->GetClientSize();
+    const wxSize part = window->GetUpdateRegion().GetBox().GetSize();
+    if (2 * part.x * part.y >= size.x * size.y)
+      ++times[{window, size.x, size.y}];
     return Event_Skip;
   }
+  bool painted(wxWindow* window) const {
+    return std::ranges::any_of(
+        times, [window](const auto& entry) { return std::get<0>(entry.first) == window; });
+  }
 
-  std::map<wxWindow*, int> times;
+  std::map<std::tuple<wxWindow*, int, int>, int> times; ///< by window and its size
 };
 
 TEST_F(UiTest, NoPanelIsPaintedMoreThanTwiceByAStart) {
   PaintCounter counter;
   startLaidOut();
   for (const char* list : {"pieces", "tally"})
-    waitUntil("the panels are painted", [&] { return counter.times[findNamed(list)] > 0; });
+    waitUntil("the panels are painted", [&] { return counter.painted(findNamed(list)); });
   settle();
-  for (const auto& [window, times] : counter.times)
-    if (window->GetParent() != nullptr && dynamic_cast<wxSplitterWindow*>(window) == nullptr) {
+  for (const auto& [sized, times] : counter.times)
+    if (wxWindow* window = std::get<0>(sized);
+        window->GetParent() != nullptr && dynamic_cast<wxSplitterWindow*>(window) == nullptr &&
+        window->GetParent() != &frame().canvasPanel()) { // which paints what lies on it again
       EXPECT_LE(times, 2) << window->GetName();
     }
 }

@@ -38,7 +38,7 @@ double distanceToBox(const Box& box, Point a, Point b) {
   const auto clip = [&](double start, double step, double least, double most) {
     if (step == 0)
       return start >= least && start <= most;
-    const auto [near, far] = std::minmax((least - start) / step, (most - start) / step);
+    const auto [near, far] = std::minmax({(least - start) / step, (most - start) / step});
     from = std::max(from, near);
     to = std::min(to, far);
     return from <= to;
@@ -112,7 +112,7 @@ void PierRoom::addTrack(const PlacedPiece& piece) {
       const auto height = [&](std::size_t k) {
         return from + (to - from) * line[k].along / line.back().along;
       };
-      const auto [low, high] = std::minmax(height(i), height(i + 1));
+      const auto [low, high] = std::minmax({height(i), height(i + 1)});
       reaches_.push_back({piece.id, frame(line[i].position), frame(line[i + 1].position), half, low,
                           high + railTop(system) + leastClearance(system)});
     }

@@ -39,7 +39,7 @@ bool meetsBox(Vec3 origin, Vec3 direction, const SceneBatch& batch) {
   const auto clip = [&](double start, double step, double least, double most) {
     if (step == 0)
       return start >= least && start <= most;
-    const auto [near, far] = std::minmax((least - start) / step, (most - start) / step);
+    const auto [near, far] = std::minmax({(least - start) / step, (most - start) / step});
     from = std::max(from, near);
     to = std::min(to, far);
     return from <= to;
