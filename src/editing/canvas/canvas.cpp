@@ -112,9 +112,7 @@ void Canvas::move(const PointerInput& input) {
     gesture_ = Gesture::Pan;
     [[fallthrough]];
   case Gesture::Pan:
-    site_->view.panTo({originAtPress_.x + input.px.x - pressed_.px.x,
-                       originAtPress_.y + input.px.y - pressed_.px.y});
-    viewChanged();
+    pan(input);
     break;
   }
   site_->workspace.setPointer(pointer());
@@ -145,10 +143,17 @@ void Canvas::release(Button button, const PointerInput& input) {
     if (carry_)
       carry_->release(input, true);
     break;
-  case Gesture::Pan:
+  case Gesture::Pan: // the last moves may not have been told
+    pan(input);
     break;
   }
   afterInput();
+}
+
+void Canvas::pan(const PointerInput& input) {
+  site_->view.panTo({originAtPress_.x + input.px.x - pressed_.px.x,
+                     originAtPress_.y + input.px.y - pressed_.px.y});
+  viewChanged();
 }
 
 void Canvas::doubleClick(const PointerInput& input) {

@@ -120,6 +120,7 @@ class Canvas {
   bool wheelTurnsSelection(const PointerInput& input) const;
   void afterInput();
   void pointAt(const PointerInput& input);
+  void pan(const PointerInput& input);
   void viewChanged();
   void paintPreview(Surface& surface, const PlanPreview& preview);
   /// Tools move the view as well.

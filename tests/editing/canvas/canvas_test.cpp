@@ -133,6 +133,10 @@ TEST(CanvasView, SpaceAndTheMiddleButtonPanAndEscGoesBack) {
     EXPECT_EQ(script.canvas.view().origin(), (Point{60, 60}));
     script.canvas.release(button, to);
     EXPECT_FALSE(script.canvas.wantsCapture());
+    script.canvas.press(button, script.at({0, 0}));
+    script.canvas.move(to);
+    script.canvas.release(button, {{280, 160}, {}, false, false, false}); // its last move was lost
+    EXPECT_EQ(script.canvas.view().origin(), (Point{280, 160}));
   }
 }
 
