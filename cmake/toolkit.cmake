@@ -1,7 +1,7 @@
 # wxWidgets behind one interface target. The package configuration of 3.3 is asked first, then that
 # of 3.2 (a request for 3.2 refuses 3.3), then the find module, which is what Debian's 3.2 needs.
 # The package configurations name OpenGL's targets, but leave it to us to find them.
-find_package(OpenGL)
+find_package(OpenGL REQUIRED)
 find_package(wxWidgets 3.3 CONFIG QUIET COMPONENTS core base gl)
 if(NOT wxWidgets_FOUND)
   find_package(wxWidgets 3.2 CONFIG QUIET COMPONENTS core base gl)

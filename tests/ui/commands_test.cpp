@@ -181,7 +181,7 @@ TEST_F(FrameTest, EveryCommandDoesSomething) {
     }
     EXPECT_NE(traceOf(frame(), canceller), before);
   }
-  for (const int later : {kView3D, kLayoutWizard, kBridgeWizard}) {
+  for (const int later : {kLayoutWizard, kBridgeWizard}) {
     EXPECT_NE(whyUnusable(*findCommand(later), canvas().site()), nullptr);
   }
   EXPECT_THAT(canceller.titles, testing::IsSupersetOf({"Validate", "Properties", "Save Layout"}));
@@ -200,7 +200,6 @@ TEST_F(FrameTest, WhatCannotBeUsedSaysWhy) {
       {kUndo, "Nothing to undo", 'Z'},       {kRedo, "Nothing to redo", 'Y'},
       {kCopy, "Nothing selected", 'C'},      {kPaste, "Nothing to paste", 'V'},
       {kParallelTrack, "No track", 'L'},     {kLevelCorners, "The active level has no outline", 0},
-      {kView3D, "Not available in this", 0},
   };
   for (const auto& [id, why, key] : kCases) {
     EXPECT_TRUE(told(id).StartsWith(why)) << told(id);

@@ -2,6 +2,7 @@
 
 #include "ui/commands/plan_files.h"
 #include "ui/print/printing.h"
+#include "view3d/view3d_frame.h"
 
 class wxFrame;
 
@@ -21,6 +22,7 @@ struct Desk {
   DockArea& docks;
   PlanFiles files;
   PrintSettings print = {};
+  View3DWindow view3D = {};
 };
 
 } // namespace trassix

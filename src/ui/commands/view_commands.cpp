@@ -7,6 +7,7 @@
 #include "ui/docks/profile_panel.h"
 #include "ui/widgets/remembered_look.h"
 
+#include <wx/frame.h>
 #include <wx/intl.h>
 
 namespace trassix {
@@ -91,7 +92,12 @@ const Command kCommands[] = {
      .menuHelp = wxTRANSLATE("Track in tunnels; while it is hidden it cannot be picked either"),
      .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
      .checked = isOn<&EditorSwitches::hidden>, .run = flipForGood<&EditorSwitches::hidden>},
-    {.id = kView3D, .toolLabel = wxTRANSLATE("3D View")},
+    {.id = kView3D, .menuText = wxTRANSLATE("3&D View\tF7"),
+     .menuHelp = wxTRANSLATE("The layout as it will stand in the room, in a window of its own"),
+     .toolLabel = wxTRANSLATE("3D View"),
+     .toolTip = wxTRANSLATE("The layout as it will stand in the room, in a window of its own"),
+     .menu = Command::Menu::View, .hand = Hand::Keeps,
+     .run = [](Desk& desk) { desk.view3D.show(desk.window, desk.workspace); }},
 };
 // clang-format on
 

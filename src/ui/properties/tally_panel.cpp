@@ -1,7 +1,5 @@
 #include "ui/properties/tally_panel.h"
 
-#include "app/desktop/path_text.h"
-#include "app/desktop/standard_folders.h"
 #include "app/services/text_file.h"
 #include "catalog/track_catalog.h"
 #include "editing/selection/finding.h"
@@ -12,13 +10,11 @@
 #include "panels/piece_names.h"
 #include "ui/dialogs/purchase_list_dialog.h"
 #include "ui/widgets/file_boxes.h"
-#include "ui/widgets/remembered_folder.h"
+#include "ui/widgets/save_box.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/button.h>
-#include <wx/filedlg.h>
 #include <wx/listctrl.h>
-#include <wx/msgdlg.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
@@ -290,23 +286,10 @@ void TallyPanel::copy() {
 }
 
 void TallyPanel::saveAsCsv() {
-  wxFileDialog dialog(
-      this, _("Save Tally"), toText(rememberedFolder("tally", StandardFolders::documents())),
-      _("Tally.csv"), _("Comma-separated values (*.csv)|*.csv"), wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
-  if (dialog.ShowModal() != wxID_OK)
-    return;
-  std::filesystem::path file = toPath(dialog.GetPath());
-  rememberFolder("tally", file.parent_path());
-  if (!file.has_extension()) {
-    // The dialog has asked about the name as it was typed only.
-    file += ".csv";
-    std::error_code error;
-    if (std::filesystem::exists(file, error) &&
-        wxMessageBox(wxString::Format(_("\"%s\" exists. Replace it?"), fromUtf8(pathText(file))),
-                     _("Save Tally"), wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION, this) != wxYES)
-      return;
-  }
-  saveCsv(file);
+  const auto file = askWhereToSave(this, {_("Save Tally"), "tally", _("Tally.csv"),
+                                          _("Comma-separated values (*.csv)|*.csv"), ".csv"});
+  if (file)
+    saveCsv(*file);
 }
 
 void TallyPanel::saveCsv(const std::filesystem::path& file) {

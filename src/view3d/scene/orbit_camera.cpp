@@ -40,6 +40,25 @@ Matrix4 product(const Matrix4& a, const Matrix4& b) {
   return c;
 }
 
+ViewVolume::ViewVolume(const Matrix4& all) {
+  for (std::size_t i = 0; i < planes_.size(); ++i) {
+    const double sign = i % 2 == 0 ? 1 : -1;
+    const auto at = [&](std::size_t column) {
+      return all[column * 4 + 3] + sign * all[column * 4 + i / 2];
+    };
+    planes_[i] = {{at(0), at(1), at(2)}, at(3)};
+  }
+}
+
+bool ViewVolume::meets(Vec3 least, Vec3 most) const {
+  return std::ranges::all_of(planes_, [&](const Plane& plane) {
+    const Vec3 in = plane.inwards;
+    const Vec3 farthest{in.x > 0 ? most.x : least.x, in.y > 0 ? most.y : least.y,
+                        in.z > 0 ? most.z : least.z};
+    return dot(in, farthest) + plane.offset >= 0;
+  });
+}
+
 Vec3 OrbitCamera::forward() const {
   const double y = toRadians(yaw);
   const double p = toRadians(pitch);
@@ -71,12 +90,13 @@ Matrix4 OrbitCamera::projection(const Scene::Bounds& bounds) const {
     least = std::min(least, depth);
     most = std::max(most, depth);
   }
-  constexpr double kBelow = 1000; // frame and legs of the board
-  most += kBelow;
+  // Frame and legs of the board, and the floor around it.
+  const double around = 1000 + 3 * lengthOf(bounds.most - bounds.least);
+  most += around;
   const double top = 1 / halfTangent();
   const double aspect = width / height;
   if (orthographic) {
-    least -= kBelow;
+    least -= around;
     const double half = distance * halfTangent();
     return {1 / (half * aspect),
             0,
@@ -172,6 +192,14 @@ void OrbitCamera::fit(const Scene::Bounds& bounds) {
     needed = std::max(needed, kFitRoom * aside / halfTangent() + nearer);
   }
   distance = std::min(needed, kFarthest);
+}
+
+void OrbitCamera::standAt(Vec3 eye, Vec3 forward) {
+  orthographic = false;
+  yaw = toDegrees(std::atan2(-forward.x, forward.y));
+  pitch = toDegrees(std::asin(std::clamp(-forward.z, -1.0, 1.0)));
+  distance = kNearest;
+  target = eye + distance * forward;
 }
 
 void OrbitCamera::look(CameraView from, const Scene::Bounds& bounds) {

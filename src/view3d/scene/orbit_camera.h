@@ -15,6 +15,23 @@ using Matrix4 = std::array<double, 16>;
 
 Matrix4 product(const Matrix4& a, const Matrix4& b);
 
+/// What of the scene is in view.
+class ViewVolume {
+ public:
+  /// From the projection times the view.
+  explicit ViewVolume(const Matrix4& all);
+
+  /// False only for boxes none of which is in view.
+  bool meets(Vec3 least, Vec3 most) const;
+
+ private:
+  struct Plane {
+    Vec3 inwards;
+    double offset = 0;
+  };
+  std::array<Plane, 6> planes_;
+};
+
 enum class CameraView : std::uint8_t { Top, Front, Side, Oblique };
 
 /// A point that is looked at from a distance. A plain value.
@@ -62,6 +79,8 @@ struct OrbitCamera {
   void centre(Vec3 at) { target = at; }
   /// All of it is in view, from where it is looked at.
   void fit(const Scene::Bounds& bounds);
+  /// From this place into this direction.
+  void standAt(Vec3 eye, Vec3 forward);
   /// Looks from one of the sides, at all of it. The top view is orthographic.
   void look(CameraView from, const Scene::Bounds& bounds);
 };

@@ -73,9 +73,14 @@ Scene::Bounds Scene::bounds() const {
   return all.value_or(Bounds{});
 }
 
+bool levelShown(const Layout& layout, std::int32_t level, const SceneView& view) {
+  const auto chosen = view.levels.find(level);
+  return chosen == view.levels.end() ? layout.levelVisible(level) : chosen->second;
+}
+
 bool isShown(const Layout& layout, const SceneKey& key, const SceneBatch& batch,
              const SceneView& view) {
-  if (!layout.levelVisible(batch.level) || (view.cut && batch.least.z > *view.cut))
+  if (!levelShown(layout, batch.level, view) || (view.cut && batch.least.z > *view.cut))
     return false;
   switch (key.group) {
   case SceneGroup::Scenery:

@@ -72,10 +72,12 @@ struct SceneView {
   bool supports = true;
   bool labels = true;
   bool grades = false;
-  std::optional<double> cut; ///< nothing above this height
+  std::optional<double> cut;           ///< nothing above this height
+  std::map<std::int32_t, bool> levels; ///< shown here or not, whatever the plan does with them
 };
 
-/// Whether a batch is to be seen at all; hidden levels are not.
+bool levelShown(const Layout& layout, std::int32_t level, const SceneView& view);
+/// Whether a batch is to be seen at all.
 bool isShown(const Layout& layout, const SceneKey& key, const SceneBatch& batch,
              const SceneView& view);
 

@@ -1,0 +1,272 @@
+#include "view3d/scene_renderer.h"
+
+#include "document/layout.h"
+#include "editing/selection/picking.h"
+#include "view3d/gl_calls.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace trassix {
+
+namespace {
+
+using Rgba = std::array<float, 4>;
+
+constexpr Rgba kSun{-0.42F, -0.5F, 0.76F, 0}; ///< where it stands
+constexpr Rgba kAbove{0.1F, 0.2F, 1, 0};      ///< where the light of the sky comes from
+constexpr Rgba kSkyTop{0.60F, 0.73F, 0.87F, 1};
+constexpr Rgba kHorizon{0.90F, 0.92F, 0.93F, 1};
+constexpr Rgba kFloor{0.74F, 0.71F, 0.67F, 1};
+constexpr Rgba kGlow{0.50F, 0.22F, 0, 1}; ///< of what is selected
+constexpr Rgba kDark{0, 0, 0, 1};
+constexpr float kShadowLift = 0.5F; // mm above the ground, and above what is painted on it
+constexpr double kSunk = 12;        // mm: what reaches so far below a ground casts no shadow on it
+constexpr double kFinePixels = 1.3; // of a batch's grain, from which on it is drawn finely
+constexpr int kMarks = 250;         // that the stencil tells apart
+
+bool castsShadow(SceneGroup group) {
+  return group == SceneGroup::Track || group == SceneGroup::Scenery ||
+         group == SceneGroup::Supports || group == SceneGroup::Plates;
+}
+
+void setLight(GLenum light, const Rgba& at, const Rgba& color, const Rgba& shine) {
+  glLightfv(light, GL_POSITION, at.data());
+  glLightfv(light, GL_DIFFUSE, color.data());
+  glLightfv(light, GL_SPECULAR, shine.data());
+  glEnable(light);
+}
+
+void setMaterial(Material material) {
+  const bool glossy = material == Material::Glossy;
+  const Rgba shine = glossy ? Rgba{0.75F, 0.78F, 0.8F, 1} : kDark;
+  glMaterialfv(GL_FRONT_AND_BACK, GL_SPECULAR, shine.data());
+  glMaterialf(GL_FRONT_AND_BACK, GL_SHININESS, glossy ? 48.0F : 0.0F);
+}
+
+/// Only this part of the picture, as large as all of it.
+Matrix4 tileOf(const PictureTile& tile) {
+  const double n = tile.tiles;
+  return {n, 0, 0, 0, 0, n, 0, 0, 0, 0, 1, 0, n - 1 - 2 * tile.column, 2 * tile.row + 1 - n, 0, 1};
+}
+
+Detail detailOf(const SceneBatch& batch, const OrbitCamera& camera, int tiles) {
+  const Vec3 eye = camera.eye();
+  const Vec3 nearest{std::clamp(eye.x, batch.least.x, batch.most.x),
+                     std::clamp(eye.y, batch.least.y, batch.most.y),
+                     std::clamp(eye.z, batch.least.z, batch.most.z)};
+  // As if it were straight ahead, where it is largest.
+  const Vec3 ahead = eye + lengthOf(nearest - eye) * camera.forward();
+  return batch.grain * tiles / camera.mmPerPixel(ahead) < kFinePixels ? Detail::Far : Detail::Near;
+}
+
+void drawSky(const PictureTile& tile, bool inTunnel) {
+  glMatrixMode(GL_PROJECTION);
+  glLoadMatrixd(tileOf(tile).data());
+  glMatrixMode(GL_MODELVIEW);
+  glLoadIdentity();
+  glDisable(GL_DEPTH_TEST);
+  glDisable(GL_LIGHTING);
+  const float dim = inTunnel ? 0.25F : 1;
+  const auto row = [dim](const Rgba& color, float y) {
+    glColor3f(color[0] * dim, color[1] * dim, color[2] * dim);
+    glVertex2f(-1, y);
+    glVertex2f(1, y);
+  };
+  glBegin(GL_QUAD_STRIP);
+  row(kHorizon, -1);
+  row(kHorizon, -0.1F);
+  row(kSkyTop, 1);
+  glEnd();
+}
+
+} // namespace
+
+MeshStore::Place& SceneRenderer::placeOf(const SceneKey& key, const SceneBatch& batch,
+                                         Detail detail) {
+  Places& places = places_[key];
+  MeshStore::Place& place = detail == Detail::Near ? places.fine : places.coarse;
+  if (!place.known())
+    place = store_.put(batch.mesh(detail));
+  return place;
+}
+
+void SceneRenderer::forget(const SceneChanges& changes) {
+  const auto drop = [this](const SceneKey& key) {
+    const auto known = places_.find(key);
+    if (known == places_.end())
+      return;
+    store_.drop(known->second.fine);
+    store_.drop(known->second.coarse);
+    places_.erase(known);
+  };
+  std::ranges::for_each(changes.renewed, drop);
+  std::ranges::for_each(changes.removed, drop);
+}
+
+void SceneRenderer::forgetAll() {
+  for (auto& [key, places] : places_) {
+    store_.drop(places.fine);
+    store_.drop(places.coarse);
+  }
+  places_.clear();
+}
+
+void SceneRenderer::gather(const Layout& layout, const Scene& scene, const SceneView& view,
+                           const OrbitCamera& camera, const Look& look) {
+  for (MeshStore::Draws* draws : {&bodies_, &selected_})
+    draws->clear();
+  grounds_.clear();
+  grounds_.push_back({});
+  drawn_ = 0;
+  const ViewVolume volume(
+      product(tileOf(look.tile), product(camera.projection(scene.bounds()), camera.view())));
+  for (const auto& [key, batch] : scene.batches) {
+    if (!isShown(layout, key, batch, view) || !volume.meets(batch.least, batch.most))
+      continue;
+    const Detail detail = detailOf(batch, camera, look.tile.tiles);
+    const MeshStore::Place& place = placeOf(key, batch, detail);
+    drawn_ += batch.mesh(detail).triangles();
+    if (key.isRecord() && isSelected(layout, {key.kind, key.id})) {
+      selected_.add(place);
+    } else if (key.group == SceneGroup::Board || key.group == SceneGroup::Ground) {
+      grounds_.front().draws.add(place);
+    } else if (key.group == SceneGroup::Plates && grounds_.size() < kMarks) {
+      grounds_.push_back({{key, batch.most.z}, {}});
+      grounds_.back().draws.add(place);
+    } else {
+      bodies_.add(place);
+    }
+  }
+}
+
+void SceneRenderer::prepare(const OrbitCamera& camera, const Matrix4& projection,
+                            const Look& look) const {
+  glMatrixMode(GL_PROJECTION);
+  glLoadMatrixd(projection.data());
+  glMatrixMode(GL_MODELVIEW);
+  glLoadMatrixd(camera.view().data());
+  glEnable(GL_DEPTH_TEST);
+  glDepthFunc(GL_LEQUAL);
+  glEnable(GL_LIGHTING);
+  glEnable(GL_COLOR_MATERIAL);
+  glColorMaterial(GL_FRONT_AND_BACK, GL_AMBIENT_AND_DIFFUSE);
+  glLightModeli(GL_LIGHT_MODEL_TWO_SIDE, 1);
+  const float dim = look.inTunnel ? 0.3F : 1;
+  const auto dimmed = [dim](float r, float g, float b) {
+    return Rgba{r * dim, g * dim, b * dim, 1};
+  };
+  const Rgba ambient = dimmed(0.36F, 0.37F, 0.40F);
+  glLightModelfv(GL_LIGHT_MODEL_AMBIENT, ambient.data());
+  setLight(GL_LIGHT0, kSun, dimmed(0.60F, 0.57F, 0.50F), dimmed(0.9F, 0.88F, 0.8F));
+  setLight(GL_LIGHT1, kAbove, dimmed(0.20F, 0.22F, 0.26F), kDark);
+  if (look.inTunnel) {
+    const Vec3 eye = camera.eye();
+    setLight(GL_LIGHT2,
+             {static_cast<float>(eye.x), static_cast<float>(eye.y), static_cast<float>(eye.z), 1},
+             {0.8F, 0.76F, 0.66F, 1}, kDark);
+    glLightf(GL_LIGHT2, GL_LINEAR_ATTENUATION, 0.004F);
+  } else {
+    glDisable(GL_LIGHT2);
+  }
+}
+
+void SceneRenderer::drawBodies(const MeshStore::Draws& draws) {
+  for (const Material material : {Material::Matte, Material::Glossy}) {
+    setMaterial(material);
+    store_.draw(draws, material, MeshStore::Looks::Colored);
+  }
+}
+
+void SceneRenderer::drawShadows(const Layout& layout, const Scene& scene, const SceneView& view,
+                                const Receiver& onto, int mark) {
+  shadows_.clear();
+  for (const auto& [key, batch] : scene.batches)
+    if (castsShadow(key.group) && key != onto.key && batch.most.z > onto.height + kShadowLift &&
+        batch.least.z > onto.height - kSunk && isShown(layout, key, batch, view))
+      shadows_.add(placeOf(key, batch, Detail::Far));
+  if (shadows_.empty())
+    return;
+  // Everything flattened onto the ground along the rays of the sun; the stencil lets each place
+  // become dark once.
+  const float x = kSun[0] / kSun[2];
+  const float y = kSun[1] / kSun[2];
+  const auto z = static_cast<float>(onto.height);
+  const std::array<float, 16> flat{
+      1, 0, 0, 0, 0, 1, 0, 0, -x, -y, 0, 0, x * z, y * z, z + kShadowLift, 1};
+  glPushMatrix();
+  glMultMatrixf(flat.data());
+  glDisable(GL_LIGHTING);
+  glColor3f(0.62F, 0.64F, 0.70F);
+  glEnable(GL_BLEND);
+  glBlendFunc(GL_ZERO, GL_SRC_COLOR);
+  glStencilFunc(GL_EQUAL, mark, 0xff);
+  glStencilOp(GL_KEEP, GL_KEEP, GL_ZERO);
+  glDepthMask(GL_FALSE);
+  for (const Material material : {Material::Matte, Material::Glossy})
+    store_.draw(shadows_, material, MeshStore::Looks::Shape);
+  glDepthMask(GL_TRUE);
+  glDisable(GL_BLEND);
+  glEnable(GL_LIGHTING);
+  glPopMatrix();
+}
+
+/// The floor that the board stands on, which fades into the distance.
+void SceneRenderer::drawRoom(const Scene& scene, const SceneView& view, const Look& look) {
+  const auto board = std::ranges::find(scene.batches, SceneGroup::Board,
+                                       [](const auto& entry) { return entry.first.group; });
+  if (board == scene.batches.end() || look.inTunnel || view.cut)
+    return;
+  const auto& [least, most] = std::pair(board->second.least, board->second.most);
+  const Vec3 middle = 0.5 * (least + most);
+  const double radius = 2.2 * lengthOf(most - least);
+  glDisable(GL_LIGHTING);
+  glEnable(GL_BLEND);
+  glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
+  glBegin(GL_TRIANGLE_FAN);
+  glColor4fv(kFloor.data());
+  glVertex3d(middle.x, middle.y, least.z);
+  glColor4f(kHorizon[0], kHorizon[1], kHorizon[2], 0);
+  constexpr int kSides = 48;
+  for (int i = 0; i <= kSides; ++i) {
+    const double turn = 2 * std::numbers::pi * i / kSides;
+    glVertex3d(middle.x + radius * std::cos(turn), middle.y + radius * std::sin(turn), least.z);
+  }
+  glEnd();
+  glDisable(GL_BLEND);
+  glEnable(GL_LIGHTING);
+}
+
+void SceneRenderer::draw(const Layout& layout, const Scene& scene, const SceneView& view,
+                         const OrbitCamera& camera, const Look& look) {
+  gather(layout, scene, view, camera, look);
+  glViewport(0, 0, look.width, look.height);
+  glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
+  glEnable(kMultisample);
+  drawSky(look.tile, look.inTunnel);
+  prepare(camera, product(tileOf(look.tile), camera.projection(scene.bounds())), look);
+  drawRoom(scene, view, look);
+  if (view.cut) {
+    const std::array<double, 4> plane{0, 0, -1, *view.cut};
+    glClipPlane(GL_CLIP_PLANE0, plane.data());
+    glEnable(GL_CLIP_PLANE0);
+  }
+  glEnable(GL_STENCIL_TEST);
+  for (std::size_t i = 0; i < grounds_.size(); ++i) {
+    glStencilFunc(GL_ALWAYS, static_cast<int>(i) + 1, 0xff);
+    glStencilOp(GL_KEEP, GL_KEEP, GL_REPLACE);
+    drawBodies(grounds_[i].draws);
+  }
+  if (look.shadows && !look.inTunnel)
+    for (std::size_t i = 0; i < grounds_.size(); ++i)
+      drawShadows(layout, scene, view, grounds_[i].receiver, static_cast<int>(i) + 1);
+  glDisable(GL_STENCIL_TEST);
+  drawBodies(bodies_);
+  glMaterialfv(GL_FRONT_AND_BACK, GL_EMISSION, kGlow.data());
+  drawBodies(selected_);
+  glMaterialfv(GL_FRONT_AND_BACK, GL_EMISSION, kDark.data());
+  glDisable(GL_CLIP_PLANE0);
+}
+
+} // namespace trassix

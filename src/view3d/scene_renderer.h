@@ -1,0 +1,80 @@
+#pragma once
+
+#include "view3d/mesh_store.h"
+#include "view3d/scene/orbit_camera.h"
+#include "view3d/scene/scene_keeper.h"
+
+#include <array>
+#include <map>
+
+namespace trassix {
+
+class Layout;
+
+/// A piece of the window's picture, for pictures that are larger than the window: how many such
+/// tiles there are each way, and which one this is, from the top left.
+struct PictureTile {
+  int tiles = 1;
+  int column = 0;
+  int row = 0;
+};
+
+/// Draws a scene with what every OpenGL has: fixed functions on arrays of triangles. A mesh is sent
+/// when it is first seen from that near. Whoever calls it has made its context current.
+class SceneRenderer {
+ public:
+  struct Look {
+    int width = 0; ///< pixels
+    int height = 0;
+    bool inTunnel = false; ///< with the light of a train
+    bool shadows = true;
+    PictureTile tile;
+  };
+
+  /// Lets go of what is no longer like that.
+  void forget(const SceneChanges& changes);
+  void forgetAll();
+
+  /// The whole picture but for labels, into the buffer that is drawn into.
+  void draw(const Layout& layout, const Scene& scene, const SceneView& view,
+            const OrbitCamera& camera, const Look& look);
+
+  std::size_t sentTriangles() const { return store_.sentTriangles(); }
+  std::size_t drawnTriangles() const { return drawn_; } ///< of the last picture, without shadows
+
+ private:
+  struct Places {
+    MeshStore::Place fine;
+    MeshStore::Place coarse;
+  };
+  /// A flat place that shadows fall on.
+  struct Receiver {
+    SceneKey key;
+    double height = 0;
+  };
+
+  void gather(const Layout& layout, const Scene& scene, const SceneView& view,
+              const OrbitCamera& camera, const Look& look);
+  void prepare(const OrbitCamera& camera, const Matrix4& projection, const Look& look) const;
+  void drawShadows(const Layout& layout, const Scene& scene, const SceneView& view,
+                   const Receiver& onto, int mark);
+  static void drawRoom(const Scene& scene, const SceneView& view, const Look& look);
+  void drawBodies(const MeshStore::Draws& draws);
+  MeshStore::Place& placeOf(const SceneKey& key, const SceneBatch& batch, Detail detail);
+
+  MeshStore store_;
+  std::map<SceneKey, Places> places_;
+  std::size_t drawn_ = 0;
+
+  // Of the picture that is being made.
+  struct Marked {
+    Receiver receiver;
+    MeshStore::Draws draws;
+  };
+  std::vector<Marked> grounds_; ///< the board with all that lies on it first
+  MeshStore::Draws bodies_;
+  MeshStore::Draws selected_;
+  MeshStore::Draws shadows_;
+};
+
+} // namespace trassix

@@ -1,0 +1,414 @@
+#include "view3d/track_gl_canvas.h"
+
+#include "document/layout.h"
+#include "document/open_plan.h"
+#include "editing/selection/finding.h"
+#include "editing/selection/selection.h"
+#include "editing/track/connector_geometry.h"
+#include "view3d/gl_calls.h"
+
+#include <wx/dcclient.h>
+#include <wx/translation.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <span>
+
+namespace trassix {
+
+namespace {
+
+constexpr double kOrbitStep = 0.4;  // degrees a pixel
+constexpr double kKeyTurn = 5;      // degrees
+constexpr double kWheelZoom = 1.25; // a notch
+constexpr int kClickPlay = 3;       // px
+constexpr int kTick = 16;           // ms
+
+/// The best kind of picture that the display has, from smoothed edges and shadows down to plain.
+const wxGLAttributes* attributes() {
+  struct Wish {
+    int samples;
+    int stencil;
+    int depth;
+  };
+  static const auto best = []() -> std::unique_ptr<wxGLAttributes> {
+    for (const Wish wish :
+         {Wish{4, 8, 24}, Wish{2, 8, 24}, Wish{0, 8, 24}, Wish{0, 0, 24}, Wish{0, 0, 16}}) {
+      auto attributes = std::make_unique<wxGLAttributes>();
+      attributes->PlatformDefaults().RGBA().DoubleBuffer().Depth(wish.depth);
+      if (wish.stencil > 0)
+        attributes->Stencil(wish.stencil);
+      if (wish.samples > 0)
+        attributes->SampleBuffers(1).Samplers(wish.samples);
+      attributes->EndList();
+      if (wxGLCanvas::IsDisplaySupported(*attributes))
+        return attributes;
+    }
+    return nullptr;
+  }();
+  return best.get();
+}
+
+} // namespace
+
+bool TrackGLCanvas::isPossible() {
+  return attributes() != nullptr;
+}
+
+TrackGLCanvas::TrackGLCanvas(wxWindow* parent, Workspace& workspace, std::function<void()> told)
+    : wxGLCanvas(parent, *attributes(), wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                 wxWANTS_CHARS | wxFULL_REPAINT_ON_RESIZE, "view3D"),
+      PlanObserver(workspace), workspace_(workspace), told_(std::move(told)),
+      context_(std::make_unique<wxGLContext>(this)), timer_(this) {
+  camera_.yaw = 30;
+  if (!context_->IsOK())
+    problem_ = _("The display's driver refuses to draw with OpenGL.");
+  SetBackgroundStyle(wxBG_STYLE_PAINT);
+  Bind(wxEVT_PAINT, [this](wxPaintEvent&) {
+    wxPaintDC dc(this);
+    paint();
+  });
+  Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+    event.Skip();
+    Refresh(false);
+  });
+  for (const auto& type : {wxEVT_LEFT_DOWN, wxEVT_LEFT_UP, wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_UP,
+                           wxEVT_RIGHT_DOWN, wxEVT_RIGHT_UP, wxEVT_MOTION, wxEVT_LEFT_DCLICK})
+    Bind(type, &TrackGLCanvas::onMouse, this);
+  Bind(wxEVT_MOUSEWHEEL, &TrackGLCanvas::onWheel, this);
+  Bind(wxEVT_KEY_DOWN, &TrackGLCanvas::onKey, this);
+  Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { drag_ = Drag::None; });
+  Bind(wxEVT_TIMER, [this](wxTimerEvent&) { rideOn(); });
+}
+
+TrackGLCanvas::~TrackGLCanvas() {
+  if (HasCapture())
+    ReleaseMouse();
+}
+
+bool TrackGLCanvas::makeCurrent() {
+  if (!problem_.empty() || !IsShownOnScreen() || !SetCurrent(*context_))
+    return false;
+  if (!renderer_)
+    renderer_ = std::make_unique<SceneRenderer>();
+  return true;
+}
+
+void TrackGLCanvas::planReplaced() {
+  endRide();
+  view_.levels.clear();
+  fitted_ = false;
+  Refresh(false);
+}
+
+void TrackGLCanvas::refreshScene() {
+  const SceneChanges changes = keeper_.update(workspace_.layout());
+  if (renderer_)
+    renderer_->forget(changes);
+  const wxSize size = GetClientSize();
+  camera_.width = std::max(1.0, size.x * pixelScale());
+  camera_.height = std::max(1.0, size.y * pixelScale());
+  if (!fitted_ && !keeper_.scene().batches.empty()) {
+    camera_.look(CameraView::Oblique, keeper_.scene().bounds());
+    fitted_ = true;
+  }
+}
+
+const Scene& TrackGLCanvas::scene() {
+  refreshScene();
+  return keeper_.scene();
+}
+
+OrbitCamera TrackGLCanvas::shownCamera() const {
+  OrbitCamera camera = camera_;
+  if (ride_) {
+    const RideView view = ride_->view(workspace_.layout());
+    camera.standAt(view.eye, view.forward);
+  }
+  return camera;
+}
+
+void TrackGLCanvas::drawInto(const OrbitCamera& camera, const PictureTile& tile) {
+  SceneRenderer::Look look;
+  look.width = static_cast<int>(camera.width);
+  look.height = static_cast<int>(camera.height);
+  look.inTunnel = ride_ && ride_->view(workspace_.layout()).inTunnel;
+  look.tile = tile;
+  renderer_->draw(workspace_.layout(), keeper_.scene(), view_, camera, look);
+  if (view_.labels && !ride_)
+    labels_.draw(keeper_.scene().labels, camera, tile, pixelScale());
+}
+
+void TrackGLCanvas::paint() {
+  if (!makeCurrent())
+    return;
+  refreshScene();
+  drawInto(shownCamera(), {});
+  SwapBuffers();
+}
+
+wxImage TrackGLCanvas::picture(int times) {
+  if (!makeCurrent())
+    return {};
+  refreshScene();
+  const OrbitCamera camera = shownCamera();
+  const auto width = static_cast<int>(camera.width);
+  const auto height = static_cast<int>(camera.height);
+  wxImage whole(width * times, height * times);
+  std::vector<unsigned char> rows(static_cast<std::size_t>(width) *
+                                  static_cast<std::size_t>(height) * 3);
+  glPixelStorei(GL_PACK_ALIGNMENT, 1);
+  for (int row = 0; row < times; ++row)
+    for (int column = 0; column < times; ++column) {
+      drawInto(camera, {times, column, row});
+      glReadBuffer(GL_BACK);
+      glReadPixels(0, 0, width, height, GL_RGB, GL_UNSIGNED_BYTE, rows.data());
+      for (int y = 0; y < height; ++y) { // which come from below
+        const auto from =
+            static_cast<std::size_t>(height - 1 - y) * static_cast<std::size_t>(width);
+        const auto to =
+            static_cast<std::size_t>(row * height + y) * static_cast<std::size_t>(width * times) +
+            static_cast<std::size_t>(column * width);
+        std::copy_n(rows.data() + from * 3, static_cast<std::size_t>(width) * 3,
+                    whole.GetData() + to * 3);
+      }
+    }
+  return whole;
+}
+
+void TrackGLCanvas::setView(const SceneView& view) {
+  view_ = view;
+  Refresh(false);
+}
+
+void TrackGLCanvas::look(CameraView from) {
+  endRide();
+  camera_.look(from, scene().bounds());
+  Refresh(false);
+}
+
+void TrackGLCanvas::fit() {
+  endRide();
+  camera_.fit(scene().bounds());
+  Refresh(false);
+}
+
+OrbitCamera::Pixel TrackGLCanvas::pixelOf(wxPoint at) const {
+  return {(at.x + 0.5) * pixelScale(), (at.y + 0.5) * pixelScale()};
+}
+
+std::optional<SceneHit> TrackGLCanvas::hitAt(OrbitCamera::Pixel pixel) {
+  const OrbitCamera::Ray ray = shownCamera().ray(pixel);
+  return hitOf(workspace_.layout(), scene(), view_, ray.origin, ray.direction);
+}
+
+/// What the pointer is over; beside the layout as far away as its middle.
+Vec3 TrackGLCanvas::placeAt(OrbitCamera::Pixel pixel) {
+  if (const auto hit = hitAt(pixel))
+    return hit->at;
+  const OrbitCamera::Ray ray = camera_.ray(pixel);
+  const double share =
+      dot(camera_.target - ray.origin, camera_.forward()) / dot(ray.direction, camera_.forward());
+  return ray.origin + share * ray.direction;
+}
+
+void TrackGLCanvas::onMouse(wxMouseEvent& event) {
+  if (event.LeftDClick()) {
+    if (!ride_) {
+      camera_.centre(placeAt(pixelOf(event.GetPosition())));
+      Refresh(false);
+    }
+  } else if (event.ButtonDown()) {
+    press(event);
+  } else if (event.ButtonUp()) {
+    release(event.GetPosition());
+  } else if (drag_ != Drag::None) {
+    move(event.GetPosition());
+  }
+}
+
+void TrackGLCanvas::press(const wxMouseEvent& event) {
+  SetFocus();
+  if (ride_ || drag_ != Drag::None)
+    return;
+  drag_ = event.LeftDown() && !event.ShiftDown() ? Drag::Orbit : Drag::Pan;
+  moved_ = !event.LeftDown();
+  last_ = pressed_ = event.GetPosition();
+  about_ = placeAt(pixelOf(last_));
+  CaptureMouse();
+}
+
+void TrackGLCanvas::move(wxPoint to) {
+  const wxPoint far = to - pressed_;
+  if (!moved_ && std::max(std::abs(far.x), std::abs(far.y)) <= FromDIP(kClickPlay))
+    return;
+  moved_ = true;
+  const wxPoint by = to - last_;
+  last_ = to;
+  if (drag_ == Drag::Orbit)
+    camera_.orbit(about_, -kOrbitStep * by.x, kOrbitStep * by.y);
+  else
+    camera_.pan(about_, by.x * pixelScale(), by.y * pixelScale());
+  Refresh(false);
+}
+
+void TrackGLCanvas::release(wxPoint at) {
+  const bool click = drag_ == Drag::Orbit && !moved_;
+  letGo();
+  if (click)
+    select(pixelOf(at));
+}
+
+void TrackGLCanvas::letGo() {
+  drag_ = Drag::None;
+  if (HasCapture())
+    ReleaseMouse();
+}
+
+void TrackGLCanvas::select(OrbitCamera::Pixel pixel) {
+  const auto hit = hitAt(pixel);
+  std::vector<Pick> picks;
+  if (hit && hit->key.isRecord())
+    picks.push_back({hit->key.kind, hit->key.id});
+  selectThese(workspace_.layout(), picks);
+  workspace_.selectionChanged();
+}
+
+void TrackGLCanvas::onWheel(wxMouseEvent& event) {
+  if (ride_ || event.GetWheelAxis() != wxMOUSE_WHEEL_VERTICAL)
+    return;
+  const double notches =
+      static_cast<double>(event.GetWheelRotation()) / std::max(event.GetWheelDelta(), 1);
+  camera_.zoom(placeAt(pixelOf(event.GetPosition())), std::pow(kWheelZoom, notches));
+  Refresh(false);
+}
+
+void TrackGLCanvas::onKey(wxKeyEvent& event) {
+  if (ride_ ? rideKey(event.GetKeyCode()) : lookKey(event)) {
+    Refresh(false);
+    told_();
+  } else {
+    event.Skip();
+  }
+}
+
+bool TrackGLCanvas::lookKey(const wxKeyEvent& event) {
+  struct Step {
+    int key;
+    double x;
+    double y;
+  };
+  static constexpr Step kSteps[] = {
+      {WXK_LEFT, -1, 0}, {WXK_RIGHT, 1, 0}, {WXK_UP, 0, 1}, {WXK_DOWN, 0, -1}};
+  const int key = event.GetKeyCode();
+  if (event.ControlDown() || event.AltDown())
+    return false;
+  if (const auto* step = std::ranges::find(kSteps, key, &Step::key); step != std::end(kSteps)) {
+    if (event.ShiftDown())
+      camera_.pan(camera_.target, -step->x * camera_.width / 20, step->y * camera_.height / 20);
+    else
+      camera_.orbit(camera_.target, kKeyTurn * step->x, kKeyTurn * step->y);
+    return true;
+  }
+  for (const auto& [plain, onPad, factor] :
+       {std::tuple('+', WXK_NUMPAD_ADD, kWheelZoom), {'-', WXK_NUMPAD_SUBTRACT, 1 / kWheelZoom}})
+    if (key == plain || key == onPad || (key == '=' && plain == '+')) {
+      camera_.zoom(camera_.target, factor);
+      return true;
+    }
+  return false;
+}
+
+bool TrackGLCanvas::rideKey(int key) {
+  switch (key) {
+  case WXK_ESCAPE:
+    endRide();
+    return true;
+  case WXK_LEFT:
+    branch_ = RideBranch::Left;
+    break;
+  case WXK_RIGHT:
+    branch_ = RideBranch::Right;
+    break;
+  case WXK_UP:
+    direction_ = 1;
+    branch_ = RideBranch::Straight;
+    break;
+  case WXK_DOWN:
+    direction_ = -1;
+    break;
+  case WXK_SPACE:
+    direction_ = direction_ == 0 ? 1 : 0;
+    break;
+  default:
+    return false;
+  }
+  ride_->choose(branch_);
+  return true;
+}
+
+bool TrackGLCanvas::startRide(double kilometresPerHour) {
+  const std::vector<std::int32_t> pieces = selectedPieces(workspace_.layout());
+  if (pieces.empty())
+    return false;
+  TrackRide ride(workspace_.layout(), pieces.front());
+  if (ride.isOver(workspace_.layout()))
+    return false;
+  letGo();
+  ride_ = ride;
+  speed_ = kilometresPerHour;
+  direction_ = 1;
+  branch_ = RideBranch::Straight;
+  clock_.Start();
+  lastTick_ = 0;
+  timer_.Start(kTick);
+  SetFocus();
+  Refresh(false);
+  told_();
+  return true;
+}
+
+void TrackGLCanvas::endRide() {
+  if (!ride_)
+    return;
+  timer_.Stop();
+  ride_.reset();
+  Refresh(false);
+  told_();
+}
+
+void TrackGLCanvas::rideOn() {
+  const trassix::Layout& layout = workspace_.layout();
+  const PlacedPiece* piece = ride_ ? layout.findPiece(ride_->piece()) : nullptr;
+  const PieceDef* definition = piece == nullptr ? nullptr : definitionOf(*piece);
+  if (definition == nullptr || ride_->isOver(layout))
+    return endRide();
+  constexpr long kLongest = 250; // ms: where painting takes longer, it goes slower instead
+  const long now = clock_.Time();
+  const double seconds = static_cast<double>(std::min(now - lastTick_, kLongest)) / 1000;
+  lastTick_ = now;
+  if (direction_ == 0)
+    return;
+  if (!ride_->advance(layout, direction_ * seconds * modelSpeed(definition->system, speed_))) {
+    direction_ = 0;
+    told_();
+  }
+  Refresh(false);
+}
+
+wxString TrackGLCanvas::hint() const {
+  if (!ride_)
+    return _("Drag: turn    Shift+drag or middle button: move    Wheel: zoom    Click: select    "
+             "Double-click: into the middle    Home: all");
+  const wxString keys = _("Up, down: forwards, backwards    Space: stop    Left, right: where to "
+                          "go at the next turnout    Esc: end of the ride");
+  if (direction_ == 0)
+    return _("The train stands.") + "    " + keys;
+  if (branch_ == RideBranch::Straight)
+    return keys;
+  return (branch_ == RideBranch::Left ? _("Next turnout: left") : _("Next turnout: right")) +
+         "    " + keys;
+}
+
+} // namespace trassix
