@@ -1,12 +1,14 @@
 #include "view3d/scene_renderer.h"
 
 #include "document/layout.h"
-#include "editing/selection/picking.h"
+#include "document/record_kinds.h"
 #include "view3d/gl_calls.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <set>
+#include <utility>
 
 namespace trassix {
 
@@ -28,7 +30,7 @@ constexpr int kMarks = 250;         // that the stencil tells apart
 
 bool castsShadow(SceneGroup group) {
   return group == SceneGroup::Track || group == SceneGroup::Scenery ||
-         group == SceneGroup::Supports || group == SceneGroup::Plates;
+         group == SceneGroup::Supports || group == SceneGroup::Plates || group == SceneGroup::Posts;
 }
 
 void setLight(GLenum light, const Rgba& at, const Rgba& color, const Rgba& shine) {
@@ -49,6 +51,18 @@ void setMaterial(Material material) {
 Matrix4 tileOf(const PictureTile& tile) {
   const double n = tile.tiles;
   return {n, 0, 0, 0, 0, n, 0, 0, 0, 0, 1, 0, n - 1 - 2 * tile.column, 2 * tile.row + 1 - n, 0, 1};
+}
+
+using Picked = std::pair<RecordKind, std::int32_t>;
+
+std::set<Picked> selectedRecords(const Layout& layout) {
+  std::set<Picked> selected;
+  forEachSelectable(layout.content(), [&](const auto& records) {
+    for (const auto& record : records)
+      if (record.sel)
+        selected.emplace(record.kKind, record.id);
+  });
+  return selected;
 }
 
 Detail detailOf(const SceneBatch& batch, const OrbitCamera& camera, int tiles) {
@@ -83,9 +97,8 @@ void drawSky(const PictureTile& tile, bool inTunnel) {
 
 } // namespace
 
-MeshStore::Place& SceneRenderer::placeOf(const SceneKey& key, const SceneBatch& batch,
-                                         Detail detail) {
-  Places& places = places_[key];
+const MeshStore::Place& SceneRenderer::sent(Places& places, const SceneBatch& batch,
+                                            Detail detail) {
   MeshStore::Place& place = detail == Detail::Near ? places.fine : places.coarse;
   if (!place.known())
     place = store_.put(batch.mesh(detail));
@@ -115,29 +128,42 @@ void SceneRenderer::forgetAll() {
 
 void SceneRenderer::gather(const Layout& layout, const Scene& scene, const SceneView& view,
                            const OrbitCamera& camera, const Look& look) {
-  for (MeshStore::Draws* draws : {&bodies_, &selected_})
-    draws->clear();
-  grounds_.clear();
-  grounds_.push_back({});
+  bodies_.clear();
+  selected_.clear();
+  grounds_.assign(1, {});
   drawn_ = 0;
   const ViewVolume volume(
       product(tileOf(look.tile), product(camera.projection(scene.bounds()), camera.view())));
+  const std::set<Picked> selected = selectedRecords(layout);
+  auto known = places_.begin(); // in the order of the scene
   for (const auto& [key, batch] : scene.batches) {
-    if (!isShown(layout, key, batch, view) || !volume.meets(batch.least, batch.most))
+    if (!isShown(layout, key, batch, view))
+      continue;
+    while (known != places_.end() && known->first < key)
+      ++known;
+    if (known == places_.end() || known->first != key)
+      known = places_.emplace_hint(known, key, Places{});
+    Places& places = known->second;
+    const std::size_t above = grounds_.size(); // plates come before what stands on them
+    if (key.group == SceneGroup::Plates && above < kMarks)
+      grounds_.push_back({batch.most.z, {}, {}});
+    if (look.shadows && !look.inTunnel && castsShadow(key.group))
+      for (std::size_t i = 0; i < above; ++i)
+        if (batch.most.z > grounds_[i].height + kShadowLift &&
+            batch.least.z > grounds_[i].height - kSunk)
+          grounds_[i].shadows.add(sent(places, batch, Detail::Far));
+    if (!volume.meets(batch.least, batch.most))
       continue;
     const Detail detail = detailOf(batch, camera, look.tile.tiles);
-    const MeshStore::Place& place = placeOf(key, batch, detail);
     drawn_ += batch.mesh(detail).triangles();
-    if (key.isRecord() && isSelected(layout, {key.kind, key.id})) {
-      selected_.add(place);
-    } else if (key.group == SceneGroup::Board || key.group == SceneGroup::Ground) {
-      grounds_.front().draws.add(place);
-    } else if (key.group == SceneGroup::Plates && grounds_.size() < kMarks) {
-      grounds_.push_back({{key, batch.most.z}, {}});
-      grounds_.back().draws.add(place);
-    } else {
-      bodies_.add(place);
-    }
+    MeshStore::Draws* draws = &bodies_;
+    if (key.isRecord() && selected.contains({key.kind, key.id}))
+      draws = &selected_;
+    else if (key.group == SceneGroup::Plates)
+      draws = &grounds_.back().draws;
+    else if (key.group == SceneGroup::Board || key.group == SceneGroup::Ground)
+      draws = &grounds_.front().draws;
+    draws->add(sent(places, batch, detail));
   }
 }
 
@@ -157,10 +183,10 @@ void SceneRenderer::prepare(const OrbitCamera& camera, const Matrix4& projection
   const auto dimmed = [dim](float r, float g, float b) {
     return Rgba{r * dim, g * dim, b * dim, 1};
   };
-  const Rgba ambient = dimmed(0.36F, 0.37F, 0.40F);
+  const Rgba ambient = dimmed(0.42F, 0.43F, 0.46F);
   glLightModelfv(GL_LIGHT_MODEL_AMBIENT, ambient.data());
-  setLight(GL_LIGHT0, kSun, dimmed(0.60F, 0.57F, 0.50F), dimmed(0.9F, 0.88F, 0.8F));
-  setLight(GL_LIGHT1, kAbove, dimmed(0.20F, 0.22F, 0.26F), kDark);
+  setLight(GL_LIGHT0, kSun, dimmed(0.58F, 0.55F, 0.48F), dimmed(0.9F, 0.88F, 0.8F));
+  setLight(GL_LIGHT1, kAbove, dimmed(0.16F, 0.18F, 0.21F), kDark);
   if (look.inTunnel) {
     const Vec3 eye = camera.eye();
     setLight(GL_LIGHT2,
@@ -179,20 +205,14 @@ void SceneRenderer::drawBodies(const MeshStore::Draws& draws) {
   }
 }
 
-void SceneRenderer::drawShadows(const Layout& layout, const Scene& scene, const SceneView& view,
-                                const Receiver& onto, int mark) {
-  shadows_.clear();
-  for (const auto& [key, batch] : scene.batches)
-    if (castsShadow(key.group) && key != onto.key && batch.most.z > onto.height + kShadowLift &&
-        batch.least.z > onto.height - kSunk && isShown(layout, key, batch, view))
-      shadows_.add(placeOf(key, batch, Detail::Far));
-  if (shadows_.empty())
+void SceneRenderer::drawShadows(const Ground& ground, int mark) {
+  if (ground.shadows.empty())
     return;
   // Everything flattened onto the ground along the rays of the sun; the stencil lets each place
   // become dark once.
   const float x = kSun[0] / kSun[2];
   const float y = kSun[1] / kSun[2];
-  const auto z = static_cast<float>(onto.height);
+  const auto z = static_cast<float>(ground.height);
   const std::array<float, 16> flat{
       1, 0, 0, 0, 0, 1, 0, 0, -x, -y, 0, 0, x * z, y * z, z + kShadowLift, 1};
   glPushMatrix();
@@ -205,7 +225,7 @@ void SceneRenderer::drawShadows(const Layout& layout, const Scene& scene, const 
   glStencilOp(GL_KEEP, GL_KEEP, GL_ZERO);
   glDepthMask(GL_FALSE);
   for (const Material material : {Material::Matte, Material::Glossy})
-    store_.draw(shadows_, material, MeshStore::Looks::Shape);
+    store_.draw(ground.shadows, material, MeshStore::Looks::Shape);
   glDepthMask(GL_TRUE);
   glDisable(GL_BLEND);
   glEnable(GL_LIGHTING);
@@ -258,9 +278,8 @@ void SceneRenderer::draw(const Layout& layout, const Scene& scene, const SceneVi
     glStencilOp(GL_KEEP, GL_KEEP, GL_REPLACE);
     drawBodies(grounds_[i].draws);
   }
-  if (look.shadows && !look.inTunnel)
-    for (std::size_t i = 0; i < grounds_.size(); ++i)
-      drawShadows(layout, scene, view, grounds_[i].receiver, static_cast<int>(i) + 1);
+  for (std::size_t i = 0; i < grounds_.size(); ++i)
+    drawShadows(grounds_[i], static_cast<int>(i) + 1);
   glDisable(GL_STENCIL_TEST);
   drawBodies(bodies_);
   glMaterialfv(GL_FRONT_AND_BACK, GL_EMISSION, kGlow.data());

@@ -47,34 +47,30 @@ class SceneRenderer {
     MeshStore::Place fine;
     MeshStore::Place coarse;
   };
-  /// A flat place that shadows fall on.
-  struct Receiver {
-    SceneKey key;
+  /// A flat place with what lies on it and the shadows that fall on it.
+  struct Ground {
     double height = 0;
+    MeshStore::Draws draws;
+    MeshStore::Draws shadows;
   };
+  using PlaceMap = std::map<SceneKey, Places>;
 
   void gather(const Layout& layout, const Scene& scene, const SceneView& view,
               const OrbitCamera& camera, const Look& look);
   void prepare(const OrbitCamera& camera, const Matrix4& projection, const Look& look) const;
-  void drawShadows(const Layout& layout, const Scene& scene, const SceneView& view,
-                   const Receiver& onto, int mark);
+  void drawShadows(const Ground& ground, int mark);
   static void drawRoom(const Scene& scene, const SceneView& view, const Look& look);
   void drawBodies(const MeshStore::Draws& draws);
-  MeshStore::Place& placeOf(const SceneKey& key, const SceneBatch& batch, Detail detail);
+  const MeshStore::Place& sent(Places& places, const SceneBatch& batch, Detail detail);
 
   MeshStore store_;
-  std::map<SceneKey, Places> places_;
+  PlaceMap places_;
   std::size_t drawn_ = 0;
 
   // Of the picture that is being made.
-  struct Marked {
-    Receiver receiver;
-    MeshStore::Draws draws;
-  };
-  std::vector<Marked> grounds_; ///< the board with all that lies on it first
+  std::vector<Ground> grounds_; ///< the board first
   MeshStore::Draws bodies_;
   MeshStore::Draws selected_;
-  MeshStore::Draws shadows_;
 };
 
 } // namespace trassix

@@ -110,6 +110,10 @@ Ground Grounds::below(Point at, double height) const {
 double Grounds::standing(Point at, std::int32_t level) const {
   const auto deck = std::ranges::find(decks_, level, &Deck::level);
   double height = deck == decks_.end() ? 0 : deck->height;
+  const auto plate = std::ranges::find(plates_, level, &Plate::level);
+  if (plate != plates_.end() && !inside(plate->outline, at))
+    if (const Ground ground = below(at, height); ground.kind != GroundKind::None)
+      height = ground.height;
   for (const Hill& hill : hills_)
     if (hill.level == level && inside(hill.foot, at))
       height = std::max(height, hill.heightAt(at));

@@ -56,7 +56,8 @@ class Grounds {
   /// it, where nothing is.
   Ground below(Point at, double height) const;
 
-  /// Where what belongs to a level stands: on the highest of its hills there, else at its height.
+  /// Where what belongs to a level stands: on the highest of its hills there, else at its height;
+  /// beside the outline of its deck on whatever ground is below.
   double standing(Point at, std::int32_t level) const;
 
   const std::vector<Hill>& hills() const { return hills_; }

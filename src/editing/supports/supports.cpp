@@ -58,6 +58,7 @@ class Planner {
       holdTurntable(piece);
     for (const Helix& helix : layout_.content().helices)
       hangHelix(helix);
+    plan_.posts = deckPosts(layout_, grounds_, room_);
     return std::move(plan_);
   }
 

@@ -4,6 +4,7 @@
 
 #include "catalog/track_system.h"
 #include "editing/supports/bridge_kind.h"
+#include "editing/supports/deck_posts.h"
 #include "editing/supports/grounds.h"
 #include "editing/supports/pier_room.h"
 
@@ -42,6 +43,7 @@ struct SupportSpan {
 struct SupportPlan {
   std::vector<Support> supports;
   std::vector<SupportSpan> spans;
+  std::vector<DeckPost> posts;
 };
 
 struct PierSize {

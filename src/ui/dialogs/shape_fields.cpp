@@ -1,5 +1,6 @@
 #include "ui/dialogs/shape_fields.h"
 
+#include "editing/supports/grounds.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/checkbox.h>
@@ -50,6 +51,15 @@ void addShapeFields(wxDialog& dialog, wxFlexGridSizer& grid, ShapeForm& form,
   colors->Add(color, wxSizerFlags().CenterVertical().Border(wxRIGHT, dialog.FromDIP(8)));
   colors->Add(outline, wxSizerFlags().CenterVertical());
   grid.Add(colors);
+  grid.AddStretchSpacer();
+  auto* water = new wxStaticText(&dialog, wxID_ANY, wxEmptyString);
+  water->SetName("shapeWater");
+  const auto tellWater = [water, &form] {
+    water->SetLabel(isWater(form.shape) ? _("Mainly blue: it is water in the 3D view.")
+                                        : _("Filled mainly blue it is water in the 3D view."));
+  };
+  tellWater();
+  grid.Add(water);
 
   addName(dialog, grid, _("O&pacity:"));
   auto* opacity = new wxSpinCtrl(&dialog, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize,
@@ -75,13 +85,15 @@ void addShapeFields(wxDialog& dialog, wxFlexGridSizer& grid, ShapeForm& form,
   level->SetSelection(static_cast<int>(form.level()));
   grid.Add(level, wxSizerFlags().Expand());
 
-  color->Bind(wxEVT_COLOURPICKER_CHANGED, [&form, changed](wxColourPickerEvent& event) {
+  color->Bind(wxEVT_COLOURPICKER_CHANGED, [&form, changed, tellWater](wxColourPickerEvent& event) {
     const wxColour colour = event.GetColour();
     form.shape.color = {colour.Red(), colour.Green(), colour.Blue()};
+    tellWater();
     changed();
   });
-  outline->Bind(wxEVT_CHECKBOX, [&form, changed, opacity](wxCommandEvent& event) {
+  outline->Bind(wxEVT_CHECKBOX, [&form, changed, tellWater, opacity](wxCommandEvent& event) {
     form.shape.outline = event.IsChecked();
+    tellWater();
     opacity->Enable(!event.IsChecked()); // a mere outline is never translucent
     changed();
   });

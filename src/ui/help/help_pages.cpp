@@ -125,6 +125,20 @@ constexpr const char* kLevelsAndBaseboard[] = {
     wxTRANSLATE("View > Show Grades puts grades, heights and the room between crossing tracks on "
                 "the plan. View > Height Profile shows the way through the selected track from the "
                 "side: drag its joints up and down, double-click one to type its height."),
+    wxTRANSLATE("# The 3D view"),
+    wxTRANSLATE(
+        "\"3D View\" in the tool bar, or F7, shows the layout as it will stand in the room, "
+        "in a window of its own that follows the plan while you work. Drag to turn it about "
+        "what is under the pointer, drag with Shift or the middle button to move it, turn "
+        "the wheel to zoom; Home shows all of it, 1 to 4 look from above, the front, the "
+        "side and obliquely. A click selects on the plan as well. \"Cut\" takes off what "
+        "is above a height, to look into hidden stations; \"Levels\" chooses what is shown."),
+    wxTRANSLATE("\"Ride Along\" follows the track from the selected piece: left and right choose "
+                "the way at the next turnout, up and down ride forwards and backwards, the space "
+                "bar stops, Esc ends the ride. Piers and posts are put up automatically wherever "
+                "track or a deck is raised. A filled shape with a height is a hill, one that is "
+                "mainly blue is water. The menu writes pictures (PNG) and models (glTF) for other "
+                "programs."),
     wxTRANSLATE("# Tunnels and hidden track"),
     wxTRANSLATE(
         "Select a chain of track, or two side by side, and choose \"Tunnel\" in the tool bar "

@@ -37,6 +37,8 @@ const char* nameOf(SceneGroup group) {
     return "supports";
   case SceneGroup::Scenery:
     return "scenery";
+  case SceneGroup::Posts:
+    return "posts";
   case SceneGroup::Grades:
     return "grades";
   }

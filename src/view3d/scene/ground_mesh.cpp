@@ -10,7 +10,9 @@
 #include "editing/tunnels/tunnel_outline.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <utility>
 
 namespace trassix {
 
@@ -24,7 +26,8 @@ constexpr Color kRock{132, 124, 108};
 
 constexpr double kBoardThickness = 16; // mm
 constexpr double kPlateThickness = 10;
-constexpr double kFrameDepth = 80;
+constexpr double kFrameDepth = 80; // of a board from this width on, of a smaller one less
+constexpr double kFullWidth = 1200;
 constexpr double kFrameInset = 12;
 constexpr double kLegLength = 700;
 constexpr double kLegSize = 40;
@@ -43,10 +46,11 @@ Polygon inScene(const Polygon& plan) {
   return scene;
 }
 
-void addLegs(MeshBuilder& builder, const Polygon& corners) {
+void addLegs(MeshBuilder& builder, const Polygon& corners, double scale) {
+  const double half = scale * kLegSize / 2;
   for (const Point at : corners)
-    builder.box({at.x - kLegSize / 2, at.y - kLegSize / 2, -kBoardThickness - kLegLength},
-                {at.x + kLegSize / 2, at.y + kLegSize / 2, -kBoardThickness}, shaded(kWood, 0.85));
+    builder.box({at.x - half, at.y - half, -kBoardThickness - scale * kLegLength},
+                {at.x + half, at.y + half, -kBoardThickness}, shaded(kWood, 0.85));
 }
 
 /// A line along an outline that is only drawn.
@@ -81,10 +85,14 @@ void addBoard(Mesh& mesh, const Polygon& plan) {
   MeshBuilder builder(mesh);
   builder.prism(outline, -kBoardThickness, 0, kWood, kBoardTop);
   builder.area(outline, -kBoardThickness, shaded(kWood, 0.7), false);
+  const auto [left, right] = std::ranges::minmax(outline, {}, &Point::x);
+  const auto [front, back] = std::ranges::minmax(outline, {}, &Point::y);
+  const double scale =
+      std::clamp(std::min(right.x - left.x, back.y - front.y) / kFullWidth, 0.4, 1.0);
   const Hill frame = makeHill(outline, 0, 1, kFrameInset);
-  builder.skirt(frame.top, -kBoardThickness - kFrameDepth, frame.top, -kBoardThickness,
+  builder.skirt(frame.top, -kBoardThickness - scale * kFrameDepth, frame.top, -kBoardThickness,
                 shaded(kWood, 0.92));
-  addLegs(builder, makeHill(outline, 0, 1, kFrameInset + kLegSize).top);
+  addLegs(builder, makeHill(outline, 0, 1, kFrameInset + scale * kLegSize).top, scale);
 }
 
 void addPlate(Mesh& mesh, const Level& level) {
@@ -97,6 +105,12 @@ void addPlate(Mesh& mesh, const Level& level) {
     return builder.area(outline, level.height + kPaint / 2, top);
   builder.prism(outline, level.height - kPlateThickness, level.height, kPlywood, top);
   builder.area(outline, level.height - kPlateThickness, shaded(kPlywood, 0.75), false);
+}
+
+void addPost(Mesh& mesh, const DeckPost& post) {
+  const double half = post.size / 2;
+  MeshBuilder(mesh).box({post.at.x - half, -post.at.y - half, post.foot},
+                        {post.at.x + half, -post.at.y + half, post.head}, shaded(kWood, 0.9));
 }
 
 void addShape(Mesh& mesh, const Layout& layout, const Shape& shape, int layer) {
@@ -148,7 +162,24 @@ void addHill(Mesh& mesh, const Hill& hill, Color color) {
   const Polygon foot = inScene(hill.foot);
   const Polygon top = inScene(hill.top);
   const Color green = color == Color{} ? kGrass : color;
-  builder.skirt(foot, hill.base, top, hill.base + hill.rise, mixed(green, kRock, 0.35));
+  const Color side = mixed(green, kRock, 0.35);
+  if (hill.shape != -1) {
+    builder.skirt(foot, hill.base, top, hill.base + hill.rise, side);
+  } else { // over a tunnel it has little room, and is rounded where the portals leave it free
+    constexpr std::array<std::pair<double, double>, 4> kRound{
+        {{0, 0}, {0.1, 0.6}, {0.4, 0.87}, {1, 1}}};
+    const auto ring = [&](double share) {
+      Polygon at;
+      for (std::size_t i = 0; i < foot.size(); ++i)
+        at.push_back({foot[i].x + share * (top[i].x - foot[i].x),
+                      foot[i].y + share * (top[i].y - foot[i].y)});
+      return at;
+    };
+    for (std::size_t i = 0; i + 1 < kRound.size(); ++i)
+      builder.skirt(ring(kRound[i].first), hill.base + hill.rise * kRound[i].second,
+                    ring(kRound[i + 1].first), hill.base + hill.rise * kRound[i + 1].second,
+                    mixed(side, green, static_cast<double>(i) / 2));
+  }
   builder.area(top, hill.base + hill.rise, green);
 }
 

@@ -3,6 +3,7 @@
 
 #include "document/plan_settings.h"
 #include "document/records_fwd.h"
+#include "editing/supports/deck_posts.h"
 #include "editing/supports/grounds.h"
 #include "view3d/scene/mesh.h"
 
@@ -21,6 +22,8 @@ void addBoard(Mesh& mesh, const Polygon& outline);
 
 /// A deck of its level's outline; nothing for a level without one.
 void addPlate(Mesh& mesh, const Level& level);
+
+void addPost(Mesh& mesh, const DeckPost& post);
 
 /// A shape: painted ground at the height of its level or a hill, water where it is blue. `layer`
 /// numbers what lies one over another.

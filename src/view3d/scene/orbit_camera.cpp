@@ -182,16 +182,29 @@ void OrbitCamera::zoom(Vec3 at, double factor) {
 }
 
 void OrbitCamera::fit(const Scene::Bounds& bounds) {
+  constexpr int kRounds = 6; // each centres what perspective shifted
+  const double tall = halfTangent() / kFitRoom;
+  const double wide = tall * width / height;
   target = 0.5 * (bounds.least + bounds.most);
-  double needed = kNearest;
-  const double aspect = width / height;
-  for (const Vec3 corner : cornersOf(bounds)) {
-    const Vec3 from = corner - target;
-    const double aside = std::max(std::abs(dot(from, right())) / aspect, std::abs(dot(from, up())));
-    const double nearer = orthographic ? 0 : -dot(from, forward());
-    needed = std::max(needed, kFitRoom * aside / halfTangent() + nearer);
+  for (int round = 0; round < kRounds; ++round) {
+    double needed = kNearest;
+    for (const Vec3 corner : cornersOf(bounds)) {
+      const Vec3 from = corner - target;
+      const double nearer = orthographic ? 0 : -dot(from, forward());
+      needed = std::max({needed, std::abs(dot(from, right())) / wide + nearer,
+                         std::abs(dot(from, up())) / tall + nearer});
+    }
+    distance = std::min(needed, kFarthest);
+    Pixel least{1e30, 1e30};
+    Pixel most{-1e30, -1e30};
+    for (const Vec3 corner : cornersOf(bounds))
+      if (const auto at = project(corner)) {
+        least = {std::min(least.x, at->x), std::min(least.y, at->y)};
+        most = {std::max(most.x, at->x), std::max(most.y, at->y)};
+      }
+    if (least.x <= most.x)
+      pan(target, (width - least.x - most.x) / 2, (height - least.y - most.y) / 2);
   }
-  distance = std::min(needed, kFarthest);
 }
 
 void OrbitCamera::standAt(Vec3 eye, Vec3 forward) {

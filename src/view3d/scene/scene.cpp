@@ -86,6 +86,7 @@ bool isShown(const Layout& layout, const SceneKey& key, const SceneBatch& batch,
   case SceneGroup::Scenery:
     return view.scenery;
   case SceneGroup::Supports:
+  case SceneGroup::Posts:
     return view.supports;
   case SceneGroup::Grades:
     return view.grades;

@@ -17,17 +17,28 @@ namespace trassix {
 
 class Layout;
 
-enum class SceneGroup : std::uint8_t { Board, Plates, Ground, Track, Supports, Scenery, Grades };
+enum class SceneGroup : std::uint8_t {
+  Board,
+  Plates,
+  Ground,
+  Track,
+  Supports,
+  Scenery,
+  Grades,
+  Posts
+};
 
-/// Whose triangles these are. Of the board and of plates, which are no records, only the id of the
-/// level counts.
+/// Whose triangles these are. Of the board, of plates and of their posts, which are no records,
+/// only the id of the level counts.
 struct SceneKey {
   SceneGroup group = SceneGroup::Track;
   RecordKind kind = RecordKind::Piece;
   std::int32_t id = -1;
 
   auto operator<=>(const SceneKey&) const = default;
-  bool isRecord() const { return group != SceneGroup::Board && group != SceneGroup::Plates; }
+  bool isRecord() const {
+    return group != SceneGroup::Board && group != SceneGroup::Plates && group != SceneGroup::Posts;
+  }
 };
 
 /// The triangles of one record in one group, which are made, sent and drawn together.

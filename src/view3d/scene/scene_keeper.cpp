@@ -20,7 +20,8 @@ namespace {
 
 constexpr double kTrackGrain = 0.2; // of the gauge: sleepers
 constexpr double kSceneryGrain = 4; // mm in H0: windows, leaves
-constexpr double kLabelHeight = 20; // mm above the board
+constexpr double kLabelHeight = 20; // mm above the ground
+constexpr double kHighest = 1e6;
 
 /// Settings that meshes are made of.
 PlanSettings shapeOf(const PlanSettings& settings) {
@@ -124,8 +125,7 @@ SceneChanges SceneKeeper::update(const Layout& layout) {
   updateScenery(layout, grounds, changes.of(RecordKind::Scenery));
   updateTunnels(layout, grounds);
   updateSupports(layout);
-  if (changes.of(RecordKind::Label).any())
-    updateLabels(layout);
+  updateLabels(layout, grounds);
   return changes_;
 }
 
@@ -237,7 +237,8 @@ void SceneKeeper::updateTunnels(const Layout& layout, const Grounds& grounds) {
 
 void SceneKeeper::updateSupports(const Layout& layout) {
   std::map<std::int32_t, std::vector<Support>> now;
-  for (const Support& support : supportsOf(layout).supports)
+  const SupportPlan plan = supportsOf(layout);
+  for (const Support& support : plan.supports)
     now[support.piece].push_back(support);
   for (const auto& [piece, supports] : supports_)
     if (!now.contains(piece))
@@ -254,13 +255,34 @@ void SceneKeeper::updateSupports(const Layout& layout) {
       });
   }
   supports_ = std::move(now);
+  updatePosts(plan.posts);
 }
 
-void SceneKeeper::updateLabels(const Layout& layout) {
-  scene_.labels.clear();
+void SceneKeeper::updatePosts(const std::vector<DeckPost>& posts) {
+  std::map<std::int32_t, std::vector<DeckPost>> now;
+  for (const DeckPost& post : posts)
+    now[post.level].push_back(post);
+  if (now == posts_)
+    return;
+  for (const auto& [level, standing] : posts_)
+    remove(keyOf(SceneGroup::Posts, RecordKind::Piece, level));
+  for (const auto& [level, standing] : now)
+    renew(keyOf(SceneGroup::Posts, RecordKind::Piece, level), level, 0, [&](Mesh& mesh, Detail) {
+      for (const DeckPost& post : standing)
+        addPost(mesh, post);
+    });
+  posts_ = std::move(now);
+}
+
+void SceneKeeper::updateLabels(const Layout& layout, const Grounds& grounds) {
+  std::vector<SceneLabel> labels;
   for (const Label& label : layout.content().labels)
-    scene_.labels.push_back({label.id, label.text, {label.x, -label.y, kLabelHeight}});
-  changes_.labels = true;
+    labels.push_back(
+        {label.id,
+         label.text,
+         {label.x, -label.y, grounds.below({label.x, label.y}, kHighest).height + kLabelHeight}});
+  changes_.labels = labels != scene_.labels;
+  scene_.labels = std::move(labels);
 }
 
 } // namespace trassix

@@ -41,7 +41,8 @@ class SceneKeeper {
   void updateScenery(const Layout& layout, const Grounds& grounds, const ChangedIds& items);
   void updateTunnels(const Layout& layout, const Grounds& grounds);
   void updateSupports(const Layout& layout);
-  void updateLabels(const Layout& layout);
+  void updatePosts(const std::vector<DeckPost>& posts);
+  void updateLabels(const Layout& layout, const Grounds& grounds);
   void addPiece(const Layout& layout, const PlacedPiece& piece);
 
   struct Standing {
@@ -65,6 +66,7 @@ class SceneKeeper {
   std::map<std::int32_t, Standing> standings_;
   std::map<std::int32_t, TunnelBody> tunnels_;
   std::map<std::int32_t, std::vector<Support>> supports_; ///< by the piece they carry
+  std::map<std::int32_t, std::vector<DeckPost>> posts_;   ///< by level
 };
 
 } // namespace trassix

@@ -20,10 +20,10 @@ namespace trassix {
 
 namespace {
 
-constexpr Color kBallast{128, 120, 108};
-constexpr Color kMouldedBed{116, 113, 108};
+constexpr Color kBallast{148, 140, 126};
+constexpr Color kMouldedBed{138, 135, 129};
 constexpr Color kTinBed{134, 116, 94};
-constexpr Color kSleeper{72, 60, 50};
+constexpr Color kSleeper{84, 70, 58};
 constexpr Color kRailSide{98, 80, 66};
 constexpr Color kRailTop{188, 188, 186};
 constexpr Color kPlywood{196, 168, 124};
@@ -165,7 +165,7 @@ class TrackBuilder {
       for (const RoutePoint& at : route.sleepers)
         addSleeper(line.station(at));
     else
-      addStrip(line, 0, section_.gauge * 0.85, section_.railFoot, kSleeper);
+      addStrip(line, 0, section_.gauge * 0.85, section_.railFoot, mixed(bed_, kSleeper, 0.5));
     const double w = section_.railWidth / 2;
     for (const double side : {section_.gauge / 2, -section_.gauge / 2}) {
       if (fine()) {

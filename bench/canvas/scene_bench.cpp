@@ -1,0 +1,245 @@
+// The layout in the room: 2,000 pieces, some of them raised, and 500 items of scenery.
+#include "canvas/yard.h"
+#include "catalog/scenery_catalog.h"
+#include "document/plan_content.h"
+#include "editing/canvas/layout_painter.h"
+#include "editing/selection/content_box.h"
+#include "ratio.h"
+#include "ui/canvas/gc_surface.h"
+#include "view3d/gl_calls.h"
+#include "view3d/scene_renderer.h"
+
+#include <wx/app.h>
+#include <wx/bitmap.h>
+#include <wx/dcmemory.h>
+#include <wx/frame.h>
+#include <wx/glcanvas.h>
+
+#include <memory>
+#include <vector>
+
+namespace trassix::bench {
+
+namespace {
+
+constexpr int kWidth = 1100;
+constexpr int kHeight = 640;
+
+Layout town() {
+  Layout layout = yard(40, 50);
+  PlanContent& content = layout.edit();
+  for (std::size_t i = 0; i < 200; ++i)
+    content.pieces[i].z = 60;
+  const Box box = *contentBox(layout);
+  for (std::int32_t i = 0; i < 500; ++i) {
+    SceneryItem item;
+    item.id = 100000 + i;
+    item.item = sceneryItems()[static_cast<std::size_t>(i) % sceneryItems().size()].key;
+    item.x = box.minX + (i % 25) * (box.maxX - box.minX) / 25;
+    item.y = box.minY + (i / 25) * (box.maxY - box.minY) / 20;
+    content.scenery.push_back(item);
+  }
+  return layout;
+}
+
+/// A window with GL, as the program has it but for smoothed edges.
+class Stage {
+ public:
+  Stage() {
+    wxGLAttributes attributes;
+    attributes.PlatformDefaults().RGBA().DoubleBuffer().Depth(24).Stencil(8).EndList();
+    window_ = new wxFrame(nullptr, wxID_ANY, "3D", wxDefaultPosition, wxSize(kWidth, kHeight));
+    canvas_ = new wxGLCanvas(window_, attributes);
+    window_->Show();
+    while (!canvas_->IsShownOnScreen())
+      wxYield();
+    wxYield();
+    context_ = std::make_unique<wxGLContext>(canvas_);
+    canvas_->SetCurrent(*context_);
+  }
+  ~Stage() {
+    context_.reset();
+    delete window_;
+  }
+  Stage(const Stage&) = delete;
+  Stage& operator=(const Stage&) = delete;
+
+ private:
+  wxFrame* window_;
+  wxGLCanvas* canvas_;
+  std::unique_ptr<wxGLContext> context_;
+};
+
+/// What the window does for a picture.
+class Picture {
+ public:
+  explicit Picture(const Layout& layout) : layout_(layout) {}
+
+  void draw() {
+    renderer.forget(keeper.update(layout_));
+    if (camera.width != kWidth) {
+      camera.width = kWidth;
+      camera.height = kHeight;
+      camera.look(CameraView::Oblique, keeper.scene().bounds());
+    }
+    SceneRenderer::Look look;
+    look.width = kWidth;
+    look.height = kHeight;
+    renderer.draw(layout_, keeper.scene(), {}, camera, look);
+    glFinish();
+  }
+
+  SceneKeeper keeper;
+  SceneRenderer renderer;
+  OrbitCamera camera;
+
+ private:
+  const Layout& layout_;
+};
+
+/// The triangles of a picture in one array, with which every pass is one call.
+class BareArrays {
+ public:
+  BareArrays(const Layout& layout, const Picture& picture) : calls_(bufferCalls()) {
+    const auto shadow = [](SceneGroup group) {
+      return group == SceneGroup::Track || group == SceneGroup::Scenery ||
+             group == SceneGroup::Supports || group == SceneGroup::Plates;
+    };
+    const OrbitCamera& camera = picture.camera;
+    const auto add = [&](const SceneBatch& batch, Detail detail) {
+      const auto first = static_cast<std::uint32_t>(vertices_.size());
+      const Mesh& mesh = batch.mesh(detail);
+      vertices_.insert(vertices_.end(), mesh.vertices.begin(), mesh.vertices.end());
+      for (const std::vector<std::uint32_t>& list : mesh.indices)
+        for (const std::uint32_t index : list)
+          indices_.push_back(first + index);
+    };
+    for (const bool ground : {true, false})
+      for (const auto& [key, batch] : picture.keeper.scene().batches)
+        if (isShown(layout, key, batch, {}) &&
+            ground == (key.group == SceneGroup::Board || key.group == SceneGroup::Ground))
+          add(batch,
+              batch.grain / camera.mmPerPixel(camera.target) < 1 ? Detail::Far : Detail::Near);
+    solid_ = indices_.size();
+    for (const auto& [key, batch] : picture.keeper.scene().batches)
+      if (shadow(key.group))
+        add(batch, Detail::Far);
+    calls_.generate(2, buffers_);
+    calls_.bind(BufferCalls::kVertices, buffers_[0]);
+    calls_.fill(BufferCalls::kVertices,
+                static_cast<std::ptrdiff_t>(vertices_.size() * sizeof(MeshVertex)),
+                vertices_.data(), BufferCalls::kStatic);
+    calls_.bind(BufferCalls::kIndices, buffers_[1]);
+    calls_.fill(BufferCalls::kIndices,
+                static_cast<std::ptrdiff_t>(indices_.size() * sizeof(std::uint32_t)),
+                indices_.data(), BufferCalls::kStatic);
+  }
+  ~BareArrays() { calls_.release(2, buffers_); }
+  BareArrays(const BareArrays&) = delete;
+  BareArrays& operator=(const BareArrays&) = delete;
+
+  std::size_t triangles() const { return solid_ / 3; }
+
+  /// With the lights and matrices that the picture left behind.
+  void draw() const {
+    constexpr int kStride = sizeof(MeshVertex);
+    const auto at = [](std::size_t offset) { return reinterpret_cast<const void*>(offset); };
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
+    calls_.bind(BufferCalls::kVertices, buffers_[0]);
+    calls_.bind(BufferCalls::kIndices, buffers_[1]);
+    glVertexPointer(3, GL_FLOAT, kStride, at(offsetof(MeshVertex, position)));
+    glNormalPointer(GL_FLOAT, kStride, at(offsetof(MeshVertex, normal)));
+    glColorPointer(4, GL_UNSIGNED_BYTE, kStride, at(offsetof(MeshVertex, color)));
+    for (const GLenum array : {GL_VERTEX_ARRAY, GL_NORMAL_ARRAY, GL_COLOR_ARRAY})
+      glEnableClientState(array);
+    glEnable(GL_LIGHTING);
+    glDrawElements(GL_TRIANGLES, static_cast<int>(solid_), GL_UNSIGNED_INT, nullptr);
+    glDisableClientState(GL_NORMAL_ARRAY);
+    glDisableClientState(GL_COLOR_ARRAY);
+    glDisable(GL_LIGHTING);
+    glDepthMask(GL_FALSE);
+    glDrawElements(GL_TRIANGLES, static_cast<int>(indices_.size() - solid_), GL_UNSIGNED_INT,
+                   at(solid_ * sizeof(std::uint32_t)));
+    glDepthMask(GL_TRUE);
+    glFinish();
+    calls_.bind(BufferCalls::kVertices, 0);
+    calls_.bind(BufferCalls::kIndices, 0);
+  }
+
+ private:
+  BufferCalls calls_;
+  unsigned buffers_[2] = {};
+  std::vector<MeshVertex> vertices_;
+  std::vector<std::uint32_t> indices_;
+  std::size_t solid_ = 0;
+};
+
+void frameInTheRoom(benchmark::State& state) {
+  const Stage stage;
+  const Layout layout = town();
+  Picture picture(layout);
+  picture.draw();
+  const BareArrays bare(layout, picture);
+  state.counters["triangles"] = static_cast<double>(picture.renderer.drawnTriangles());
+  state.counters["bare triangles"] = static_cast<double>(bare.triangles());
+  compare(state, 1.2, "the same arrays handed to GL", timed([&] { picture.draw(); }),
+          timed([&] { bare.draw(); }));
+}
+BENCHMARK(frameInTheRoom)->Name("room/frame2000")->Iterations(1);
+
+void firstPicture(benchmark::State& state) {
+  const Stage stage;
+  const Layout layout = town();
+  ViewTransform view;
+  view.fit(*contentBox(layout), 1920, 1080);
+  wxBitmap bitmap(1920, 1080);
+  const auto plan = [&] {
+    wxMemoryDC memory(bitmap);
+    const std::unique_ptr<wxGraphicsContext> context(wxGraphicsContext::Create(memory));
+    GcSurface surface(*context);
+    const PlanIndex index(layout);
+    LayoutPainter(surface, {1920, 1080}, view, PaintOptions()).paint(layout, index);
+    context->Flush();
+  };
+  compare(state, 4, "the 2D plan of the same", timed([&] { Picture(layout).draw(); }), timed(plan));
+}
+BENCHMARK(firstPicture)->Name("room/first2000")->Iterations(1);
+
+/// Counts triangles, not seconds.
+void editInTheRoom(benchmark::State& state) {
+  const Stage stage;
+  Layout layout = town();
+  Picture picture(layout);
+  picture.draw();
+  std::size_t next = 100;
+  const auto edit = [&] {
+    const std::size_t before = picture.renderer.sentTriangles();
+    layout.edit().pieces[next++ % 2000].z += 20;
+    picture.draw();
+    return static_cast<double>(picture.renderer.sentTriangles() - before);
+  };
+  const auto all = [&] {
+    Picture anew(layout);
+    anew.draw();
+    return static_cast<double>(anew.renderer.sentTriangles());
+  };
+  compare(state, 0.02, "triangles of the whole scene", {edit}, {all});
+}
+BENCHMARK(editInTheRoom)->Name("room/edit1of2000")->Iterations(1);
+
+void timeOfEdit(benchmark::State& state) {
+  Layout layout = town();
+  SceneKeeper keeper;
+  keeper.update(layout);
+  std::size_t next = 100;
+  compare(state, 0.25, "the scene made anew", timed([&] {
+            layout.edit().pieces[next++ % 2000].z += 20;
+            keeper.update(layout);
+          }),
+          timed([&] { SceneKeeper().update(layout); }));
+}
+BENCHMARK(timeOfEdit)->Name("room/editTime")->Iterations(1);
+
+} // namespace
+
+} // namespace trassix::bench

@@ -1,0 +1,245 @@
+#include "document/plan_content.h"
+#include "editing/selection/selection.h"
+#include "editing/track/routes.h"
+#include "frame_test.h"
+#include "host/command_ids.h"
+#include "support/plan.h"
+#include "view3d/track_gl_canvas.h"
+#include "view3d/view3d_frame.h"
+
+#include <cmath>
+#include <random>
+
+namespace trassix::test {
+namespace {
+
+class View3DTest : public FrameTest {
+ protected:
+  View3DFrame* window() { return dynamic_cast<View3DFrame*>(findNamed("view3DFrame")); }
+  TrackGLCanvas& view() { return *window()->canvas(); }
+
+  /// Opens the view and waits for its first picture.
+  void open() {
+    put(kView3D);
+    ASSERT_TRUE(waitUntil("the 3D view shows something", [this] {
+      return window() && window()->canvas() && view().renderer() &&
+             view().renderer()->drawnTriangles() > 0;
+    }));
+  }
+  void close() {
+    window()->Close();
+    waitUntil("the 3D view is gone", [this] { return window() == nullptr; });
+  }
+  static std::array<int, 3> colorAt(const wxImage& picture, OrbitCamera::Pixel at) {
+    const auto x = static_cast<int>(at.x);
+    const auto y = static_cast<int>(at.y);
+    return {picture.GetRed(x, y), picture.GetGreen(x, y), picture.GetBlue(x, y)};
+  }
+};
+
+/// Two levels, a tunnel's length of track below a deck, scenery.
+Layout twoDecks() {
+  Plan plan;
+  plan.place("24188", {300, 300, 0}).extend("24130", 12).extend("24188", 2);
+  plan.place("24188", {250, 500, 0}).extend("24188", 5);
+  Layout layout = std::move(plan.layout);
+  PlanContent& content = layout.edit();
+  for (std::size_t i = content.pieces.size() - 6; i < content.pieces.size(); ++i)
+    content.pieces[i].z = 100;
+  SceneryItem house;
+  house.id = 500;
+  house.item = "stn.medium";
+  house.x = 700;
+  house.y = 800;
+  content.scenery = {house};
+  PlanSettings& settings = layout.editSettings();
+  settings.baseboard = {{0, 0}, {1700, 0}, {1700, 1300}, {0, 1300}};
+  settings.levels.push_back(
+      {2, "deck", true, 140, false, {}, {{0, 0}, {500, 0}, {500, 1300}, {0, 1300}}});
+  return layout;
+}
+
+TEST_F(View3DTest, StaysBesideThePlanThroughEditsAndComesBackAfterItIsClosed) {
+  startLaidOut();
+  put(kView3D);
+  waitUntil("it opens on an empty plan", [this] { return window() != nullptr; });
+  close();
+  plan() = twoDecks();
+  frame().workspace().changed();
+  for (const bool unsaved : {true, false}) {
+    if (!unsaved)
+      saveAs("Decks");
+    open();
+    put(kView3D); // raises the same one
+    const OrbitCamera before = view().camera();
+    const std::size_t drawn = view().renderer()->drawnTriangles();
+    placePiece(600);
+    waitUntil("the new piece is there",
+              [&] { return view().renderer()->drawnTriangles() > drawn; });
+    put(kUndo);
+    waitUntil("it is gone again", [&] { return view().renderer()->drawnTriangles() == drawn; });
+    EXPECT_EQ(before.target, view().camera().target);
+    EXPECT_EQ(before.distance, view().camera().distance);
+    close();
+  }
+  open();
+}
+
+TEST_F(View3DTest, FromAboveItIsThePlanAndAClickSelectsWhatARayMeets) {
+  startLaidOut();
+  plan() = twoDecks();
+  frame().workspace().changed();
+  open();
+  SceneView shown;
+  shown.labels = false;
+  view().setView(shown);
+  view().look(CameraView::Top);
+  const wxImage picture = view().picture(1);
+  ASSERT_TRUE(picture.IsOk());
+  const OrbitCamera top = view().camera();
+  const double scale = 1 / top.mmPerPixel({});
+  const auto pixelOf = [&](Point p) {
+    return OrbitCamera::Pixel{top.width / 2 + (p.x - top.target.x) * scale,
+                              top.height / 2 + (p.y + top.target.y) * scale};
+  };
+  // Where rails lie, something as bright as a rail is near; what is inside the board is no sky.
+  int rails = 0;
+  for (const PlacedPiece& piece : plan().pieces()) {
+    if (piece.z > 0)
+      continue;
+    for (const RoutePoint& at : sampleRoute(routesOf(*definitionOf(piece)).front(), 5))
+      for (const double side : {-8.25, 8.25}) {
+        const double t = toRadians(at.heading);
+        const Point rail = toWorld(poseOf(piece), {at.position.x - side * std::sin(t),
+                                                   at.position.y + side * std::cos(t)});
+        if (rail.x < 520) // below the deck
+          continue;
+        int brightest = 0;
+        const OrbitCamera::Pixel px = pixelOf(rail);
+        for (double x = -2; x <= 2; ++x)
+          for (double y = -2; y <= 2; ++y)
+            brightest = std::max(brightest, colorAt(picture, {px.x + x, px.y + y})[2]);
+        EXPECT_GT(brightest, 120) << rail.x << " " << rail.y;
+        ++rails;
+      }
+  }
+  EXPECT_GT(rails, 60);
+  const auto sky = colorAt(picture, {2, 2});
+  const OrbitCamera::Pixel low = pixelOf({8, 8});
+  const OrbitCamera::Pixel high = pixelOf({1692, 1292});
+  for (double x = low.x; x < high.x; ++x)
+    for (double y = low.y; y < high.y; ++y) {
+      const auto here = colorAt(picture, {x, y});
+      ASSERT_GT(std::abs(here[0] - sky[0]) + std::abs(here[2] - sky[2]), 12) << x << " " << y;
+    }
+
+  // The same ray through every triangle, found by inverting nothing but the camera's projection.
+  view().look(CameraView::Oblique);
+  std::mt19937 random(7);
+  int track = 0;
+  for (int i = 0; i < 500; ++i) {
+    const OrbitCamera camera = view().camera();
+    const OrbitCamera::Pixel at{std::uniform_real_distribution(0.0, camera.width)(random),
+                                std::uniform_real_distribution(0.0, camera.height)(random)};
+    double nearest = 1e30;
+    SceneKey meant;
+    for (const auto& [key, batch] : view().scene().batches)
+      if (isShown(plan(), key, batch, shown))
+        for (const std::vector<std::uint32_t>& list : batch.fine.indices)
+          for (std::size_t k = 0; k + 2 < list.size(); k += 3) {
+            Vec3 corner[3];
+            OrbitCamera::Pixel px[3];
+            for (std::size_t c = 0; c < 3; ++c) {
+              const auto& [x, y, z] = batch.fine.vertices[list[k + c]].position;
+              corner[c] = {x, y, z};
+              px[c] = camera.project(corner[c]).value_or(OrbitCamera::Pixel{});
+            }
+            const auto side = [&](const OrbitCamera::Pixel& a, const OrbitCamera::Pixel& b) {
+              return (b.x - a.x) * (at.y - a.y) - (b.y - a.y) * (at.x - a.x);
+            };
+            const double w[3] = {side(px[1], px[2]), side(px[2], px[0]), side(px[0], px[1])};
+            if ((w[0] < 0) != (w[1] < 0) || (w[1] < 0) != (w[2] < 0))
+              continue;
+            double inverse = 0; // depths are linear on the screen as their inverse
+            for (std::size_t c = 0; c < 3; ++c)
+              inverse +=
+                  w[c] / (w[0] + w[1] + w[2]) / dot(corner[c] - camera.eye(), camera.forward());
+            if (inverse > 0 && 1 / inverse < nearest) {
+              nearest = 1 / inverse;
+              meant = key;
+            }
+          }
+    const auto hit = view().hitAt(at);
+    ASSERT_EQ(hit.has_value(), nearest < 1e30) << i;
+    if (!hit)
+      continue;
+    EXPECT_TRUE(hit->key == meant ||
+                std::abs(dot(hit->at - camera.eye(), camera.forward()) - nearest) < 0.05)
+        << i;
+    track += hit->key.group == SceneGroup::Track;
+  }
+  EXPECT_GT(track, 5);
+
+  // A real click selects in the plan; covered track is picked once its deck is cut away.
+  const PlacedPiece& covered = plan().pieces().back();
+  const WorldConnector end =
+      ConnectorToWorld(plan().pieces().front(), *definitionOf(plan().pieces().front()), 0);
+  const auto clickOn = [&](Vec3 place) {
+    const auto px = view().camera().project(place);
+    click({view(), wxPoint(static_cast<int>(px->x / view().pixelScale()),
+                           static_cast<int>(px->y / view().pixelScale()))});
+  };
+  view().look(CameraView::Top);
+  clickOn({covered.x + 60, -covered.y, 105});
+  waitUntil("the plan has it selected", [&] { return covered.sel; });
+  const Vec3 below{end.x + 90, -end.y, 5};
+  clickOn(below);
+  waitUntil("the deck is none of the plan's records", [&] { return !hasSelection(plan()); });
+  shown.cut = 120;
+  view().setView(shown);
+  clickOn(below);
+  waitUntil("what is below is selected", [&] { return plan().pieces().front().sel; });
+}
+
+TEST_F(View3DTest, RidesTurnsAndWritesFiles) {
+  startLaidOut();
+  plan() = Plan().place("24188", {300, 300, 0}).extend("24188", 2).layout;
+  selectOnly(plan(), 1);
+  frame().workspace().changed();
+  open();
+  waitUntil("it has the keys", [this] { return view().HasFocus(); });
+  const double yaw = view().camera().yaw;
+  pressKey(WXK_LEFT);
+  waitUntil("it turned", [&] { return view().camera().yaw != yaw; });
+  const OrbitCamera before = view().camera();
+  const wxSize size = view().GetClientSize();
+  drag({view()}, {Spot(view(), {size.x / 2 + 80, size.y / 2 + 10})}, wxMOUSE_BTN_MIDDLE);
+  waitUntil("it moved", [&] { return !(view().camera().target == before.target); });
+  moveMouse(view());
+  turnWheel(2);
+  waitUntil("it is nearer", [&] { return view().camera().distance < before.distance * 0.9; });
+  ASSERT_TRUE(view().startRide(5000));
+  waitUntil("the train stands at the end of the track",
+            [this] { return view().hint().StartsWith("The train stands"); });
+  EXPECT_EQ(view().ride()->piece(), 3);
+  pressKey(WXK_DOWN);
+  waitUntil("it went back", [this] { return view().ride()->piece() == 1; });
+  pressKey(WXK_ESCAPE);
+  waitUntil("the ride is over", [this] { return !view().isRiding(); });
+
+  const std::filesystem::path png = home() / "a.png";
+  window()->writePicture(png, 2);
+  const wxImage large(wxString(png.string()), wxBITMAP_TYPE_PNG);
+  EXPECT_EQ(large.GetSize(), size * 2);
+  const wxImage once = view().picture(1);
+  const OrbitCamera::Pixel middle{size.x / 2.0, size.y / 2.0};
+  EXPECT_LT(std::abs(colorAt(large, {middle.x * 2, middle.y * 2})[1] - colorAt(once, middle)[1]),
+            60);
+  window()->writeGltf(home() / "a.glb");
+  EXPECT_GT(std::filesystem::file_size(home() / "a.glb"), 10000U);
+  dialogs.answer("Save Failed", wxID_OK);
+  window()->writeGltf(home() / "no folder" / "a.glb");
+}
+
+} // namespace
+} // namespace trassix::test
