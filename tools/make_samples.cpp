@@ -599,6 +599,9 @@ Sample cHiddenYard() {
   town.color = {196, 178, 142};
   town.outline = {{-3460, -1060}, {-575, -1060}, {-575, 1080}, {-3460, 1080}};
   s.layout.editSettings().levels.push_back(town);
+  for (Shape& shape : s.layout.edit().shapes)
+    if (shape.points.front().x < -600) // the ground by the helix lies below
+      shape.level = town.id;
 
   const HelixPlan down{findHelixKit("helix_2_5_r2r3"), HelixHand::Right, kTown / 2.5, {}, 0};
   placeHelix(s.layout, down, 1);

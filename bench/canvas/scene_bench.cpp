@@ -145,6 +145,7 @@ class BareArrays {
     constexpr int kStride = sizeof(MeshVertex);
     const auto at = [](std::size_t offset) { return reinterpret_cast<const void*>(offset); };
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
+    drawBehind();
     calls_.bind(BufferCalls::kVertices, buffers_[0]);
     calls_.bind(BufferCalls::kIndices, buffers_[1]);
     glVertexPointer(3, GL_FLOAT, kStride, at(offsetof(MeshVertex, position)));
@@ -167,6 +168,29 @@ class BareArrays {
   }
 
  private:
+  /// What is behind the layout: a sky, and before it a floor, over the whole window.
+  static void drawBehind() {
+    glDisable(GL_LIGHTING);
+    glDisable(GL_DEPTH_TEST);
+    for (const GLenum matrix : {GL_PROJECTION, GL_MODELVIEW}) {
+      glMatrixMode(matrix);
+      glPushMatrix();
+      glLoadIdentity();
+    }
+    for (const bool floor : {false, true}) {
+      if (floor)
+        glEnable(GL_BLEND);
+      glColor4f(0.8F, 0.8F, 0.8F, 0.5F);
+      glRectf(-1, -1, 1, 1);
+    }
+    glDisable(GL_BLEND);
+    for (const GLenum matrix : {GL_PROJECTION, GL_MODELVIEW}) {
+      glMatrixMode(matrix);
+      glPopMatrix();
+    }
+    glEnable(GL_DEPTH_TEST);
+  }
+
   BufferCalls calls_;
   unsigned buffers_[2] = {};
   std::vector<MeshVertex> vertices_;

@@ -52,6 +52,19 @@ const wxGLAttributes* attributes() {
 
 } // namespace
 
+class TrackGLCanvas::Follower : public PlanObserver {
+ public:
+  Follower(TrackGLCanvas& canvas, Workspace& workspace)
+      : PlanObserver(workspace), canvas_(canvas) {}
+
+  void planChanged() override { canvas_.Refresh(false); }
+  void planReplaced() override { canvas_.planReplaced(); }
+  void selectionChanged() override { canvas_.Refresh(false); }
+
+ private:
+  TrackGLCanvas& canvas_;
+};
+
 bool TrackGLCanvas::isPossible() {
   return attributes() != nullptr;
 }
@@ -59,8 +72,8 @@ bool TrackGLCanvas::isPossible() {
 TrackGLCanvas::TrackGLCanvas(wxWindow* parent, Workspace& workspace, std::function<void()> told)
     : wxGLCanvas(parent, *attributes(), wxID_ANY, wxDefaultPosition, wxDefaultSize,
                  wxWANTS_CHARS | wxFULL_REPAINT_ON_RESIZE, "view3D"),
-      PlanObserver(workspace), workspace_(workspace), told_(std::move(told)),
-      context_(std::make_unique<wxGLContext>(this)), timer_(this) {
+      workspace_(workspace), follower_(std::make_unique<Follower>(*this, workspace)),
+      told_(std::move(told)), context_(std::make_unique<wxGLContext>(this)), timer_(this) {
   camera_.yaw = 30;
   if (!context_->IsOK())
     problem_ = _("The display's driver refuses to draw with OpenGL.");
@@ -85,6 +98,12 @@ TrackGLCanvas::TrackGLCanvas(wxWindow* parent, Workspace& workspace, std::functi
 TrackGLCanvas::~TrackGLCanvas() {
   if (HasCapture())
     ReleaseMouse();
+}
+
+void TrackGLCanvas::leavePlan() {
+  endRide();
+  letGo();
+  follower_.reset();
 }
 
 bool TrackGLCanvas::makeCurrent() {

@@ -20,11 +20,14 @@ namespace trassix {
 
 /// The picture of the layout in the room: follows the plan, is looked around in with mouse and
 /// keys, and selects what is clicked.
-class TrackGLCanvas : public wxGLCanvas, private PlanObserver {
+class TrackGLCanvas : public wxGLCanvas {
  public:
   /// `told` is called when there is another hint or a ride begins or ends.
   TrackGLCanvas(wxWindow* parent, Workspace& workspace, std::function<void()> told);
   ~TrackGLCanvas() override;
+
+  /// From now on the plan may go.
+  void leavePlan();
 
   /// Whether this display can show GL at all, so that a canvas can be made.
   static bool isPossible();
@@ -60,11 +63,9 @@ class TrackGLCanvas : public wxGLCanvas, private PlanObserver {
  private:
   enum class Drag : std::uint8_t { None, Orbit, Pan };
 
-  void planChanged() override { Refresh(false); }
-  void planReplaced() override;
-  void selectionChanged() override { Refresh(false); }
-  void switchesChanged() override { Refresh(false); }
+  class Follower;
 
+  void planReplaced();
   bool makeCurrent();
   void refreshScene();
   void paint();
@@ -86,6 +87,7 @@ class TrackGLCanvas : public wxGLCanvas, private PlanObserver {
   void letGo();
 
   Workspace& workspace_;
+  std::unique_ptr<Follower> follower_;
   std::function<void()> told_;
   wxString problem_;
   std::unique_ptr<wxGLContext> context_;

@@ -14,6 +14,7 @@
 #include "view3d/scene/glb_writer.h"
 #include "view3d/track_gl_canvas.h"
 
+#include <wx/app.h>
 #include <wx/choicdlg.h>
 #include <wx/choice.h>
 #include <wx/display.h>
@@ -141,7 +142,7 @@ View3DFrame::View3DFrame(wxWindow* parent, Workspace& workspace)
   Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) {
     remember();
     if (canvas_)
-      canvas_->endRide();
+      canvas_->leavePlan(); // it may go before the toolkit gets round to this window
     Destroy();
   });
 }
@@ -370,14 +371,22 @@ void View3DFrame::remember() const {
   });
 }
 
+namespace {
+
+/// Closed, and only waiting for the toolkit to get round to it.
+bool isGoing(wxWindow* window) {
+  return wxTheApp->IsScheduledForDestruction(window);
+}
+
+} // namespace
+
 View3DWindow::~View3DWindow() {
-  delete frame_.get(); // at once: it follows the workspace
+  if (frame_ && !isGoing(frame_))
+    delete frame_.get(); // at once: it follows the workspace
 }
 
 void View3DWindow::show(wxWindow& parent, Workspace& workspace) {
-  if (frame_ && frame_->IsBeingDeleted())
-    delete frame_.get();
-  if (!frame_)
+  if (!frame_ || isGoing(frame_))
     frame_ = new View3DFrame(&parent, workspace);
   frame_->showAgain();
 }
