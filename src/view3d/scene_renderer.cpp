@@ -147,7 +147,8 @@ void SceneRenderer::gather(const Layout& layout, const Scene& scene, const Scene
     const std::size_t above = grounds_.size(); // plates come before what stands on them
     if (key.group == SceneGroup::Plates && above < kMarks)
       grounds_.push_back({batch.most.z, {}, {}});
-    if (look.shadows && !look.inTunnel && castsShadow(key.group))
+    if (look.shadows && !look.inTunnel && castsShadow(key.group) &&
+        (!view.cut || batch.most.z <= *view.cut))
       for (std::size_t i = 0; i < above; ++i)
         if (batch.most.z > grounds_[i].height + kShadowLift &&
             batch.least.z > grounds_[i].height - kSunk)
@@ -233,10 +234,10 @@ void SceneRenderer::drawShadows(const Ground& ground, int mark) {
 }
 
 /// The floor that the board stands on, which fades into the distance.
-void SceneRenderer::drawRoom(const Scene& scene, const SceneView& view, const Look& look) {
+void SceneRenderer::drawRoom(const Scene& scene, const Look& look) {
   const auto board = std::ranges::find(scene.batches, SceneGroup::Board,
                                        [](const auto& entry) { return entry.first.group; });
-  if (board == scene.batches.end() || look.inTunnel || view.cut)
+  if (board == scene.batches.end() || look.inTunnel)
     return;
   const auto& [least, most] = std::pair(board->second.least, board->second.most);
   const Vec3 middle = 0.5 * (least + most);
@@ -266,7 +267,7 @@ void SceneRenderer::draw(const Layout& layout, const Scene& scene, const SceneVi
   glEnable(kMultisample);
   drawSky(look.tile, look.inTunnel);
   prepare(camera, product(tileOf(look.tile), camera.projection(scene.bounds())), look);
-  drawRoom(scene, view, look);
+  drawRoom(scene, look);
   if (view.cut) {
     const std::array<double, 4> plane{0, 0, -1, *view.cut};
     glClipPlane(GL_CLIP_PLANE0, plane.data());

@@ -59,7 +59,7 @@ class SceneRenderer {
               const OrbitCamera& camera, const Look& look);
   void prepare(const OrbitCamera& camera, const Matrix4& projection, const Look& look) const;
   void drawShadows(const Ground& ground, int mark);
-  static void drawRoom(const Scene& scene, const SceneView& view, const Look& look);
+  static void drawRoom(const Scene& scene, const Look& look);
   void drawBodies(const MeshStore::Draws& draws);
   const MeshStore::Place& sent(Places& places, const SceneBatch& batch, Detail detail);
 

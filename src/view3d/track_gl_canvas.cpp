@@ -156,7 +156,15 @@ void TrackGLCanvas::drawInto(const OrbitCamera& camera, const PictureTile& tile)
   look.tile = tile;
   renderer_->draw(workspace_.layout(), keeper_.scene(), view_, camera, look);
   if (view_.labels && !ride_)
-    labels_.draw(keeper_.scene().labels, camera, tile, pixelScale());
+    labels_.draw(shownLabels(), camera, tile, pixelScale());
+}
+
+std::vector<SceneLabel> TrackGLCanvas::shownLabels() const {
+  std::vector<SceneLabel> labels = keeper_.scene().labels;
+  std::erase_if(labels, [this](const SceneLabel& label) {
+    return view_.cut && label.at.z - kLabelHeight > *view_.cut;
+  });
+  return labels;
 }
 
 void TrackGLCanvas::paint() {

@@ -71,6 +71,7 @@ class TrackGLCanvas : public wxGLCanvas {
   void paint();
   void drawInto(const OrbitCamera& camera, const PictureTile& tile);
   OrbitCamera shownCamera() const;
+  std::vector<SceneLabel> shownLabels() const;
   OrbitCamera::Pixel pixelOf(wxPoint at) const;
   Vec3 placeAt(OrbitCamera::Pixel pixel);
 

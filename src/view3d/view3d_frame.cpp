@@ -26,6 +26,8 @@
 #include <wx/toolbar.h>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace trassix {
 
@@ -189,6 +191,7 @@ void View3DFrame::build() {
       wxEVT_MENU, [this](wxCommandEvent&) { cut(); }, kCutAt);
   height_->Bind(wxEVT_SLIDER, [this](wxCommandEvent&) {
     GetToolBar()->ToggleTool(kCutAt, true);
+    cutBefore_ = true;
     cut();
   });
   bar->Realize();
@@ -239,11 +242,26 @@ void View3DFrame::cut() {
   view.cut.reset();
   if (GetToolBar()->GetToolState(kCutAt)) {
     const Scene::Bounds bounds = canvas_->scene().bounds();
-    view.cut = bounds.least.z + (bounds.most.z - bounds.least.z) * height_->GetValue() / kCutSteps;
+    const double range = bounds.most.z - bounds.least.z;
+    if (!std::exchange(cutBefore_, true) && range > 0)
+      height_->SetValue(static_cast<int>(kCutSteps * (belowDecks() - bounds.least.z) / range));
+    view.cut = bounds.least.z + range * height_->GetValue() / kCutSteps;
   }
   canvas_->setView(view);
   canvas_->SetFocus();
   follow();
+}
+
+/// So that the lowest deck that hides something goes; half way up where there is none.
+double View3DFrame::belowDecks() {
+  constexpr double kThick = 15;
+  const Scene& scene = canvas_->scene();
+  std::optional<double> lowest;
+  for (const auto& [key, batch] : scene.batches)
+    if (key.group == SceneGroup::Plates && batch.least.z > kThick)
+      lowest = std::min(lowest.value_or(batch.least.z), batch.least.z);
+  const Scene::Bounds bounds = scene.bounds();
+  return lowest ? *lowest - kThick : (bounds.least.z + bounds.most.z) / 2;
 }
 
 double View3DFrame::speed() const {

@@ -48,12 +48,14 @@ class View3DFrame : public wxFrame {
   void follow();
   void place();
   void remember() const;
+  double belowDecks();
   double speed() const;
 
   Workspace& workspace_;
   TrackGLCanvas* canvas_ = nullptr;
   wxSlider* height_ = nullptr;
   wxChoice* speed_ = nullptr;
+  bool cutBefore_ = false; ///< at a height that the user knows
 };
 
 /// The 3D window that there is of a plan, or is not.

@@ -55,6 +55,8 @@ struct SceneBatch {
   const Mesh& mesh(Detail detail) const { return detail == Detail::Near ? fine : coarse; }
 };
 
+constexpr double kLabelHeight = 20; ///< mm of labels above the ground
+
 struct SceneLabel {
   std::int32_t id = -1;
   std::string text;

@@ -20,7 +20,6 @@ namespace {
 
 constexpr double kTrackGrain = 0.2; // of the gauge: sleepers
 constexpr double kSceneryGrain = 4; // mm in H0: windows, leaves
-constexpr double kLabelHeight = 20; // mm above the ground
 constexpr double kHighest = 1e6;
 
 /// Settings that meshes are made of.

@@ -32,6 +32,23 @@ double distanceTo(const PlacedPiece& piece, const Support& support) {
   return nearest;
 }
 
+TEST(DeckPosts, CarryADeckWithoutStandingInTheWay) {
+  Plan plan;
+  plan.place("24188", {-400, 20, 0}).extend("24188", 8); // below the deck's front edge
+  Layout layout = std::move(plan.layout);
+  layout.ensureLevel(2);
+  layout.editSettings().levels.back().height = 150;
+  layout.editSettings().levels.back().outline = {{0, 0}, {1000, 0}, {1000, 800}, {0, 800}};
+  const std::vector<DeckPost> posts = supportsOf(layout).posts;
+  EXPECT_GE(posts.size(), 5U);
+  const PierRoom room(layout);
+  for (const DeckPost& post : posts) {
+    EXPECT_EQ(room.obstacleAt({{post.at.x, post.at.y, 0}, post.size, post.size, 0, post.head}, {}),
+              PierObstacle::None);
+    EXPECT_TRUE(post.foot == 0 && post.head > 140 && post.head < 150) << post.head;
+  }
+}
+
 std::size_t unexplained(const SupportPlan& plan, double longest) {
   return static_cast<std::size_t>(std::ranges::count_if(plan.spans, [&](const SupportSpan& span) {
     return span.length > longest + 1e-6 && span.reason == SupportSpan::Reason::None;

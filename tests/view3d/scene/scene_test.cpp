@@ -209,11 +209,15 @@ TEST(Scene, SceneryStandsOnWhatIsBelowIt) {
   layout.editPiece(1)->z = 25;
   layout.ensureLevel(2);
   layout.editSettings().levels.back().height = 120;
+  layout.ensureLevel(3);
+  layout.editSettings().levels.back().height = 80;
+  layout.editSettings().levels.back().outline = {{0, 600}, {700, 600}, {700, 900}, {0, 900}};
   PlanContent& content = layout.edit();
   content.shapes = {test::shapeOf(5, {{900, 0}, {1300, 0}, {1300, 400}, {900, 400}}, 1, 60)};
   const std::tuple<Point, std::int32_t, double> cases[] = {
       {{500, 500}, 1, 0},    {{500, 500}, 2, 120}, {{1100, 200}, 1, 60},
-      {{1100, 200}, 2, 120}, {{0, 0}, 1, 25}, // the portal of the tunnel
+      {{1100, 200}, 2, 120}, {{0, 0}, 1, 25},                            // the portal of the tunnel
+      {{500, 700}, 3, 80},   {{500, 500}, 3, 0},   {{1100, 200}, 3, 60}, // on and beside a deck
   };
   for (const auto& [at, level, height] : cases) {
     SceneryItem item;
