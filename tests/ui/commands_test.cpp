@@ -52,7 +52,7 @@ const char* const kMenus[] = {
     "on|-|"
     "&Palette\tF9 2041 check on|Properties and &Tally\tShift+F9 2042 check on|"
     "Zoom to Se&lection\tCtrl+1 2064|Show Gra&des\tF8 2080 check|&Height Profile\tCtrl+Shift+H "
-    "2044 check|Show Hidden Trac&k\tShift+F8 2081 check on",
+    "2044 check|Show Hidden Trac&k\tShift+F8 2081 check on|3&D View\tF7 2000",
     "&Layout|Units of Measure|Millimetres (mm) 2021 radio on|Centimetres (cm) 2022 radio|"
     "Inches (in) 2023 radio|-|Layout &Shape... 2020|Layout &Wizard (Experimental)... 2018|"
     "&Bridge Wizard (Experimental)... 2019|-|Heli&x... 2050|&Edit Helix... 2051|Baseboard &Corners "
@@ -130,7 +130,8 @@ std::string traceOf(MainFrame& frame, const Canceller& dialogs) {
         << switches.palette << switches.properties << frame.canvasPanel().canvas().carrying()
         << static_cast<int>(switches.mode) << frame.layout().settings().units
         << frame.canvasPanel().GetParent() << dialogs.titles.size()
-        << (findNamed("help") != nullptr) << (findNamed("printPreview") != nullptr);
+        << (findNamed("help") != nullptr) << (findNamed("printPreview") != nullptr)
+        << (findNamed("view3DFrame") != nullptr);
   return trace.str();
 }
 
@@ -197,9 +198,9 @@ TEST_F(FrameTest, WhatCannotBeUsedSaysWhy) {
     return item ? item->GetHelp() : frame().GetToolBar()->GetToolShortHelp(id);
   };
   const std::tuple<int, const char*, int> kCases[] = {
-      {kUndo, "Nothing to undo", 'Z'},       {kRedo, "Nothing to redo", 'Y'},
-      {kCopy, "Nothing selected", 'C'},      {kPaste, "Nothing to paste", 'V'},
-      {kParallelTrack, "No track", 'L'},     {kLevelCorners, "The active level has no outline", 0},
+      {kUndo, "Nothing to undo", 'Z'},   {kRedo, "Nothing to redo", 'Y'},
+      {kCopy, "Nothing selected", 'C'},  {kPaste, "Nothing to paste", 'V'},
+      {kParallelTrack, "No track", 'L'}, {kLevelCorners, "The active level has no outline", 0},
   };
   for (const auto& [id, why, key] : kCases) {
     EXPECT_TRUE(told(id).StartsWith(why)) << told(id);

@@ -95,7 +95,6 @@ const Command kCommands[] = {
     {.id = kView3D, .menuText = wxTRANSLATE("3&D View\tF7"),
      .menuHelp = wxTRANSLATE("The layout as it will stand in the room, in a window of its own"),
      .toolLabel = wxTRANSLATE("3D View"),
-     .toolTip = wxTRANSLATE("The layout as it will stand in the room, in a window of its own"),
      .menu = Command::Menu::View, .hand = Hand::Keeps,
      .run = [](Desk& desk) { desk.view3D.show(desk.window, desk.workspace); }},
 };
