@@ -118,14 +118,6 @@ void SceneRenderer::forget(const SceneChanges& changes) {
   std::ranges::for_each(changes.removed, drop);
 }
 
-void SceneRenderer::forgetAll() {
-  for (auto& [key, places] : places_) {
-    store_.drop(places.fine);
-    store_.drop(places.coarse);
-  }
-  places_.clear();
-}
-
 void SceneRenderer::gather(const Layout& layout, const Scene& scene, const SceneView& view,
                            const OrbitCamera& camera, const Look& look) {
   bodies_.clear();

@@ -33,7 +33,6 @@ class SceneRenderer {
 
   /// Lets go of what is no longer like that.
   void forget(const SceneChanges& changes);
-  void forgetAll();
 
   /// The whole picture but for labels, into the buffer that is drawn into.
   void draw(const Layout& layout, const Scene& scene, const SceneView& view,

@@ -353,14 +353,14 @@ bool TrackGLCanvas::rideKey(int key) {
     endRide();
     return true;
   case WXK_LEFT:
-    branch_ = RideBranch::Left;
+    ride_->choose(RideBranch::Left);
     break;
   case WXK_RIGHT:
-    branch_ = RideBranch::Right;
+    ride_->choose(RideBranch::Right);
     break;
   case WXK_UP:
     direction_ = 1;
-    branch_ = RideBranch::Straight;
+    ride_->choose(RideBranch::Straight);
     break;
   case WXK_DOWN:
     direction_ = -1;
@@ -371,7 +371,6 @@ bool TrackGLCanvas::rideKey(int key) {
   default:
     return false;
   }
-  ride_->choose(branch_);
   return true;
 }
 
@@ -386,7 +385,6 @@ bool TrackGLCanvas::startRide(double kilometresPerHour) {
   ride_ = ride;
   speed_ = kilometresPerHour;
   direction_ = 1;
-  branch_ = RideBranch::Straight;
   clock_.Start();
   lastTick_ = 0;
   timer_.Start(kTick);
@@ -417,10 +415,11 @@ void TrackGLCanvas::rideOn() {
   lastTick_ = now;
   if (direction_ == 0)
     return;
-  if (!ride_->advance(layout, direction_ * seconds * modelSpeed(definition->system, speed_))) {
+  const RideBranch chosen = ride_->chosen();
+  if (!ride_->advance(layout, direction_ * seconds * modelSpeed(definition->system, speed_)))
     direction_ = 0;
+  if (direction_ == 0 || ride_->chosen() != chosen)
     told_();
-  }
   Refresh(false);
 }
 
@@ -432,9 +431,10 @@ wxString TrackGLCanvas::hint() const {
                           "go at the next turnout    Esc: end of the ride");
   if (direction_ == 0)
     return _("The train stands.") + "    " + keys;
-  if (branch_ == RideBranch::Straight)
+  if (ride_->chosen() == RideBranch::Straight)
     return keys;
-  return (branch_ == RideBranch::Left ? _("Next turnout: left") : _("Next turnout: right")) +
+  return (ride_->chosen() == RideBranch::Left ? _("Next turnout: left")
+                                              : _("Next turnout: right")) +
          "    " + keys;
 }
 

@@ -108,7 +108,6 @@ class TrackGLCanvas : public wxGLCanvas {
   std::optional<TrackRide> ride_;
   double speed_ = 60; ///< of the prototype, in km/h
   int direction_ = 1; ///< 0: it stands
-  RideBranch branch_ = RideBranch::Straight;
   wxTimer timer_;
   wxStopWatch clock_;
   long lastTick_ = 0;

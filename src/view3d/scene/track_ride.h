@@ -34,6 +34,7 @@ class TrackRide {
   bool advance(const Layout& layout, double way);
   /// At the next turnout that leaves a choice; then straight on again.
   void choose(RideBranch branch) { branch_ = branch; }
+  RideBranch chosen() const { return branch_; }
   /// To where it came from.
   void turnRound(const Layout& layout);
 
