@@ -1,4 +1,5 @@
 #include "driver.h"
+#include "ui/canvas/canvas_panel.h"
 #include "ui/frame/main_frame.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui_test.h"
