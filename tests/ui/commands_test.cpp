@@ -52,7 +52,7 @@ const char* const kMenus[] = {
     "on|-|"
     "&Palette\tF9 2041 check on|Properties and &Tally\tShift+F9 2042 check on|"
     "Zoom to Se&lection\tCtrl+1 2064|Show Gra&des\tF8 2080 check|&Height Profile\tCtrl+Shift+H "
-    "2044 check|Show Hidden Trac&k\tShift+F8 2081 check on|3&D View\tF7 2000",
+    "2044 check|Show Hidden Trac&k\tShift+F8 2081 check on|3D &View\tF7 2000",
     "&Layout|Units of Measure|Millimetres (mm) 2021 radio on|Centimetres (cm) 2022 radio|"
     "Inches (in) 2023 radio|-|Layout &Shape... 2020|Layout &Wizard (Experimental)... 2018|"
     "&Bridge Wizard (Experimental)... 2019|-|Heli&x... 2050|&Edit Helix... 2051|Baseboard &Corners "

@@ -1,5 +1,4 @@
 #include "driver.h"
-#include "ui/canvas/canvas_panel.h"
 #include "ui/frame/main_frame.h"
 #include "ui/canvas/canvas_panel.h"
 #include "ui_test.h"

@@ -92,7 +92,7 @@ const Command kCommands[] = {
      .menuHelp = wxTRANSLATE("Track in tunnels; while it is hidden it cannot be picked either"),
      .menu = Command::Menu::View, .kind = Kind::Check, .hand = Hand::Keeps,
      .checked = isOn<&EditorSwitches::hidden>, .run = flipForGood<&EditorSwitches::hidden>},
-    {.id = kView3D, .menuText = wxTRANSLATE("3&D View\tF7"),
+    {.id = kView3D, .menuText = wxTRANSLATE("3D &View\tF7"),
      .menuHelp = wxTRANSLATE("The layout as it will stand in the room, in a window of its own"),
      .toolLabel = wxTRANSLATE("3D View"),
      .menu = Command::Menu::View, .hand = Hand::Keeps,
