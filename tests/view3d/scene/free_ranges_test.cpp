@@ -15,7 +15,7 @@ TEST(FreeRanges, NeverOverlapAndComeTogetherAgain) {
   std::vector<std::pair<std::uint32_t, std::uint32_t>> taken;
   std::mt19937 random(3);
   for (int i = 0; i < 5000; ++i) {
-    const std::uint32_t size = 1 + random() % 90;
+    const auto size = 1 + static_cast<std::uint32_t>(random() % 90);
     if (const auto at = random() % 2 == 0 ? ranges.take(size) : std::nullopt) {
       taken.emplace_back(*at, size);
       for (std::uint32_t k = *at; k < *at + size; ++k) {
