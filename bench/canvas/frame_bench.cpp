@@ -7,6 +7,7 @@
 #include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/layout_painter.h"
+#include "editing/placing/placing.h"
 #include "editing/selection/content_box.h"
 #include "editing/selection/picking.h"
 #include "ratio.h"
@@ -152,6 +153,24 @@ void frameOfTwoThousand(benchmark::State& state) {
   frame(state, layout, ViewTransform::ofScale(0.23, {40, 20}), 0.7);
 }
 BENCHMARK(frameOfTwoThousand)->Name("frame/2000visible")->Iterations(1);
+
+/// A town all over the yard.
+void frameWithScenery(benchmark::State& state) {
+  Layout layout = yard(44, 46);
+  static constexpr std::array kItems{
+      "house.detached", "tree.broad.l", "stn.small",  "tree.fir.m",   "farm.barn", "forest",
+      "road.minor",     "shed.loco1",   "tree.fruit", "sig.sem.home", "pond",      "church.village",
+      "plat.island77",  "house.corner", "lamp.yard",  "goods.shed",   "tree.bush", "br.girder"};
+  constexpr int kColumns = 25;
+  for (int i = 0; i < 500; ++i) {
+    const Point at{150 + i % kColumns * 330.0, 100 + i / kColumns * 211.0};
+    dropScenery(layout, kItems[static_cast<std::size_t>(i) % kItems.size()],
+                {at.x, at.y, i % 4 * 90.0});
+  }
+  layout.clearSelection();
+  frame(state, layout, ViewTransform::ofScale(0.23, {40, 20}), 0.7);
+}
+BENCHMARK(frameWithScenery)->Name("frame/500scenery")->Iterations(1);
 
 void frameOfTenThousand(benchmark::State& state) {
   const Layout layout = yard(100, 100);

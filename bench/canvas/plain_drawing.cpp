@@ -1,8 +1,10 @@
 #include "canvas/plain_drawing.h"
 
 #include "catalog/track_catalog.h"
+#include "document/plan_content.h"
 #include "editing/canvas/grid_steps.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
+#include "editing/scenery/scenery_footprint.h"
 #include "editing/track/connector_geometry.h"
 
 #include <wx/brush.h>
@@ -29,11 +31,11 @@ class PlainDrawing::Pencil {
 
   void sheet() {
     const auto [width, height] = drawing_.size_;
-    context_.SetBrush(brush(plan_colors::kBoard));
+    context_.SetBrush(brush(screenTheme().board));
     context_.DrawRectangle(0, 0, width, height);
     const GridSteps steps = gridSteps(zoom_, drawing_.layout_.settings().units, 9);
-    const wxGraphicsPen fine = pen(plan_colors::kGridFine, 1);
-    const wxGraphicsPen coarse = pen(plan_colors::kGridCoarse, 1);
+    const wxGraphicsPen fine = pen(screenTheme().gridFine, 1);
+    const wxGraphicsPen coarse = pen(screenTheme().gridCoarse, 1);
     const auto lines = [&](double origin, double length, auto line) {
       const double step = steps.fine * zoom_;
       for (double i = std::ceil(-origin / step); origin + i * step <= length; ++i) {
@@ -87,6 +89,60 @@ class PlainDrawing::Pencil {
     }
   }
 
+  void shadow(const Pose& pose, const SceneryPicture& picture) {
+    const Rgba color = screenTheme().shadow;
+    for (const Point tip : shadowTips(picture)) {
+      context_.SetBrush(brush(withAlpha(color, color.a / 3)));
+      wxGraphicsPath path = context_.CreatePath();
+      const auto add = [&](Line outline) {
+        double twice = 0; // all turned the same way round, to be one
+        for (std::size_t i = 0; i < outline.size(); ++i) {
+          const Point b = outline[(i + 1) % outline.size()];
+          twice += outline[i].x * b.y - b.x * outline[i].y;
+        }
+        if (twice < 0)
+          std::ranges::reverse(outline);
+        for (std::size_t i = 0; i < outline.size(); ++i)
+          i == 0 ? path.MoveToPoint(outline[i].x, outline[i].y)
+                 : path.AddLineToPoint(outline[i].x, outline[i].y);
+        path.CloseSubpath();
+      };
+      Line foot;
+      Line moved;
+      for (const Point& p : picture.foot) {
+        foot.push_back(drawing_.view_.toScreen(toWorld(pose, p)));
+        moved.push_back({foot.back().x + tip.x * zoom_, foot.back().y + tip.y * zoom_});
+      }
+      add(foot);
+      add(moved);
+      for (std::size_t i = 0; i < foot.size(); ++i) {
+        const std::size_t k = (i + 1) % foot.size();
+        add({foot[i], foot[k], moved[k], moved[i]});
+      }
+      context_.FillPath(path, wxWINDING_RULE);
+    }
+  }
+
+  void mark(const Pose& pose, const SceneryMark& mark) {
+    const Rgba color = sceneryColor(screenTheme(), mark, pose.heading);
+    wxGraphicsPath path = context_.CreatePath();
+    for (std::size_t i = 0; i < mark.points.size(); ++i) {
+      const Point p = drawing_.view_.toScreen(toWorld(pose, mark.points[i]));
+      if (i == 0 || std::ranges::find(mark.starts, i) != mark.starts.end())
+        path.MoveToPoint(p.x, p.y);
+      else
+        path.AddLineToPoint(p.x, p.y);
+    }
+    if (mark.kind == SceneryMark::Kind::Area) {
+      path.CloseSubpath();
+      context_.SetBrush(brush(color));
+      context_.FillPath(path, wxWINDING_RULE);
+    } else {
+      context_.SetPen(pen(color, std::max(1.0, mark.width * zoom_)));
+      context_.StrokePath(path);
+    }
+  }
+
   void texts() {
     for (const ShownText& shown : drawing_.texts_) {
       if (!(font_ == shown.style)) {
@@ -136,14 +192,14 @@ class PlainDrawing::Pencil {
   const PlainDrawing& drawing_;
   const double zoom_;
   TextStyle font_{{}, 0};
-  wxGraphicsPen far_ = pen(plan_colors::kFarTrack, std::max(kTrackHalfWidth* zoom_, 1.5));
-  wxGraphicsPen edge_ = pen(plan_colors::kBedEdge, 1);
-  wxGraphicsPen sleeper_ = pen(plan_colors::kSleeper, std::max(1.0, kTrackGauge* zoom_ * 0.17));
-  wxGraphicsPen rail_ = pen(plan_colors::kRail, std::max(1.0, kTrackGauge* zoom_ * 0.06));
-  wxGraphicsPen open_ = pen(plan_colors::kOpenEnd, 2);
-  wxGraphicsBrush bed_ = brush(opaque(plan_colors::kBed));
-  wxGraphicsBrush paper_ = brush(plan_colors::kPaper);
-  wxGraphicsBrush joined_ = brush(plan_colors::kJoinedEnd);
+  wxGraphicsPen far_ = pen(screenTheme().farTrack, std::max(kTrackHalfWidth* zoom_, 1.5));
+  wxGraphicsPen edge_ = pen(screenTheme().bedEdge, 1);
+  wxGraphicsPen sleeper_ = pen(screenTheme().sleeper, std::max(1.0, kTrackGauge* zoom_ * 0.17));
+  wxGraphicsPen rail_ = pen(screenTheme().rail, std::max(1.0, kTrackGauge* zoom_ * 0.06));
+  wxGraphicsPen open_ = pen(screenTheme().openEnd, 2);
+  wxGraphicsBrush bed_ = brush(opaque(screenTheme().bed));
+  wxGraphicsBrush paper_ = brush(screenTheme().paper);
+  wxGraphicsBrush joined_ = brush(screenTheme().joinedEnd);
 };
 
 PlainDrawing::PlainDrawing(const Layout& layout, const ViewTransform& view, SizePx size,
@@ -152,13 +208,30 @@ PlainDrawing::PlainDrawing(const Layout& layout, const ViewTransform& view, Size
   for (const PlacedPiece& piece : layout.pieces())
     if (!tracks_.contains(piece.cat))
       tracks_[piece.cat] = plainTrack(*TrackCatalog::instance().find(piece.cat));
+  for (const SceneryItem& item : layout.content().scenery)
+    scenery_.push_back(
+        {{item.x, item.y, item.heading},
+         deriveSceneryPicture(*findScenery(item.item), sceneryFootprint(layout, item), 1)});
 }
 
 void PlainDrawing::draw(wxGraphicsContext& context) const {
   Pencil pencil(context, *this);
   pencil.sheet();
+  drawScenery(pencil, SceneryLayer::Ground);
+  drawScenery(pencil, SceneryLayer::Standing);
   drawTrack(pencil);
+  drawScenery(pencil, SceneryLayer::Over);
   pencil.texts();
+}
+
+void PlainDrawing::drawScenery(Pencil& pencil, SceneryLayer layer) const {
+  for (const auto& [pose, picture] : scenery_)
+    if (picture.shadow == layer && !picture.foot.empty())
+      pencil.shadow(pose, picture);
+  for (const auto& [pose, picture] : scenery_)
+    for (const SceneryMark& mark : picture.marks)
+      if (mark.layer == layer)
+        pencil.mark(pose, mark);
 }
 
 void PlainDrawing::drawTrack(wxGraphicsContext& context) const {

@@ -2,7 +2,7 @@
 
 #include "document/layout.h"
 #include "document/record_kinds.h"
-#include "editing/canvas/surface.h"
+#include "editing/canvas/scenery/scenery_painter.h"
 #include "editing/canvas/view_transform.h"
 #include "plain_track.h"
 
@@ -25,8 +25,9 @@ struct ShownText {
 
 /// The program's picture of a plan of H0 track on one level, drawn the plain way: background, grid,
 /// then each piece in document order with its bed, sleepers, rails and joints, one call of the
-/// toolkit each, whether it is in view or not, and the texts last. Shares nothing with the
-/// program's drawing but its rules of looks: colours, widths, and what can be seen at which zoom.
+/// toolkit each, whether it is in view or not, and the texts last. Scenery likewise, item by item
+/// and mark by mark, however small. Shares nothing with the program's drawing but its rules of
+/// looks: colours, widths, what scenery is made of, and what of track can be seen at which zoom.
 class PlainDrawing {
  public:
   /// Where the texts stand is taken as found: choosing their places is no drawing.
@@ -39,14 +40,20 @@ class PlainDrawing {
 
  private:
   class Pencil;
+  struct Standing {
+    Pose pose;
+    SceneryPicture picture;
+  };
 
   void drawTrack(Pencil& pencil) const;
+  void drawScenery(Pencil& pencil, SceneryLayer layer) const;
 
   const Layout& layout_;
   ViewTransform view_;
   SizePx size_;
   std::vector<ShownText> texts_;
   std::map<std::string, PlainTrack> tracks_; ///< by article
+  std::vector<Standing> scenery_;
 };
 
 } // namespace trassix::bench

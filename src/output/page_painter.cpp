@@ -270,6 +270,7 @@ PaintOptions paintOptionsOf(const PrintOptions& options) {
   PaintOptions how;
   how.desk = how.scaleBar = how.selection = false;
   how.grid = options.has(print_what::kGrid);
+  how.theme = options.has(print_what::kOutlines) ? &outlineTheme() : &paperTheme();
   how.labels = options.labels;
   how.grades = options.has(print_what::kHeights);
   return how;

@@ -2,7 +2,7 @@
 
 #include "catalog/track_catalog.h"
 #include "editing/canvas/piece_painter.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/track/piece_outline.h"
 #include "output/page_painter.h"
 #include "output/page_set.h"
@@ -59,9 +59,9 @@ void paintPiece(Surface& surface, const PieceDef& piece, const Box& room) {
       zoom, {(room.minX + room.maxX - (outline.minX + outline.maxX) * zoom) / 2,
              (room.minY + room.maxY - (outline.minY + outline.maxY) * zoom) / 2});
   PieceLook look;
-  look.bed = opaque(plan_colors::kBed);
+  look.bed = opaque(paperTheme().bed);
   look.sleepers = false;
-  PiecePainter(surface, view).paint(piece, {}, look);
+  PiecePainter(surface, view, paperTheme()).paint(piece, {}, look);
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 #include "document/plan_content.h"
 #include "editing/canvas/canvas_script.h"
 #include "editing/canvas/layout_painter.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/selection/picking.h"
 #include "ui/canvas/gc_surface.h"
 #include "ui/canvas/plan_picture.h"
@@ -41,7 +41,7 @@ class PictureSurface : public GcSurface {
     };
     const Point a = points.front();
     const Point b = points.back();
-    if (stroke.color == plan_colors::kRail && stroke.style == Stroke::Style::Solid && inView(a) &&
+    if (stroke.color == screenTheme().rail && stroke.style == Stroke::Style::Solid && inView(a) &&
         inView(b) && std::hypot(b.x - a.x, b.y - a.y) > 40) {
       if (leftOut && *leftOut == a)
         return;
@@ -187,7 +187,9 @@ TEST_F(PlanPicture, MovesWithThePlanAsIfDrawnAnew) {
       trassix::PlanPicture fresh(script.canvas);
       const wxImage moved = shown(kept, scale);
       const wxImage anew = shown(fresh, scale);
-      EXPECT_LE(different(moved, anew), 3 * kAllowed);
+      // Where the edge of a part cuts an area, the toolkit softens the area's sides otherwise.
+      constexpr int kSoftness = 64;
+      EXPECT_LE(different(moved, anew, kSoftness), 3 * kAllowed);
     }
   }
 }

@@ -2,7 +2,7 @@
 
 #include "document/plan_content.h"
 #include "editing/canvas/occupancy.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/record_pictures.h"
 #include "editing/helix/helix_rings.h"
 #include "editing/track/connector_geometry.h"
@@ -185,7 +185,7 @@ bool ArticlePlaces::Data::offTrack(const Place& place) {
 }
 
 SizePx ArticlePlaces::Data::sizeOf(const Piece& piece, Surface& surface) const {
-  return surface.textSize(piece.definition->article, articleStyle(false));
+  return surface.textSize(piece.definition->article, articleStyle(screenTheme(), false));
 }
 
 ArticlePlaces::Place ArticlePlaces::Data::placeAt(const Piece& piece, std::size_t attempt,

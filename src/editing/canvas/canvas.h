@@ -24,6 +24,7 @@ class PlanPreview;
 class ToolSite;
 class Workspace;
 struct Carried;
+struct PlanTheme;
 struct Offer;
 struct PaintOptions;
 
@@ -35,6 +36,10 @@ class Canvas {
   ~Canvas();
 
   enum class Button : std::uint8_t { Left, Middle, Right };
+
+  /// One of the program's themes, which live as long as the process.
+  void setTheme(const PlanTheme& theme);
+  const PlanTheme& theme() const;
 
   ViewTransform& view();
   const ViewTransform& view() const;

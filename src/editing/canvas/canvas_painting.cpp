@@ -18,6 +18,14 @@
 
 namespace trassix {
 
+void Canvas::setTheme(const PlanTheme& theme) {
+  site_->setTheme(theme);
+}
+
+const PlanTheme& Canvas::theme() const {
+  return site_->theme();
+}
+
 PaintOptions Canvas::paintOptions(const Box& part) const {
   const EditorSwitches& switches = site_->workspace.switches();
   PaintOptions options;
@@ -31,6 +39,7 @@ PaintOptions Canvas::paintOptions(const Box& part) const {
   options.scaleBar = false;
   options.selection = switches.grades; // their colours hide any other mark
   options.part = part;
+  options.theme = &site_->theme();
   options.articles = articles_.get();
   options.gradePlaces = grades_.get();
   return options;
@@ -53,6 +62,7 @@ void Canvas::paintSelection(Surface& surface, const Box& part) {
 void Canvas::paintOverlay(Surface& surface, bool withBody) {
   PaintOptions options;
   options.grades = site_->workspace.switches().grades;
+  options.theme = &site_->theme();
   LayoutPainter fixed(surface, site_->size, site_->view, options);
   fixed.paintScaleBar(site_->layout().settings().units);
   fixed.paintLegend(site_->layout());
@@ -67,7 +77,8 @@ void Canvas::paintOverlay(Surface& surface, bool withBody) {
 
 void Canvas::paintPreview(Surface& surface, const PlanPreview& preview) {
   if (!preview.inGradeColors()) {
-    CarriedPainter(surface, site_->view, site_->layout(), true).paint(preview.records());
+    CarriedPainter(surface, site_->view, site_->layout(), site_->theme(), true)
+        .paint(preview.records());
     if (!site_->workspace.switches().grades)
       return;
   }
@@ -75,7 +86,7 @@ void Canvas::paintPreview(Surface& surface, const PlanPreview& preview) {
   for (const PlacedPiece& piece : preview.records().pieces)
     if (const PieceDef* definition = definitionOf(piece))
       track.push_back({&piece, definition});
-  GradePainter(surface, site_->view, site_->layout()).paintColors(std::move(track));
+  GradePainter(surface, site_->view, site_->layout(), site_->theme()).paintColors(std::move(track));
 }
 
 std::uint64_t Canvas::contentStamp() {
@@ -86,6 +97,7 @@ std::uint64_t Canvas::contentStamp() {
             std::uint64_t{switches.rails} << 2U | std::uint64_t{switches.grades} << 3U);
   if (switches.grades)
     mixer.add(layout.selectionStamp());
+  mixer.add(std::uint64_t{reinterpret_cast<std::uintptr_t>(&site_->theme())});
   for (const std::int32_t id : tool().lifted())
     mixer.add(static_cast<std::uint64_t>(id));
   return mixer.stamp();

@@ -22,6 +22,9 @@
 
 namespace trassix {
 
+struct PlanTheme;
+const PlanTheme& screenTheme();
+
 /// What a tool works on: the open plan, the view, and the indices derived from the plan.
 class ToolSite {
  public:
@@ -35,6 +38,8 @@ class ToolSite {
   SizePx size;                               ///< of the canvas, px
 
   Layout& layout() const { return workspace.layout(); }
+  const PlanTheme& theme() const { return *theme_; }
+  void setTheme(const PlanTheme& theme) { theme_ = &theme; }
   Questions& questions() const { return workspace.questions(); }
 
   /// Derived from the plan as it is now; rebuilt only when it has changed.
@@ -65,6 +70,7 @@ class ToolSite {
   double mm(double px) const { return px / view.zoom(); }
 
  private:
+  const PlanTheme* theme_ = &screenTheme();
   PlanIndex planIndex_;
   SnapIndex snapIndex_;
   std::vector<TrackCrossing> crossings_;

@@ -7,8 +7,9 @@
 namespace trassix {
 
 CarriedPainter::CarriedPainter(Surface& surface, const ViewTransform& view, const Layout& layout,
-                               bool fits)
-    : site_{surface, {}, view, layout}, look_{carriedLook(fits), {}}, piecePainter_(surface, view) {
+                               const PlanTheme& theme, bool fits)
+    : site_{surface, {}, view, layout, theme}, look_{carriedLook(theme, fits), {}},
+      piecePainter_(surface, view, theme) {
   look_.edge = {*look_.track.accent, 1.5, Stroke::Style::Dashed};
 }
 

@@ -12,7 +12,8 @@ namespace trassix {
 class CarriedPainter {
  public:
   /// `layout` is the plan under them, `fits` whether they are where they belong.
-  CarriedPainter(Surface& surface, const ViewTransform& view, const Layout& layout, bool fits);
+  CarriedPainter(Surface& surface, const ViewTransform& view, const Layout& layout,
+                 const PlanTheme& theme, bool fits);
 
   /// The records where the motion brings them.
   void paint(const PlanContent& records, const RigidMotion& motion = {});

@@ -47,12 +47,12 @@ std::optional<CarriedBody> CarryBlockTool::body() const {
 }
 
 void CarryBlockTool::paintBody(Surface& surface) const {
-  CarriedPainter(surface, site_.view, site_.layout(), !meetings_.empty())
+  CarriedPainter(surface, site_.view, site_.layout(), site_.theme(), !meetings_.empty())
       .paint(block_->content, {{}, landing_});
 }
 
 void CarryBlockTool::paint(Surface& surface) const {
-  paintMeetings(surface, site_.view, meetings_);
+  paintMeetings(surface, site_.view, site_.theme(), meetings_);
 }
 
 std::string CarryBlockTool::hint() const {

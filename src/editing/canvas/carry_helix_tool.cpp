@@ -67,11 +67,12 @@ EditResult CarryHelixTool::drop() {
 }
 
 void CarryHelixTool::paint(Surface& surface) const {
-  paintHelixTrack(surface, site_.view, landing_, carriedLook(snap_.has_value()));
-  paintHelixMarks(surface, site_.view, landing_,
+  paintHelixTrack(surface, site_.view, site_.theme(), landing_,
+                  carriedLook(site_.theme(), snap_.has_value()));
+  paintHelixMarks(surface, site_.view, site_.theme(), landing_,
                   snap_ ? static_cast<std::size_t>(snap_->own.connector) : end_,
                   site_.layout().settings().units);
-  paintMeetings(surface, site_.view, meetings_);
+  paintMeetings(surface, site_.view, site_.theme(), meetings_);
 }
 
 std::string CarryHelixTool::hint() const {

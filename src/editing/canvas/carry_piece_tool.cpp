@@ -2,7 +2,7 @@
 
 #include "document/plan_content.h"
 #include "editing/canvas/piece_painter.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/elevation/inheritance.h"
 #include "editing/placing/placing.h"
@@ -100,12 +100,13 @@ std::int32_t CarryPieceTool::joiningEnd() const {
 void CarryPieceTool::paint(Surface& surface) const {
   const Pose at = landing();
   const std::int32_t joining = joiningEnd();
-  PiecePainter(surface, site_.view).paint(definition_, at, carriedLook(joining != -1));
+  PiecePainter(surface, site_.view, site_.theme())
+      .paint(definition_, at, carriedLook(site_.theme(), joining != -1));
   for (const WorldConnector& end : WorldConnectorsOf(pieceAt(at), definition_)) {
     const bool joins = end.index == joining;
     surface.circle(site_.view.toScreen({end.x, end.y}), joins ? 6 : 3.5,
-                   joins ? plan_colors::kSnapped : plan_colors::kPaper,
-                   Stroke{joins ? plan_colors::kPaper : plan_colors::kSelected, 2});
+                   joins ? site_.theme().snapped : site_.theme().paper,
+                   Stroke{joins ? site_.theme().paper : site_.theme().selected, 2});
   }
 }
 

@@ -1,6 +1,6 @@
 #include "editing/canvas/carry_scenery_tool.h"
 
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/placing/placing.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "texts/texts.h"
@@ -15,9 +15,9 @@ void CarrySceneryTool::paint(Surface& surface) const {
   const std::vector<Point> outline =
       sceneryOutline(definition_.form, definition_.footprint(planSystem(site_.layout())),
                      {pose().x, pose().y}, pose().heading);
-  Rgba fill = plan_colors::sceneryColor(&definition_);
+  Rgba fill = site_.theme().sceneryColor(&definition_);
   fill.a = 110;
-  surface.polygon(site_.view.toScreen(outline), fill, Stroke{plan_colors::kSelected, 2});
+  surface.polygon(site_.view.toScreen(outline), fill, Stroke{site_.theme().selected, 2});
 }
 
 std::string CarrySceneryTool::hint() const {

@@ -1,6 +1,6 @@
 #include "editing/canvas/corner_editor.h"
 
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "geometry/lengths.h"
 #include "geometry/polygons.h"
 #include "measures/measure_format.h"
@@ -12,8 +12,6 @@
 namespace trassix {
 
 namespace {
-
-namespace colors = plan_colors;
 
 constexpr double kReachPx = 7;
 constexpr double kCornerPx = 4.5;
@@ -51,9 +49,9 @@ class CornerGesture : public Gesture {
   void drop() override { site_.report(setCorners(site_.layout(), what_, corners_)); }
   void paint(Surface& surface) const override {
     const std::vector<Point> px = site_.view.toScreen(corners_);
-    const Rgba color = problem_.empty() ? colors::kSelected : colors::kOpenEnd;
+    const Rgba color = problem_.empty() ? site_.theme().selected : site_.theme().openEnd;
     surface.polygon(px, {}, Stroke{color, 2});
-    surface.circle(px[corner_], kCornerPx, color, Stroke{colors::kPaper, 1.5});
+    surface.circle(px[corner_], kCornerPx, color, Stroke{site_.theme().paper, 1.5});
   }
   std::string hint() const override {
     if (!problem_.empty())
@@ -212,13 +210,13 @@ void CornerEditor::paint(Surface& surface) const {
       continue;
     const bool hot = pointed_ == CornerHandle{i, true};
     surface.circle(site_.view.toScreen(middleOfEdge(*present, i)), hot ? kCornerPx : kEdgePx,
-                   colors::kPaper, Stroke{colors::kHover, 1.5});
+                   site_.theme().paper, Stroke{site_.theme().hover, 1.5});
   }
   for (std::size_t i = 0; i < present->size(); ++i) {
     const bool hot = pointed_ == CornerHandle{i, false};
     surface.circle(site_.view.toScreen((*present)[i]), hot ? kReachPx : kCornerPx,
-                   chosenCorner() == i ? colors::kSelected : colors::kPaper,
-                   Stroke{colors::kSelected, 1.5});
+                   chosenCorner() == i ? site_.theme().selected : site_.theme().paper,
+                   Stroke{site_.theme().selected, 1.5});
   }
 }
 

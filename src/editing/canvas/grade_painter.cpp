@@ -2,7 +2,7 @@
 
 #include "document/plan_content.h"
 #include "editing/canvas/halo.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/record_pictures.h"
 #include "editing/canvas/stamp_mixer.h"
 #include "editing/elevation/end_heights.h"
@@ -23,14 +23,11 @@ namespace trassix {
 
 namespace {
 
-namespace colors = plan_colors;
-
 constexpr double kSameSlope = 1e-4;     ///< of neighbours, between which there is no knee
 constexpr double kBeneathWidth = 0.55;  ///< of what lies beneath, to what lies on top
 constexpr double kArrowPx = 5;          ///< half its length
 constexpr double kArrowsApartPx = 44;   ///< at least
 constexpr double kPercentApartPx = 150; ///< of the same text
-constexpr TextStyle kHeightText{colors::kLabel, 11, true};
 constexpr double kPercentSize = 11;
 /// Where a text is tried beside the track: side, and px farther out.
 constexpr std::array<std::pair<double, double>, 6> kPlaces{
@@ -63,18 +60,18 @@ void keepGraded(std::vector<GradePainter::Track>& track) {
 void GradePainter::paintColors(std::vector<Track> track, const GradePlaces* places) {
   keepGraded(track);
   for (const Track& shown : track) {
-    const auto [geometry, lines] = piecePainter_.shapeOf(*shown.definition);
+    const auto [geometry, lines, details] = piecePainter_.shapeOf(*shown.definition);
     const double slope = slopeOf(*shown.piece);
-    const Rgba color = colors::gradeColor(slope);
+    const Rgba color = theme_.gradeColor(slope);
     const double width = std::clamp(geometry.gauge * view_.zoom() * 0.55, 3.0, 10.0) *
                          (shown.beneath ? kBeneathWidth : 1);
     for (const auto& line : lines.centreLines) {
       const std::vector<Point>& px = piecePainter_.toScreen(line, poseOf(*shown.piece));
       if (shown.piece->sel)
-        surface_.polyline(px, {colors::kSelected, width + 5});
+        surface_.polyline(px, {theme_.selected, width + 5});
       surface_.polyline(px, {color, width});
       if (gradeBand(slope) == GradeBand::TooSteep)
-        surface_.polyline(px, {colors::kPaper, width * 0.5, Stroke::Style::Dashed});
+        surface_.polyline(px, {theme_.paper, width * 0.5, Stroke::Style::Dashed});
     }
     if (places ? places->hasArrow(shown.piece->id) : takeArrow(shown))
       paintArrow(shown, color);
@@ -101,7 +98,7 @@ void GradePainter::paintArrow(const Track& track, Rgba color) {
   const Point back = towards(at, uphill, -kArrowPx);
   const std::array<Point, 3> arrow{tip, towards(back, uphill + 90, kArrowPx),
                                    towards(back, uphill - 90, kArrowPx)};
-  surface_.polygon(arrow, colors::kPaper, Stroke{color, 1.5});
+  surface_.polygon(arrow, theme_.paper, Stroke{color, 1.5});
 }
 
 void GradePainter::paintTexts(std::span<const Track> track,
@@ -118,7 +115,7 @@ void GradePainter::paintTexts(std::span<const Track> track,
 }
 
 SizePx GradePainter::badgeSize(const std::string& text) {
-  const SizePx words = surface_.textSize(text, kHeightText);
+  const SizePx words = surface_.textSize(text, heightText_);
   return {words.width + 10, words.height + 4};
 }
 
@@ -131,11 +128,11 @@ void GradePainter::badge(const std::string& text, Point centre, bool tooLow) {
                                       {centre.x + x, centre.y - y},
                                       {centre.x + x, centre.y + y},
                                       {centre.x - x, centre.y + y}}};
-  const Rgba red = colors::gradeColor(kSteepestSlope);
-  const Rgba edge = tooLow ? red : colors::kLabel;
-  surface_.polygon(outline, tooLow ? red : colors::kPaper, Stroke{edge, 1});
+  const Rgba red = theme_.gradeColor(kSteepestSlope);
+  const Rgba edge = tooLow ? red : theme_.label;
+  surface_.polygon(outline, tooLow ? red : theme_.paper, Stroke{edge, 1});
   surface_.segments(outline, {edge, 2.5});
-  surface_.text(text, centre, 0, {tooLow ? colors::kPaper : colors::kLabel, 11, true});
+  surface_.text(text, centre, 0, {tooLow ? theme_.paper : theme_.label, 11, true});
 }
 
 void GradePainter::paintClearances(std::span<const TrackCrossing> crossings) {
@@ -176,7 +173,7 @@ void GradePainter::paintKnee(const Track& track, std::int32_t connector, Article
   if (!badges_.isFree(at, {6, 6}, 0))
     return;
   const std::string text = number(endHeight(*track.piece, *track.definition, connector));
-  const SizePx box = surface_.textSize(text, kHeightText);
+  const SizePx box = surface_.textSize(text, heightText_);
   const double away = trackGeometryOf(*track.definition).halfWidth * view_.zoom() + 2;
   for (const auto& [side, farther] : kPlaces) {
     const double across = end.heading + 90 * side;
@@ -187,8 +184,8 @@ void GradePainter::paintKnee(const Track& track, std::int32_t connector, Article
     if (!taken_.isFree(place, slim, 0) || !articles.isOffTrack(place, slim, 0))
       continue;
     taken_.take(place, {box.width + 4, box.height}, 0);
-    surface_.circle(at, 3, colors::kPaper, Stroke{colors::kLabel, 1.5});
-    paintTextWithHalo(surface_, text, place, 0, kHeightText);
+    surface_.circle(at, 3, theme_.paper, Stroke{theme_.label, 1.5});
+    paintTextWithHalo(surface_, text, place, 0, heightText_, theme_.paper);
     return;
   }
 }
@@ -203,7 +200,7 @@ void GradePainter::paintPercent(const Track& track, ArticlePlaces& articles) {
         return told.text == text && between(told.at, spot) < kPercentApartPx;
       }))
     return;
-  const TextStyle style{colors::gradeColor(slope), kPercentSize, true};
+  const TextStyle style{theme_.gradeColor(slope), kPercentSize, true};
   const SizePx box = surface_.textSize(text, style);
   const double heading = pose.heading + geometry.labelHeading;
   const double angle = uprightAngle(heading);
@@ -215,7 +212,7 @@ void GradePainter::paintPercent(const Track& track, ArticlePlaces& articles) {
       continue;
     taken_.take(place, box, angle);
     told_.push_back({spot, text});
-    paintTextWithHalo(surface_, text, place, angle, style);
+    paintTextWithHalo(surface_, text, place, angle, style, theme_.paper);
     return;
   }
 }
@@ -225,6 +222,7 @@ void GradePlaces::follow(Surface& surface, const Plan& plan, double zoom, Articl
   StampMixer mixer(layout.documentStamp(), zoom);
   for (const std::int32_t id : plan.leftOut)
     mixer.add(static_cast<std::uint64_t>(id));
+  mixer.add(std::uint64_t{reinterpret_cast<std::uintptr_t>(&plan.theme)});
   if (stamp_ == mixer.stamp())
     return;
   stamp_ = mixer.stamp();
@@ -240,7 +238,7 @@ void GradePlaces::follow(Surface& surface, const Plan& plan, double zoom, Articl
   const ViewTransform fromOrigin = ViewTransform::ofScale(zoom, {});
   texts_.clear();
   texts_.measureLike(surface);
-  GradePainter painter(texts_, fromOrigin, layout);
+  GradePainter painter(texts_, fromOrigin, layout, plan.theme);
   for (const ArticlePlaces::Place& other : plan.others)
     painter.taken_.take(other.at, other.size, other.angle);
   painter.paintTexts(track, plan.crossings, articles);
@@ -269,7 +267,7 @@ void GradePainter::paintLegend(SizePx size) {
       tr("above %1% %%", {formatAngle(percentOf(kSteepestSlope))}),
       tr("height, %1%", {unit}),
       tr("clearance, %1%", {unit})};
-  const TextStyle style{colors::kLabel, 11, false};
+  const TextStyle style{theme_.label, 11, false};
   double wide = 0;
   for (const std::string& text : texts)
     wide = std::max(wide, surface_.textSize(text, style).width);
@@ -278,18 +276,18 @@ void GradePainter::paintLegend(SizePx size) {
   const double left = right - wide - kSample - 3 * kEdge;
   const double top = bottom - kRow * static_cast<double>(texts.size()) - kEdge;
   const std::array<Point, 4> ground{{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};
-  surface_.polygon(ground, Rgba{255, 255, 255, 225}, Stroke{colors::kGridCoarse, 1});
+  surface_.polygon(ground, theme_.plate, Stroke{theme_.gridCoarse, 1});
   const double middle = left + kEdge + kSample / 2;
   for (std::size_t i = 0; i < texts.size(); ++i) {
     const double y = top + kEdge / 2 + kRow * (static_cast<double>(i) + 0.5);
     const std::array<Point, 2> line{{{left + kEdge, y}, {left + kEdge + kSample, y}}};
-    if (i < colors::kGradeBands.size())
-      surface_.polyline(line, {colors::kGradeBands[i], 5});
-    if (i + 1 == colors::kGradeBands.size())
-      surface_.polyline(line, {colors::kPaper, 2.5, Stroke::Style::Dashed});
+    if (i < theme_.gradeBands.size())
+      surface_.polyline(line, {theme_.gradeBands[i], 5});
+    if (i + 1 == theme_.gradeBands.size())
+      surface_.polyline(line, {theme_.paper, 2.5, Stroke::Style::Dashed});
     if (i == 4) {
-      surface_.circle({middle - 10, y}, 3, colors::kPaper, Stroke{colors::kLabel, 1.5});
-      surface_.text("45", {middle + 5, y}, 0, kHeightText);
+      surface_.circle({middle - 10, y}, 3, theme_.paper, Stroke{theme_.label, 1.5});
+      surface_.text("45", {middle + 5, y}, 0, heightText_);
     }
     if (i == 5)
       badge("60", {middle, y}, false);

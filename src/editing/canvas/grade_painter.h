@@ -7,6 +7,7 @@
 #include "editing/canvas/kept_drawing.h"
 #include "editing/canvas/occupancy.h"
 #include "editing/canvas/piece_painter.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/elevation/crossings.h"
 
 #include <cstdint>
@@ -21,8 +22,10 @@ class HelixRings;
 
 class GradePainter {
  public:
-  GradePainter(Surface& surface, const ViewTransform& view, const Layout& layout)
-      : surface_(surface), view_(view), layout_(layout), piecePainter_(surface, view) {}
+  GradePainter(Surface& surface, const ViewTransform& view, const Layout& layout,
+               const PlanTheme& theme)
+      : surface_(surface), view_(view), layout_(layout), theme_(theme),
+        piecePainter_(surface, view, theme) {}
 
   struct Track {
     const PlacedPiece* piece;
@@ -57,6 +60,8 @@ class GradePainter {
   Surface& surface_;
   const ViewTransform& view_;
   const Layout& layout_;
+  const PlanTheme& theme_;
+  const TextStyle heightText_{theme_.label, 11, true};
   PiecePainter piecePainter_;
   OpenOccupancy badges_;
   OpenOccupancy taken_;       ///< by texts
@@ -79,6 +84,7 @@ class GradePlaces {
     std::span<const std::int32_t> leftOut; ///< sorted ids of pieces that are not there
     std::span<const TrackCrossing> crossings;
     std::span<const ArticlePlaces::Place> others; ///< texts, px from the plan's origin
+    const PlanTheme& theme;
   };
   /// To be called before all else. `articles` follow the same plan.
   void follow(Surface& surface, const Plan& plan, double zoom, ArticlePlaces& articles);

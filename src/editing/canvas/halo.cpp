@@ -1,7 +1,5 @@
 #include "editing/canvas/halo.h"
 
-#include "editing/canvas/plan_colors.h"
-
 namespace trassix {
 
 namespace {
@@ -11,9 +9,9 @@ constexpr double kEdgePx = 1.5;
 } // namespace
 
 void paintTextWithHalo(Surface& surface, std::string_view text, Point centre, double degrees,
-                       const TextStyle& style) {
+                       const TextStyle& style, Rgba ground) {
   TextStyle edge = style;
-  edge.color = plan_colors::kPaper;
+  edge.color = ground;
   for (const double x : {-kEdgePx, 0.0, kEdgePx})
     for (const double y : {-kEdgePx, 0.0, kEdgePx})
       if (x != 0 || y != 0)
@@ -21,8 +19,9 @@ void paintTextWithHalo(Surface& surface, std::string_view text, Point centre, do
   surface.text(text, centre, degrees, style);
 }
 
-void paintLinesWithHalo(Surface& surface, std::span<const Point> ends, const Stroke& stroke) {
-  surface.segments(ends, {plan_colors::kPaper, stroke.width + 2 * kEdgePx});
+void paintLinesWithHalo(Surface& surface, std::span<const Point> ends, const Stroke& stroke,
+                        Rgba ground) {
+  surface.segments(ends, {ground, stroke.width + 2 * kEdgePx});
   surface.segments(ends, stroke);
 }
 

@@ -5,11 +5,13 @@
 
 namespace trassix {
 
-/// The text, centred and turned as on the surface, with a light edge around its letters.
+/// The text, centred and turned as on the surface, with an edge in the colour
+/// of the ground around its letters.
 void paintTextWithHalo(Surface& surface, std::string_view text, Point centre, double degrees,
-                       const TextStyle& style);
+                       const TextStyle& style, Rgba ground = {255, 255, 255});
 
-/// Separate lines with a light edge along them.
-void paintLinesWithHalo(Surface& surface, std::span<const Point> ends, const Stroke& stroke);
+/// Separate lines with such an edge along them.
+void paintLinesWithHalo(Surface& surface, std::span<const Point> ends, const Stroke& stroke,
+                        Rgba ground = {255, 255, 255});
 
 } // namespace trassix

@@ -1,7 +1,7 @@
 #include "editing/canvas/helix_painter.h"
 
 #include "editing/canvas/halo.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/track/track_geometry.h"
 #include "measures/measure_format.h"
 #include "measures/measure_input.h"
@@ -16,9 +16,6 @@ namespace trassix {
 
 namespace {
 
-constexpr TextStyle kName{plan_colors::kLabel, 12, true};
-constexpr TextStyle kHeight{plan_colors::kLabel, 11, true};
-constexpr TextStyle kUp{plan_colors::kMeasure, 11, true};
 constexpr double kGapPx = 6;
 constexpr double kArrowFrom = 35; ///< degrees from the lower ends, the way it climbs
 constexpr double kArrowTo = 70;
@@ -49,26 +46,26 @@ class HelixTexts {
     const std::string turns =
         plan_.kit->turns == 1 ? tr("1 turn") : tr("%1% turns", {formatAngle(plan_.kit->turns)});
     for (const std::string& text : {plan_.kit->name, turns}) {
-      const SizePx size = site_.surface.textSize(text, kName);
-      if (std::hypot(size.width, size.height) / 2 <= inner_ - 1 && put(text, centre_, size, kName))
+      const SizePx size = site_.surface.textSize(text, name_);
+      if (std::hypot(size.width, size.height) / 2 <= inner_ - 1 && put(text, centre_, size, name_))
         return;
     }
   }
 
   /// Along the inner edge of the track, with what it means.
   void paintArrow() {
-    const SizePx size = site_.surface.textSize(tr("up"), kUp);
+    const SizePx size = site_.surface.textSize(tr("up"), up_);
     const double radius = inner_ - kGapPx - kHeadPx;
     if (radius < 3 * kHeadPx ||
         !put(tr("up"), at((kArrowFrom + kArrowTo) / 2, radius - kGapPx - size.width / 2), size,
-             kUp))
+             up_))
       return;
     std::array<Point, 13> arc;
     for (std::size_t i = 0; i < arc.size(); ++i)
       arc[i] = at(kArrowFrom + (kArrowTo - kArrowFrom) * static_cast<double>(i) /
                                    static_cast<double>(arc.size() - 1),
                   radius);
-    site_.surface.polyline(arc, {kUp.color, 2});
+    site_.surface.polyline(arc, {up_.color, 2});
     const double along = toRadians(headingAt(kArrowTo));
     const Point way{std::cos(along), std::sin(along)};
     const Point tip = arc.back();
@@ -77,12 +74,12 @@ class HelixTexts {
     };
     const std::array<Point, 3> head{corner(kHeadPx * 1.5, 0), corner(0, kHeadPx * 0.8),
                                     corner(0, -kHeadPx * 0.8)};
-    site_.surface.polygon(head, kUp.color, {});
+    site_.surface.polygon(head, up_.color, {});
   }
 
   /// Beside an end, inside the ring, after so many others.
   void paintHeight(const std::string& text, double turned, int line) {
-    const SizePx size = site_.surface.textSize(text, kHeight);
+    const SizePx size = site_.surface.textSize(text, height_);
     const double angle = toRadians(headingAt(turned));
     const double c = std::abs(std::cos(angle)) / 2;
     const double s = std::abs(std::sin(angle)) / 2;
@@ -91,7 +88,7 @@ class HelixTexts {
     const double reach = inner_ - kGapPx / 2;
     if (reach > along)
       put(text, at(turned, std::sqrt(reach * reach - along * along) - across * (1 + 2 * line)),
-          size, kHeight);
+          size, height_);
   }
 
   /// False where another text stands.
@@ -99,7 +96,7 @@ class HelixTexts {
     const ArticlePlaces::Place place{where, 0, size};
     if (std::ranges::any_of(places_, [&](const auto& other) { return place.overlaps(other); }))
       return false;
-    paintTextWithHalo(site_.surface, text, where, 0, style);
+    paintTextWithHalo(site_.surface, text, where, 0, style, site_.theme.paper);
     places_.push_back(place);
     return true;
   }
@@ -121,6 +118,9 @@ class HelixTexts {
 
   const PictureSite& site_;
   const HelixPlan& plan_;
+  const TextStyle name_{site_.theme.label, 12, true};
+  const TextStyle height_{site_.theme.label, 11, true};
+  const TextStyle up_{site_.theme.measure, 11, true};
   std::vector<ArticlePlaces::Place> places_;
   Point centre_;
   double inner_; ///< px, of the free space in the middle

@@ -11,15 +11,16 @@
 namespace trassix {
 
 /// One turn of its track, which covers all others.
-void paintHelixTrack(Surface& surface, const ViewTransform& view, const HelixPlan& plan,
-                     const PieceLook& look);
+void paintHelixTrack(Surface& surface, const ViewTransform& view, const PlanTheme& theme,
+                     const HelixPlan& plan, const PieceLook& look);
 
 /// The way uphill and the ends.
-void paintHelixMarks(Surface& surface, const ViewTransform& view, const HelixPlan& plan);
+void paintHelixMarks(Surface& surface, const ViewTransform& view, const PlanTheme& theme,
+                     const HelixPlan& plan);
 
 /// The same with the heights of the ends, of which one, by its place in the list of ends, may
 /// stand out.
-void paintHelixMarks(Surface& surface, const ViewTransform& view, const HelixPlan& plan,
-                     std::optional<std::size_t> joining, std::int32_t units);
+void paintHelixMarks(Surface& surface, const ViewTransform& view, const PlanTheme& theme,
+                     const HelixPlan& plan, std::optional<std::size_t> joining, std::int32_t units);
 
 } // namespace trassix

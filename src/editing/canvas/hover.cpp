@@ -1,6 +1,6 @@
 #include "editing/canvas/hover.h"
 
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/record_pictures.h"
 #include "editing/selection/any_record.h"
 #include "editing/selection/record_body.h"
@@ -26,12 +26,13 @@ void paintOutlines(Surface& surface, const ToolSite& site, const Pick& pick, Rgb
 } // namespace
 
 void paintHover(Surface& surface, const ToolSite& site, const Pick& pick) {
-  paintOutlines(surface, site, pick, {32, 108, 214, 28}, {plan_colors::kHover, 1.5});
+  paintOutlines(surface, site, pick, withAlpha(site.theme().selected, 28),
+                {site.theme().hover, 1.5});
 }
 
 void paintPointed(Surface& surface, const ToolSite& site, std::int32_t piece) {
-  paintOutlines(surface, site, {RecordKind::Piece, piece}, {32, 108, 214, 90},
-                {plan_colors::kSelected, 3});
+  paintOutlines(surface, site, {RecordKind::Piece, piece}, withAlpha(site.theme().selected, 90),
+                {site.theme().selected, 3});
 }
 
 } // namespace trassix

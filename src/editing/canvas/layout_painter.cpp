@@ -1,12 +1,12 @@
 #include "editing/canvas/layout_painter.h"
 
-#include "catalog/scenery_catalog.h"
 #include "document/record_kinds.h"
 #include "editing/canvas/grade_painter.h"
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/helix_painter.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/record_pictures.h"
+#include "editing/canvas/scenery/scenery_painter.h"
 #include "editing/elevation/end_heights.h"
 #include "editing/levels/decks.h"
 #include "editing/scenery/scenery_footprint.h"
@@ -23,22 +23,21 @@
 
 namespace trassix {
 
-namespace colors = plan_colors;
-
 namespace {
 
 constexpr double kGridFromPx = 9; ///< lines of the grid are at least this far apart
 
 constexpr double kStrokeReachPx = 4; ///< of the widest edge and its joins
 constexpr double kDotReachPx = 9;    ///< of the mark of an open end
-Rgba bedColor(const Layout& layout, const PlacedPiece& piece, const PieceDef& definition) {
+constexpr double kShadowReach = 60;  ///< mm, of the longest shadow
+
+Rgba bedColor(const PlanTheme& theme, const Layout& layout, const PlacedPiece& piece,
+              const PieceDef& definition) {
   if (piece.hasColor)
     return opaque(piece.color);
   if (const Level* level = layout.findLevel(piece.level); level && level->trackcolor)
     return opaque(level->color);
-  if (definition.ramp)
-    return opaque(colors::kRampBed);
-  return opaque(definition.bridge ? colors::kBridgeBed : colors::kBed);
+  return opaque(theme.bedOf(definition));
 }
 
 /// By the middle of its main way.
@@ -90,7 +89,7 @@ LayoutPainter::LayoutPainter(Surface& surface, SizePx size, const ViewTransform&
                              const PaintOptions& options)
     : surface_(surface), size_(size),
       part_(options.part.value_or(Box{0, 0, size.width, size.height})), view_(view),
-      options_(options) {}
+      options_(options), theme_(*options.theme) {}
 
 void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
   if (options_.desk) {
@@ -98,13 +97,13 @@ void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
                                       {part_.maxX, part_.minY},
                                       {part_.maxX, part_.maxY},
                                       {part_.minX, part_.maxY}}};
-    surface_.polygon(sheet, layout.settings().baseboard.size() < 3 ? colors::kBoard : colors::kDesk,
+    surface_.polygon(sheet, layout.settings().baseboard.size() < 3 ? theme_.board : theme_.desk,
                      {});
   }
   paintBoard(layout);
   if (options_.grid)
     paintGrid(layout.settings().units);
-  const PictureSite site{surface_, part_, view_, layout, options_.selection};
+  const PictureSite site{surface_, part_, view_, layout, theme_, options_.selection};
   forEachKind(layout.content(), [&](const auto& records) {
     constexpr RecordKind kind = std::remove_cvref_t<decltype(records)>::value_type::kKind;
     if constexpr (kind == RecordKind::Piece) {
@@ -124,15 +123,15 @@ void LayoutPainter::paint(const Layout& layout, const PlanIndex& index) {
 
 void LayoutPainter::paintLegend(const Layout& layout) {
   if (options_.grades)
-    GradePainter(surface_, view_, layout).paintLegend(size_);
+    GradePainter(surface_, view_, layout, theme_).paintLegend(size_);
 }
 
 void LayoutPainter::paintBoard(const Layout& layout) {
   const SurfaceGroup group(surface_, tr("Baseboard and levels"));
   const PlanSettings& settings = layout.settings();
   if (settings.baseboard.size() >= 3)
-    surface_.polygon(view_.toScreen(settings.baseboard), colors::kBoard,
-                     Stroke{colors::kBoardEdge, 1.5});
+    surface_.polygon(view_.toScreen(settings.baseboard), theme_.board,
+                     Stroke{theme_.boardEdge, 1.5});
   for (const Level& level : settings.levels) {
     if (!level.visible || level.outline.size() < 3)
       continue;
@@ -164,8 +163,8 @@ void LayoutPainter::paintGrid(std::int32_t units) {
     const double y = crisp(view_.toScreen({0, mm}).y);
     to.insert(to.end(), {{part_.minX, y}, {part_.maxX, y}});
   });
-  surface_.segments(fine, {colors::kGridFine, 1});
-  surface_.segments(coarse, {colors::kGridCoarse, 1});
+  surface_.segments(fine, {theme_.gridFine, 1});
+  surface_.segments(coarse, {theme_.gridCoarse, 1});
 }
 
 void LayoutPainter::paintScaleBar(std::int32_t units) {
@@ -180,37 +179,80 @@ void LayoutPainter::paintScaleBar(std::int32_t units) {
                                      {left + width + 6, base - 21},
                                      {left + width + 6, base + 5},
                                      {left - 6, base + 5}}};
-  surface_.polygon(ground, Rgba{255, 255, 255, 150}, {});
-  surface_.polyline(line, {colors::kRuler, 1.5});
-  surface_.text(bar.text, {left + width / 2, base - 11}, 0, {colors::kRuler, 11, false});
+  surface_.polygon(ground, withAlpha(theme_.plate, 150), {});
+  surface_.polyline(line, {theme_.ruler, 1.5});
+  surface_.text(bar.text, {left + width / 2, base - 11}, 0, {theme_.ruler, 11, false});
 }
 
-std::vector<const SceneryItem*> LayoutPainter::visibleScenery(const Layout& layout) const {
-  std::vector<const SceneryItem*> shown;
-  for (const SceneryItem& item : layout.content().scenery)
-    if (layout.levelVisible(item.level))
-      shown.push_back(&item);
-  std::stable_sort(shown.begin(), shown.end(), [&](const SceneryItem* a, const SceneryItem* b) {
-    return layout.levelHeight(a->level) < layout.levelHeight(b->level);
-  });
-  return shown;
-}
+/// What stands in view, brought onto the picture level by level with the track.
+class LayoutPainter::SceneryOfLevels {
+ public:
+  SceneryOfLevels(const LayoutPainter& picture, const Layout& layout, const Decks& decks)
+      : surface_(picture.surface_), painter_(picture.surface_, picture.view_, picture.theme_) {
+    const Box shown = picture.shownBox(kStrokeReachPx);
+    for (const SceneryItem& item : layout.content().scenery) {
+      if (!layout.levelVisible(item.level))
+        continue;
+      const Footprint size = sceneryFootprint(layout, item);
+      const double reach = std::hypot(size.width, size.depth) / 2 + kShadowReach;
+      if (item.x + reach < shown.minX || item.x - reach > shown.maxX ||
+          item.y + reach < shown.minY || item.y - reach > shown.maxY)
+        continue;
+      Standing standing{layout.levelHeight(item.level), SceneryPainter::itemOf(layout, item)};
+      standing.item.faded = isOtherLevel(layout, item.level);
+      standing.item.beneath = decks.cover({item.x, item.y}, item.level, standing.height);
+      all_.push_back(std::move(standing));
+    }
+    std::ranges::stable_sort(all_, {}, &Standing::height);
+  }
 
-void LayoutPainter::paintSceneryItem(const Layout& layout, const SceneryItem& item, bool beneath) {
-  const std::vector<Point> px = view_.toScreen(sceneryOutline(layout, item));
-  if (PictureSite{surface_, part_, view_, layout}.isBeside(px, kStrokeReachPx))
-    return;
-  Rgba color = colors::sceneryColor(findScenery(item.item));
-  if (isOtherLevel(layout, item.level))
-    color = colors::faded(color);
-  Rgba fill = color;
-  fill.a = beneath ? 40 : 84;
-  surface_.polygon(
-      px, fill,
-      item.sel && options_.selection
-          ? Stroke{colors::kSelected, 2.5}
-          : Stroke{color, 1.2, beneath ? Stroke::Style::Dashed : Stroke::Style::Solid});
-}
+  /// Before the track at this height: what is under it, and all that is lower.
+  void paintUnder(double height) {
+    while (under_ < all_.size() && all_[under_].height <= height) {
+      paintOver(all_[under_].height, false);
+      const SurfaceGroup group(surface_, tr("Scenery"));
+      const std::span<const SceneryPainter::Item> level = levelFrom(under_);
+      painter_.paint(level, SceneryLayer::Ground);
+      painter_.paint(level, SceneryLayer::Standing);
+      under_ += level.size();
+    }
+  }
+  /// What spans track that is lower than this, or that is also as high.
+  void paintOver(double height, bool alsoThere) {
+    while (over_ < under_ &&
+           (all_[over_].height < height || (alsoThere && all_[over_].height == height))) {
+      const SurfaceGroup group(surface_, tr("Scenery"));
+      const std::span<const SceneryPainter::Item> level = levelFrom(over_);
+      painter_.paint(level, SceneryLayer::Over);
+      over_ += level.size();
+    }
+  }
+  void paintRest() {
+    constexpr double kAbove = std::numeric_limits<double>::infinity();
+    paintUnder(kAbove);
+    paintOver(kAbove, true);
+  }
+
+ private:
+  struct Standing {
+    double height = 0; ///< of its level
+    SceneryPainter::Item item;
+  };
+
+  std::span<const SceneryPainter::Item> levelFrom(std::size_t from) {
+    level_.clear();
+    for (std::size_t i = from; i < all_.size() && all_[i].height == all_[from].height; ++i)
+      level_.push_back(all_[i].item);
+    return level_;
+  }
+
+  Surface& surface_;
+  SceneryPainter painter_;
+  std::vector<Standing> all_; ///< from low to high
+  std::vector<SceneryPainter::Item> level_;
+  std::size_t under_ = 0; ///< that are drawn under the track
+  std::size_t over_ = 0;  ///< whose parts over it are drawn as well
+};
 
 bool LayoutPainter::isLeftOut(std::int32_t piece) const {
   return std::ranges::binary_search(options_.leftOut, piece);
@@ -234,7 +276,7 @@ std::vector<std::size_t> LayoutPainter::selectedTrack(const Layout& layout,
 std::vector<LayoutPainter::Visible>
 LayoutPainter::visibleTrack(const Layout& layout, const PlanIndex& index, const HelixRings& rings,
                             std::span<const std::size_t> positions) {
-  const PiecePainter painter(surface_, view_);
+  const PiecePainter painter(surface_, view_, theme_);
   const Decks decks(layout);
   std::vector<Visible> shown;
   for (const std::size_t position : positions) {
@@ -247,13 +289,13 @@ LayoutPainter::visibleTrack(const Layout& layout, const PlanIndex& index, const 
       continue;
     }
     PieceLook look;
-    look.bed = bedColor(layout, piece, *definition);
+    look.bed = bedColor(theme_, layout, piece, *definition);
     look.rails = options_.rails;
     look.sleepers = options_.rails;
     look.beneath = layout.isCovered(piece.id) || liesBeneath(decks, piece, *definition);
     look.faded = isOtherLevel(layout, piece.level);
     if (piece.sel && options_.selection)
-      look.accent = colors::kSelected;
+      look.accent = theme_.selected;
     shown.push_back(
         {&piece, definition, painter.shapeOf(*definition), look, index.storey(position)});
   }
@@ -264,21 +306,8 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
   const HelixRings rings(layout);
   const std::vector<Visible> track =
       visibleTrack(layout, index, rings, index.inBox(shownBox(kDotReachPx), false));
-  const std::vector<const SceneryItem*> scenery = visibleScenery(layout);
-  const Decks decks(layout);
-  std::size_t items = 0;
-  const auto sceneryUpTo = [&](double height) {
-    if (items == scenery.size() || layout.levelHeight(scenery[items]->level) > height)
-      return;
-    const SurfaceGroup group(surface_, tr("Scenery"));
-    for (; items < scenery.size() && layout.levelHeight(scenery[items]->level) <= height; ++items) {
-      const SceneryItem& item = *scenery[items];
-      const bool beneath =
-          decks.cover({item.x, item.y}, item.level, layout.levelHeight(item.level));
-      paintSceneryItem(layout, item, beneath);
-    }
-  };
-  PiecePainter painter(surface_, view_);
+  SceneryOfLevels scenery(*this, layout, Decks(layout));
+  PiecePainter painter(surface_, view_, theme_);
   std::vector<PiecePainter::Piece> pieces;
   // One storey after the other, beds before rails: joined beds read as one, and what leads over
   // other track hides it.
@@ -288,7 +317,9 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
       ++to;
     const Level* level = layout.findLevel(track[from].piece->level);
     const SurfaceGroup levelGroup(surface_, level ? level->name : "");
-    sceneryUpTo(layout.levelHeight(track[from].piece->level));
+    const double height = layout.levelHeight(track[from].piece->level);
+    scenery.paintOver(height, false);
+    scenery.paintUnder(height);
     const SurfaceGroup trackGroup(surface_, tr("Track"));
     pieces.clear();
     for (std::size_t i = from; i < to; ++i)
@@ -300,7 +331,11 @@ void LayoutPainter::paintTrackAndScenery(const Layout& layout, const PlanIndex& 
       paintJoinDots(layout, std::span(track).subspan(from, to - from));
     from = to;
   }
-  sceneryUpTo(std::numeric_limits<double>::infinity());
+  scenery.paintRest();
+  if (options_.selection)
+    for (const SceneryItem& item : layout.content().scenery)
+      if (item.sel && layout.levelVisible(item.level))
+        paintSelected(PictureSite{surface_, part_, view_, layout, theme_}, item);
   paintTexts(layout, index, rings, track, paintOnRings(layout, rings));
 }
 
@@ -310,12 +345,11 @@ void LayoutPainter::paintUnknown(const PlacedPiece& piece) {
   const Point at = view_.toScreen({piece.x, piece.y});
   const std::array<Point, 4> box{
       {{at.x - 7, at.y - 7}, {at.x + 7, at.y - 7}, {at.x + 7, at.y + 7}, {at.x - 7, at.y + 7}}};
-  surface_.polygon(
-      box, colors::kPaper,
-      Stroke{piece.sel && options_.selection ? colors::kSelected : colors::kOpenEnd, 2});
-  surface_.text("?", at, 0, {colors::kArticle, 11, true});
+  surface_.polygon(box, theme_.paper,
+                   Stroke{piece.sel && options_.selection ? theme_.selected : theme_.openEnd, 2});
+  surface_.text("?", at, 0, {theme_.article, 11, true});
   if (options_.labels)
-    surface_.text(piece.cat, {at.x, at.y + 16}, 0, {colors::kArticle, 10.5, false});
+    surface_.text(piece.cat, {at.x, at.y + 16}, 0, {theme_.article, 10.5, false});
 }
 
 void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible> pieces) {
@@ -330,13 +364,13 @@ void LayoutPainter::paintJoinDots(const Layout& layout, std::span<const Visible>
         // The unused tracks of a turntable wait for nothing.
         if (shown.definition->kind == PieceKind::Turntable)
           continue;
-        surface_.circle(at, radius, colors::kPaper, Stroke{colors::kOpenEnd, 2});
+        surface_.circle(at, radius, theme_.paper, Stroke{theme_.openEnd, 2});
         continue;
       }
       // A joint belongs to two pieces and gets one dot.
       const std::int32_t other = shown.piece->joint(static_cast<std::size_t>(i)).target;
       if (reach >= 4 && (shown.piece->id < other || !layout.findPiece(other)))
-        surface_.circle(at, radius * 0.6, colors::kJoinedEnd, {});
+        surface_.circle(at, radius * 0.6, theme_.joinedEnd, {});
     }
   }
 }
@@ -350,13 +384,16 @@ std::vector<ArticlePlaces::Place> LayoutPainter::paintOnRings(const Layout& layo
       if (const PlacedPiece* piece = layout.findPiece(id);
           piece != nullptr && layout.pieceVisible(*piece) && !isLeftOut(id))
         if (const PieceDef* definition = definitionOf(*piece))
-          lowerEnds.push_back(
-              {piece, definition, PiecePainter(surface_, view_).shapeOf(*definition), {}, 0});
+          lowerEnds.push_back({piece,
+                               definition,
+                               PiecePainter(surface_, view_, theme_).shapeOf(*definition),
+                               {},
+                               0});
     if (lowerEnds.empty())
       continue;
     if (options_.labels)
       paintJoinDots(layout, lowerEnds);
-    std::ranges::move(paintHelixTexts({surface_, part_, view_, layout}, ring),
+    std::ranges::move(paintHelixTexts({surface_, part_, view_, layout, theme_}, ring),
                       std::back_inserter(texts));
   }
   return texts;
@@ -376,12 +413,13 @@ void LayoutPainter::paintTexts(const Layout& layout, const PlanIndex& index,
     other.at = {other.at.x - origin.x, other.at.y - origin.y};
   articles.follow(layout, index, view_.zoom(), options_.leftOut);
   if (options_.grades) {
-    grades.follow(surface_, {layout, index, rings, options_.leftOut, options_.crossings, others},
+    grades.follow(surface_,
+                  {layout, index, rings, options_.leftOut, options_.crossings, others, theme_},
                   view_.zoom(), articles);
     std::vector<GradePainter::Track> track;
     for (const Visible& shown : pieces)
       track.push_back({shown.piece, shown.definition, shown.look.beneath});
-    GradePainter(surface_, view_, layout).paintColors(std::move(track), &grades);
+    GradePainter(surface_, view_, layout, theme_).paintColors(std::move(track), &grades);
     grades.paint(surface_, origin, part_);
   }
   if (!options_.labels)
@@ -395,7 +433,7 @@ void LayoutPainter::paintTexts(const Layout& layout, const PlanIndex& index,
         const PlacedPiece& piece = layout.pieces()[position];
         surface_.text(index.definition(position)->article,
                       {place.at.x + origin.x, place.at.y + origin.y}, place.angle,
-                      articleStyle(isOtherLevel(layout, piece.level)));
+                      articleStyle(theme_, isOtherLevel(layout, piece.level)));
       });
 }
 
@@ -411,10 +449,10 @@ void LayoutPainter::paintSelection(const Layout& layout, const PlanIndex& index)
   std::vector<PiecePainter::Piece> pieces;
   for (const Visible& shown : track)
     pieces.push_back({shown.shape, poseOf(*shown.piece), shown.look});
-  PiecePainter(surface_, view_).paintAccents(pieces);
+  PiecePainter(surface_, view_, theme_).paintAccents(pieces);
   if (options_.labels)
     paintJoinDots(layout, track);
-  const PictureSite site{surface_, part_, view_, layout};
+  const PictureSite site{surface_, part_, view_, layout, theme_};
   for (const Tunnel& tunnel : layout.content().tunnels)
     paintSelected(site, tunnel);
   forEachSelectable(layout.content(), [&](const auto& records) {

@@ -3,6 +3,7 @@
 #include "document/layout.h"
 #include "editing/canvas/article_places.h"
 #include "editing/canvas/piece_painter.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/surface.h"
 #include "editing/canvas/view_transform.h"
 #include "editing/selection/plan_index.h"
@@ -31,6 +32,7 @@ struct PaintOptions {
   ArticlePlaces* articles = nullptr;        ///< kept between pictures of a plan
   GradePlaces* gradePlaces = nullptr;       ///< likewise
   bool selection = true;                    ///< what is selected looks selected
+  const PlanTheme* theme = &screenTheme();
 };
 
 /// Draws a plan on any surface: screen, printer, image or a recording. Knows nothing of windows or
@@ -60,8 +62,7 @@ class LayoutPainter {
                                     std::span<const std::size_t> positions);
   bool isLeftOut(std::int32_t piece) const;
   void paintUnknown(const PlacedPiece& piece);
-  std::vector<const SceneryItem*> visibleScenery(const Layout& layout) const;
-  void paintSceneryItem(const Layout& layout, const SceneryItem& item, bool beneath);
+  class SceneryOfLevels;
   void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);
   /// What lies on the rings of helices; returns the places of its texts, px.
   std::vector<ArticlePlaces::Place> paintOnRings(const Layout& layout, const HelixRings& rings);
@@ -76,6 +77,7 @@ class LayoutPainter {
   Box part_; ///< px
   const ViewTransform& view_;
   PaintOptions options_;
+  const PlanTheme& theme_;
 };
 
 } // namespace trassix

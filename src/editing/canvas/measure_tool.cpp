@@ -1,7 +1,7 @@
 #include "editing/canvas/measure_tool.h"
 
 #include "document/plan_content.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/record_pictures.h"
 #include "editing/scenery/annotations.h"
 #include "texts/texts.h"
@@ -85,8 +85,8 @@ void MeasureTool::cancel() {
 
 void MeasureTool::paint(Surface& surface) const {
   if (from_)
-    paintTape(surface, site_.view, *from_, to_, site_.layout().settings().units, false);
-  surface.circle(site_.view.toScreen(to_), 4, {}, Stroke{plan_colors::kMeasure, 1.5});
+    paintTape({surface, {}, site_.view, site_.layout(), site_.theme()}, *from_, to_, false);
+  surface.circle(site_.view.toScreen(to_), 4, {}, Stroke{site_.theme().measure, 1.5});
 }
 
 std::string MeasureTool::hint() const {

@@ -1,6 +1,6 @@
 #include "editing/canvas/meetings.h"
 
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/joining/joining.h"
 #include "texts/texts.h"
 
@@ -8,12 +8,11 @@
 
 namespace trassix {
 
-void paintMeetings(Surface& surface, const ViewTransform& view,
+void paintMeetings(Surface& surface, const ViewTransform& view, const PlanTheme& theme,
                    std::span<const EndContact> meetings) {
   for (const EndContact& meeting : meetings)
     if (meetsInHeight(meeting))
-      surface.circle(view.toScreen(meeting.target.at), 6, plan_colors::kSnapped,
-                     Stroke{plan_colors::kPaper, 2});
+      surface.circle(view.toScreen(meeting.target.at), 6, theme.snapped, Stroke{theme.paper, 2});
 }
 
 std::size_t joiningEnds(std::span<const EndContact> meetings) {

@@ -11,7 +11,9 @@
 
 namespace trassix {
 
-void paintMeetings(Surface& surface, const ViewTransform& view,
+struct PlanTheme;
+
+void paintMeetings(Surface& surface, const ViewTransform& view, const PlanTheme& theme,
                    std::span<const EndContact> meetings);
 
 std::size_t joiningEnds(std::span<const EndContact> meetings);

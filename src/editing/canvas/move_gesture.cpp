@@ -3,7 +3,7 @@
 #include "editing/canvas/carried_painter.h"
 #include "editing/canvas/gesture.h"
 #include "editing/canvas/meetings.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/elevation/inheritance.h"
 #include "editing/selection/selection.h"
@@ -80,15 +80,15 @@ std::optional<CarriedBody> MoveGesture::body() const {
 }
 
 void MoveGesture::paintBody(Surface& surface) const {
-  CarriedPainter(surface, site_.view, site_.layout(), move_.snap().has_value())
+  CarriedPainter(surface, site_.view, site_.layout(), site_.theme(), move_.snap().has_value())
       .paintSelection(move_.motion());
 }
 
 void MoveGesture::paint(Surface& surface) const {
   if (turning_)
-    surface.circle(site_.view.toScreen(centre_), 4, plan_colors::kSelected,
-                   Stroke{plan_colors::kPaper, 1.5});
-  paintMeetings(surface, site_.view, move_.meetings(site_.snapIndex()));
+    surface.circle(site_.view.toScreen(centre_), 4, site_.theme().selected,
+                   Stroke{site_.theme().paper, 1.5});
+  paintMeetings(surface, site_.view, site_.theme(), move_.meetings(site_.snapIndex()));
 }
 
 std::string MoveGesture::hint() const {

@@ -1,6 +1,6 @@
 #include "editing/canvas/piece_painter.h"
 
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,22 +16,30 @@ constexpr double kRailsFromPx = 3.2; ///< distance between the rails from which 
 constexpr double kSleepersFromPx = 9.0;
 constexpr double kBeneathWidth = 0.7; ///< of what lies beneath, to what lies on top
 constexpr double kChordPx = 0.15;     ///< by which a chord may miss its curve
+constexpr double kDetailPx = 2;       ///< smaller details are left out
+// To the gauge.
+constexpr double kGirder = 0.1;
+constexpr double kShoulder = 0.25;
+constexpr double kBeam = 0.28;
 
 } // namespace
 
-PieceLook carriedLook(bool snapped) {
+PieceLook carriedLook(const PlanTheme& theme, bool snapped) {
   PieceLook look;
-  look.bed = snapped ? Rgba{150, 208, 172, 235} : Rgba{170, 198, 236, 215};
-  look.accent = snapped ? plan_colors::kSnapped : plan_colors::kSelected;
+  look.bed = snapped ? theme.snappedBed : theme.carriedBed;
+  look.accent = snapped ? theme.snapped : theme.selected;
   return look;
 }
 
-PiecePainter::PiecePainter(Surface& surface, const ViewTransform& view)
-    : surface_(surface), view_(view), tolerance_(kChordPx / (view.zoom() * surface.deviceScale())) {
-}
+PiecePainter::PiecePainter(Surface& surface, const ViewTransform& view, const PlanTheme& theme)
+    : surface_(surface), view_(view), theme_(theme),
+      tolerance_(kChordPx / (view.zoom() * surface.deviceScale())) {}
 
 PiecePainter::Shape PiecePainter::shapeOf(const PieceDef& definition) const {
-  return {trackGeometryOf(definition), trackLinesOf(definition, tolerance_)};
+  const TrackGeometry& geometry = trackGeometryOf(definition);
+  const bool close = geometry.gauge * kBeam * view_.zoom() >= kDetailPx;
+  return {geometry, trackLinesOf(definition, tolerance_),
+          close ? &trackDetailsOf(definition) : nullptr};
 }
 
 bool PiecePainter::fromAfar(const TrackGeometry& geometry) const {
@@ -101,13 +109,13 @@ void PiecePainter::paintBeds(std::span<const Piece> pieces) {
     if (fromAfar(piece.shape.geometry))
       return std::nullopt;
     const PieceLook& look = piece.look;
-    return Stroke{look.faded ? plan_colors::faded(plan_colors::kBedEdge) : plan_colors::kBedEdge,
-                  1.0, look.beneath ? Stroke::Style::Dashed : Stroke::Style::Solid};
+    return Stroke{look.faded ? theme_.faded(theme_.bedEdge) : theme_.bedEdge, 1.0,
+                  look.beneath ? Stroke::Style::Dashed : Stroke::Style::Solid};
   };
   const auto fillOf = [this](const Piece& piece) -> std::optional<Rgba> {
-    if (fromAfar(piece.shape.geometry))
+    if (fromAfar(piece.shape.geometry) || !theme_.fills)
       return std::nullopt;
-    Rgba fill = piece.look.faded ? plan_colors::faded(piece.look.bed) : piece.look.bed;
+    Rgba fill = piece.look.faded ? theme_.faded(piece.look.bed) : piece.look.bed;
     if (piece.look.beneath)
       fill.a = 90;
     return fill;
@@ -121,6 +129,22 @@ void PiecePainter::paintBeds(std::span<const Piece> pieces) {
       pieces, fillOf,
       [this](const Piece& piece) {
         for (const auto& outline : piece.shape.geometry.beds)
+          onPixels(outline, piece.pose, runs_.add(outline.size()));
+      },
+      [this](Rgba fill) { surface_.polygons(runs_, fill); });
+  together(
+      pieces,
+      [&](const Piece& piece) -> std::optional<Rgba> {
+        if (piece.shape.geometry.decks.empty() || !fillOf(piece))
+          return std::nullopt;
+        Rgba fill = opaque(theme_.bed);
+        if (piece.look.faded)
+          fill = theme_.faded(fill);
+        fill.a = fillOf(piece)->a;
+        return fill;
+      },
+      [this](const Piece& piece) {
+        for (const auto& outline : piece.shape.geometry.decks)
           onPixels(outline, piece.pose, runs_.add(outline.size()));
       },
       [this](Rgba fill) { surface_.polygons(runs_, fill); });
@@ -138,25 +162,26 @@ void PiecePainter::paintRails(std::span<const Piece> pieces) {
   const auto styleOf = [](const Piece& piece) {
     return piece.look.beneath ? Stroke::Style::Dashed : Stroke::Style::Solid;
   };
-  const auto shade = [](const Piece& piece, Rgba color) {
-    return piece.look.faded ? plan_colors::faded(color) : color;
+  const auto shade = [this](const Piece& piece, Rgba color) {
+    return piece.look.faded ? theme_.faded(color) : color;
   };
   const auto sleeperOf = [&](const Piece& piece) -> std::optional<Stroke> {
     const double gaugePx = piece.shape.geometry.gauge * zoom;
     if (!railsShow(piece) || !piece.look.sleepers || piece.look.beneath ||
         gaugePx < kSleepersFromPx)
       return std::nullopt;
-    return Stroke{shade(piece, plan_colors::kSleeper), std::max(1.0, gaugePx * 0.17)};
+    return Stroke{shade(piece, theme_.sleeper), std::max(1.0, gaugePx * 0.17)};
   };
+  paintDetails(pieces);
   const auto lineOf = [&](const Piece& piece) -> std::optional<Stroke> {
     const TrackGeometry& geometry = piece.shape.geometry;
     if (fromAfar(geometry))
       return Stroke{
-          piece.look.beneath ? plan_colors::kFarBeneath : shade(piece, plan_colors::kFarTrack),
+          piece.look.beneath ? theme_.farBeneath : shade(piece, theme_.farTrack),
           std::max(geometry.halfWidth * zoom * (piece.look.beneath ? kBeneathWidth : 1), 1.5),
           styleOf(piece)};
     const double width = railsShow(piece) ? std::max(geometry.gauge * zoom * 0.06, 1.0) : 1.0;
-    return Stroke{shade(piece, plan_colors::kRail), width, styleOf(piece)};
+    return Stroke{shade(piece, theme_.rail), width, styleOf(piece)};
   };
   const auto stroke = [this](const Stroke& line) { surface_.polylines(runs_, line); };
   together(
@@ -165,12 +190,61 @@ void PiecePainter::paintRails(std::span<const Piece> pieces) {
   together(
       pieces, lineOf,
       [&](const Piece& piece) {
-        const TrackLines& lines = piece.shape.lines;
-        addLines(railsShow(piece) && !fromAfar(piece.shape.geometry) ? lines.rails
-                                                                     : lines.centreLines,
-                 piece.pose);
+        const auto& [geometry, lines, details] = piece.shape;
+        if (!railsShow(piece) || fromAfar(geometry))
+          return addLines(lines.centreLines, piece.pose);
+        addLines(showsPoints(piece) ? details->rails : lines.rails, piece.pose);
+        if (showsPoints(piece))
+          addLines(details->fittings, piece.pose);
       },
       stroke);
+}
+
+bool PiecePainter::showsPoints(const Piece& piece) const {
+  return piece.shape.details != nullptr && !piece.shape.details->rails.empty() &&
+         piece.shape.geometry.gauge * kFlangeway * view_.zoom() >= kDetailPx;
+}
+
+void PiecePainter::paintDetails(std::span<const Piece> all) {
+  std::vector<Piece> pieces;
+  for (const Piece& piece : all)
+    if (piece.shape.details != nullptr && piece.shape.details->more())
+      pieces.push_back(piece);
+  const auto shade = [this](const Piece& piece, Rgba color) {
+    if (piece.look.faded)
+      color = theme_.faded(color);
+    if (piece.look.beneath)
+      color.a = 90;
+    return color;
+  };
+  const auto wide = [this](const Piece& piece, double gauges) {
+    return piece.shape.geometry.gauge * gauges * view_.zoom();
+  };
+  const auto stroke = [this](const Stroke& line) { surface_.polylines(runs_, line); };
+  together(
+      pieces,
+      [&](const Piece& piece) -> std::optional<Stroke> {
+        if (piece.shape.details->girders.empty() || wide(piece, kGirder) < 1)
+          return std::nullopt;
+        return Stroke{shade(piece, theme_.girder), std::min(wide(piece, kGirder), 4.0)};
+      },
+      [this](const Piece& piece) { addLines(piece.shape.details->girders, piece.pose); }, stroke);
+  together(
+      pieces,
+      [&](const Piece& piece) -> std::optional<Stroke> {
+        if (piece.shape.details->hachures.empty() || wide(piece, kShoulder) < kDetailPx)
+          return std::nullopt;
+        return Stroke{shade(piece, theme_.bedEdge), 1};
+      },
+      [this](const Piece& piece) { addPairs(piece.shape.details->hachures, piece.pose); }, stroke);
+  together(
+      pieces,
+      [&](const Piece& piece) -> std::optional<Stroke> {
+        if (piece.shape.details->beams.empty())
+          return std::nullopt;
+        return Stroke{shade(piece, opaque(theme_.material(Material::Red))), wide(piece, kBeam)};
+      },
+      [this](const Piece& piece) { addPairs(piece.shape.details->beams, piece.pose); }, stroke);
 }
 
 void PiecePainter::paintAccents(std::span<const Piece> pieces) {

@@ -12,6 +12,8 @@
 
 namespace trassix {
 
+struct PlanTheme;
+
 /// How one piece of track is to be drawn.
 struct PieceLook {
   Rgba bed;
@@ -23,18 +25,19 @@ struct PieceLook {
 };
 
 /// The look of a piece that is being carried, `snapped` when it would join something where it is.
-PieceLook carriedLook(bool snapped);
+PieceLook carriedLook(const PlanTheme& theme, bool snapped);
 
 /// Draws single pieces of track: as a line from afar, as bed and rails from nearer, with sleepers
 /// from close up. Keeps its room for points.
 class PiecePainter {
  public:
-  PiecePainter(Surface& surface, const ViewTransform& view);
+  PiecePainter(Surface& surface, const ViewTransform& view, const PlanTheme& theme);
 
   /// What is drawn of a piece at this scale.
   struct Shape {
     const TrackGeometry& geometry;
     const TrackLines& lines;
+    const TrackDetails* details; ///< null where they are too small
   };
   Shape shapeOf(const PieceDef& definition) const;
 
@@ -61,6 +64,9 @@ class PiecePainter {
   void toScreen(std::span<const Point> local, const Pose& pose, std::span<Point> px) const;
   /// The same on whole pixels of the display: beds that meet share their corners.
   void onPixels(std::span<const Point> local, const Pose& pose, std::span<Point> px) const;
+  /// Points of a turnout, girders, buffers.
+  void paintDetails(std::span<const Piece> pieces);
+  bool showsPoints(const Piece& piece) const;
   bool fromAfar(const TrackGeometry& geometry) const;
   void addLines(const std::vector<std::vector<Point>>& lines, const Pose& pose);
   void addPairs(const std::vector<Point>& ends, const Pose& pose);
@@ -71,6 +77,7 @@ class PiecePainter {
 
   Surface& surface_;
   const ViewTransform& view_;
+  const PlanTheme& theme_;
   double tolerance_; ///< mm, within which chords look like curves
   std::vector<Point> buffer_;
   PointRuns runs_;

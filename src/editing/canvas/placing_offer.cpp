@@ -43,10 +43,11 @@ void PlacingOffer::paint(Surface& surface) const {
   if (!end)
     return;
   const PieceDef& definition = *TrackCatalog::instance().find(offer_->article);
-  PieceLook look = carriedLook(true);
+  PieceLook look = carriedLook(site_.theme(), true);
   look.bed.a = 110;
   look.accent->a = 150;
-  PiecePainter(surface, site_.view).paint(definition, AttachPose(definition, at->own, *end), look);
+  PiecePainter(surface, site_.view, site_.theme())
+      .paint(definition, AttachPose(definition, at->own, *end), look);
 }
 
 std::string PlacingOffer::hint() const {

@@ -2,7 +2,7 @@
 
 #include "document/limits.h"
 #include "document/plan_content.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/levels/level_edits.h"
 #include "editing/scenery/annotations.h"
 #include "geometry/polygons.h"
@@ -140,12 +140,12 @@ void PolygonTool::paint(Surface& surface) const {
   if (fixed >= 2 && !bad)
     surface.polygon(px, Rgba{120, 170, 110, 70}, {});
   if (fixed >= 2)
-    surface.polyline(std::span(px).first(fixed), {plan_colors::kSelected, 1.5});
+    surface.polyline(std::span(px).first(fixed), {site_.theme().selected, 1.5});
   if (fixed >= 1)
     surface.polyline(std::span(px).last(2),
-                     {bad ? plan_colors::kOpenEnd : plan_colors::kSelected, 1.5});
+                     {bad ? site_.theme().openEnd : site_.theme().selected, 1.5});
   for (std::size_t i = 0; i < fixed; ++i)
-    surface.circle(px[i], 3.5, plan_colors::kPaper, Stroke{plan_colors::kSelected, 1.5});
+    surface.circle(px[i], 3.5, site_.theme().paper, Stroke{site_.theme().selected, 1.5});
 }
 
 std::string PolygonTool::hint() const {

@@ -4,7 +4,7 @@
 #include "catalog/scenery_catalog.h"
 #include "document/plan_content.h"
 #include "editing/canvas/halo.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/helix/helix_plan.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/picking.h"
@@ -19,17 +19,17 @@
 
 namespace trassix {
 
-namespace colors = plan_colors;
-
 namespace {
 
 constexpr double kStrokeReachPx = 4; ///< of the widest edge and its joins
 constexpr double kTapeReachPx = 60;  ///< of a tape's length, written beside it
 
-constexpr Stroke kSelectedEdge{colors::kSelected, 2.5};
+Stroke selectedEdge(const PictureSite& site) {
+  return {site.theme.selected, 2.5};
+}
 
-TextStyle nameStyle(const ViewTransform& view) {
-  return {colors::kLabel, labelTextSize(1 / view.zoom()) - 1, false};
+TextStyle nameStyle(const PictureSite& site) {
+  return {site.theme.label, labelTextSize(1 / site.view.zoom()) - 1, false};
 }
 
 /// More than half of what the text takes, without measuring it.
@@ -67,23 +67,24 @@ void paintRecord(const PictureSite& site, const Shape& shape) {
   if (shape.points.size() < 2)
     return;
   const std::vector<Point> px = site.view.toScreen(shape.points);
-  if (site.isBeside(px, longest(shape.label, nameStyle(site.view).size)))
+  if (site.isBeside(px, longest(shape.label, nameStyle(site).size)))
     return;
   const Rgba fill = opaque(shape.color, shape.a);
   const Stroke edge =
-      shape.sel && site.selection ? kSelectedEdge : Stroke{opaque(shape.color), 1.5};
-  site.surface.polygon(px, shape.outline ? std::nullopt : std::optional(fill), edge);
+      shape.sel && site.selection ? selectedEdge(site) : Stroke{opaque(shape.color), 1.5};
+  const bool bare = shape.outline || !site.theme.fills;
+  site.surface.polygon(px, bare ? std::nullopt : std::optional(fill), edge);
   if (shape.label.empty())
     return;
   Point middle;
   for (const Point& p : px)
     middle = {middle.x + p.x / static_cast<double>(px.size()),
               middle.y + p.y / static_cast<double>(px.size())};
-  site.surface.text(shape.label, middle, 0, nameStyle(site.view));
+  site.surface.text(shape.label, middle, 0, nameStyle(site));
 }
 
 void paintSelected(const PictureSite& site, const Shape& shape) {
-  site.surface.polygon(site.view.toScreen(shape.points), {}, kSelectedEdge);
+  site.surface.polygon(site.view.toScreen(shape.points), {}, selectedEdge(site));
 }
 
 void paintCarried(const PictureSite& site, const Shape& shape, const CarriedLook& look) {
@@ -101,10 +102,10 @@ void paintRecord(const PictureSite& site, const Helix& helix) {
   const double radius = helixRadius(site, helix);
   if (site.isBeside({&centre, 1}, radius + kStrokeReachPx) || isHidden(site.layout, helix.bottomR1))
     return;
-  site.surface.circle(centre, radius, Rgba{112, 104, 96, 30},
-                      Stroke{colors::kTunnel, 1.5, Stroke::Style::Dashed});
+  site.surface.circle(centre, radius, site.theme.hill,
+                      Stroke{site.theme.tunnel, 1.5, Stroke::Style::Dashed});
   if (const HelixKit* kit = findHelixKit(helix.variant); kit && !planOfHelix(site.layout, helix))
-    site.surface.text(kit->name, centre, 0, nameStyle(site.view));
+    site.surface.text(kit->name, centre, 0, nameStyle(site));
 }
 
 void paintCarried(const PictureSite& site, const Helix& helix, const CarriedLook& look) {
@@ -112,14 +113,51 @@ void paintCarried(const PictureSite& site, const Helix& helix, const CarriedLook
                       look.edge);
 }
 
-/// A soft hill.
+namespace {
+
+/// Strokes up the slope from its foot, long and short in turns.
+void paintHachures(const PictureSite& site, const std::vector<Point>& foot) {
+  constexpr double kApartPx = 9;
+  constexpr double kLongMm = 14;
+  const double longest = std::min(kLongMm * site.view.zoom(), 18.0);
+  if (longest < 4)
+    return;
+  double area = 0;
+  for (std::size_t i = 0; i < foot.size(); ++i) {
+    const Point a = foot[i];
+    const Point b = foot[(i + 1) % foot.size()];
+    area += a.x * b.y - b.x * a.y;
+  }
+  const double inwards = area > 0 ? 1 : -1;
+  std::vector<Point> strokes;
+  double next = kApartPx / 2;
+  int count = 0;
+  for (std::size_t i = 0; i < foot.size(); ++i) {
+    const Point a = foot[i];
+    const Point b = foot[(i + 1) % foot.size()];
+    const double length = std::hypot(b.x - a.x, b.y - a.y);
+    const Point along{(b.x - a.x) / length, (b.y - a.y) / length};
+    for (; next < length; next += kApartPx) {
+      const Point from{a.x + along.x * next, a.y + along.y * next};
+      const double reach = inwards * longest * (count++ % 2 == 0 ? 1 : 0.55);
+      strokes.insert(strokes.end(), {from, {from.x - along.y * reach, from.y + along.x * reach}});
+    }
+    next -= length;
+  }
+  site.surface.segments(strokes, {withAlpha(site.theme.tunnel, 150), 1});
+}
+
+} // namespace
+
+/// A hill with a soft slope.
 void paintRecord(const PictureSite& site, const Tunnel& tunnel) {
   if (isHidden(site.layout, tunnel.anchorA))
     return;
   const std::vector<Point> px = site.view.toScreen(hillOver(site.layout, tunnel));
   if (px.empty() || site.isBeside(px, kStrokeReachPx))
     return;
-  site.surface.polygon(px, Rgba{112, 104, 96, 40}, Stroke{colors::kTunnel, 1.5});
+  site.surface.polygon(px, site.theme.hill, Stroke{site.theme.tunnel, 1.5});
+  paintHachures(site, px);
   if (site.selection)
     paintSelected(site, tunnel);
 }
@@ -133,7 +171,7 @@ void paintSelected(const PictureSite& site, const Tunnel& tunnel) {
       !isSelected(site.layout, {RecordKind::Scenery, tunnel.portalB}))
     return;
   if (const std::vector<Point> px = site.view.toScreen(hillOver(site.layout, tunnel)); !px.empty())
-    site.surface.polygon(px, {}, kSelectedEdge);
+    site.surface.polygon(px, {}, selectedEdge(site));
 }
 
 void paintCarried(const PictureSite&, const Tunnel&, const CarriedLook&) {}
@@ -141,7 +179,8 @@ void paintCarried(const PictureSite&, const Tunnel&, const CarriedLook&) {}
 // Scenery and track
 
 void paintSelected(const PictureSite& site, const SceneryItem& item) {
-  site.surface.polygon(site.view.toScreen(sceneryOutline(site.layout, item)), {}, kSelectedEdge);
+  site.surface.polygon(site.view.toScreen(sceneryOutline(site.layout, item)), {},
+                       selectedEdge(site));
 }
 
 void paintCarried(const PictureSite& site, const SceneryItem& item, const CarriedLook& look) {
@@ -155,7 +194,7 @@ std::string nameOf(const Layout&, const SceneryItem& item) {
 
 void paintCarried(const PictureSite& site, const PlacedPiece& piece, const CarriedLook& look) {
   if (const PieceDef* definition = definitionOf(piece))
-    PiecePainter(site.surface, site.view).paint(*definition, poseOf(piece), look.track);
+    PiecePainter(site.surface, site.view, site.theme).paint(*definition, poseOf(piece), look.track);
 }
 
 std::string nameOf(const Layout&, const PlacedPiece& piece) {
@@ -169,16 +208,15 @@ std::string nameOf(const Layout&, const PlacedPiece& piece) {
 void paintRecord(const PictureSite& site, const Measurement& tape) {
   const std::array<Point, 2> ends{site.view.toScreen(tape.from), site.view.toScreen(tape.to)};
   if (!site.isBeside(ends, kTapeReachPx))
-    paintTape(site.surface, site.view, tape.from, tape.to, site.layout.settings().units,
-              tape.sel && site.selection);
+    paintTape(site, tape.from, tape.to, tape.sel && site.selection);
 }
 
 void paintSelected(const PictureSite& site, const Measurement& tape) {
-  paintTape(site.surface, site.view, tape.from, tape.to, site.layout.settings().units, true);
+  paintTape(site, tape.from, tape.to, true);
 }
 
 void paintCarried(const PictureSite& site, const Measurement& tape, const CarriedLook&) {
-  paintTape(site.surface, site.view, tape.from, tape.to, site.layout.settings().units, true);
+  paintTape(site, tape.from, tape.to, true);
 }
 
 std::string nameOf(const Layout& layout, const Measurement& tape) {
@@ -191,7 +229,7 @@ std::string nameOf(const Layout& layout, const Measurement& tape) {
 namespace {
 
 TextStyle labelStyle(const PictureSite& site) {
-  return {colors::kLabel, labelTextSize(1 / site.view.zoom()), true};
+  return {site.theme.label, labelTextSize(1 / site.view.zoom()), true};
 }
 
 std::array<Point, 4> labelFrame(const PictureSite& site, const Label& label) {
@@ -209,14 +247,14 @@ void paintRecord(const PictureSite& site, const Label& label) {
   const TextStyle style = labelStyle(site);
   if (site.isBeside({&at, 1}, longest(label.text, style.size)))
     return;
-  site.surface.polygon(labelFrame(site, label), Rgba{255, 255, 255, 215},
-                       label.sel && site.selection ? Stroke{colors::kSelected, 2}
-                                                   : Stroke{colors::kBedEdge, 1});
+  site.surface.polygon(labelFrame(site, label), site.theme.plate,
+                       label.sel && site.selection ? Stroke{site.theme.selected, 2}
+                                                   : Stroke{site.theme.bedEdge, 1});
   site.surface.text(label.text, at, 0, style);
 }
 
 void paintSelected(const PictureSite& site, const Label& label) {
-  site.surface.polygon(labelFrame(site, label), {}, Stroke{colors::kSelected, 2});
+  site.surface.polygon(labelFrame(site, label), {}, Stroke{site.theme.selected, 2});
 }
 
 void paintCarried(const PictureSite& site, const Label& label, const CarriedLook& look) {
@@ -228,8 +266,8 @@ std::string nameOf(const Layout&, const Label& label) {
   return label.text;
 }
 
-TextStyle articleStyle(bool faded) {
-  return {faded ? colors::kFarArticle : colors::kArticle, 10.5, false};
+TextStyle articleStyle(const PlanTheme& theme, bool faded) {
+  return {faded ? theme.farArticle : theme.article, 10.5, false};
 }
 
 double uprightAngle(double heading) {
@@ -241,11 +279,10 @@ double uprightAngle(double heading) {
   return degrees;
 }
 
-void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to,
-               std::int32_t units, bool selected) {
-  const Point a = view.toScreen(from);
-  const Point b = view.toScreen(to);
-  const Rgba color = selected ? colors::kSelected : colors::kMeasure;
+void paintTape(const PictureSite& site, Point from, Point to, bool selected) {
+  const Point a = site.view.toScreen(from);
+  const Point b = site.view.toScreen(to);
+  const Rgba color = selected ? site.theme.selected : site.theme.measure;
   const double length = std::hypot(b.x - a.x, b.y - a.y);
   const Point along = length > 0 ? Point{(b.x - a.x) / length, (b.y - a.y) / length} : Point{1, 0};
   const Point tick{-along.y * 6, along.x * 6};
@@ -255,14 +292,15 @@ void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to
                                     {a.x + tick.x, a.y + tick.y},
                                     {b.x - tick.x, b.y - tick.y},
                                     {b.x + tick.x, b.y + tick.y}}};
-  paintLinesWithHalo(surface, lines, {color, 1.5});
-  const std::string text = formatLength(std::hypot(to.x - from.x, to.y - from.y), units);
+  paintLinesWithHalo(site.surface, lines, {color, 1.5}, site.theme.paper);
+  const std::string text =
+      formatLength(std::hypot(to.x - from.x, to.y - from.y), site.layout.settings().units);
   const TextStyle style{color, 12, true};
   const double angle = uprightAngle(std::atan2(along.y, along.x) * 180 / kPi);
   const double up = toRadians(angle - 90);
-  paintTextWithHalo(surface, text,
+  paintTextWithHalo(site.surface, text,
                     {(a.x + b.x) / 2 + std::cos(up) * 11, (a.y + b.y) / 2 + std::sin(up) * 11},
-                    angle, style);
+                    angle, style, site.theme.paper);
 }
 
 } // namespace trassix

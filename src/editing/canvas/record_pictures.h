@@ -4,6 +4,7 @@
 
 #include "document/layout.h"
 #include "editing/canvas/piece_painter.h"
+#include "editing/canvas/plan_theme.h"
 
 #include <span>
 #include <string>
@@ -16,6 +17,7 @@ struct PictureSite {
   Box part; ///< px, of what is drawn
   const ViewTransform& view;
   const Layout& layout;
+  const PlanTheme& theme;
   bool selection = true; ///< what is selected looks selected
 
   /// True when nothing within `reach` px of the points' box is drawn.
@@ -59,11 +61,10 @@ std::string nameOf(const Layout& layout, const Measurement& tape);
 std::string nameOf(const Layout& layout, const Label& label);
 
 /// Draws a tape between two points with its length.
-void paintTape(Surface& surface, const ViewTransform& view, Point from, Point to,
-               std::int32_t units, bool selected);
+void paintTape(const PictureSite& site, Point from, Point to, bool selected);
 
 /// Of the articles beside track, of this level or another.
-TextStyle articleStyle(bool faded);
+TextStyle articleStyle(const PlanTheme& theme, bool faded);
 
 /// The heading of a text along a line, so that it can be read; degrees.
 double uprightAngle(double heading);

@@ -1,5 +1,5 @@
 #include "editing/canvas/gesture.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/selection/picking.h"
 #include "texts/texts.h"
 
@@ -30,11 +30,11 @@ void RubberBandGesture::paint(Surface& surface) const {
   const Point a = site_.view.toScreen(from_.world);
   const Point b = site_.view.toScreen(to_.world);
   const std::array<Point, 4> box{{{a.x, a.y}, {b.x, a.y}, {b.x, b.y}, {a.x, b.y}}};
-  Rgba fill = plan_colors::kSelected;
+  Rgba fill = site_.theme().selected;
   fill.a = encloses() ? 36 : 18;
   surface.polygon(
       box, fill,
-      Stroke{plan_colors::kSelected, 1, encloses() ? Stroke::Style::Solid : Stroke::Style::Dashed});
+      Stroke{site_.theme().selected, 1, encloses() ? Stroke::Style::Solid : Stroke::Style::Dashed});
 }
 
 std::string RubberBandGesture::hint() const {

@@ -4,7 +4,7 @@
 #include "document/plan_content.h"
 #include "editing/canvas/helix_command.h"
 #include "editing/canvas/hover.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/canvas/selection_menu.h"
 #include "editing/canvas/tunnel_command.h"
@@ -34,8 +34,8 @@ void paintEnd(Surface& surface, const ToolSite& site, TrackEnd end, bool chosen)
     return;
   const Point px = site.view.toScreen({at->x, at->y});
   const double radius = std::max(5.0, endReach(*definition, site.mm(1)) * site.view.zoom());
-  surface.circle(px, radius, chosen ? plan_colors::kSelected : plan_colors::kPaper,
-                 Stroke{chosen ? plan_colors::kPaper : plan_colors::kHover, 2});
+  surface.circle(px, radius, chosen ? site.theme().selected : site.theme().paper,
+                 Stroke{chosen ? site.theme().paper : site.theme().hover, 2});
   if (!chosen)
     return;
   // An arrow the way the track will lead.
@@ -46,7 +46,7 @@ void paintEnd(Surface& surface, const ToolSite& site, TrackEnd end, bool chosen)
                  px.y + along.y * forward + along.x * aside};
   };
   const std::array<Point, 3> head{spot(radius + 12, 0), spot(radius + 3, -5), spot(radius + 3, 5)};
-  surface.polygon(head, plan_colors::kSelected, Stroke{plan_colors::kPaper, 1});
+  surface.polygon(head, site.theme().selected, Stroke{site.theme().paper, 1});
 }
 
 std::string lockedByTunnel() {

@@ -25,6 +25,10 @@ inline Rgba opaque(Color color, std::uint8_t a = 255) {
   return {color.r, color.g, color.b, a};
 }
 
+constexpr Rgba withAlpha(Rgba color, std::uint8_t a) {
+  return {color.r, color.g, color.b, a};
+}
+
 struct Stroke {
   enum class Style : std::uint8_t { Solid, Dashed, Dotted };
 

@@ -385,9 +385,9 @@ void HeightProfile::switchesChanged() {
   repaint();
 }
 
-void HeightProfile::paint(Surface& surface) {
+void HeightProfile::paint(Surface& surface, const PlanTheme& theme) {
   ProfilePicture picture{workspace_.layout(), content_, shownWay(), view_.scale(),
-                         view_.size(),        knees_,   handles()};
+                         view_.size(),        theme,    knees_,     handles()};
   picture.plan = drag_ ? &drag_->plan : nullptr;
   picture.pointedJoint = drag_ ? pulled_ : pointed_;
   picture.chosenJoint = focused_ ? chosen_ : std::nullopt;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "editing/canvas/canvas_input.h"
-#include "editing/canvas/surface.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/elevation/propagation.h"
 #include "editing/profile/profile_content.h"
 #include "editing/profile/profile_handles.h"
@@ -62,7 +62,7 @@ class HeightProfile {
   /// Why it is refused; empty when it is done.
   std::string enter(std::string_view text);
 
-  void paint(Surface& surface);
+  void paint(Surface& surface, const PlanTheme& theme = screenTheme());
   std::string hint() const;
   std::string summary() const;
   CursorShape cursor() const;

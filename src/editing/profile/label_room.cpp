@@ -19,7 +19,7 @@ void LabelRoom::paint(std::string_view text, std::initializer_list<Point> places
     if (!inside || !taken_.isFree(at, box, degrees))
       continue;
     taken_.take(at, box, degrees);
-    return paintTextWithHalo(surface_, text, at, degrees, style);
+    return paintTextWithHalo(surface_, text, at, degrees, style, ground_);
   }
 }
 

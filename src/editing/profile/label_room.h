@@ -12,8 +12,8 @@ namespace trassix {
 class LabelRoom {
  public:
   /// Texts stay between the corners.
-  LabelRoom(Surface& surface, SizePx size, Point low, Point high)
-      : surface_(surface), taken_(size), low_(low), high_(high) {}
+  LabelRoom(Surface& surface, SizePx size, Point low, Point high, Rgba ground)
+      : surface_(surface), ground_(ground), taken_(size), low_(low), high_(high) {}
 
   /// No text comes there.
   void block(Point centre, double reach) { taken_.take(centre, {2 * reach, 2 * reach}, 0); }
@@ -26,6 +26,7 @@ class LabelRoom {
 
  private:
   Surface& surface_;
+  Rgba ground_;
   Occupancy taken_;
   Point low_;
   Point high_;

@@ -1,7 +1,7 @@
 #include "editing/profile/profile_marks.h"
 
 #include "document/layout.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/elevation/grades.h"
 #include "editing/profile/profile_painter.h"
 #include "measures/measure_format.h"
@@ -15,7 +15,6 @@ namespace trassix {
 
 namespace {
 
-namespace colors = plan_colors;
 using Kind = ProfileMark::Kind;
 
 constexpr double kMarkRowPx = 11; ///< from the plot's lower edge to the middle of the marks
@@ -41,22 +40,23 @@ std::vector<Point> alongTrack(const ProfilePicture& picture, const ProfileMark& 
   return points;
 }
 
-void paintHill(Surface& surface, std::vector<Point> track) {
+void paintHill(Surface& surface, const PlanTheme& theme, const std::vector<Point>& track) {
   std::vector<Point> hill = track;
   for (auto point = track.rbegin(); point != track.rend(); ++point)
     hill.push_back({point->x, point->y - kHillPx});
-  surface.polygon(hill, opaque({112, 104, 96}, 60), Stroke{colors::kTunnel, 1});
+  surface.polygon(hill, withAlpha(theme.hill, 60), Stroke{theme.tunnel, 1});
 }
 
-void paintBridge(Surface& surface, const std::vector<Point>& track, double ground) {
+void paintBridge(Surface& surface, const PlanTheme& theme, const std::vector<Point>& track,
+                 double ground) {
   std::vector<Point> deck = track;
   for (auto point = track.rbegin(); point != track.rend(); ++point)
     deck.push_back({point->x, point->y + 5});
-  surface.polygon(deck, opaque(colors::kBridgeBed), Stroke{colors::kBedEdge, 1});
+  surface.polygon(deck, opaque(theme.bridgeBed), Stroke{theme.bedEdge, 1});
   std::vector<Point> piers;
   for (const Point end : {track.front(), track.back()})
     piers.insert(piers.end(), {{end.x, end.y + 5}, {end.x, std::max(end.y + 5, ground)}});
-  surface.segments(piers, {colors::kBedEdge, 1.5});
+  surface.segments(piers, {theme.bedEdge, 1.5});
 }
 
 struct SectionInView {
@@ -77,15 +77,15 @@ std::vector<SectionInView> sectionsInView(const ProfilePicture& picture) {
     const Point at = plot.toScreen(known.along, height);
     const double own = heightAt(picture.way, picture.content, known.along);
     if (at.x >= plot.low.x && at.x <= plot.high.x)
-      sections.push_back(
-          {plot.toScreen(known.along, own), at, crossing.clearance,
-           crossing.tooLow() ? colors::gradeColor(GradeBand::Steep) : colors::kJoinedEnd});
+      sections.push_back({plot.toScreen(known.along, own), at, crossing.clearance,
+                          crossing.tooLow() ? picture.theme.gradeColor(GradeBand::Steep)
+                                            : picture.theme.joinedEnd});
   }
   return sections;
 }
 
 /// Bed and rails as a saw would show them.
-void paintSection(Surface& surface, Point rails, Rgba color) {
+void paintSection(Surface& surface, const PlanTheme& theme, Point rails, Rgba color) {
   const auto box = [&](double left, double top, double right, double bottom, Rgba fill) {
     const std::array<Point, 4> corners{{{rails.x + left, rails.y + top},
                                         {rails.x + right, rails.y + top},
@@ -93,10 +93,10 @@ void paintSection(Surface& surface, Point rails, Rgba color) {
                                         {rails.x + left, rails.y + bottom}}};
     surface.polygon(corners, fill, {});
   };
-  box(-9, 2, 9, 5, opaque(colors::kBed));
+  box(-9, 2, 9, 5, opaque(theme.bed));
   box(-9, 5, 9, 6, color);
-  box(-6, -2, -4, 2, colors::kRail);
-  box(4, -2, 6, 2, colors::kRail);
+  box(-6, -2, -4, 2, theme.rail);
+  box(4, -2, 6, 2, theme.rail);
 }
 
 } // namespace
@@ -116,11 +116,11 @@ void paintRanges(Surface& surface, const ProfilePicture& picture) {
     if (track.size() < 2)
       continue;
     if (mark.kind == Kind::Tunnel)
-      paintHill(surface, track);
+      paintHill(surface, picture.theme, track);
     else if (mark.kind == Kind::Bridge)
-      paintBridge(surface, track, picture.plot.high.y);
+      paintBridge(surface, picture.theme, track, picture.plot.high.y);
     else if (mark.kind == Kind::Helix)
-      surface.polyline(track, {opaque({112, 104, 96}, 70), 12});
+      surface.polyline(track, {withAlpha(picture.theme.tunnel, 70), 12});
   }
 }
 
@@ -133,8 +133,8 @@ void paintMarks(Surface& surface, const ProfilePicture& picture) {
     if (at.x < picture.plot.low.x || at.x > picture.plot.high.x || at.x - before < 6)
       continue;
     before = at.x;
-    const Rgba color = mark.branches ? colors::kSelected : colors::kRuler;
-    surface.circle(at, kMarkRadiusPx, mark.branches ? colors::kPaper : colors::kBoard,
+    const Rgba color = mark.branches ? picture.theme.selected : picture.theme.ruler;
+    surface.circle(at, kMarkRadiusPx, mark.branches ? picture.theme.paper : picture.theme.board,
                    Stroke{color, mark.branches ? 1.5 : 1.0});
     std::vector<Point> lines;
     if (mark.kind == Kind::Turnout)
@@ -152,7 +152,7 @@ void paintCrossings(Surface& surface, const ProfilePicture& picture) {
     surface.segments(std::array{section.own, section.other},
                      {section.color, 1.5, Stroke::Style::Dotted});
     if (picture.plot.holds(section.other))
-      paintSection(surface, section.other, section.color);
+      paintSection(surface, picture.theme, section.other, section.color);
   }
 }
 

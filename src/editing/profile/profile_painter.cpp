@@ -2,7 +2,7 @@
 
 #include "document/layout.h"
 #include "editing/canvas/grid_steps.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/elevation/way_handles.h"
 #include "editing/profile/label_room.h"
 #include "editing/profile/profile_marks.h"
@@ -18,15 +18,10 @@ namespace trassix {
 
 namespace {
 
-namespace colors = plan_colors;
-
 constexpr double kTextPx = 11;
 constexpr double kAxisRowPx = 34;
 constexpr double kHandlePx = 3.2;
 constexpr double kKneePx = 5;
-constexpr TextStyle kAxisText{colors::kRuler, kTextPx};
-constexpr Rgba kAxisLine{60, 80, 110, 30};
-constexpr Rgba kLevelLine{84, 94, 108, 130};
 
 std::string number(double mm, std::int32_t units) {
   std::string text = formatBriefLength(mm, units);
@@ -38,7 +33,8 @@ class Painter {
   Painter(Surface& surface, const ProfilePicture& picture)
       : surface_(surface), picture_(picture), plot_(picture.plot), content_(picture.content),
         units_(picture.layout.settings().units),
-        labels_(surface, picture.size, plot_.low, {plot_.high.x, plot_.high.y + kAxisRowPx / 2}) {}
+        labels_(surface, picture.size, plot_.low, {plot_.high.x, plot_.high.y + kAxisRowPx / 2},
+                picture.theme.paper) {}
 
   void paint() {
     paintGround();
@@ -72,7 +68,7 @@ class Painter {
                                     {picture_.size.width, 0},
                                     {picture_.size.width, picture_.size.height},
                                     {0, picture_.size.height}}};
-    surface_.polygon(all, colors::kBoard, {});
+    surface_.polygon(all, theme_.board, {});
     const std::size_t at = content_.stretchOf(picture_.pointedPiece);
     if (at == content_.way.stretches.size())
       return;
@@ -85,7 +81,7 @@ class Painter {
   }
 
   void paintInvitation() {
-    const TextStyle style{colors::kRuler, kTextPx + 1};
+    const TextStyle style{theme_.ruler, kTextPx + 1};
     const Point middle{picture_.size.width / 2, picture_.size.height / 2};
     surface_.text(tr("Select a piece of track to see the heights along its way"), middle, 0, style);
   }
@@ -94,7 +90,7 @@ class Painter {
     const double right = picture_.size.width - 1;
     const double low = picture_.size.height - 1;
     const std::array<Point, 4> frame{{{1, 1}, {right, 1}, {right, low}, {1, low}}};
-    surface_.polygon(frame, {}, Stroke{colors::kSelected, 1});
+    surface_.polygon(frame, {}, Stroke{theme_.selected, 1});
   }
 
   void paintAxes() {
@@ -105,17 +101,17 @@ class Painter {
       const double y = plot_.toScreen(0, height).y;
       lines.insert(lines.end(), {{plot_.low.x, y}, {plot_.high.x, y}});
       const std::string text = number(height, units_);
-      const double width = surface_.textSize(text, kAxisText).width;
-      surface_.text(text, {plot_.low.x - 6 - width / 2, y}, 0, kAxisText);
+      const double width = surface_.textSize(text, axisText_).width;
+      surface_.text(text, {plot_.low.x - 6 - width / 2, y}, 0, axisText_);
     }
     const double step = gridSteps(plot_.perMm, units_, 84).fine;
     const double last = std::min(plot_.alongAt(plot_.high.x), content_.length());
     for (double along = std::ceil(plot_.from / step) * step; along <= last; along += step) {
       const double x = plot_.toScreen(along, 0).x;
       lines.insert(lines.end(), {{x, plot_.low.y}, {x, plot_.high.y}});
-      surface_.text(formatBriefLength(along, units_), {x, plot_.high.y + kAxisRowPx}, 0, kAxisText);
+      surface_.text(formatBriefLength(along, units_), {x, plot_.high.y + kAxisRowPx}, 0, axisText_);
     }
-    surface_.segments(lines, {kAxisLine, 1});
+    surface_.segments(lines, {theme_.gridFine, 1});
   }
 
   void paintLevels() {
@@ -124,21 +120,21 @@ class Painter {
       if (!inView(y))
         continue;
       const std::array<Point, 2> line{{{plot_.low.x, y}, {plot_.high.x, y}}};
-      surface_.polyline(line, {kLevelLine, 1, Stroke::Style::Dashed});
+      surface_.polyline(line, {levelLine_, 1, Stroke::Style::Dashed});
     }
   }
 
   void paintNamesOfLevels() {
     for (const Level& level : picture_.layout.settings().levels) {
       const double y = plot_.toScreen(0, level.height).y;
-      const double half = labels_.widthOf(level.name, kAxisText) / 2 + 4;
+      const double half = labels_.widthOf(level.name, axisText_) / 2 + 4;
       const Point left{plot_.low.x + half, y - 8};
       const Point right{plot_.high.x - half, y - 8};
       if (inView(y))
         labels_.paint(
             level.name,
             {right, left, {right.x, y + 8}, {left.x, y + 8}, {(left.x + right.x) / 2, y - 8}},
-            kAxisText);
+            axisText_);
     }
   }
 
@@ -151,14 +147,14 @@ class Painter {
       const Point to = plot_.toScreen(content_.along[i + 1], stretches[i].to);
       if (to.x < plot_.low.x || from.x > plot_.high.x)
         continue;
-      const Rgba color = colors::gradeColor(gradeBand(stretches[i].slope()));
+      const Rgba color = theme_.gradeColor(gradeBand(stretches[i].slope()));
       if (line.empty())
         line.push_back(clipped(from, to, from));
       line.push_back(clipped(from, to, to));
       if (gradeBand(stretches[i].slope()) == GradeBand::TooSteep)
         hatch(from, to);
       const bool ends = i + 1 == stretches.size() || to.x > plot_.high.x ||
-                        colors::gradeColor(gradeBand(stretches[i + 1].slope())) != color;
+                        theme_.gradeColor(gradeBand(stretches[i + 1].slope())) != color;
       if (!ends)
         continue;
       surface_.polyline(line, {color, 3});
@@ -178,7 +174,7 @@ class Painter {
       const double y = from.y + (to.y - from.y) * (x - from.x) / (to.x - from.x);
       strokes.insert(strokes.end(), {{x - 2, y + 6}, {x + 2, y - 6}});
     }
-    surface_.segments(strokes, {colors::gradeColor(GradeBand::TooSteep), 1});
+    surface_.segments(strokes, {theme_.gradeColor(GradeBand::TooSteep), 1});
   }
 
   /// Grade and length between knees, along the track.
@@ -203,7 +199,7 @@ class Painter {
     const double length = content_.along[last] - content_.along[first];
     const double slope = picture_.way.stretches[first].slope();
     const std::string grade = slopeText(slope);
-    const TextStyle style{colors::kArticle, kTextPx, true};
+    const TextStyle style{theme_.article, kTextPx, true};
     std::string text = grade + " \u00b7 " + formatLength(length, units_);
     if (labels_.widthOf(text, style) > room)
       text = grade;
@@ -229,9 +225,9 @@ class Painter {
       if (!inView(handle.px.y))
         continue;
       if (chosen)
-        surface_.circle(handle.px, radius + 4, {}, Stroke{colors::kSelected, 2});
-      surface_.circle(handle.px, radius, pointed || chosen ? colors::kSelected : colors::kPaper,
-                      Stroke{pointed || chosen ? colors::kPaper : colors::kRail, 1.5});
+        surface_.circle(handle.px, radius + 4, {}, Stroke{theme_.selected, 2});
+      surface_.circle(handle.px, radius, pointed || chosen ? theme_.selected : theme_.paper,
+                      Stroke{pointed || chosen ? theme_.paper : theme_.rail, 1.5});
     }
   }
 
@@ -254,20 +250,20 @@ class Painter {
       if (handle.knee)
         labels_.block(handle.px, kKneePx);
       if (inHand(handle))
-        paintHeight(handle, {colors::kSelected, kTextPx + 1, true});
+        paintHeight(handle, {theme_.selected, kTextPx + 1, true});
     }
   }
   void paintHeightsOfKnees() {
     for (const ProfileHandle& handle : picture_.handles)
       if (handle.knee && !inHand(handle))
-        paintHeight(handle, {colors::kRuler, kTextPx});
+        paintHeight(handle, {theme_.ruler, kTextPx});
   }
 
   void paintProblem() {
     if (picture_.problem.empty())
       return;
     constexpr double kLinePx = kTextPx + 4;
-    const Rgba red = colors::gradeColor(GradeBand::Steep);
+    const Rgba red = theme_.gradeColor(GradeBand::Steep);
     const TextStyle style{red, kTextPx, true};
     const std::vector<std::string> lines =
         wrapped(surface_, picture_.problem, style, plot_.width() - 20);
@@ -280,7 +276,7 @@ class Painter {
                                       {middle + half, plot_.low.y},
                                       {middle + half, bottom},
                                       {middle - half, bottom}}};
-    surface_.polygon(plate, colors::kPaper, Stroke{red, 1});
+    surface_.polygon(plate, theme_.paper, Stroke{red, 1});
     double y = plot_.low.y + kLinePx / 2 + 1;
     for (const std::string& line : lines) {
       labels_.paint(line, {{middle, y}}, style);
@@ -290,6 +286,9 @@ class Painter {
 
   Surface& surface_;
   const ProfilePicture& picture_;
+  const PlanTheme& theme_ = picture_.theme;
+  const TextStyle axisText_{theme_.ruler, kTextPx};
+  const Rgba levelLine_ = withAlpha(theme_.ruler, 130);
   const ProfileScale& plot_;
   const ProfileContent& content_;
   std::int32_t units_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editing/canvas/surface.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/profile/profile_handles.h"
 
 #include <cstddef>
@@ -18,6 +18,7 @@ struct ProfilePicture {
   const TrainWay& way; ///< as it is shown; as long as the content's
   ProfileScale plot;
   SizePx size;
+  const PlanTheme& theme;
   std::vector<std::size_t> knees;
   std::vector<ProfileHandle> handles;
   const HeightPlan* plan = nullptr; ///< what is being done, if anything

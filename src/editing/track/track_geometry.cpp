@@ -160,6 +160,12 @@ TrackLines turntableLines(const PieceDef& definition) {
   lines.rails.push_back({{-reach, half}, {reach, half}});
   lines.rails.push_back(
       {{-reach, -edge}, {reach, -edge}, {reach, edge}, {-reach, edge}, {-reach, -edge}});
+  std::vector<Point> ring; // on which the bridge rolls
+  for (int i = 0; i <= kPitPoints; ++i) {
+    const double t = 2 * kPi * i / kPitPoints;
+    ring.push_back({reach * 0.94 * std::cos(t), reach * 0.94 * std::sin(t)});
+  }
+  lines.edges.push_back(std::move(ring));
   for (const Connector& end : definition.connectors) {
     const Pose at{end.x, end.y, end.heading};
     for (const double side : {-half, half})
@@ -179,6 +185,14 @@ void drawTurntable(TrackGeometry& geometry, const PieceDef& definition) {
     geometry.sleepers.push_back({x, geometry.gauge * kSleeperLength / 2});
   }
   geometry.mainLength = 2 * definition.radius;
+  const double edge = geometry.halfWidth;
+  geometry.decks.push_back({{-reach, -edge}, {reach, -edge}, {reach, edge}, {-reach, edge}});
+  // The cabin beside it.
+  const double near = edge;
+  const double far = edge + geometry.gauge;
+  const double from = reach * 0.55;
+  const double to = from + 2 * geometry.gauge;
+  geometry.decks.push_back({{from, near}, {to, near}, {to, far}, {from, far}});
 }
 
 void enclose(TrackGeometry& geometry) {

@@ -20,6 +20,7 @@ struct TrackGeometry {
   std::vector<std::vector<Point>>
       beds;                    ///< closed outlines, one for each route, the pit of a turntable
   std::vector<Point> sleepers; ///< pairs of ends
+  std::vector<std::vector<Point>> decks; ///< closed outlines on the beds: the bridge of a turntable
   double halfWidth = 0;
   double gauge = 0;
   Point centre;            ///< of a circle that holds everything drawn
@@ -45,6 +46,26 @@ TrackLines deriveTrackLines(const PieceDef& definition, double tolerance);
 /// The lines of a catalogue definition, good enough for `tolerance` mm and kept for the life of the
 /// process, in few grades of fineness.
 const TrackLines& trackLinesOf(const PieceDef& definition, double tolerance);
+
+/// What is seen of a piece from close up only, in its frame, mm.
+struct TrackDetails {
+  std::vector<std::vector<Point>> rails;    ///< with blades and frogs; none for pieces with one way
+  std::vector<std::vector<Point>> fittings; ///< check rails, and the bars between blades
+  std::vector<std::vector<Point>> girders;  ///< at the sides of bridges
+  std::vector<Point> hachures;              ///< pairs: shoulders of ramps, seams of sets
+  std::vector<Point> beams;                 ///< pairs: of buffer stops
+
+  /// Whether there is anything beside rails.
+  bool more() const { return !girders.empty() || !hachures.empty() || !beams.empty(); }
+};
+
+TrackDetails deriveTrackDetails(const PieceDef& definition);
+
+/// Kept for the life of the process.
+const TrackDetails& trackDetailsOf(const PieceDef& definition);
+
+/// Room for the wheel beside a rail, between blade and frog, to the gauge.
+inline constexpr double kFlangeway = 0.12;
 
 /// The geometry of a catalogue definition, kept for the life of the process.
 const TrackGeometry& trackGeometryOf(const PieceDef& definition);

@@ -7,6 +7,7 @@
 #include "ui/canvas/level_switcher.h"
 #include "ui/canvas/toolkit_input.h"
 #include "ui/canvas/welcome.h"
+#include "ui/widgets/system_theme.h"
 
 #include <wx/dcbuffer.h>
 #include <wx/dcmemory.h>
@@ -54,6 +55,12 @@ CanvasPanel::CanvasPanel(wxWindow* parent, Workspace& workspace)
               wxWANTS_CHARS | wxFULL_REPAINT_ON_RESIZE, "canvas"),
       PlanObserver(workspace), canvas_(workspace) {
   SetBackgroundStyle(wxBG_STYLE_PAINT);
+  canvas_.setTheme(systemTheme());
+  Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
+    event.Skip();
+    canvas_.setTheme(systemTheme());
+    Refresh(false);
+  });
   Bind(wxEVT_PAINT, &CanvasPanel::onPaint, this);
   for (const auto& type :
        {wxEVT_LEFT_DOWN, wxEVT_LEFT_UP, wxEVT_LEFT_DCLICK, wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_UP,

@@ -3,7 +3,7 @@
 #include "document/layout.h"
 #include "editing/canvas/canvas_tool.h"
 #include "editing/canvas/extent_surface.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 
 #include <wx/dcmemory.h>
 #include <wx/graphics.h>
@@ -111,7 +111,7 @@ void PlanPicture::renewShown() {
 
 void PlanPicture::drawScaled(wxDC& dc, const Layer& layer) const {
   const bool onDesk = canvas_.site().layout().settings().baseboard.size() >= 3;
-  const Rgba ground = onDesk ? plan_colors::kDesk : plan_colors::kBoard;
+  const Rgba ground = onDesk ? canvas_.theme().desk : canvas_.theme().board;
   dc.SetBackground(wxBrush(wxColour(ground.r, ground.g, ground.b)));
   dc.Clear();
   const double factor = canvas_.view().zoom() / layer.view.zoom();

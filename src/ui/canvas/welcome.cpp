@@ -1,7 +1,7 @@
 #include "ui/canvas/welcome.h"
 
-#include "editing/canvas/plan_colors.h"
 #include "host/command_ids.h"
+#include "ui/widgets/system_theme.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/dcbuffer.h>
@@ -41,7 +41,7 @@ void Welcome::paintWords(Surface& surface, SizePx size) {
                                       _("Each Enter then goes on by another one.")};
   double y = size.height / 2 - kAbovePx - kLinePx;
   for (const wxString& line : lines) {
-    surface.text(toUtf8(line), {size.width / 2, y}, 0, {plan_colors::kRuler, kWordsPx});
+    surface.text(toUtf8(line), {size.width / 2, y}, 0, {systemTheme().ruler, kWordsPx});
     y += kLinePx;
   }
 }

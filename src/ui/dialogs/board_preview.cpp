@@ -1,9 +1,9 @@
 #include "ui/dialogs/board_preview.h"
 
 #include "editing/canvas/halo.h"
-#include "editing/canvas/plan_colors.h"
 #include "editing/canvas/view_transform.h"
 #include "ui/canvas/gc_surface.h"
+#include "ui/widgets/system_theme.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/translation.h>
@@ -15,13 +15,13 @@ namespace trassix {
 
 namespace {
 
-namespace colors = plan_colors;
-
 constexpr double kMargin = 40;  // px: room for the dimensions
 constexpr double kOffset = 12;  // px from the board to a dimension line
 constexpr double kTextGap = 10; // px from there to the middle of its text
 constexpr double kTick = 4;     // px
-constexpr TextStyle kText{colors::kRuler, 12, false};
+TextStyle textStyle() {
+  return {systemTheme().ruler, 12, false};
+}
 
 /// From the corners of the board to pixels.
 struct Scale {
@@ -58,21 +58,23 @@ void paintDimension(Surface& surface, const BoardDimension& dimension, const Sca
   };
   const Point from = scale(dimension.from);
   const Point to = scale(dimension.to);
-  const Stroke line{colors::kRuler, 1};
+  const Stroke line{systemTheme().ruler, 1};
   const Point ends[]{aside(from, 3),       aside(from, kOffset + kTick),
                      aside(to, 3),         aside(to, kOffset + kTick),
                      aside(from, kOffset), aside(to, kOffset)};
-  paintLinesWithHalo(surface, ends, line);
+  paintLinesWithHalo(surface, ends, line, systemTheme().paper);
   const Point middle = aside({(from.x + to.x) / 2, (from.y + to.y) / 2}, kOffset + kTextGap);
   // A long text of a short measure must not run out of the picture.
-  const double half = surface.textSize(dimension.text, kText).width / 2 + 4;
+  const double half = surface.textSize(dimension.text, textStyle()).width / 2 + 4;
   const auto within = [half](double at, int length) {
     return half * 2 > length ? length / 2.0 : std::clamp(at, half, length - half);
   };
   if (out.x != 0)
-    paintTextWithHalo(surface, dimension.text, {middle.x, within(middle.y, size.y)}, -90, kText);
+    paintTextWithHalo(surface, dimension.text, {middle.x, within(middle.y, size.y)}, -90,
+                      textStyle(), systemTheme().paper);
   else
-    paintTextWithHalo(surface, dimension.text, {within(middle.x, size.x), middle.y}, 0, kText);
+    paintTextWithHalo(surface, dimension.text, {within(middle.x, size.x), middle.y}, 0, textStyle(),
+                      systemTheme().paper);
 }
 
 } // namespace
@@ -105,18 +107,18 @@ void BoardPreview::paint(wxGraphicsContext& context, const wxSize& size) const {
   const auto width = static_cast<double>(size.x);
   const auto height = static_cast<double>(size.y);
   const Point sheet[]{{0, 0}, {width, 0}, {width, height}, {0, height}};
-  surface.polygon(sheet, colors::kDesk, std::nullopt);
+  surface.polygon(sheet, systemTheme().desk, std::nullopt);
   const Point middle{width / 2, height / 2};
   if (outline_.size() < 3) {
-    surface.text(toUtf8(_("No baseboard")), middle, 0, {colors::kRuler, 13, false});
+    surface.text(toUtf8(_("No baseboard")), middle, 0, {systemTheme().ruler, 13, false});
     return;
   }
   const Scale scale = scaleFor(outline_, size);
   std::vector<Point> px;
   for (const Point& p : outline_)
     px.push_back(scale(p));
-  Rgba fill = colors::kBoard;
-  Rgba edge = colors::kBoardEdge;
+  Rgba fill = systemTheme().board;
+  Rgba edge = systemTheme().boardEdge;
   if (faded_)
     fill.a = edge.a = 90;
   surface.polygon(px, fill, Stroke{edge, 1.5});

@@ -1,9 +1,9 @@
 #include "ui/dialogs/elevation_profile.h"
 
 #include "editing/canvas/halo.h"
-#include "editing/canvas/plan_colors.h"
 #include "measures/measure_format.h"
 #include "ui/canvas/gc_surface.h"
+#include "ui/widgets/system_theme.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/translation.h>
@@ -14,12 +14,12 @@ namespace trassix {
 
 namespace {
 
-namespace colors = plan_colors;
-
 constexpr double kMargin = 14;    // px
 constexpr double kHead = 26;      // px: room for the texts above
 constexpr double kLeastSpan = 20; // mm that fill the picture at least
-constexpr TextStyle kText{colors::kRuler, 12, false};
+TextStyle textStyle() {
+  return {systemTheme().ruler, 12, false};
+}
 
 } // namespace
 
@@ -38,12 +38,13 @@ void ElevationProfile::paint(wxGraphicsContext& context, const wxSize& size) con
   const auto width = static_cast<double>(size.x);
   const auto height = static_cast<double>(size.y);
   const Point sheet[]{{0, 0}, {width, 0}, {width, height}, {0, height}};
-  surface.polygon(sheet, colors::kBoard, std::nullopt);
+  surface.polygon(sheet, systemTheme().board, std::nullopt);
   const TrainWay now = form_.wayNow();
   const TrainWay planned = form_.wayPlanned();
   const double length = now.length();
   if (length <= 0)
-    return surface.text(toUtf8(_("No way between two ends")), {width / 2, height / 2}, 0, kText);
+    return surface.text(toUtf8(_("No way between two ends")), {width / 2, height / 2}, 0,
+                        textStyle());
   double low = now.stretches.front().from;
   double high = low;
   for (const TrainWay& way : {now, planned})
@@ -61,18 +62,19 @@ void ElevationProfile::paint(wxGraphicsContext& context, const wxSize& size) con
   std::vector<Point> before{at(0, now.stretches.front().from)};
   for (const WayStretch& stretch : now.stretches)
     before.push_back(at(along += stretch.length, stretch.to));
-  surface.polyline(before, {colors::kFarArticle, 1.5, Stroke::Style::Dashed});
+  surface.polyline(before, {systemTheme().farArticle, 1.5, Stroke::Style::Dashed});
   along = 0;
   for (const WayStretch& stretch : planned.stretches) {
     const Point line[]{at(along, stretch.from), at(along + stretch.length, stretch.to)};
     along += stretch.length;
-    surface.polyline(line, {colors::gradeColor(stretch.slope()), 3});
+    surface.polyline(line, {systemTheme().gradeColor(stretch.slope()), 3});
   }
   const auto name = [&](double place, double z) {
     const std::string text = formatLength(z, units_);
-    const double half = surface.textSize(text, kText).width / 2 + 4;
+    const double half = surface.textSize(text, textStyle()).width / 2 + 4;
     const Point end = at(place, z);
-    paintTextWithHalo(surface, text, {std::clamp(end.x, half, width - half), end.y - 13}, 0, kText);
+    paintTextWithHalo(surface, text, {std::clamp(end.x, half, width - half), end.y - 13}, 0,
+                      textStyle(), systemTheme().paper);
   };
   name(0, planned.stretches.front().from);
   name(length, planned.stretches.back().to);

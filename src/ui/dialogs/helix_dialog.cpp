@@ -2,12 +2,12 @@
 
 #include "document/layout.h"
 #include "editing/canvas/helix_picture.h"
-#include "editing/canvas/plan_colors.h"
 #include "editing/helix/helix_edits.h"
 #include "host/workspace.h"
 #include "ui/canvas/gc_surface.h"
 #include "ui/widgets/picture_panel.h"
 #include "ui/widgets/problem_text.h"
+#include "ui/widgets/system_theme.h"
 #include "ui/widgets/utf8.h"
 #include "ui/widgets/whole_window.h"
 
@@ -35,28 +35,28 @@ void paintHelix(wxGraphicsContext& context, const wxSize& size, const HelixPlan&
   const auto width = static_cast<double>(size.x);
   const auto height = static_cast<double>(size.y);
   const Point sheet[]{{0, 0}, {width, 0}, {width, height}, {0, height}};
-  surface.polygon(sheet, plan_colors::kBoard, std::nullopt);
+  surface.polygon(sheet, systemTheme().board, std::nullopt);
   HelixPlan shown = plan;
   shown.centre = {0, 0, 0};
   const double zoom = (std::min(width, height) - 20) / (2 * plan.kit->outerSize);
   const ViewTransform view = ViewTransform::ofScale(zoom, {width / 2, height / 2});
   PieceLook look;
-  look.bed = opaque(plan_colors::kBed);
-  paintHelixTrack(surface, view, shown, look);
-  paintHelixMarks(surface, view, shown, joining, units);
+  look.bed = opaque(systemTheme().bed);
+  paintHelixTrack(surface, view, systemTheme(), shown, look);
+  paintHelixMarks(surface, view, systemTheme(), shown, joining, units);
 }
 
 Rgba lightColor(HelixVerdict verdict) {
   switch (verdict) {
   case HelixVerdict::Good:
-    return plan_colors::gradeColor(GradeBand::Comfortable);
+    return systemTheme().gradeColor(GradeBand::Comfortable);
   case HelixVerdict::Fair:
-    return plan_colors::gradeColor(GradeBand::Caution);
+    return systemTheme().gradeColor(GradeBand::Caution);
   case HelixVerdict::Steep:
   case HelixVerdict::Refused:
     break;
   }
-  return plan_colors::gradeColor(GradeBand::Steep);
+  return systemTheme().gradeColor(GradeBand::Steep);
 }
 
 } // namespace

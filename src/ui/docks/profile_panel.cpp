@@ -4,6 +4,7 @@
 #include "host/workspace.h"
 #include "ui/canvas/gc_surface.h"
 #include "ui/canvas/toolkit_input.h"
+#include "ui/widgets/system_theme.h"
 #include "ui/widgets/utf8.h"
 
 #include <wx/checkbox.h>
@@ -214,7 +215,7 @@ class ProfileWindow : public wxWindow, private PlanObserver {
       return;
     context->Scale(pixelScale(), pixelScale());
     GcSurface surface(*context, pixelScale() * GetContentScaleFactor());
-    profile_.paint(surface);
+    profile_.paint(surface, systemTheme());
     shown_();
   }
 

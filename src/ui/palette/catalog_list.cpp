@@ -1,6 +1,7 @@
 #include "ui/palette/catalog_list.h"
 
 #include "ui/canvas/gc_surface.h"
+#include "ui/widgets/system_theme.h"
 #include "ui/widgets/wrapped_text.h"
 
 #include <wx/dcclient.h>
@@ -250,9 +251,9 @@ void CatalogList::drawEntry(wxDC& dc, const wxRect& rect, std::size_t index) con
   const int padding = FromDIP(kPadding);
   const wxRect frame(rect.x, rect.y, picture + 2 * padding, rect.height);
   if (row.picture) {
-    // The drawings have the colours of the plan, which are made for a light sheet.
     dc.SetPen(*wxTRANSPARENT_PEN);
-    dc.SetBrush(wxColour(252, 250, 245));
+    const Rgba sheet = systemTheme().board;
+    dc.SetBrush(wxColour(sheet.r, sheet.g, sheet.b));
     dc.DrawRectangle(wxRect(frame).Deflate(padding / 2));
     // The context that the rows are drawn through anyway, where there is one.
     wxGraphicsContext* context = dc.GetGraphicsContext();

@@ -5,11 +5,11 @@
 #include "document/plan_content.h"
 #include "editing/canvas/helix_picture.h"
 #include "editing/canvas/piece_painter.h"
-#include "editing/canvas/plan_colors.h"
-#include "editing/scenery/scenery_footprint.h"
+#include "editing/canvas/scenery/scenery_painter.h"
 #include "editing/selection/content_box.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/track_geometry.h"
+#include "ui/widgets/system_theme.h"
 
 #include <algorithm>
 #include <limits>
@@ -54,15 +54,13 @@ void breakOff(Surface& surface, const PictureRoom& room, double over) {
   std::vector<Point> beyond = edge;
   beyond.push_back({right + over + kTooth, edge.back().y});
   beyond.push_back({right + over + kTooth, top});
-  surface.polygon(beyond, plan_colors::kBoard, {});
-  surface.polyline(edge, Stroke{plan_colors::kBedEdge, 1});
+  surface.polygon(beyond, systemTheme().board, {});
+  surface.polyline(edge, Stroke{systemTheme().bedEdge, 1});
 }
 
 PieceLook lookOf(const PieceDef& piece) {
   PieceLook look;
-  look.bed = opaque(piece.ramp     ? plan_colors::kRampBed
-                    : piece.bridge ? plan_colors::kBridgeBed
-                                   : plan_colors::kBed);
+  look.bed = opaque(systemTheme().bedOf(piece));
   return look;
 }
 
@@ -96,7 +94,7 @@ void drawPiece(Surface& surface, const PictureRoom& room, const PieceDef& piece,
   const ViewTransform view =
       broken ? ViewTransform::ofScale(scale, {room.middle.x - room.size.width / 2, room.middle.y})
              : centred(box, room, scale);
-  PiecePainter(surface, view).paint(piece, {}, lookOf(piece));
+  PiecePainter(surface, view, systemTheme()).paint(piece, {}, lookOf(piece));
   if (broken) {
     breakOff(surface, room, over);
   }
@@ -107,9 +105,10 @@ void drawScenery(Surface& surface, const PictureRoom& room, const SceneryDef& it
   const double zoom = room.size.width / widest;
   const Footprint drawn{std::max(size.width * zoom, kLeastPx),
                         std::max(size.depth * zoom, kLeastPx), 0};
-  const Rgba ink = plan_colors::sceneryColor(&item);
-  surface.polygon(sceneryOutline(item.form, drawn, room.middle, 0), Rgba{ink.r, ink.g, ink.b, 90},
-                  Stroke{ink, 1});
+  const ViewTransform view = ViewTransform::ofScale(1, room.middle);
+  const double unit = sceneryUnit(item, size) * zoom;
+  SceneryPainter(surface, view, systemTheme())
+      .paint({std::make_shared<SceneryPicture>(deriveSceneryPicture(item, drawn, unit)), {}});
 }
 
 void drawHelix(Surface& surface, const PictureRoom& room, const HelixPlan& plan, double widest) {
@@ -119,9 +118,9 @@ void drawHelix(Surface& surface, const PictureRoom& room, const HelixPlan& plan,
   const ViewTransform view =
       centred({-reach, -reach, reach, reach}, room, room.size.width / widest);
   PieceLook look;
-  look.bed = opaque(plan_colors::kBed);
-  paintHelixTrack(surface, view, shown, look);
-  paintHelixMarks(surface, view, shown);
+  look.bed = opaque(systemTheme().bed);
+  paintHelixTrack(surface, view, systemTheme(), shown, look);
+  paintHelixMarks(surface, view, systemTheme(), shown);
 }
 
 void drawBlock(Surface& surface, const PictureRoom& room, const Block& block) {
@@ -133,12 +132,9 @@ void drawBlock(Surface& surface, const PictureRoom& room, const Block& block) {
   }
   const ViewTransform view = centred(*box, room, std::numeric_limits<double>::max());
   for (const SceneryItem& item : block.content.scenery) {
-    const Rgba ink = plan_colors::sceneryColor(findScenery(item.item));
-    std::vector<Point> outline = sceneryOutline(layout, item);
-    std::ranges::transform(outline, outline.begin(), [&view](Point p) { return view.toScreen(p); });
-    surface.polygon(outline, Rgba{ink.r, ink.g, ink.b, 90}, Stroke{ink, 1});
+    SceneryPainter(surface, view, systemTheme()).paint(SceneryPainter::itemOf(layout, item));
   }
-  PiecePainter painter(surface, view);
+  PiecePainter painter(surface, view, systemTheme());
   for (const PlacedPiece& piece : block.content.pieces) {
     if (const PieceDef* definition = definitionOf(piece)) {
       painter.paint(*definition, poseOf(piece), lookOf(*definition));

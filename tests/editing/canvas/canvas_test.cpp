@@ -1,7 +1,7 @@
 #include "document/block.h"
 #include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/recording_surface.h"
 #include "editing/placing/placing.h"
 #include "support/plan.h"
@@ -356,7 +356,7 @@ TEST(PolygonTool, ShowsAndRefusesWhatCrossesAndClosesAtItsFirstCorner) {
   const auto red = [&script] {
     RecordingSurface surface;
     script.canvas.paintOverlay(surface);
-    return surface.linesIn(plan_colors::kOpenEnd);
+    return surface.linesIn(screenTheme().openEnd);
   };
   const std::size_t before = red();
   script.doubleClick({500, -200}); // neither a corner nor an end

@@ -2,7 +2,7 @@
 #include "editing/canvas/grid_steps.h"
 #include "editing/canvas/layout_painter.h"
 #include "editing/canvas/occupancy.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/recording_surface.h"
 #include "editing/elevation/crossings.h"
 #include "editing/helix/helix_edits.h"
@@ -36,18 +36,18 @@ Layout turnoutWithCurve() {
 }
 
 TEST(LayoutPainter, EveryRouteHasItsRailsFromNearAndOneLineFromAfar) {
-  const Layout plan = turnoutWithCurve(); // two routes and one
+  const Layout plan = turnoutWithCurve(); // two routes, with blades and a frog close by, and one
   struct Case {
     double zoom;
     std::size_t rails, farLines;
     bool sleepers;
   };
-  for (const Case& c : {Case{0.05, 0, 3, false}, Case{0.4, 6, 0, false}, Case{1.5, 6, 0, true},
-                        Case{3, 6, 0, true}}) {
+  for (const Case& c : {Case{0.05, 0, 3, false}, Case{0.4, 6, 0, false}, Case{0.9, 6, 0, true},
+                        Case{1.5, 12, 0, true}, Case{3, 12, 0, true}}) {
     const RecordingSurface picture = drawn(plan, c.zoom, {300, 300});
-    EXPECT_EQ(picture.linesIn(plan_colors::kRail), c.rails) << c.zoom;
-    EXPECT_EQ(picture.linesIn(plan_colors::kFarTrack), c.farLines) << c.zoom;
-    EXPECT_EQ(picture.linesIn(plan_colors::kSleeper) > 0, c.sleepers) << c.zoom;
+    EXPECT_EQ(picture.linesIn(screenTheme().rail), c.rails) << c.zoom;
+    EXPECT_EQ(picture.linesIn(screenTheme().farTrack), c.farLines) << c.zoom;
+    EXPECT_EQ(picture.linesIn(screenTheme().sleeper) > 0, c.sleepers) << c.zoom;
   }
 }
 
@@ -57,7 +57,7 @@ TEST(LayoutPainter, RailsLieAGaugeApartWhereTheTrackIs) {
   const RecordingSurface picture = drawn(plan.layout, 2);
   std::vector<double> xs;
   for (const auto& line : picture.lines) {
-    if (line.stroke.color != plan_colors::kRail)
+    if (line.stroke.color != screenTheme().rail)
       continue;
     xs.push_back(line.points.front().x);
     EXPECT_NEAR(line.points.front().y, 300 + 20 * 2, 1e-6);
@@ -76,7 +76,7 @@ TEST(LayoutPainter, SwitchesLevelsAndTheWindowDecideWhatIsDrawn) {
   const RecordingSurface bare = drawn(plan, 1.5, {300, 300}, plain);
   EXPECT_THAT(bare.texts, Not(Contains("24611")));
   EXPECT_TRUE(bare.dots.empty());
-  EXPECT_EQ(bare.linesIn(plan_colors::kRail), 3u) << "a centre line for each route";
+  EXPECT_EQ(bare.linesIn(screenTheme().rail), 3u) << "a centre line for each route";
 
   Layout hidden = plan;
   hidden.edit().tunnels = {{9, -1, -1, 1, 1, {1}}};
@@ -92,7 +92,7 @@ TEST(LayoutPainter, SwitchesLevelsAndTheWindowDecideWhatIsDrawn) {
   EXPECT_EQ(std::count_if(covered.lines.begin(), covered.lines.end(),
                           [](const auto& line) {
                             return line.stroke.style == Stroke::Style::Dashed &&
-                                   line.stroke.color == plan_colors::kRail;
+                                   line.stroke.color == screenTheme().rail;
                           }),
             2)
       << "both rails of the covered curve";
@@ -127,7 +127,7 @@ TEST(LayoutPainter, AHelixIsARingWithItsTurnsHeightsAndWayUp) {
   grades.grades = true;
   for (const PaintOptions& options : {PaintOptions{}, grades}) {
     const RecordingSurface ring = drawn(layout, 0.8, {600, 400}, options);
-    EXPECT_EQ(ring.linesIn(plan_colors::kRail), 2u * 12);
+    EXPECT_EQ(ring.linesIn(screenTheme().rail), 2u * 12);
     for (const char* text : {"Helix R1, 3.5 turns", "bottom 25 mm", "top 305 mm", "up"})
       EXPECT_THAT(ring.texts, Contains(text));
     EXPECT_THAT(ring.texts, Not(Contains("24130")));
@@ -135,7 +135,7 @@ TEST(LayoutPainter, AHelixIsARingWithItsTurnsHeightsAndWayUp) {
   EXPECT_THAT(drawn(layout, 0.12).texts, Contains("3.5 turns"));
   EXPECT_TRUE(drawn(layout, 0.02).texts.size() <= 1); // the scale bar's
   layout.edit().helices[0].variant = "other";
-  EXPECT_EQ(drawn(layout, 0.8, {600, 400}).linesIn(plan_colors::kRail), 2u * 42);
+  EXPECT_EQ(drawn(layout, 0.8, {600, 400}).linesIn(screenTheme().rail), 2u * 42);
 }
 
 TEST(LayoutPainter, CurvesAreAsRoundAsThePictureCanShow) {
@@ -148,8 +148,8 @@ TEST(LayoutPainter, CurvesAreAsRoundAsThePictureCanShow) {
     const RecordingSurface picture = drawn(plan.layout, zoom);
     std::size_t arcs = 0;
     for (const auto& line : picture.lines) {
-      const bool edge = line.stroke.color == plan_colors::kBedEdge && line.points.size() > 2;
-      if (!edge && line.stroke.color != plan_colors::kRail)
+      const bool edge = line.stroke.color == screenTheme().bedEdge && line.points.size() > 2;
+      if (!edge && line.stroke.color != screenTheme().rail)
         continue;
       ++arcs;
       const Point centre{400, 300 + side * kRadius * zoom};
@@ -198,7 +198,7 @@ TEST(LayoutPainter, GradesHeightsAndClearancesAreShown) {
   const RecordingSurface shown = drawn(layout, 1, {400, 300}, options);
   for (const char* text : {"2.5 %", "3.5 %", "4.5 %", "6.0 %", "49", "4.7"})
     EXPECT_THAT(shown.texts, Contains(text));
-  for (const Rgba& color : plan_colors::kGradeBands)
+  for (const Rgba& color : screenTheme().gradeBands)
     EXPECT_EQ(shown.linesIn(color), 2u); // the track's and the legend's
   EXPECT_THAT(drawn(layout, 0.5).texts, Not(Contains("2.5 %")));
 }

@@ -1,7 +1,7 @@
 #include "document/block.h"
 #include "document/record_kinds.h"
 #include "editing/canvas/canvas_script.h"
-#include "editing/canvas/plan_colors.h"
+#include "editing/canvas/plan_theme.h"
 #include "editing/canvas/recording_surface.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/helix/helix_edits.h"
@@ -223,7 +223,7 @@ TEST(SelectTool, TunnelsComeAndGoByTheMenu) {
     RecordingSurface picture;
     script.canvas.paintSelection(picture, {0, 0, 1600, 1000});
     const bool marked = std::ranges::any_of(picture.areas, [](const auto& area) {
-      return area.points.size() > 4 && area.stroke.color == plan_colors::kSelected;
+      return area.points.size() > 4 && area.stroke.color == screenTheme().selected;
     });
     EXPECT_TRUE(marked) << "the hill over it";
     EXPECT_THAT(script.host.seen.hint, testing::HasSubstr("Remove Tunnel"));
@@ -262,7 +262,7 @@ TEST(SelectTool, WhatIsHiddenInATunnelIsOutOfReach) {
   RecordingSurface picture;
   script.canvas.paintPlan(picture, {0, 0, 1600, 1000});
   EXPECT_THAT(picture.texts, testing::Contains("24188"));
-  EXPECT_EQ(picture.linesIn(plan_colors::kRail), 2u);
+  EXPECT_EQ(picture.linesIn(screenTheme().rail), 2u);
 
   selectThese(plan, piecesOfArticle(plan, "24188")); // as the tally does
   script.host.workspace.showSelected();
@@ -410,7 +410,7 @@ TEST(SelectTool, AutofillOffersItsRowsAndPlacesTheChosenOne) {
   const auto drawn = [&script] {
     RecordingSurface surface;
     script.canvas.paintOverlay(surface);
-    return surface.linesIn(plan_colors::kSnapped) > 0;
+    return surface.linesIn(screenTheme().snapped) > 0;
   };
   script.host.whileChoosing = [&] {
     EXPECT_TRUE(drawn());
