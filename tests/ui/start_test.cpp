@@ -1,6 +1,6 @@
 #include "driver.h"
-#include "ui/frame/main_frame.h"
 #include "ui/canvas/canvas_panel.h"
+#include "ui/frame/main_frame.h"
 #include "ui_test.h"
 
 #include <wx/app.h>

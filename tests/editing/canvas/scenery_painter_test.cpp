@@ -88,7 +88,7 @@ double luminance(Rgba color) {
 }
 
 double contrast(Rgba a, Rgba b) {
-  const auto [low, high] = std::minmax(luminance(a), luminance(b));
+  const auto [low, high] = std::minmax({luminance(a), luminance(b)});
   return (high + 0.05) / (low + 0.05);
 }
 
