@@ -67,9 +67,9 @@ MeshStore::Place MeshStore::put(const Mesh& mesh) {
   if (mesh.empty())
     return place;
   std::vector<std::uint32_t> indices;
-  for (std::size_t material = 0; material < kMaterials; ++material) {
-    place.indices[material] = static_cast<std::uint32_t>(mesh.indices[material].size());
-    indices.insert(indices.end(), mesh.indices[material].begin(), mesh.indices[material].end());
+  for (std::size_t finish = 0; finish < kFinishes; ++finish) {
+    place.indices[finish] = static_cast<std::uint32_t>(mesh.indices[finish].size());
+    indices.insert(indices.end(), mesh.indices[finish].begin(), mesh.indices[finish].end());
   }
   place.vertices = static_cast<std::uint32_t>(mesh.vertices.size());
   place.page = pageWithRoom(place.vertices, static_cast<std::uint32_t>(indices.size()), place);
@@ -116,10 +116,10 @@ bool MeshStore::Draws::empty() const {
 
 void MeshStore::Draws::add(const Place& place) {
   std::size_t first = place.firstIndex;
-  for (std::size_t material = 0; material < kMaterials; ++material) {
-    const std::uint32_t count = place.indices[material];
+  for (std::size_t finish = 0; finish < kFinishes; ++finish) {
+    const std::uint32_t count = place.indices[finish];
     if (count > 0) {
-      std::vector<Page>& pages = pages_[material];
+      std::vector<Page>& pages = pages_[finish];
       if (pages.size() <= place.page)
         pages.resize(place.page + 1);
       pages[place.page].counts.push_back(static_cast<int>(count));
@@ -129,9 +129,9 @@ void MeshStore::Draws::add(const Place& place) {
   }
 }
 
-void MeshStore::draw(const Draws& draws, Material material, Looks looks) {
+void MeshStore::draw(const Draws& draws, Finish finish, Looks looks) {
   constexpr int kStride = sizeof(MeshVertex);
-  const std::vector<Draws::Page>& pages = draws.pages_[static_cast<std::size_t>(material)];
+  const std::vector<Draws::Page>& pages = draws.pages_[static_cast<std::size_t>(finish)];
   for (const GLenum array : {GL_NORMAL_ARRAY, GL_COLOR_ARRAY})
     looks == Looks::Colored ? glEnableClientState(array) : glDisableClientState(array);
   glEnableClientState(GL_VERTEX_ARRAY);

@@ -28,7 +28,7 @@ class MeshStore {
     std::uint32_t firstVertex = 0;
     std::uint32_t vertices = 0; ///< none: nowhere
     std::uint32_t firstIndex = 0;
-    std::array<std::uint32_t, kMaterials> indices{};
+    std::array<std::uint32_t, kFinishes> indices{};
 
     bool known() const { return vertices > 0; }
   };
@@ -48,10 +48,10 @@ class MeshStore {
       std::vector<int> counts;
       std::vector<const void*> starts;
     };
-    std::array<std::vector<Page>, kMaterials> pages_;
+    std::array<std::vector<Page>, kFinishes> pages_;
   };
   enum class Looks : std::uint8_t { Shape, Colored }; ///< a shape has the colour that is set
-  void draw(const Draws& draws, Material material, Looks looks);
+  void draw(const Draws& draws, Finish finish, Looks looks);
 
   std::size_t sentTriangles() const { return sent_; } ///< in all
 

@@ -40,8 +40,8 @@ void setLight(GLenum light, const Rgba& at, const Rgba& color, const Rgba& shine
   glEnable(light);
 }
 
-void setMaterial(Material material) {
-  const bool glossy = material == Material::Glossy;
+void setFinish(Finish finish) {
+  const bool glossy = finish == Finish::Glossy;
   const Rgba shine = glossy ? Rgba{0.75F, 0.78F, 0.8F, 1} : kDark;
   glMaterialfv(GL_FRONT_AND_BACK, GL_SPECULAR, shine.data());
   glMaterialf(GL_FRONT_AND_BACK, GL_SHININESS, glossy ? 48.0F : 0.0F);
@@ -192,9 +192,9 @@ void SceneRenderer::prepare(const OrbitCamera& camera, const Matrix4& projection
 }
 
 void SceneRenderer::drawBodies(const MeshStore::Draws& draws) {
-  for (const Material material : {Material::Matte, Material::Glossy}) {
-    setMaterial(material);
-    store_.draw(draws, material, MeshStore::Looks::Colored);
+  for (const Finish finish : {Finish::Matte, Finish::Glossy}) {
+    setFinish(finish);
+    store_.draw(draws, finish, MeshStore::Looks::Colored);
   }
 }
 
@@ -217,8 +217,8 @@ void SceneRenderer::drawShadows(const Ground& ground, int mark) {
   glStencilFunc(GL_EQUAL, mark, 0xff);
   glStencilOp(GL_KEEP, GL_KEEP, GL_ZERO);
   glDepthMask(GL_FALSE);
-  for (const Material material : {Material::Matte, Material::Glossy})
-    store_.draw(ground.shadows, material, MeshStore::Looks::Shape);
+  for (const Finish finish : {Finish::Matte, Finish::Glossy})
+    store_.draw(ground.shadows, finish, MeshStore::Looks::Shape);
   glDepthMask(GL_TRUE);
   glDisable(GL_BLEND);
   glEnable(GL_LIGHTING);

@@ -63,9 +63,9 @@ class GlbFile {
 
   void add(const char* name, const Mesh& mesh) {
     json primitives = json::array();
-    for (std::size_t material = 0; material < kMaterials; ++material)
-      if (!mesh.indices[material].empty())
-        primitives.push_back(primitive(mesh, material));
+    for (std::size_t finish = 0; finish < kFinishes; ++finish)
+      if (!mesh.indices[finish].empty())
+        primitives.push_back(primitive(mesh, finish));
     if (primitives.empty())
       return;
     root_["nodes"].push_back({{"name", name}, {"mesh", root_["nodes"].size()}});
@@ -128,12 +128,12 @@ class GlbFile {
     return root_["accessors"].size() - 1;
   }
 
-  json primitive(const Mesh& mesh, std::size_t material) {
-    // Only the vertices that this material uses.
+  json primitive(const Mesh& mesh, std::size_t finish) {
+    // Only the vertices that this finish uses.
     std::vector<std::uint32_t> used;
     std::vector<std::uint32_t> indices;
     std::vector<std::int64_t> number(mesh.vertices.size(), -1);
-    for (const std::uint32_t index : mesh.indices[material]) {
+    for (const std::uint32_t index : mesh.indices[finish]) {
       if (number[index] < 0) {
         number[index] = static_cast<std::int64_t>(used.size());
         used.push_back(index);
@@ -168,7 +168,7 @@ class GlbFile {
     const std::size_t list =
         accessor(from, kIndexData,
                  {{"componentType", kUnsignedInt}, {"count", indices.size()}, {"type", "SCALAR"}});
-    return {{"attributes", std::move(attributes)}, {"indices", list}, {"material", material}};
+    return {{"attributes", std::move(attributes)}, {"indices", list}, {"material", finish}};
   }
 
   std::size_t positions(const Mesh& mesh, const std::vector<std::uint32_t>& used) {
@@ -199,9 +199,9 @@ class GlbFile {
 void append(Mesh& to, const Mesh& from) {
   const auto first = static_cast<std::uint32_t>(to.vertices.size());
   to.vertices.insert(to.vertices.end(), from.vertices.begin(), from.vertices.end());
-  for (std::size_t material = 0; material < kMaterials; ++material)
-    for (const std::uint32_t index : from.indices[material])
-      to.indices[material].push_back(first + index);
+  for (std::size_t finish = 0; finish < kFinishes; ++finish)
+    for (const std::uint32_t index : from.indices[finish])
+      to.indices[finish].push_back(first + index);
 }
 
 } // namespace

@@ -125,7 +125,7 @@ void addShape(Mesh& mesh, const Layout& layout, const Shape& shape, int layer) {
   if (shape.outline)
     return addLine(builder, outline, z, shape.color);
   if (isWater(shape))
-    builder.setMaterial(Material::Glossy);
+    builder.setFinish(Finish::Glossy);
   const Color color = mixed(kBoardTop, shape.color, shape.a / 255.0);
   if (isHill(shape))
     builder.prism(outline, base, z, shaded(color, 0.8), color);

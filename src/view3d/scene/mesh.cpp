@@ -55,7 +55,7 @@ bool MeshBuilder::face(std::uint32_t a, std::uint32_t b, std::uint32_t c) {
   const Vec3 normal = cross(positionOf(mesh_.vertices[b]) - at, positionOf(mesh_.vertices[c]) - at);
   if (lengthOf(normal) < 2 * kLeastArea)
     return false;
-  std::vector<std::uint32_t>& list = mesh_.indices[static_cast<std::size_t>(material_)];
+  std::vector<std::uint32_t>& list = mesh_.indices[static_cast<std::size_t>(finish_)];
   list.insert(list.end(), {a, b, c});
   return true;
 }

@@ -20,13 +20,13 @@ struct MeshVertex {
   bool operator==(const MeshVertex&) const = default;
 };
 
-enum class Material : std::uint8_t { Matte, Glossy };
-inline constexpr std::size_t kMaterials = 2;
+enum class Finish : std::uint8_t { Matte, Glossy };
+inline constexpr std::size_t kFinishes = 2;
 
 /// Triangles run anticlockwise seen from outside. None is empty.
 struct Mesh {
   std::vector<MeshVertex> vertices;
-  std::array<std::vector<std::uint32_t>, kMaterials> indices; ///< three each, by material
+  std::array<std::vector<std::uint32_t>, kFinishes> indices; ///< three each, by material
 
   std::size_t triangles() const;
   bool empty() const { return vertices.empty(); }
@@ -50,7 +50,7 @@ class MeshBuilder {
   /// For the same mesh, in a frame that stands in this one and is turned as it is.
   MeshBuilder within(Vec3 origin) const;
 
-  void setMaterial(Material material) { material_ = material; }
+  void setFinish(Finish finish) { finish_ = finish; }
 
   void triangle(Vec3 a, Vec3 b, Vec3 c, Color color);
   void quad(Vec3 a, Vec3 b, Vec3 c, Vec3 d, Color color);
@@ -78,7 +78,7 @@ class MeshBuilder {
   MeshFrame frame_;
   double cos_ = 1;
   double sin_ = 0;
-  Material material_ = Material::Matte;
+  Finish finish_ = Finish::Matte;
 };
 
 /// Indices of the corners of triangles that fill an outline, whichever way round it runs; each

@@ -176,9 +176,9 @@ void addPond(const SceneryKit& kit) {
     return points;
   };
   kit.b.skirt(ring(1), 0.2 * kit.u, ring(0.9), 1.2 * kit.u, {134, 126, 96});
-  kit.b.setMaterial(Material::Glossy);
+  kit.b.setFinish(Finish::Glossy);
   kit.b.area(ring(0.9), 1.2 * kit.u, kWater);
-  kit.b.setMaterial(Material::Matte);
+  kit.b.setFinish(Finish::Matte);
 }
 
 void addField(const SceneryKit& kit) {
