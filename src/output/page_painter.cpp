@@ -43,6 +43,7 @@ class PagePainter {
     }
     surface_.clip(picture_);
     paintPlan();
+    paintSupports(surface_, plan_, view_);
     if (page_.kind == PageKind::Tile && set_.millimetresPerMm(page_) == 1)
       paintJointNotes();
     if (page_.kind == PageKind::TileOverview)
@@ -264,6 +265,26 @@ std::string scaleText(double millimetresPerMm) {
   if (n.ends_with(".0"))
     n.resize(n.size() - 2);
   return std::string("1:").append(n);
+}
+
+void paintSupports(Surface& surface, const PrintedPlan& plan, const ViewTransform& view) {
+  if (plan.supports.empty())
+    return;
+  constexpr double kTextFromPx = 30; ///< of the foot's longer side
+  const SurfaceGroup group(surface, tr("Supports"));
+  for (const Support& support : plan.supports) {
+    const PoseFrame frame(support.pose);
+    const double a = support.along / 2;
+    const double b = support.across / 2;
+    const std::array<Point, 4> foot{{view.toScreen(frame({-a, -b})), view.toScreen(frame({a, -b})),
+                                     view.toScreen(frame({a, b})), view.toScreen(frame({-a, b}))}};
+    surface.polygon(foot, {}, Stroke{kInk, 0.8});
+    const std::array<Point, 4> cross{{foot[0], foot[2], foot[1], foot[3]}};
+    surface.segments(cross, kThin);
+    if (std::max(support.along, support.across) * view.zoom() >= kTextFromPx)
+      paintTextWithHalo(surface, formatFixed(support.head - support.foot, 1),
+                        view.toScreen({support.pose.x, support.pose.y}), 0, {kInk, 8});
+  }
 }
 
 PaintOptions paintOptionsOf(const PrintOptions& options) {

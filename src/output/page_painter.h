@@ -17,6 +17,9 @@ void paintPage(Surface& surface, const PageSet& set, std::size_t page);
 /// How a plan is painted that goes on paper, but for its crossings.
 PaintOptions paintOptionsOf(const PrintOptions& options);
 
+/// The feet of the plan's supports, with their heights where there is room.
+void paintSupports(Surface& surface, const PrintedPlan& plan, const ViewTransform& view);
+
 /// Where the plan lies on a page, mm to px of the page.
 ViewTransform viewOf(const PageSet& set, const Page& page);
 

@@ -101,6 +101,7 @@ void paintPicture(Surface& surface, const Layout& layout, const PrintOptions& op
                 {(extent->maxX - extent->minX) * pxPerMm, (extent->maxY - extent->minY) * pxPerMm},
                 view, how)
       .paint(plans.front().layout, plans.front().index);
+  paintSupports(surface, plans.front(), view);
 }
 
 PictureFile svgPicture(const Layout& layout, const PrintOptions& options, const PrintTitle& title) {

@@ -110,6 +110,11 @@ std::vector<PrintedPlan> printedPlans(const Layout& layout, const PrintOptions& 
     plans.push_back(partOf(layout, options, {}));
   }
   std::erase_if(plans, [](const PrintedPlan& plan) { return !plan.extent; });
+  if (options.has(print_what::kSupports))
+    for (const Support& support : supportsOf(layout).supports)
+      for (PrintedPlan& plan : plans)
+        if (plan.layout.findPiece(support.piece) != nullptr)
+          plan.supports.push_back(support);
   return plans;
 }
 

@@ -3,6 +3,7 @@
 
 #include "document/layout.h"
 #include "editing/selection/plan_index.h"
+#include "editing/supports/supports.h"
 #include "geometry/box.h"
 #include "output/print_options.h"
 
@@ -17,7 +18,8 @@ struct PrintedPlan {
   std::string deck; ///< name of the level when it is printed alone, else empty
   Layout layout;
   PlanIndex index;
-  std::optional<Box> extent; ///< of all that is drawn, mm; none when that is nothing
+  std::optional<Box> extent;     ///< of all that is drawn, mm; none when that is nothing
+  std::vector<Support> supports; ///< of its track, where they are asked for
 };
 
 /// One for all, or one for each level that has something on it where decks are printed apart, from

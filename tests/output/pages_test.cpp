@@ -121,6 +121,11 @@ TEST(Pages, printWhatWasAskedFor) {
   EXPECT_EQ(decks.plans[1].deck, "Level 2");
   options.what = print_what::kActiveLevelOnly;
   EXPECT_EQ(tilesOf(layout, options).plans.at(0).layout.pieceCount(), 2U);
+  options.what = print_what::kSupports;
+  layout.edit().pieces[1].z = 60;
+  EXPECT_EQ(tilesOf(layout, options).plans.at(0).supports.size(),
+            supportsOf(layout).supports.size());
+  EXPECT_FALSE(supportsOf(layout).supports.empty());
   options = {};
   options.selectionOnly = true;
   layout.reselect([](const auto& record) { return record.id == 1; });

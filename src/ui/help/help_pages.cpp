@@ -218,6 +218,23 @@ constexpr const char* kFiles[] = {
     wxTRANSLATE("# Deleting"),
     wxTRANSLATE("File > Open Layout has a button for it. A layout that is open while its file is "
                 "deleted stays open, and Save asks for a name again."),
+
+    wxTRANSLATE("# On paper"),
+    wxTRANSLATE(
+        "File > Print shows the plan with the sheets over it: all of it on one page, to a "
+        "scale, or at its true size over as many sheets as it takes. Click a sheet to leave "
+        "it out, for example to print a single one again."),
+    wxTRANSLATE(
+        "Sheets of true size are cut along the dashed lines and laid cross on cross. Joints "
+        "carry the articles that meet there, and their height."),
+    wxTRANSLATE(
+        "Many printers are a little off. Measure the 100 mm ruler that stands on each page, "
+        "in both directions, and enter what you measured: from then on that printer prints "
+        "true."),
+    wxTRANSLATE("# As a picture"),
+    wxTRANSLATE("File > Export Picture writes the plan as PNG with as many pixels as you like, as "
+                "SVG to the millimetre with a hidden group of lines for cutters, or as PDF: in "
+                "tiles, on one sheet, or in strips for the rolls of a print shop."),
 };
 
 constexpr const char* kWizards[] = {
@@ -226,9 +243,6 @@ constexpr const char* kWizards[] = {
         "out:"),
     wxTRANSLATE("Layout Wizard|A whole loop of track that follows a table outline"),
     wxTRANSLATE("Bridge Wizard|Bridges with their ramps and pillars"),
-    wxTRANSLATE("3D View|The layout seen from any side"),
-    wxTRANSLATE("Print|Plans to scale on paper, and their preview"),
-    wxTRANSLATE("Layouts that hold helices keep them when they are opened and saved."),
 };
 
 constexpr HelpPage kPages[] = {

@@ -33,14 +33,15 @@ struct WhatBox {
   const char* label;
   const char* name;
 };
-constexpr std::array<WhatBox, 8> kWhat{{
-    {print_what::kNoScenery, true, wxTRANSLATE("S&cenery and shapes"), "printScenery"},
+constexpr std::array<WhatBox, 9> kWhat{{
+    {print_what::kNoScenery, true, wxTRANSLATE("Scener&y and shapes"), "printScenery"},
     {print_what::kNoDimensions, true, wxTRANSLATE("&Dimensions"), "printDimensions"},
     {print_what::kGrid, false, wxTRANSLATE("&Grid"), "printGrid"},
     {print_what::kHeights, false, wxTRANSLATE("&Heights and grades"), "printHeights"},
-    {print_what::kOutlines, false, wxTRANSLATE("Only &outlines, to spare ink"), "printOutlines"},
+    {print_what::kSupports, false, wxTRANSLATE("S&upports"), "printSupports"},
+    {print_what::kOutlines, false, wxTRANSLATE("Only outlines, to spare in&k"), "printOutlines"},
     {print_what::kActiveLevelOnly, false, wxTRANSLATE("Only the &active level"), "printActive"},
-    {print_what::kDecksApart, false, wxTRANSLATE("Pages for each le&vel"), "printDecks"},
+    {print_what::kDecksApart, false, wxTRANSLATE("Pages &for each level"), "printDecks"},
     {print_what::kPartsList, false, wxTRANSLATE("Li&st of the pieces"), "printParts"},
 }};
 
@@ -102,7 +103,7 @@ wxTextCtrl* PrintOptionsDialog::addField(wxSizer& row, const wxString& label, Fi
 
 wxSizer* PrintOptionsDialog::makeMode() {
   auto* column = new wxBoxSizer(wxVERTICAL);
-  const std::array<wxString, 3> modes{_("One page with &all of the plan"), _("To a &scale"),
+  const std::array<wxString, 3> modes{_("O&ne page with all of the plan"), _("To a s&cale"),
                                       _("&True size, over several sheets")};
   auto* mode = new wxRadioBox(this, wxID_ANY, _("How"), wxDefaultPosition, wxDefaultSize,
                               static_cast<int>(modes.size()), modes.data(), 1, wxRA_SPECIFY_COLS,
@@ -154,7 +155,7 @@ wxSizer* PrintOptionsDialog::makeWhat() {
     addBox(*column, wxGetTranslation(what.label), what.name,
            options.has(what.bit) != what.shownWhenClear,
            [this, &what](bool on) { form_.set(what.bit, on != what.shownWhenClear); });
-  addBox(*column, _("Only what is selecte&d"), "printSelection", options.selectionOnly,
+  addBox(*column, _("Only what &is selected"), "printSelection", options.selectionOnly,
          [this](bool on) { form_.setSelectionOnly(on); });
   return column;
 }
@@ -164,7 +165,7 @@ wxSizer* PrintOptionsDialog::makeRuler(const wxString& printer) {
   auto* grid = new wxFlexGridSizer(2, FromDIP(6), FromDIP(10));
   grid->AddGrowableCol(1);
   addField(*grid, _("Acr&oss:"), Field::MeasuredX, "printMeasuredX");
-  addField(*grid, _("&Upwards:"), Field::MeasuredY, "printMeasuredY");
+  addField(*grid, _("Up&wards:"), Field::MeasuredY, "printMeasuredY");
   box->Add(grid, wxSizerFlags().Expand().Border(wxALL, FromDIP(4)));
   auto* whose = new wxStaticText(this, wxID_ANY, wxEmptyString);
   showWrapped(*whose,
