@@ -272,7 +272,7 @@ void paintSupports(Surface& surface, const PrintedPlan& plan, const ViewTransfor
     return;
   constexpr double kTextFromPx = 30; ///< of the foot's longer side
   const SurfaceGroup group(surface, tr("Supports"));
-  for (const Support& support : plan.supports) {
+  for (const SupportFoot& support : plan.supports) {
     const PoseFrame frame(support.pose);
     const double a = support.along / 2;
     const double b = support.across / 2;
@@ -282,7 +282,7 @@ void paintSupports(Surface& surface, const PrintedPlan& plan, const ViewTransfor
     const std::array<Point, 4> cross{{foot[0], foot[2], foot[1], foot[3]}};
     surface.segments(cross, kThin);
     if (std::max(support.along, support.across) * view.zoom() >= kTextFromPx)
-      paintTextWithHalo(surface, formatFixed(support.head - support.foot, 1),
+      paintTextWithHalo(surface, formatFixed(support.height, 1),
                         view.toScreen({support.pose.x, support.pose.y}), 0, {kInk, 8});
   }
 }

@@ -4,6 +4,7 @@
 #include "document/reselecting.h"
 #include "editing/selection/content_box.h"
 #include "editing/selection/record_body.h"
+#include "editing/supports/supports.h"
 
 #include <algorithm>
 
@@ -114,7 +115,8 @@ std::vector<PrintedPlan> printedPlans(const Layout& layout, const PrintOptions& 
     for (const Support& support : supportsOf(layout).supports)
       for (PrintedPlan& plan : plans)
         if (plan.layout.findPiece(support.piece) != nullptr)
-          plan.supports.push_back(support);
+          plan.supports.push_back(
+              {support.pose, support.along, support.across, support.head - support.foot});
   return plans;
 }
 

@@ -3,8 +3,8 @@
 
 #include "document/layout.h"
 #include "editing/selection/plan_index.h"
-#include "editing/supports/supports.h"
 #include "geometry/box.h"
+#include "geometry/pose.h"
 #include "output/print_options.h"
 
 #include <optional>
@@ -13,13 +13,21 @@
 
 namespace trassix {
 
+/// Where something stands that carries track, mm.
+struct SupportFoot {
+  Pose pose;
+  double along = 0; ///< size in the direction of the track
+  double across = 0;
+  double height = 0; ///< of the support
+};
+
 /// A copy of a plan that holds what is printed together, and nothing else; nothing is selected.
 struct PrintedPlan {
   std::string deck; ///< name of the level when it is printed alone, else empty
   Layout layout;
   PlanIndex index;
-  std::optional<Box> extent;     ///< of all that is drawn, mm; none when that is nothing
-  std::vector<Support> supports; ///< of its track, where they are asked for
+  std::optional<Box> extent;         ///< of all that is drawn, mm; none when that is nothing
+  std::vector<SupportFoot> supports; ///< of its track, where they are asked for
 };
 
 /// One for all, or one for each level that has something on it where decks are printed apart, from

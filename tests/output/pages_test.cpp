@@ -3,6 +3,7 @@
 #include "document/reselecting.h"
 #include "editing/canvas/recording_surface.h"
 #include "editing/placing/placing.h"
+#include "editing/supports/supports.h"
 #include "geometry/polygons.h"
 #include "output/page_painter.h"
 #include "output/pdf_file.h"
