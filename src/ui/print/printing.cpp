@@ -29,6 +29,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <ctime>
 #include <memory>
 
@@ -100,6 +101,11 @@ PictureFile pngPicture(const Layout& layout, const PictureForm& form) {
     paintPicture(surface, layout, form.options(), form.pixelsPerMm(), form.background());
   }
   image.SetOption(wxIMAGE_OPTION_RESOLUTIONUNIT, wxIMAGE_RESOLUTION_INCHES);
+  // So that it prints at its scale.
+  const int dpi = std::max(
+      1, static_cast<int>(std::lround(form.pixelsPerMm() * 25.4 * form.options().scale / 100.0)));
+  image.SetOption(wxIMAGE_OPTION_RESOLUTIONX, dpi);
+  image.SetOption(wxIMAGE_OPTION_RESOLUTIONY, dpi);
   wxMemoryOutputStream stream;
   if (!image.SaveFile(stream, wxBITMAP_TYPE_PNG))
     return {{}, toUtf8(_("The picture could not be made."))};

@@ -248,8 +248,8 @@ void SceneKeeper::updateSupports(const Layout& layout) {
     const auto known = supports_.find(piece);
     if (known == supports_.end() || known->second != supports ||
         scene_.batches.at(key).level != level)
-      renew(key, level, kSceneryGrain, [&](Mesh& mesh, Detail detail) {
-        for (const Support& support : supports)
+      renew(key, level, kSceneryGrain, [&standing = supports](Mesh& mesh, Detail detail) {
+        for (const Support& support : standing)
           addSupport(mesh, support, detail);
       });
   }
@@ -266,10 +266,11 @@ void SceneKeeper::updatePosts(const std::vector<DeckPost>& posts) {
   for (const auto& [level, standing] : posts_)
     remove(keyOf(SceneGroup::Posts, RecordKind::Piece, level));
   for (const auto& [level, standing] : now)
-    renew(keyOf(SceneGroup::Posts, RecordKind::Piece, level), level, 0, [&](Mesh& mesh, Detail) {
-      for (const DeckPost& post : standing)
-        addPost(mesh, post);
-    });
+    renew(keyOf(SceneGroup::Posts, RecordKind::Piece, level), level, 0,
+          [&row = standing](Mesh& mesh, Detail) {
+            for (const DeckPost& post : row)
+              addPost(mesh, post);
+          });
   posts_ = std::move(now);
 }
 
