@@ -90,7 +90,7 @@ class Picture {
   }
 
   SceneKeeper keeper;
-  SceneRenderer renderer;
+  SceneRenderer renderer{GlAbilities::ofContext()};
   OrbitCamera camera;
 
  private:
@@ -100,7 +100,8 @@ class Picture {
 /// The triangles of a picture in one array, with which every pass is one call.
 class BareArrays {
  public:
-  BareArrays(const Layout& layout, const Picture& picture) : calls_(bufferCalls()) {
+  BareArrays(const Layout& layout, const Picture& picture)
+      : calls_(GlAbilities::ofContext().buffers) {
     const auto shadow = [](SceneGroup group) {
       return group == SceneGroup::Track || group == SceneGroup::Scenery ||
              group == SceneGroup::Supports || group == SceneGroup::Plates;
@@ -210,6 +211,16 @@ void frameInTheRoom(benchmark::State& state) {
           timed([&] { bare.draw(); }));
 }
 BENCHMARK(frameInTheRoom)->Name("room/frame2000")->Iterations(1);
+
+void trianglesInTheRoom(benchmark::State& state) {
+  const Stage stage;
+  const Layout layout = town();
+  Picture picture(layout);
+  picture.draw();
+  const auto drawn = static_cast<double>(picture.renderer.drawnTriangles());
+  compare(state, 1, "400,000 triangles", {[&] { return drawn; }}, {[] { return 400000.0; }});
+}
+BENCHMARK(trianglesInTheRoom)->Name("room/triangles2000")->Iterations(1);
 
 void firstPicture(benchmark::State& state) {
   const Stage stage;

@@ -24,8 +24,6 @@ bool isAtLeast15() {
          (major > 1 || minor >= 5);
 }
 
-} // namespace
-
 BufferCalls bufferCalls() {
   BufferCalls calls;
   if (!isAtLeast15())
@@ -46,6 +44,14 @@ BufferCalls bufferCalls() {
   calls.drawMany = glMultiDrawElements;
 #endif
   return calls;
+}
+
+} // namespace
+
+GlAbilities GlAbilities::ofContext() {
+  GLint stencilBits = 0;
+  glGetIntegerv(GL_STENCIL_BITS, &stencilBits);
+  return {bufferCalls(), stencilBits >= 8};
 }
 
 } // namespace trassix

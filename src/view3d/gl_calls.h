@@ -31,8 +31,13 @@ struct BufferCalls {
   bool usable() const { return drawMany != nullptr; }
 };
 
-/// Of the current context; not usable with a driver before OpenGL 1.5.
-BufferCalls bufferCalls();
+/// What the driver of a context can do beyond drawing triangles from memory; nothing by itself.
+struct GlAbilities {
+  BufferCalls buffers; ///< not usable with a driver before OpenGL 1.5
+  bool stencil = false;
+
+  static GlAbilities ofContext(); ///< of the current one
+};
 
 constexpr unsigned kMultisample = 0x809D;
 

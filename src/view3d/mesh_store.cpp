@@ -27,7 +27,7 @@ struct MeshStore::Page {
   std::vector<std::uint32_t> indices;
 };
 
-MeshStore::MeshStore() : calls_(std::make_unique<BufferCalls>(bufferCalls())) {}
+MeshStore::MeshStore(const BufferCalls& calls) : calls_(std::make_unique<BufferCalls>(calls)) {}
 
 MeshStore::~MeshStore() = default;
 

@@ -18,7 +18,7 @@ struct BufferCalls;
 /// current at first has to be current at each call.
 class MeshStore {
  public:
-  MeshStore();
+  explicit MeshStore(const BufferCalls& calls);
   ~MeshStore(); ///< the buffers go with their context
   MeshStore(const MeshStore&) = delete;
   MeshStore& operator=(const MeshStore&) = delete;

@@ -97,6 +97,9 @@ void drawSky(const PictureTile& tile, bool inTunnel) {
 
 } // namespace
 
+SceneRenderer::SceneRenderer(const GlAbilities& abilities)
+    : store_(abilities.buffers), masks_(abilities.stencil) {}
+
 const MeshStore::Place& SceneRenderer::sent(Places& places, const SceneBatch& batch,
                                             Detail detail) {
   MeshStore::Place& place = detail == Detail::Near ? places.fine : places.coarse;
@@ -139,7 +142,7 @@ void SceneRenderer::gather(const Layout& layout, const Scene& scene, const Scene
     const std::size_t above = grounds_.size(); // plates come before what stands on them
     if (key.group == SceneGroup::Plates && above < kMarks)
       grounds_.push_back({batch.most.z, {}, {}});
-    if (look.shadows && !look.inTunnel && castsShadow(key.group) &&
+    if (masks_ && look.shadows && !look.inTunnel && castsShadow(key.group) &&
         (!view.cut || batch.most.z <= *view.cut))
       for (std::size_t i = 0; i < above; ++i)
         if (batch.most.z > grounds_[i].height + kShadowLift &&

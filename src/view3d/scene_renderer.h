@@ -10,6 +10,7 @@
 namespace trassix {
 
 class Layout;
+struct GlAbilities;
 
 /// A piece of the window's picture, for pictures that are larger than the window: how many such
 /// tiles there are each way, and which one this is, from the top left.
@@ -30,6 +31,9 @@ class SceneRenderer {
     bool shadows = true;
     PictureTile tile;
   };
+
+  /// Asks the driver for no more than `abilities`. Without a stencil there are no shadows.
+  explicit SceneRenderer(const GlAbilities& abilities);
 
   /// Lets go of what is no longer like that.
   void forget(const SceneChanges& changes);
@@ -63,6 +67,7 @@ class SceneRenderer {
   const MeshStore::Place& sent(Places& places, const SceneBatch& batch, Detail detail);
 
   MeshStore store_;
+  bool masks_; ///< the stencil tells grounds apart
   PlaceMap places_;
   std::size_t drawn_ = 0;
 

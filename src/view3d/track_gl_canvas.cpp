@@ -110,7 +110,7 @@ bool TrackGLCanvas::makeCurrent() {
   if (!problem_.empty() || !IsShownOnScreen() || !SetCurrent(*context_))
     return false;
   if (!renderer_)
-    renderer_ = std::make_unique<SceneRenderer>();
+    renderer_ = std::make_unique<SceneRenderer>(GlAbilities::ofContext());
   return true;
 }
 

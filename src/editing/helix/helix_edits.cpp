@@ -130,14 +130,14 @@ HelixPlan inPlaceOf(const HelixPlan& present, const HelixPlan& wanted,
   HelixPlan best = wanted;
   best.centre = present.centre;
   best.height = present.height;
-  long most = 0;
+  std::ptrdiff_t most = 0;
   const std::vector<HelixEnd> ends = endsOf(wanted);
   for (std::size_t i = 0; i < ends.size(); ++i) {
     const std::optional<PlacedEnd> held = neighbourOf(ends[i]);
     if (!held)
       continue;
     const HelixPlan standing = standingBy(wanted, i, *held);
-    const long kept = std::ranges::count_if(endsOf(standing), [&](const HelixEnd& end) {
+    const auto kept = std::ranges::count_if(endsOf(standing), [&](const HelixEnd& end) {
       const std::optional<PlacedEnd> other = neighbourOf(end);
       if (!other)
         return false;
