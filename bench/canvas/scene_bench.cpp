@@ -48,12 +48,12 @@ class Stage {
   Stage() {
     wxGLAttributes attributes;
     attributes.PlatformDefaults().RGBA().DoubleBuffer().Depth(24).Stencil(8).EndList();
-    window_ = new wxFrame(nullptr, wxID_ANY, "3D", wxDefaultPosition, wxSize(kWidth, kHeight));
+    window_ = new wxFrame(nullptr, wxID_ANY, "3D");
     canvas_ = new wxGLCanvas(window_, attributes);
+    window_->SetClientSize(kWidth, kHeight);
     window_->Show();
-    while (!canvas_->IsShownOnScreen())
+    while (!canvas_->IsShownOnScreen() || canvas_->GetSize() != wxSize(kWidth, kHeight))
       wxYield();
-    wxYield();
     context_ = std::make_unique<wxGLContext>(canvas_);
     canvas_->SetCurrent(*context_);
   }
@@ -115,15 +115,17 @@ class BareArrays {
         for (const std::uint32_t index : list)
           indices_.push_back(first + index);
     };
-    for (const bool ground : {true, false})
+    for (const bool ground : {true, false}) {
       for (const auto& [key, batch] : picture.keeper.scene().batches)
         if (isShown(layout, key, batch, {}) &&
             ground == (key.group == SceneGroup::Board || key.group == SceneGroup::Ground))
-          add(batch,
-              batch.grain / camera.mmPerPixel(camera.target) < 1 ? Detail::Far : Detail::Near);
-    solid_ = indices_.size();
+          add(batch, batch.grain < 1.3 * camera.mmPerPixel(batch.least, batch.most) ? Detail::Far
+                                                                                    : Detail::Near);
+      (ground ? grounds_ : solid_) = indices_.size();
+    }
     for (const auto& [key, batch] : picture.keeper.scene().batches)
-      if (shadow(key.group))
+      if (shadow(key.group) &&
+          batch.most.z > camera.mmPerPixel(batch.least, batch.most)) // to be seen
         add(batch, Detail::Far);
     calls_.generate(2, buffers_);
     calls_.bind(BufferCalls::kVertices, buffers_[0]);
@@ -155,20 +157,47 @@ class BareArrays {
     for (const GLenum array : {GL_VERTEX_ARRAY, GL_NORMAL_ARRAY, GL_COLOR_ARRAY})
       glEnableClientState(array);
     glEnable(GL_LIGHTING);
-    glDrawElements(GL_TRIANGLES, static_cast<int>(solid_), GL_UNSIGNED_INT, nullptr);
-    glDisableClientState(GL_NORMAL_ARRAY);
-    glDisableClientState(GL_COLOR_ARRAY);
-    glDisable(GL_LIGHTING);
-    glDepthMask(GL_FALSE);
-    glDrawElements(GL_TRIANGLES, static_cast<int>(indices_.size() - solid_), GL_UNSIGNED_INT,
-                   at(solid_ * sizeof(std::uint32_t)));
-    glDepthMask(GL_TRUE);
+    glEnable(GL_STENCIL_TEST);
+    glStencilFunc(GL_ALWAYS, 1, 0xff);
+    glStencilOp(GL_KEEP, GL_KEEP, GL_REPLACE);
+    drawFrom(0, grounds_);
+    drawFlat();
+    glDisable(GL_STENCIL_TEST);
+    drawFrom(grounds_, solid_);
     glFinish();
     calls_.bind(BufferCalls::kVertices, 0);
     calls_.bind(BufferCalls::kIndices, 0);
   }
 
  private:
+  static void drawFrom(std::size_t first, std::size_t last) {
+    glDrawElements(GL_TRIANGLES, static_cast<int>(last - first), GL_UNSIGNED_INT,
+                   reinterpret_cast<const void*>(first * sizeof(std::uint32_t)));
+  }
+
+  /// The shadows: on the board, along the rays of a sun, each place once.
+  void drawFlat() const {
+    const float flat[] = {1, 0, 0, 0, 0, 1, 0, 0, 0.55F, 0.66F, 0, 0, 0, 0, 0.5F, 1};
+    glDisableClientState(GL_NORMAL_ARRAY);
+    glDisableClientState(GL_COLOR_ARRAY);
+    glDisable(GL_LIGHTING);
+    glPushMatrix();
+    glMultMatrixf(flat);
+    glColor3f(0.6F, 0.6F, 0.6F);
+    glEnable(GL_BLEND);
+    glBlendFunc(GL_ZERO, GL_SRC_COLOR);
+    glStencilFunc(GL_EQUAL, 1, 0xff);
+    glStencilOp(GL_KEEP, GL_KEEP, GL_ZERO);
+    glDepthMask(GL_FALSE);
+    drawFrom(solid_, indices_.size());
+    glDepthMask(GL_TRUE);
+    glDisable(GL_BLEND);
+    glPopMatrix();
+    glEnable(GL_LIGHTING);
+    glEnableClientState(GL_NORMAL_ARRAY);
+    glEnableClientState(GL_COLOR_ARRAY);
+  }
+
   /// What is behind the layout: a sky, and before it a floor, over the whole window.
   static void drawBehind() {
     glDisable(GL_LIGHTING);
@@ -196,6 +225,7 @@ class BareArrays {
   unsigned buffers_[2] = {};
   std::vector<MeshVertex> vertices_;
   std::vector<std::uint32_t> indices_;
+  std::size_t grounds_ = 0; ///< up to where
   std::size_t solid_ = 0;
 };
 

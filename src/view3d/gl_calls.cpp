@@ -3,11 +3,16 @@
 #endif
 #include "view3d/gl_calls.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <string_view>
 
 namespace trassix {
 
 namespace {
+
+constexpr std::string_view kProcessorRenderers[] = {
+    "llvmpipe", "softpipe", "Software Rasterizer", "SwiftShader", "GDI Generic", "Basic Render"};
 
 #ifdef _WIN32
 template <class Function>
@@ -49,9 +54,17 @@ BufferCalls bufferCalls() {
 } // namespace
 
 GlAbilities GlAbilities::ofContext() {
+  constexpr GLenum kSamples = 0x80A9;
   GLint stencilBits = 0;
+  GLint samples = 0;
   glGetIntegerv(GL_STENCIL_BITS, &stencilBits);
-  return {bufferCalls(), stencilBits >= 8};
+  glGetIntegerv(kSamples, &samples);
+  const auto* renderer = reinterpret_cast<const char*>(glGetString(GL_RENDERER));
+  const std::string_view name = renderer == nullptr ? "" : renderer;
+  const bool byProcessor = std::ranges::any_of(kProcessorRenderers, [name](std::string_view known) {
+    return name.find(known) != std::string_view::npos;
+  });
+  return {bufferCalls(), stencilBits >= 8, samples > 1, byProcessor};
 }
 
 } // namespace trassix

@@ -35,6 +35,8 @@ struct BufferCalls {
 struct GlAbilities {
   BufferCalls buffers; ///< not usable with a driver before OpenGL 1.5
   bool stencil = false;
+  bool smooths = false;     ///< edges, with several samples for a pixel
+  bool byProcessor = false; ///< which pays for each sample as for another picture
 
   static GlAbilities ofContext(); ///< of the current one
 };

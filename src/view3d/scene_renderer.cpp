@@ -23,7 +23,8 @@ constexpr Rgba kHorizon{0.90F, 0.92F, 0.93F, 1};
 constexpr Rgba kFloor{0.74F, 0.71F, 0.67F, 1};
 constexpr Rgba kGlow{0.50F, 0.22F, 0, 1}; ///< of what is selected
 constexpr Rgba kDark{0, 0, 0, 1};
-constexpr float kShadowLift = 0.5F; // mm above the ground, and above what is painted on it
+constexpr double kShadowLift = 0.5; // mm above the ground, and above what is painted on it
+constexpr double kShadowPixels = 1; // that something is high, for its shadow to be seen
 constexpr double kSunk = 12;        // mm: what reaches so far below a ground casts no shadow on it
 constexpr double kFinePixels = 1.3; // of a batch's grain, from which on it is drawn finely
 constexpr int kMarks = 250;         // that the stencil tells apart
@@ -50,7 +51,9 @@ void setFinish(Finish finish) {
 /// Only this part of the picture, as large as all of it.
 Matrix4 tileOf(const PictureTile& tile) {
   const double n = tile.tiles;
-  return {n, 0, 0, 0, 0, n, 0, 0, 0, 0, 1, 0, n - 1 - 2 * tile.column, 2 * tile.row + 1 - n, 0, 1};
+  const double x = n - 1 - 2 * tile.column + 2 * tile.right;
+  const double y = 2 * tile.row + 1 - n + 2 * tile.up;
+  return {n, 0, 0, 0, 0, n, 0, 0, 0, 0, 1, 0, x, y, 0, 1};
 }
 
 using Picked = std::pair<RecordKind, std::int32_t>;
@@ -63,16 +66,6 @@ std::set<Picked> selectedRecords(const Layout& layout) {
         selected.emplace(record.kKind, record.id);
   });
   return selected;
-}
-
-Detail detailOf(const SceneBatch& batch, const OrbitCamera& camera, int tiles) {
-  const Vec3 eye = camera.eye();
-  const Vec3 nearest{std::clamp(eye.x, batch.least.x, batch.most.x),
-                     std::clamp(eye.y, batch.least.y, batch.most.y),
-                     std::clamp(eye.z, batch.least.z, batch.most.z)};
-  // As if it were straight ahead, where it is largest.
-  const Vec3 ahead = eye + lengthOf(nearest - eye) * camera.forward();
-  return batch.grain * tiles / camera.mmPerPixel(ahead) < kFinePixels ? Detail::Far : Detail::Near;
 }
 
 void drawSky(const PictureTile& tile, bool inTunnel) {
@@ -139,18 +132,19 @@ void SceneRenderer::gather(const Layout& layout, const Scene& scene, const Scene
     if (known == places_.end() || known->first != key)
       known = places_.emplace_hint(known, key, Places{});
     Places& places = known->second;
+    const double pixel = camera.mmPerPixel(batch.least, batch.most) / look.tile.tiles;
     const std::size_t above = grounds_.size(); // plates come before what stands on them
     if (key.group == SceneGroup::Plates && above < kMarks)
       grounds_.push_back({batch.most.z, {}, {}});
     if (masks_ && look.shadows && !look.inTunnel && castsShadow(key.group) &&
         (!view.cut || batch.most.z <= *view.cut))
       for (std::size_t i = 0; i < above; ++i)
-        if (batch.most.z > grounds_[i].height + kShadowLift &&
+        if (batch.most.z > grounds_[i].height + std::max(kShadowLift, kShadowPixels * pixel) &&
             batch.least.z > grounds_[i].height - kSunk)
           grounds_[i].shadows.add(sent(places, batch, Detail::Far));
     if (!volume.meets(batch.least, batch.most))
       continue;
-    const Detail detail = detailOf(batch, camera, look.tile.tiles);
+    const Detail detail = batch.grain < kFinePixels * pixel ? Detail::Far : Detail::Near;
     drawn_ += batch.mesh(detail).triangles();
     MeshStore::Draws* draws = &bodies_;
     if (key.isRecord() && selected.contains({key.kind, key.id}))
@@ -210,7 +204,7 @@ void SceneRenderer::drawShadows(const Ground& ground, int mark) {
   const float y = kSun[1] / kSun[2];
   const auto z = static_cast<float>(ground.height);
   const std::array<float, 16> flat{
-      1, 0, 0, 0, 0, 1, 0, 0, -x, -y, 0, 0, x * z, y * z, z + kShadowLift, 1};
+      1, 0, 0, 0, 0, 1, 0, 0, -x, -y, 0, 0, x * z, y * z, z + static_cast<float>(kShadowLift), 1};
   glPushMatrix();
   glMultMatrixf(flat.data());
   glDisable(GL_LIGHTING);

@@ -18,6 +18,8 @@ struct PictureTile {
   int tiles = 1;
   int column = 0;
   int row = 0;
+  double right = 0; ///< moved by so many of the window's widths and heights
+  double up = 0;
 };
 
 /// Draws a scene with what every OpenGL has: fixed functions on arrays of triangles. A mesh is sent

@@ -24,6 +24,17 @@ constexpr double kKeyTurn = 5;      // degrees
 constexpr double kWheelZoom = 1.25; // a notch
 constexpr int kClickPlay = 3;       // px
 constexpr int kTick = 16;           // ms
+constexpr int kRest = 150;          // ms without a new picture
+
+/// Where within a pixel its samples are.
+constexpr std::pair<double, double> kSamples[] = {
+    {-0.125, -0.375}, {0.375, -0.125}, {-0.375, 0.125}, {0.125, 0.375}};
+
+/// Whether there is any use in asking for a picture with smoothed edges.
+bool& asksForSamples() {
+  static bool asks = true;
+  return asks;
+}
 
 /// The best kind of picture that the display has, from smoothed edges and shadows down to plain.
 const wxGLAttributes* attributes() {
@@ -32,9 +43,11 @@ const wxGLAttributes* attributes() {
     int stencil;
     int depth;
   };
-  static const auto best = []() -> std::unique_ptr<wxGLAttributes> {
+  const auto find = [](bool withSamples) -> std::unique_ptr<wxGLAttributes> {
     for (const Wish wish :
          {Wish{4, 8, 24}, Wish{2, 8, 24}, Wish{0, 8, 24}, Wish{0, 0, 24}, Wish{0, 0, 16}}) {
+      if (wish.samples > 0 && !withSamples)
+        continue;
       auto attributes = std::make_unique<wxGLAttributes>();
       attributes->PlatformDefaults().RGBA().DoubleBuffer().Depth(wish.depth);
       if (wish.stencil > 0)
@@ -46,8 +59,10 @@ const wxGLAttributes* attributes() {
         return attributes;
     }
     return nullptr;
-  }();
-  return best.get();
+  };
+  static const auto best = find(true);
+  static const auto plain = find(false);
+  return asksForSamples() ? best.get() : plain.get();
 }
 
 } // namespace
@@ -73,7 +88,8 @@ TrackGLCanvas::TrackGLCanvas(wxWindow* parent, Workspace& workspace, std::functi
     : wxGLCanvas(parent, *attributes(), wxID_ANY, wxDefaultPosition, wxDefaultSize,
                  wxWANTS_CHARS | wxFULL_REPAINT_ON_RESIZE, "view3D"),
       workspace_(workspace), follower_(std::make_unique<Follower>(*this, workspace)),
-      told_(std::move(told)), context_(std::make_unique<wxGLContext>(this)), timer_(this) {
+      told_(std::move(told)), context_(std::make_unique<wxGLContext>(this)), timer_(this),
+      rest_(this) {
   camera_.yaw = 30;
   if (!context_->IsOK())
     problem_ = _("The display's driver refuses to draw with OpenGL.");
@@ -92,7 +108,10 @@ TrackGLCanvas::TrackGLCanvas(wxWindow* parent, Workspace& workspace, std::functi
   Bind(wxEVT_MOUSEWHEEL, &TrackGLCanvas::onWheel, this);
   Bind(wxEVT_KEY_DOWN, &TrackGLCanvas::onKey, this);
   Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { drag_ = Drag::None; });
-  Bind(wxEVT_TIMER, [this](wxTimerEvent&) { rideOn(); });
+  Bind(
+      wxEVT_TIMER, [this](wxTimerEvent&) { rideOn(); }, timer_.GetId());
+  Bind(
+      wxEVT_TIMER, [this](wxTimerEvent&) { paintSmoothed(); }, rest_.GetId());
 }
 
 TrackGLCanvas::~TrackGLCanvas() {
@@ -103,14 +122,25 @@ TrackGLCanvas::~TrackGLCanvas() {
 void TrackGLCanvas::leavePlan() {
   endRide();
   letGo();
+  rest_.Stop();
   follower_.reset();
 }
 
 bool TrackGLCanvas::makeCurrent() {
-  if (!problem_.empty() || !IsShownOnScreen() || !SetCurrent(*context_))
+  if (!problem_.empty() || toBeReplaced_ || !follower_ || !IsShownOnScreen() ||
+      !SetCurrent(*context_))
     return false;
-  if (!renderer_)
-    renderer_ = std::make_unique<SceneRenderer>(GlAbilities::ofContext());
+  if (renderer_)
+    return true;
+  const GlAbilities abilities = GlAbilities::ofContext();
+  if (abilities.byProcessor && abilities.smooths && asksForSamples()) {
+    asksForSamples() = false;
+    toBeReplaced_ = true;
+    told_();
+    return false;
+  }
+  smooths_ = abilities.smooths;
+  renderer_ = std::make_unique<SceneRenderer>(abilities);
   return true;
 }
 
@@ -173,6 +203,61 @@ void TrackGLCanvas::paint() {
   refreshScene();
   drawInto(shownCamera(), {});
   SwapBuffers();
+  if (!smooths_ && !ride_)
+    rest_.StartOnce(kRest);
+}
+
+/// The pixels of a tile, row by row from below; with smoothed edges, whatever the driver does.
+std::vector<unsigned char> TrackGLCanvas::smoothed(const OrbitCamera& camera, PictureTile tile) {
+  const auto width = static_cast<int>(camera.width);
+  const auto height = static_cast<int>(camera.height);
+  std::vector<unsigned char> pixels(static_cast<std::size_t>(width) *
+                                    static_cast<std::size_t>(height) * 3);
+  glPixelStorei(GL_PACK_ALIGNMENT, 1);
+  const auto read = [&] {
+    glReadBuffer(GL_BACK);
+    glReadPixels(0, 0, width, height, GL_RGB, GL_UNSIGNED_BYTE, pixels.data());
+  };
+  if (smooths_) {
+    drawInto(camera, tile);
+    read();
+    return pixels;
+  }
+  std::vector<std::uint16_t> sums(pixels.size(), std::size(kSamples) / 2);
+  for (const auto& [x, y] : kSamples) {
+    tile.right = x / camera.width;
+    tile.up = y / camera.height;
+    drawInto(camera, tile);
+    read();
+    std::ranges::transform(sums, pixels, sums.begin(), [](std::uint16_t sum, unsigned char value) {
+      return static_cast<std::uint16_t>(sum + value);
+    });
+  }
+  std::ranges::transform(sums, pixels.begin(), [](std::uint16_t sum) {
+    return static_cast<unsigned char>(sum / std::size(kSamples));
+  });
+  return pixels;
+}
+
+/// What stands still is worth more time than what moves.
+void TrackGLCanvas::paintSmoothed() {
+  if (ride_ || drag_ != Drag::None || !makeCurrent())
+    return;
+  refreshScene();
+  const OrbitCamera camera = shownCamera();
+  const std::vector<unsigned char> pixels = smoothed(camera, {});
+  glMatrixMode(GL_PROJECTION);
+  glLoadIdentity();
+  glMatrixMode(GL_MODELVIEW);
+  glLoadIdentity();
+  glDisable(GL_LIGHTING);
+  glDisable(GL_DEPTH_TEST);
+  glRasterPos2f(-1, -1);
+  glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
+  glDrawPixels(static_cast<int>(camera.width), static_cast<int>(camera.height), GL_RGB,
+               GL_UNSIGNED_BYTE, pixels.data());
+  glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
+  SwapBuffers();
 }
 
 wxImage TrackGLCanvas::picture(int times) {
@@ -183,14 +268,9 @@ wxImage TrackGLCanvas::picture(int times) {
   const auto width = static_cast<int>(camera.width);
   const auto height = static_cast<int>(camera.height);
   wxImage whole(width * times, height * times);
-  std::vector<unsigned char> rows(static_cast<std::size_t>(width) *
-                                  static_cast<std::size_t>(height) * 3);
-  glPixelStorei(GL_PACK_ALIGNMENT, 1);
   for (int row = 0; row < times; ++row)
     for (int column = 0; column < times; ++column) {
-      drawInto(camera, {times, column, row});
-      glReadBuffer(GL_BACK);
-      glReadPixels(0, 0, width, height, GL_RGB, GL_UNSIGNED_BYTE, rows.data());
+      const std::vector<unsigned char> rows = smoothed(camera, {times, column, row});
       for (int y = 0; y < height; ++y) { // which come from below
         const auto from =
             static_cast<std::size_t>(height - 1 - y) * static_cast<std::size_t>(width);

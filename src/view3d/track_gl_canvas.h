@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace trassix {
 
@@ -22,7 +23,7 @@ namespace trassix {
 /// keys, and selects what is clicked.
 class TrackGLCanvas : public wxGLCanvas {
  public:
-  /// `told` is called when there is another hint or a ride begins or ends.
+  /// `told` is called when there is another hint, a ride begins or ends, or it is to be replaced.
   TrackGLCanvas(wxWindow* parent, Workspace& workspace, std::function<void()> told);
   ~TrackGLCanvas() override;
 
@@ -31,6 +32,8 @@ class TrackGLCanvas : public wxGLCanvas {
 
   /// Whether this display can show GL at all, so that a canvas can be made.
   static bool isPossible();
+  /// Smoothing its edges costs more than it is worth here; one made in its place does not.
+  bool isToBeReplaced() const { return toBeReplaced_; }
   /// Why it shows nothing all the same; empty when it does.
   const wxString& problem() const { return problem_; }
 
@@ -70,6 +73,8 @@ class TrackGLCanvas : public wxGLCanvas {
   void refreshScene();
   void paint();
   void drawInto(const OrbitCamera& camera, const PictureTile& tile);
+  std::vector<unsigned char> smoothed(const OrbitCamera& camera, PictureTile tile);
+  void paintSmoothed();
   OrbitCamera shownCamera() const;
   std::vector<SceneLabel> shownLabels() const;
   OrbitCamera::Pixel pixelOf(wxPoint at) const;
@@ -91,6 +96,8 @@ class TrackGLCanvas : public wxGLCanvas {
   std::unique_ptr<Follower> follower_;
   std::function<void()> told_;
   wxString problem_;
+  bool toBeReplaced_ = false;
+  bool smooths_ = false; ///< the driver does, while it draws
   std::unique_ptr<wxGLContext> context_;
   std::unique_ptr<SceneRenderer> renderer_; ///< made when the context is there
   LabelPainter labels_;
@@ -109,6 +116,7 @@ class TrackGLCanvas : public wxGLCanvas {
   double speed_ = 60; ///< of the prototype, in km/h
   int direction_ = 1; ///< 0: it stands
   wxTimer timer_;
+  wxTimer rest_; ///< until nothing has moved for a while
   wxStopWatch clock_;
   long lastTick_ = 0;
 };

@@ -122,7 +122,7 @@ View3DFrame::View3DFrame(wxWindow* parent, Workspace& workspace)
       workspace_(workspace) {
   SetIcons(static_cast<wxTopLevelWindow*>(parent)->GetIcons());
   if (TrackGLCanvas::isPossible())
-    canvas_ = new TrackGLCanvas(this, workspace, [this] { follow(); });
+    makeCanvas();
   if (canvas_ != nullptr && canvas_->problem().empty()) {
     build();
   } else {
@@ -146,6 +146,20 @@ View3DFrame::View3DFrame(wxWindow* parent, Workspace& workspace)
     if (canvas_)
       canvas_->leavePlan(); // it may go before the toolkit gets round to this window
     Destroy();
+  });
+}
+
+void View3DFrame::makeCanvas() {
+  canvas_ = new TrackGLCanvas(this, workspace_, [this] {
+    follow();
+    if (canvas_->isToBeReplaced())
+      CallAfter([this] {
+        canvas_->leavePlan();
+        canvas_->Destroy();
+        makeCanvas();
+        SendSizeEvent();
+        canvas_->SetFocus();
+      });
   });
 }
 

@@ -36,6 +36,7 @@ class View3DFrame : public wxFrame {
   struct Row;
   static const Row kRows[];
 
+  void makeCanvas();
   void build();
   void run(const Row& row);
   void flip(bool SceneView::*which);

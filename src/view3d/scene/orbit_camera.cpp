@@ -157,6 +157,13 @@ OrbitCamera::Ray OrbitCamera::ray(Pixel pixel) const {
   return {eye(), unit(forward() + aside)};
 }
 
+double OrbitCamera::mmPerPixel(Vec3 least, Vec3 most) const {
+  const Vec3 from = eye();
+  const Vec3 nearest{std::clamp(from.x, least.x, most.x), std::clamp(from.y, least.y, most.y),
+                     std::clamp(from.z, least.z, most.z)};
+  return mmPerPixel(from + lengthOf(nearest - from) * forward());
+}
+
 void OrbitCamera::orbit(Vec3 about, double byYaw, double byPitch) {
   const auto inView = [this](Vec3 v) {
     return Vec3{dot(v, right()), dot(v, up()), dot(v, forward())};

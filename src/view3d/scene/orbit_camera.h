@@ -67,6 +67,8 @@ struct OrbitCamera {
 
   /// How large a pixel is at this place.
   double mmPerPixel(Vec3 at) const;
+  /// How small a pixel is at most within a box, as if it were straight ahead.
+  double mmPerPixel(Vec3 least, Vec3 most) const;
 
   /// Turns everything about a point, which stays where it is on the screen. Leaves the view from
   /// above as a perspective one.
