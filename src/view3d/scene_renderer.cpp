@@ -122,7 +122,7 @@ void SceneRenderer::gather(const Layout& layout, const Scene& scene, const Scene
   drawn_ = 0;
   const ViewVolume volume(
       product(tileOf(look.tile), product(camera.projection(scene.bounds()), camera.view())));
-  const std::set<Picked> selected = selectedRecords(layout);
+  const std::set<Picked> selected = look.selection ? selectedRecords(layout) : std::set<Picked>();
   auto known = places_.begin(); // in the order of the scene
   for (const auto& [key, batch] : scene.batches) {
     if (!isShown(layout, key, batch, view))

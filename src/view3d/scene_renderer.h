@@ -31,6 +31,7 @@ class SceneRenderer {
     int height = 0;
     bool inTunnel = false; ///< with the light of a train
     bool shadows = true;
+    bool selection = true; ///< what is selected glows
     PictureTile tile;
   };
 

@@ -183,6 +183,7 @@ void TrackGLCanvas::drawInto(const OrbitCamera& camera, const PictureTile& tile)
   look.width = static_cast<int>(camera.width);
   look.height = static_cast<int>(camera.height);
   look.inTunnel = ride_ && ride_->view(workspace_.layout()).inTunnel;
+  look.selection = !ride_;
   look.tile = tile;
   renderer_->draw(workspace_.layout(), keeper_.scene(), view_, camera, look);
   if (view_.labels && !ride_)

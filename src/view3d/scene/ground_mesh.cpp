@@ -6,6 +6,7 @@
 #include "editing/elevation/end_heights.h"
 #include "editing/selection/content_box.h"
 #include "editing/track/connector_geometry.h"
+#include "editing/track/routes.h"
 #include "editing/tunnels/tunnel_figures.h"
 #include "editing/tunnels/tunnel_outline.h"
 
@@ -37,6 +38,7 @@ constexpr double kLayer = 0.06;      // mm from one layer of it to the next
 constexpr int kLayers = 20;
 constexpr double kLineWidth = 2;
 constexpr double kHillAbove = 25;   // mm above the opening of a tunnel
+constexpr double kPassStep = 20;    // mm along track that may pass over a tunnel
 constexpr double kTunnelSide = 0.2; // of the rise, by which the sides of such a hill lean
 
 Polygon inScene(const Polygon& plan) {
@@ -133,6 +135,50 @@ void addShape(Mesh& mesh, const Layout& layout, const Shape& shape, int layer) {
     builder.area(outline, z, color);
 }
 
+bool passesOver(const PlacedPiece& piece, const PieceDef& definition, const Polygon& place) {
+  const auto within = [&](const RoutePoint& at) {
+    return inside(place, toWorld(poseOf(piece), at.position));
+  };
+  return std::ranges::any_of(routesOf(definition), [&](const Route& route) {
+    return std::ranges::any_of(sampleRoute(route, 1, kPassStep), within);
+  });
+}
+
+/// What else passes over or under a place at other heights than these, track and decks.
+struct Passing {
+  double over = 1e9; ///< the lowest underside above
+  bool under = false;
+};
+
+Passing passing(const Layout& layout, const Polygon& place, double low, double high) {
+  Passing passing;
+  for (const Level& level : layout.settings().levels)
+    if (level.height - kPlateThickness > high &&
+        std::ranges::any_of(place, [&](Point at) { return inside(level.outline, at); }))
+      passing.over = std::min(passing.over, level.height - kPlateThickness);
+  for (const PlacedPiece& piece : layout.pieces()) {
+    const PieceDef* definition = definitionOf(piece);
+    if (definition == nullptr)
+      continue;
+    double lowest = piece.z;
+    double highest = piece.z;
+    for (std::size_t end = 0; end < definition->connectors.size(); ++end) {
+      const double height = endHeight(piece, *definition, static_cast<std::int32_t>(end));
+      lowest = std::min(lowest, height);
+      highest = std::max(highest, height);
+    }
+    lowest -= kPlateThickness;
+    const bool over = lowest > high && lowest < passing.over;
+    if ((over || (highest < low && !passing.under)) && passesOver(piece, *definition, place)) {
+      if (over)
+        passing.over = lowest;
+      else
+        passing.under = true;
+    }
+  }
+  return passing;
+}
+
 std::optional<Hill> tunnelHill(const Layout& layout, const Grounds& grounds, const Tunnel& tunnel) {
   const Polygon foot = hillOver(layout, tunnel);
   if (foot.size() < 3)
@@ -153,7 +199,14 @@ std::optional<Hill> tunnelHill(const Layout& layout, const Grounds& grounds, con
       high = std::max(high, height + opening + kHillAbove);
     }
   }
-  const double base = std::min(grounds.below(foot.front(), low).height, low);
+  // Too little room for a hill: what passes over the tunnel hides it. A hill that stood on what
+  // passes below would close that, so it begins at its own track.
+  const Passing others = passing(layout, foot, low - kHillAbove, low + kHillAbove);
+  if (others.over < high - kHillAbove)
+    return std::nullopt;
+  high = std::min(high, others.over);
+  const double base =
+      others.under ? low - kPlateThickness : std::min(grounds.below(foot.front(), low).height, low);
   return makeHill(foot, base, high - base, kTunnelSide * (high - base));
 }
 

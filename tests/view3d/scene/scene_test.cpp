@@ -243,6 +243,36 @@ TEST(Scene, SceneryStandsOnWhatIsBelowIt) {
   EXPECT_NEAR(hill.most.z, 25 + 10 + 72 + 25, 1e-3); // track, rails, opening, and hill above it
 }
 
+TEST(Scene, HillsOverTunnelsLeaveOtherTrackFree) {
+  struct Case {
+    double covered;
+    double other; ///< height of the track that crosses it
+    double foot;  ///< of the hill, as high as its top without one
+    double top;
+  };
+  for (const Case& c : {Case{200, 199, 0, 307},
+                        {200, 0, 190, 307},
+                        {25, 140, 0, 130},
+                        {25, 90, 0, 0},
+                        {25, 300, 0, 132}}) {
+    Layout layout = Plan().place("24188").place("24188", {94, -94, 90}).layout;
+    layout.editPiece(1)->z = c.covered;
+    layout.editPiece(2)->z = c.other;
+    Tunnel tunnel;
+    tunnel.id = 8;
+    tunnel.anchorA = 1;
+    tunnel.covers = {1};
+    layout.edit().tunnels = {tunnel};
+    const Scene scene = sceneOf(layout);
+    const auto hill = scene.batches.find({SceneGroup::Ground, RecordKind::Tunnel, 8});
+    ASSERT_EQ(hill != scene.batches.end(), c.top > c.foot) << c.other;
+    if (hill != scene.batches.end()) {
+      EXPECT_NEAR(hill->second.least.z, c.foot, 1e-3) << c.other;
+      EXPECT_NEAR(hill->second.most.z, c.top, 1e-3) << c.other;
+    }
+  }
+}
+
 TEST(Scene, RaysMeetWhatTheyPointAt) {
   const Layout layout = Plan().place("24188").extend("24130").extend("24671").layout;
   const Scene scene = sceneOf(layout);
