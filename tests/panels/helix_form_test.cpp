@@ -82,6 +82,7 @@ TEST(HelixForm, TellsWhetherTrainsGetUpAndThrough) {
   EXPECT_EQ(facts, "Grade, inner track: 3.5 %, felt 5.8 %\nGrade, outer track: 2.9 %, felt 4.8 %\n"
                    "Keeping right: Up on the inner track\nClearance: 60.0 mm\n"
                    "Needed, no wire: 60 mm: enough\nNeeded for wire: 90 mm: too low\n"
+                   "Inner ends cross: 52.3 mm: too low\n"
                    "Exit: Other side, back\nBoard: 955.0 \u00d7 955.0 mm\n"
                    "Pieces: 30 \u00d7 24130, 30 \u00d7 24230\n");
 }

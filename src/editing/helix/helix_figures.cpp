@@ -34,6 +34,15 @@ std::string neededText(const HelixFigures& figures, double least, std::int32_t u
             {formatBriefLength(least, units)});
 }
 
+/// Of inner ends that pass the outer track.
+std::string crossingText(const HelixFigures& figures, std::int32_t units) {
+  const double room = figures.crossing + kPitchPlay;
+  return tr(room < figures.least           ? trLater("%1%: too low")
+            : room < figures.leastWithWire ? trLater("%1%: too low for wire")
+                                           : trLater("%1%: enough"),
+            {formatBriefLength(figures.crossing, units)});
+}
+
 std::string piecesText(const HelixFigures& figures) {
   std::string text;
   for (const HelixFigures::Track& track : figures.tracks)
@@ -62,6 +71,10 @@ HelixFigures figuresOf(const HelixPlan& plan) {
     add(*plan.kit->outer, true);
   const TrackSystem system = plan.kit->system;
   figures.clearance = plan.pitch - railTop(system) - kDeckThickness;
+  if (plan.kit->outer != nullptr) {
+    const double missing = toDegrees(std::acos(plan.kit->inner->radius / plan.kit->outer->radius));
+    figures.crossing = figures.clearance - plan.pitch * missing / 360;
+  }
   figures.least = leastClearance(system, false);
   figures.leastWithWire = leastClearance(system, true);
   figures.board = 2 * plan.kit->outerSize;
@@ -104,6 +117,8 @@ std::vector<HelixFact> factsOf(const HelixPlan& plan, std::int32_t units) {
   facts.push_back({tr("Clearance"), formatLength(figures.clearance, units)});
   facts.push_back({tr("Needed, no wire"), neededText(figures, figures.least, units)});
   facts.push_back({tr("Needed for wire"), neededText(figures, figures.leastWithWire, units)});
+  if (figures.crossing != 0)
+    facts.push_back({tr("Inner ends cross"), crossingText(figures, units)});
   facts.push_back({tr("Exit"), exitText(*plan.kit)});
   facts.push_back({tr("Board"), formatSize(figures.board, figures.board, units)});
   facts.push_back({tr("Pieces"), piecesText(figures)});

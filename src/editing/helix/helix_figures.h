@@ -23,6 +23,8 @@ struct HelixFigures {
 
   std::vector<Track> tracks; ///< the inner one first, which is the steeper one
   double clearance = 0;      ///< from rails to the underside of the turn above
+  double crossing = 0;       ///< the same where the inner track's ends, going straight on, pass
+                             ///< the outer track, less than a turn away; 0 with one track
   double least = 0;          ///< clearance that trains need without wire
   double leastWithWire = 0;
   double board = 0; ///< side of the square that it takes up
