@@ -68,14 +68,14 @@ std::set<Picked> selectedRecords(const Layout& layout) {
   return selected;
 }
 
-void drawSky(const PictureTile& tile, bool inTunnel) {
+void drawSky(const PictureTile& tile, double dark) {
   glMatrixMode(GL_PROJECTION);
   glLoadMatrixd(tileOf(tile).data());
   glMatrixMode(GL_MODELVIEW);
   glLoadIdentity();
   glDisable(GL_DEPTH_TEST);
   glDisable(GL_LIGHTING);
-  const float dim = inTunnel ? 0.25F : 1;
+  const auto dim = static_cast<float>(1 - 0.75 * dark);
   const auto row = [dim](const Rgba& color, float y) {
     glColor3f(color[0] * dim, color[1] * dim, color[2] * dim);
     glVertex2f(-1, y);
@@ -136,7 +136,7 @@ void SceneRenderer::gather(const Layout& layout, const Scene& scene, const Scene
     const std::size_t above = grounds_.size(); // plates come before what stands on them
     if (key.group == SceneGroup::Plates && above < kMarks)
       grounds_.push_back({batch.most.z, {}, {}});
-    if (masks_ && look.shadows && !look.inTunnel && castsShadow(key.group) &&
+    if (masks_ && look.shadows && look.dark < 1 && castsShadow(key.group) &&
         (!view.cut || batch.most.z <= *view.cut))
       for (std::size_t i = 0; i < above; ++i)
         if (batch.most.z > grounds_[i].height + std::max(kShadowLift, kShadowPixels * pixel) &&
@@ -169,7 +169,7 @@ void SceneRenderer::prepare(const OrbitCamera& camera, const Matrix4& projection
   glEnable(GL_COLOR_MATERIAL);
   glColorMaterial(GL_FRONT_AND_BACK, GL_AMBIENT_AND_DIFFUSE);
   glLightModeli(GL_LIGHT_MODEL_TWO_SIDE, 1);
-  const float dim = look.inTunnel ? 0.3F : 1;
+  const auto dim = static_cast<float>(1 - 0.7 * look.dark);
   const auto dimmed = [dim](float r, float g, float b) {
     return Rgba{r * dim, g * dim, b * dim, 1};
   };
@@ -177,7 +177,7 @@ void SceneRenderer::prepare(const OrbitCamera& camera, const Matrix4& projection
   glLightModelfv(GL_LIGHT_MODEL_AMBIENT, ambient.data());
   setLight(GL_LIGHT0, kSun, dimmed(0.58F, 0.55F, 0.48F), dimmed(0.9F, 0.88F, 0.8F));
   setLight(GL_LIGHT1, kAbove, dimmed(0.16F, 0.18F, 0.21F), kDark);
-  if (look.inTunnel) {
+  if (look.dark > 0) {
     const Vec3 eye = camera.eye();
     setLight(GL_LIGHT2,
              {static_cast<float>(eye.x), static_cast<float>(eye.y), static_cast<float>(eye.z), 1},
@@ -226,7 +226,7 @@ void SceneRenderer::drawShadows(const Ground& ground, int mark) {
 void SceneRenderer::drawRoom(const Scene& scene, const Look& look) {
   const auto board = std::ranges::find(scene.batches, SceneGroup::Board,
                                        [](const auto& entry) { return entry.first.group; });
-  if (board == scene.batches.end() || look.inTunnel)
+  if (board == scene.batches.end() || look.dark >= 1)
     return;
   const auto& [least, most] = std::pair(board->second.least, board->second.most);
   const Vec3 middle = 0.5 * (least + most);
@@ -254,7 +254,7 @@ void SceneRenderer::draw(const Layout& layout, const Scene& scene, const SceneVi
   glViewport(0, 0, look.width, look.height);
   glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT | GL_STENCIL_BUFFER_BIT);
   glEnable(kMultisample);
-  drawSky(look.tile, look.inTunnel);
+  drawSky(look.tile, look.dark);
   prepare(camera, product(tileOf(look.tile), camera.projection(scene.bounds())), look);
   drawRoom(scene, look);
   if (view.cut) {

@@ -29,7 +29,7 @@ class SceneRenderer {
   struct Look {
     int width = 0; ///< pixels
     int height = 0;
-    bool inTunnel = false; ///< with the light of a train
+    double dark = 0; ///< from 0 to 1, which a train lights up
     bool shadows = true;
     bool selection = true; ///< what is selected glows
     PictureTile tile;

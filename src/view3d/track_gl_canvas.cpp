@@ -161,6 +161,7 @@ void TrackGLCanvas::refreshScene() {
   if (!fitted_ && !keeper_.scene().batches.empty()) {
     camera_.look(CameraView::Oblique, keeper_.scene().bounds());
     fitted_ = true;
+    CallAfter(told_); // no longer that there is nothing
   }
 }
 
@@ -182,7 +183,7 @@ void TrackGLCanvas::drawInto(const OrbitCamera& camera, const PictureTile& tile)
   SceneRenderer::Look look;
   look.width = static_cast<int>(camera.width);
   look.height = static_cast<int>(camera.height);
-  look.inTunnel = ride_ && ride_->view(workspace_.layout()).inTunnel;
+  look.dark = ride_ ? ride_->view(workspace_.layout()).dark : 0;
   look.selection = !ride_;
   look.tile = tile;
   renderer_->draw(workspace_.layout(), keeper_.scene(), view_, camera, look);
@@ -383,12 +384,21 @@ void TrackGLCanvas::select(OrbitCamera::Pixel pixel) {
   workspace_.selectionChanged();
 }
 
+/// Not so far away that nothing is left to be seen.
+void TrackGLCanvas::zoom(Vec3 at, double factor) {
+  constexpr double kFarthest = 8; // of the scene's size
+  const Scene::Bounds bounds = scene().bounds();
+  const double farthest =
+      std::max(kFarthest * lengthOf(bounds.most - bounds.least), camera_.distance);
+  camera_.zoom(at, std::max(factor, camera_.distance / farthest));
+}
+
 void TrackGLCanvas::onWheel(wxMouseEvent& event) {
   if (ride_ || event.GetWheelAxis() != wxMOUSE_WHEEL_VERTICAL)
     return;
   const double notches =
       static_cast<double>(event.GetWheelRotation()) / std::max(event.GetWheelDelta(), 1);
-  camera_.zoom(placeAt(pixelOf(event.GetPosition())), std::pow(kWheelZoom, notches));
+  zoom(placeAt(pixelOf(event.GetPosition())), std::pow(kWheelZoom, notches));
   Refresh(false);
 }
 
@@ -422,7 +432,15 @@ bool TrackGLCanvas::lookKey(const wxKeyEvent& event) {
   for (const auto& [plain, onPad, factor] :
        {std::tuple('+', WXK_NUMPAD_ADD, kWheelZoom), {'-', WXK_NUMPAD_SUBTRACT, 1 / kWheelZoom}})
     if (key == plain || key == onPad || (key == '=' && plain == '+')) {
-      camera_.zoom(camera_.target, factor);
+      zoom(camera_.target, factor);
+      return true;
+    }
+  // The menu's keys without a modifier do not come through where the toolkit types with them.
+  static constexpr CameraView kViews[] = {CameraView::Top, CameraView::Front, CameraView::Side,
+                                          CameraView::Oblique};
+  for (const int first : {static_cast<int>('1'), static_cast<int>(WXK_NUMPAD1)})
+    if (key >= first && key < first + static_cast<int>(std::size(kViews))) {
+      look(kViews[key - first]);
       return true;
     }
   return false;
@@ -464,6 +482,7 @@ bool TrackGLCanvas::startRide(double kilometresPerHour) {
     return false;
   letGo();
   ride_ = ride;
+  view_.levels[workspace_.layout().findPiece(pieces.front())->level] = true;
   speed_ = kilometresPerHour;
   direction_ = 1;
   clock_.Start();
@@ -473,6 +492,15 @@ bool TrackGLCanvas::startRide(double kilometresPerHour) {
   Refresh(false);
   told_();
   return true;
+}
+
+void TrackGLCanvas::haltRide(bool halted) {
+  if (!ride_)
+    return;
+  if (halted)
+    return timer_.Stop();
+  lastTick_ = clock_.Time();
+  timer_.Start(kTick);
 }
 
 void TrackGLCanvas::endRide() {
@@ -505,6 +533,8 @@ void TrackGLCanvas::rideOn() {
 }
 
 wxString TrackGLCanvas::hint() const {
+  if (!ride_ && keeper_.scene().batches.empty())
+    return _("There is nothing on the plan yet.");
   if (!ride_)
     return _("Drag: turn    Shift+drag or middle button: move    Wheel: zoom    Click: select    "
              "Double-click: into the middle    Home: all");

@@ -47,6 +47,8 @@ class TrackGLCanvas : public wxGLCanvas {
   bool startRide(double kilometresPerHour);
   void endRide();
   bool isRiding() const { return ride_.has_value(); }
+  /// It stands until it is told to go on.
+  void haltRide(bool halted);
   void setRideSpeed(double kilometresPerHour) { speed_ = kilometresPerHour; }
   const TrackRide* ride() const { return ride_ ? &*ride_ : nullptr; }
 
@@ -79,6 +81,7 @@ class TrackGLCanvas : public wxGLCanvas {
   std::vector<SceneLabel> shownLabels() const;
   OrbitCamera::Pixel pixelOf(wxPoint at) const;
   Vec3 placeAt(OrbitCamera::Pixel pixel);
+  void zoom(Vec3 at, double factor);
 
   void onMouse(wxMouseEvent& event);
   void onWheel(wxMouseEvent& event);

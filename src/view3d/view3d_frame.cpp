@@ -5,6 +5,7 @@
 #include "app/services/text_file.h"
 #include "document/layout.h"
 #include "document/open_plan.h"
+#include "host/command_ids.h"
 #include "host/workspace.h"
 #include "measures/measure_format.h"
 #include "ui/widgets/file_boxes.h"
@@ -61,7 +62,7 @@ enum Id : int {
 
 /// A command of this window: in a menu, in the tool bar, or both.
 struct View3DFrame::Row {
-  enum class Menu : std::uint8_t { File, View, None };
+  enum class Menu : std::uint8_t { File, Edit, View, None };
 
   int id;
   Menu menu;
@@ -83,6 +84,12 @@ const View3DFrame::Row View3DFrame::kRows[] = {
     {wxID_CLOSE, Row::Menu::File, wxTRANSLATE("&Close\tCtrl+W"), nullptr,
      wxTRANSLATE("Close this window; the plan stays open"),
      [](View3DFrame& frame) { frame.Close(); }},
+    {kUndo, Row::Menu::Edit, wxTRANSLATE("&Undo\tCtrl+Z"), nullptr,
+     wxTRANSLATE("Take the last change of the plan back"),
+     [](View3DFrame& frame) { frame.passOn(kUndo); }},
+    {kRedo, Row::Menu::Edit, wxTRANSLATE("&Redo\tCtrl+Y"), nullptr,
+     wxTRANSLATE("Make the change that was taken back again"),
+     [](View3DFrame& frame) { frame.passOn(kRedo); }},
     {kLookAll, Row::Menu::View, wxTRANSLATE("&Whole Layout\tHome"), wxTRANSLATE("Fit"),
      wxTRANSLATE("All of the layout, from where it is looked at (Home)"),
      [](View3DFrame& frame) { frame.canvas_->fit(); }},
@@ -120,6 +127,7 @@ View3DFrame::View3DFrame(wxWindow* parent, Workspace& workspace)
     : wxFrame(parent, wxID_ANY, _("3D View"), wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE, "view3DFrame"),
       workspace_(workspace) {
+  SetExtraStyle(GetExtraStyle() | wxWS_EX_BLOCK_EVENTS); // keys and menus are not the main window's
   SetIcons(static_cast<wxTopLevelWindow*>(parent)->GetIcons());
   if (TrackGLCanvas::isPossible())
     makeCanvas();
@@ -165,12 +173,15 @@ void View3DFrame::makeCanvas() {
 
 void View3DFrame::build() {
   auto* file = new wxMenu;
+  auto* edit = new wxMenu;
   auto* view = new wxMenu;
   wxToolBar* bar = CreateToolBar(wxTB_HORIZONTAL | wxTB_TEXT | wxTB_NOICONS);
   for (const Row& row : kRows) {
     const wxItemKind kind = row.shows ? wxITEM_CHECK : wxITEM_NORMAL;
     const wxString help = wxGetTranslation(row.help);
-    (row.menu == Row::Menu::File ? file : view)
+    (row.menu == Row::Menu::File   ? file
+     : row.menu == Row::Menu::Edit ? edit
+                                   : view)
         ->Append(row.id, wxGetTranslation(row.text), help, kind);
     if (row.tool)
       bar->AddTool(row.id, wxGetTranslation(row.tool), wxNullBitmap, help, kind);
@@ -181,6 +192,7 @@ void View3DFrame::build() {
   }
   auto* menus = new wxMenuBar;
   menus->Append(file, _("&File"));
+  menus->Append(edit, _("&Edit"));
   menus->Append(view, _("&View"));
   SetMenuBar(menus);
   speed_ = new wxChoice(bar, wxID_ANY);
@@ -209,12 +221,19 @@ void View3DFrame::build() {
     cut();
   });
   bar->Realize();
+  SetMinClientSize({bar->GetBestSize().x, -1}); // none of its controls is beyond reach
   CreateStatusBar(2);
   const int widths[] = {-1, FromDIP(160)};
   GetStatusBar()->SetStatusWidths(2, widths);
   SetStatusBarPane(-1); // the menus' help would cover the hint
   follow();
   canvas_->SetFocus();
+}
+
+/// A command of the main window, which knows what it means there.
+void View3DFrame::passOn(int command) {
+  wxCommandEvent event(wxEVT_MENU, command);
+  GetParent()->GetEventHandler()->ProcessEvent(event);
 }
 
 void View3DFrame::run(const Row& row) {
@@ -291,6 +310,12 @@ void View3DFrame::rideAlong() {
 }
 
 void View3DFrame::savePicture() {
+  canvas_->haltRide(true);
+  askForPicture();
+  canvas_->haltRide(false);
+}
+
+void View3DFrame::askForPicture() {
   const wxSize size = canvas_->GetClientSize() * canvas_->pixelScale();
   wxArrayString sizes;
   for (int times = 1; times <= kLargestPicture; ++times)

@@ -43,7 +43,9 @@ class View3DFrame : public wxFrame {
   void chooseLevels();
   void cut();
   void rideAlong();
+  void passOn(int command);
   void savePicture();
+  void askForPicture();
   void exportGltf();
   void write(const std::filesystem::path& file, const std::string& bytes);
   void follow();

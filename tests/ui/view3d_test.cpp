@@ -266,6 +266,13 @@ TEST_F(View3DTest, RidesTurnsAndWritesFiles) {
   const double yaw = view().camera().yaw;
   pressKey(WXK_LEFT);
   waitUntil("it turned", [&] { return view().camera().yaw != yaw; });
+  const double planZoom = canvas().view().zoom();
+  pressKey('+');
+  pressKey('1');
+  waitUntil("it looks from above", [&] { return view().camera().orthographic; });
+  EXPECT_EQ(canvas().view().zoom(), planZoom); // its keys are not the plan's
+  pressKey('4');
+  waitUntil("it looks obliquely", [&] { return !view().camera().orthographic; });
   const OrbitCamera before = view().camera();
   const wxSize size = view().GetClientSize();
   drag({view()}, {Spot(view(), {size.x / 2 + 80, size.y / 2 + 10})}, wxMOUSE_BTN_MIDDLE);

@@ -12,6 +12,16 @@
 
 namespace trassix {
 
+namespace {
+
+constexpr double kSame = 0.5; // mm
+
+double distance(Point a, Point b) {
+  return std::hypot(a.x - b.x, a.y - b.y);
+}
+
+} // namespace
+
 Polygon hillOver(const Layout& layout, const Tunnel& tunnel) {
   std::vector<std::int32_t> pieces = tunnel.covers;
   std::erase_if(pieces, [&layout](std::int32_t id) { return layout.findPiece(id) == nullptr; });
@@ -33,8 +43,13 @@ Polygon hillOver(const Layout& layout, const Tunnel& tunnel) {
   Polygon hill;
   Polygon back;
   for (const Pose& pose : posesAlong(layout, way)) {
-    hill.push_back(toWorld(pose, {0, right}));
-    back.push_back(toWorld(pose, {0, -left}));
+    const Point there = toWorld(pose, {0, right});
+    const Point here = toWorld(pose, {0, -left});
+    if (!hill.empty() && distance(hill.back(), there) < kSame &&
+        distance(back.back(), here) < kSame)
+      continue; // where pieces meet
+    hill.push_back(there);
+    back.push_back(here);
   }
   std::ranges::reverse_copy(back, std::back_inserter(hill));
   return hill;

@@ -120,8 +120,6 @@ void addRoof(const SceneryKit& kit, const PitchedRoof& roof) {
   for (const double side : {-1.0, 1.0})
     kit.b.triangle({side * gx, -side * gy, roof.eaves}, {side * gx, side * gy, roof.eaves},
                    {side * gx, 0, roof.ridge}, kit.look.wall);
-  kit.b.quad(right, eaves[1], eaves[0], left, under); // seen under the ends that stand out
-  kit.b.quad(left, eaves[3], eaves[2], right, under);
 }
 
 void addHouse(const SceneryKit& kit) {

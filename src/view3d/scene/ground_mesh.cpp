@@ -4,6 +4,7 @@
 #include "document/plan_content.h"
 #include "editing/elevation/crossings.h"
 #include "editing/elevation/end_heights.h"
+#include "editing/scenery/scenery_footprint.h"
 #include "editing/selection/content_box.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/routes.h"
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <tuple>
 #include <utility>
 
 namespace trassix {
@@ -37,7 +39,11 @@ constexpr double kPaint = 0.3;       // mm that painted ground lies above what i
 constexpr double kLayer = 0.06;      // mm from one layer of it to the next
 constexpr int kLayers = 20;
 constexpr double kLineWidth = 2;
-constexpr double kHillAbove = 25;   // mm above the opening of a tunnel
+constexpr double kHillAbove = 25; // mm above the opening of a tunnel
+constexpr Color kTunnelDark{78, 73, 68};
+constexpr double kLining = 0.9;   // of the way from the foot of such a hill to the edge of its top
+constexpr double kLiningUp = 0.9; // of its rise
+constexpr double kPortalWall = 0.9; // of a portal's height, below the cap
 constexpr double kPassStep = 20;    // mm along track that may pass over a tunnel
 constexpr double kTunnelSide = 0.2; // of the rise, by which the sides of such a hill lean
 
@@ -46,6 +52,15 @@ Polygon inScene(const Polygon& plan) {
   for (const Point p : plan)
     scene.push_back({p.x, -p.y});
   return scene;
+}
+
+void addHill(Mesh& mesh, const Hill& hill, Color color) {
+  MeshBuilder builder(mesh);
+  const Polygon top = inScene(hill.top);
+  const Color green = color == Color{} ? kGrass : color;
+  builder.skirt(inScene(hill.foot), hill.base, top, hill.base + hill.rise,
+                mixed(green, kRock, 0.35));
+  builder.area(top, hill.base + hill.rise, green);
 }
 
 void addLegs(MeshBuilder& builder, const Polygon& corners, double scale) {
@@ -179,7 +194,9 @@ Passing passing(const Layout& layout, const Polygon& place, double low, double h
   return passing;
 }
 
-std::optional<Hill> tunnelHill(const Layout& layout, const Grounds& grounds, const Tunnel& tunnel) {
+std::optional<TunnelHill> tunnelHill(const Layout& layout, const Grounds& grounds,
+                                     const std::map<std::int32_t, double>& portals,
+                                     const Tunnel& tunnel) {
   const Polygon foot = hillOver(layout, tunnel);
   if (foot.size() < 3)
     return std::nullopt;
@@ -207,33 +224,71 @@ std::optional<Hill> tunnelHill(const Layout& layout, const Grounds& grounds, con
   high = std::min(high, others.over);
   const double base =
       others.under ? low - kPlateThickness : std::min(grounds.below(foot.front(), low).height, low);
-  return makeHill(foot, base, high - base, kTunnelSide * (high - base));
+  TunnelHill hill{foot, base, high - base, {base, base}};
+  const std::size_t half = foot.size() / 2;
+  const double width = std::hypot(foot.front().x - foot.back().x, foot.front().y - foot.back().y);
+  for (const auto& [end, left, right] :
+       {std::tuple(0, foot.front(), foot.back()), {1, foot[half - 1], foot[half]}})
+    for (const SceneryItem& item : layout.content().scenery) {
+      const Point middle{(left.x + right.x) / 2, (left.y + right.y) / 2};
+      const auto at = portals.find(item.id);
+      if (at != portals.end() && (item.id == tunnel.portalA || item.id == tunnel.portalB) &&
+          std::hypot(item.x - middle.x, item.y - middle.y) < width / 2)
+        hill.open[static_cast<std::size_t>(end)] =
+            at->second + kPortalWall * sceneryFootprint(layout, item).height;
+    }
+  return hill;
 }
 
-void addHill(Mesh& mesh, const Hill& hill, Color color) {
+void addTunnelHill(Mesh& mesh, const TunnelHill& hill) {
+  // It has little room, and is rounded where the portals leave it free.
+  struct Round {
+    double inwards; ///< share of the way from the foot to the top's edge
+    double up;      ///< share of the rise
+  };
+  constexpr std::array<Round, 4> kRounds{{{0, 0}, {0.1, 0.6}, {0.4, 0.87}, {1, 1}}};
   MeshBuilder builder(mesh);
   const Polygon foot = inScene(hill.foot);
-  const Polygon top = inScene(hill.top);
-  const Color green = color == Color{} ? kGrass : color;
-  const Color side = mixed(green, kRock, 0.35);
-  if (hill.shape != -1) {
-    builder.skirt(foot, hill.base, top, hill.base + hill.rise, side);
-  } else { // over a tunnel it has little room, and is rounded where the portals leave it free
-    constexpr std::array<std::pair<double, double>, 4> kRound{
-        {{0, 0}, {0.1, 0.6}, {0.4, 0.87}, {1, 1}}};
-    const auto ring = [&](double share) {
-      Polygon at;
-      for (std::size_t i = 0; i < foot.size(); ++i)
-        at.push_back({foot[i].x + share * (top[i].x - foot[i].x),
-                      foot[i].y + share * (top[i].y - foot[i].y)});
-      return at;
-    };
-    for (std::size_t i = 0; i + 1 < kRound.size(); ++i)
-      builder.skirt(ring(kRound[i].first), hill.base + hill.rise * kRound[i].second,
-                    ring(kRound[i + 1].first), hill.base + hill.rise * kRound[i + 1].second,
-                    mixed(side, green, static_cast<double>(i) / 2));
+  const Polygon top =
+      inScene(makeHill(hill.foot, hill.base, hill.rise, kTunnelSide * hill.rise).top);
+  const std::size_t count = foot.size();
+  const auto at = [&](std::size_t corner, double inwards, double up) {
+    const std::size_t i = corner % count;
+    return Vec3{foot[i].x + inwards * (top[i].x - foot[i].x),
+                foot[i].y + inwards * (top[i].y - foot[i].y), hill.base + up * hill.rise};
+  };
+  const Color side = mixed(kGrass, kRock, 0.35);
+  const double turn = signedArea(foot) > 0 ? 1 : -1;
+  const auto wall = [&](std::size_t i, Round low, Round high, Color color) {
+    const Vec3 a = at(i, low.inwards, low.up);
+    const Vec3 b = at(i + 1, low.inwards, low.up);
+    const Vec3 c = at(i + 1, high.inwards, high.up);
+    const Vec3 d = at(i, high.inwards, high.up);
+    turn > 0 ? builder.quad(a, b, c, d, color) : builder.quad(d, c, b, a, color);
+  };
+  for (std::size_t i = 0; i < count; ++i) {
+    const bool last = i + 1 == count;
+    const bool atEnd = last || 2 * (i + 1) == count;
+    const double free = atEnd ? (hill.open[last ? 0 : 1] - hill.base) / hill.rise : 0;
+    for (std::size_t k = 0; k + 1 < kRounds.size(); ++k) {
+      Round low = kRounds[k];
+      const Round high = kRounds[k + 1];
+      if (high.up <= free)
+        continue;
+      if (low.up < free) {
+        low.inwards += (free - low.up) / (high.up - low.up) * (high.inwards - low.inwards);
+        low.up = free;
+      }
+      wall(i, low, high, mixed(side, kGrass, static_cast<double>(k) / 2));
+    }
+    if (!atEnd)
+      wall(i, {kLining, 0}, {kLining, kLiningUp}, kTunnelDark);
   }
-  builder.area(top, hill.base + hill.rise, green);
+  builder.area(top, hill.base + hill.rise, kGrass);
+  Polygon ceiling;
+  for (std::size_t i = 0; i < count; ++i)
+    ceiling.push_back({at(i, kLining, 0).x, at(i, kLining, 0).y});
+  builder.area(ceiling, hill.base + kLiningUp * hill.rise, kTunnelDark);
 }
 
 } // namespace trassix

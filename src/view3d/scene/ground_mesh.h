@@ -7,6 +7,9 @@
 #include "editing/supports/grounds.h"
 #include "view3d/scene/mesh.h"
 
+#include <array>
+#include <cstdint>
+#include <map>
 #include <optional>
 
 namespace trassix {
@@ -29,8 +32,22 @@ void addPost(Mesh& mesh, const DeckPost& post);
 /// numbers what lies one over another.
 void addShape(Mesh& mesh, const Layout& layout, const Shape& shape, int layer);
 
-/// The hill over a tunnel; none where its track is not what a tunnel can cover.
-std::optional<Hill> tunnelHill(const Layout& layout, const Grounds& grounds, const Tunnel& tunnel);
-void addHill(Mesh& mesh, const Hill& hill, Color color);
+/// The hill over a tunnel, whose foot runs along one side of the track and back along the other.
+struct TunnelHill {
+  Polygon foot;
+  double base = 0; ///< height of the foot
+  double rise = 0;
+  std::array<double, 2> open{}; ///< heights up to which portals stand before its ends
+
+  bool operator==(const TunnelHill&) const = default;
+};
+
+/// None where its track is not what a tunnel can cover, or where other track leaves no room.
+/// `portals`: at which heights they stand, by id.
+std::optional<TunnelHill> tunnelHill(const Layout& layout, const Grounds& grounds,
+                                     const std::map<std::int32_t, double>& portals,
+                                     const Tunnel& tunnel);
+/// Dark inside, so that one looks into it and out of it through its portals.
+void addTunnelHill(Mesh& mesh, const TunnelHill& hill);
 
 } // namespace trassix

@@ -13,7 +13,7 @@ constexpr double kFieldOfView = 40; // degrees, from top to bottom
 constexpr double kNearest = 20;     // mm of distance
 constexpr double kFarthest = 1e6;
 constexpr double kLowest = -10; // degrees of pitch
-constexpr double kFitRoom = 1.08;
+constexpr double kFitRoom = 1.16;
 
 double halfTangent() {
   static const double tangent = std::tan(toRadians(kFieldOfView / 2));

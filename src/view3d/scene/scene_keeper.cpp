@@ -121,8 +121,9 @@ SceneChanges SceneKeeper::update(const Layout& layout) {
     updatePlates(layout);
   updateTrack(layout, changes.of(RecordKind::Piece), resettled);
   updateShapes(layout, changes.of(RecordKind::Shape), resettled);
-  updateScenery(layout, grounds, changes.of(RecordKind::Scenery));
-  updateTunnels(layout, grounds);
+  const std::map<std::int32_t, double> portals = portalHeights(layout);
+  updateScenery(layout, grounds, portals, changes.of(RecordKind::Scenery));
+  updateTunnels(layout, grounds, portals);
   updateSupports(layout);
   updateLabels(layout, grounds);
   return changes_;
@@ -185,24 +186,24 @@ void SceneKeeper::updateShapes(const Layout& layout, const ChangedIds& shapes, b
 }
 
 void SceneKeeper::updateScenery(const Layout& layout, const Grounds& grounds,
+                                const std::map<std::int32_t, double>& portals,
                                 const ChangedIds& items) {
   for (const std::int32_t id : items.removed) {
     remove(keyOf(SceneGroup::Scenery, RecordKind::Scenery, id));
     standings_.erase(id);
   }
-  const std::map<std::int32_t, double> portals = portalHeights(layout);
   const TrackSystem system = planSystem(layout);
   for (const SceneryItem& item : layout.content().scenery) {
     const auto portal = portals.find(item.id);
     const Standing standing{
         portal != portals.end() ? portal->second : grounds.standing({item.x, item.y}, item.level),
-        system};
+        system, portal != portals.end()};
     const auto [known, fresh] = standings_.try_emplace(item.id);
     if (!fresh && known->second == standing && !std::ranges::binary_search(items.changed, item.id))
       continue;
     known->second = standing;
     const SceneryModel model{item.item, sceneryFootprint(layout, item), system,
-                             static_cast<std::uint32_t>(item.id)};
+                             static_cast<std::uint32_t>(item.id), standing.leadsOn};
     renew(
         keyOf(SceneGroup::Scenery, RecordKind::Scenery, item.id), item.level,
         kSceneryGrain * gaugeScale(system), [&](Mesh& mesh, Detail detail) {
@@ -211,26 +212,26 @@ void SceneKeeper::updateScenery(const Layout& layout, const Grounds& grounds,
   }
 }
 
-void SceneKeeper::updateTunnels(const Layout& layout, const Grounds& grounds) {
-  std::map<std::int32_t, TunnelBody> before = std::move(tunnels_);
+void SceneKeeper::updateTunnels(const Layout& layout, const Grounds& grounds,
+                                const std::map<std::int32_t, double>& portals) {
+  std::map<std::int32_t, TunnelHill> before = std::move(tunnels_);
   tunnels_.clear();
   for (const Tunnel& tunnel : layout.content().tunnels) {
-    const std::optional<Hill> hill = tunnelHill(layout, grounds, tunnel);
+    const std::optional<TunnelHill> hill = tunnelHill(layout, grounds, portals, tunnel);
     if (!hill)
       continue;
-    const TunnelBody body{hill->foot, hill->base, hill->rise};
-    tunnels_[tunnel.id] = body;
+    tunnels_[tunnel.id] = *hill;
     const auto known = before.find(tunnel.id);
-    const bool same = known != before.end() && known->second == body;
+    const bool same = known != before.end() && known->second == *hill;
     before.erase(tunnel.id);
     if (!same)
       renew(keyOf(SceneGroup::Ground, RecordKind::Tunnel, tunnel.id),
             layout.findPiece(tunnel.covers.front()) == nullptr
                 ? SceneBatch::kNoLevel
                 : layout.findPiece(tunnel.covers.front())->level,
-            0, [&](Mesh& mesh, Detail) { addHill(mesh, *hill, Color{}); });
+            0, [&](Mesh& mesh, Detail) { addTunnelHill(mesh, *hill); });
   }
-  for (const auto& [id, body] : before)
+  for (const auto& [id, hill] : before)
     remove(keyOf(SceneGroup::Ground, RecordKind::Tunnel, id));
 }
 

@@ -3,6 +3,7 @@
 #include "document/plan_changes.h"
 #include "document/plan_settings.h"
 #include "editing/supports/supports.h"
+#include "view3d/scene/ground_mesh.h"
 #include "view3d/scene/scene.h"
 
 #include <cstdint>
@@ -38,8 +39,10 @@ class SceneKeeper {
   void updatePlates(const Layout& layout);
   void updateTrack(const Layout& layout, const ChangedIds& pieces, bool all);
   void updateShapes(const Layout& layout, const ChangedIds& shapes, bool all);
-  void updateScenery(const Layout& layout, const Grounds& grounds, const ChangedIds& items);
-  void updateTunnels(const Layout& layout, const Grounds& grounds);
+  void updateScenery(const Layout& layout, const Grounds& grounds,
+                     const std::map<std::int32_t, double>& portals, const ChangedIds& items);
+  void updateTunnels(const Layout& layout, const Grounds& grounds,
+                     const std::map<std::int32_t, double>& portals);
   void updateSupports(const Layout& layout);
   void updatePosts(const std::vector<DeckPost>& posts);
   void updateLabels(const Layout& layout, const Grounds& grounds);
@@ -48,13 +51,8 @@ class SceneKeeper {
   struct Standing {
     double height = 0;
     TrackSystem system{};
+    bool leadsOn = false; ///< the portal of a tunnel
     bool operator==(const Standing&) const = default;
-  };
-  struct TunnelBody {
-    Polygon foot;
-    double base = 0;
-    double rise = 0;
-    bool operator==(const TunnelBody&) const = default;
   };
 
   Scene scene_;
@@ -64,7 +62,7 @@ class SceneKeeper {
   PlanSettings settings_; ///< as far as anything depends on them
   Polygon board_;
   std::map<std::int32_t, Standing> standings_;
-  std::map<std::int32_t, TunnelBody> tunnels_;
+  std::map<std::int32_t, TunnelHill> tunnels_;
   std::map<std::int32_t, std::vector<Support>> supports_; ///< by the piece they carry
   std::map<std::int32_t, std::vector<DeckPost>> posts_;   ///< by level
 };

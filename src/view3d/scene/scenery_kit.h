@@ -21,6 +21,7 @@ struct SceneryKit {
   std::uint32_t variant = 0;
   SceneryLook look;
   TrackSystem system = TrackSystem::CTrack;
+  bool leadsOn = false; ///< a portal that one looks through
 };
 
 using SceneryBuilder = void (*)(const SceneryKit&);

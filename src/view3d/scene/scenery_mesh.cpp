@@ -218,7 +218,7 @@ void addScenery(Mesh& mesh, const MeshFrame& frame, const SceneryModel& model, D
   const TrackSystem system = systemOf(*definition, model.system);
   recipe.build({builder, model.size.width, model.size.depth, model.size.height,
                 trackGauge(system) / trackGauge(TrackSystem::CTrack), detail == Detail::Near,
-                model.variant, recipe.look, system});
+                model.variant, recipe.look, system, model.leadsOn});
 }
 
 } // namespace trassix

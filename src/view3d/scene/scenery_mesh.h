@@ -14,6 +14,7 @@ struct SceneryModel {
   Footprint size; ///< with the item's scales
   TrackSystem system = TrackSystem::CTrack;
   std::uint32_t variant = 0; ///< items alike differ a little by it
+  bool leadsOn = false;      ///< a portal with its tunnel behind it
 };
 
 /// Within its footprint about the origin of the frame, width along x. An item that the catalogue

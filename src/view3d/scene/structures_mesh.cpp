@@ -182,7 +182,8 @@ void addPortal(const SceneryKit& kit) {
   kit.b.box({-kit.w / 2, -kit.d / 2, kit.h * 0.9}, {kit.w / 2, kit.d / 2, kit.h},
             shaded(kit.look.wall, 1.1));
   const std::vector<Point> arch = archLine(half, wall.spring, crown, kit.fine ? 14 : 6);
-  for (std::size_t i = 0; i + 1 < arch.size(); ++i) { // the dark inside, seen from both ends
+  for (std::size_t i = 0; !kit.leadsOn && i + 1 < arch.size();
+       ++i) { // the dark inside, seen from both ends
     const Vec3 a{};
     const Vec3 b{arch[i].x, 0, arch[i].y};
     const Vec3 c{arch[i + 1].x, 0, arch[i + 1].y};

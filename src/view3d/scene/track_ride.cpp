@@ -7,6 +7,7 @@
 #include "editing/elevation/train_way.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/routes.h"
+#include "editing/track/track_geometry.h"
 #include "editing/tunnels/tunnel_facts.h"
 #include "view3d/scene/track_mesh.h"
 
@@ -20,6 +21,15 @@ namespace {
 
 constexpr double kEyeHeight = 2.6; // gauges above the rails: a driver's
 constexpr double kChordPlay = 0.02;
+constexpr double kNose = 3;     // gauges from the eyes to what stands at the end of a track
+constexpr double kDaylight = 9; // gauges that it comes into a tunnel
+constexpr double kEasing = 50;  // mm before and after a joint over which the view tilts
+
+RideBranch mirrored(RideBranch branch) {
+  return branch == RideBranch::Left    ? RideBranch::Right
+         : branch == RideBranch::Right ? RideBranch::Left
+                                       : branch;
+}
 
 const PieceDef* definitionIn(const Layout& layout, std::int32_t id) {
   const PlacedPiece* piece = layout.findPiece(id);
@@ -71,6 +81,52 @@ double TrackRide::length(const Layout& layout) const {
   return routeLength(*routeBetween(*definitionIn(layout, piece_), from_, to_));
 }
 
+double TrackRide::reach(const Layout& layout) const {
+  const double whole = length(layout);
+  if (to_ != -1)
+    return whole;
+  const double nose = kNose * trackGauge(definitionIn(layout, piece_)->system);
+  return std::max(whole - nose, std::min(along_, whole / 2));
+}
+
+double TrackRide::slope(const Layout& layout) const {
+  const PieceDef& definition = *definitionIn(layout, piece_);
+  if (from_ == -1 || to_ == -1)
+    return 0;
+  const PlacedPiece& piece = *layout.findPiece(piece_);
+  return (endHeight(piece, definition, to_) - endHeight(piece, definition, from_)) / length(layout);
+}
+
+double TrackRide::tilt(const Layout& layout) const {
+  const double own = slope(layout);
+  const double ahead = length(layout) - along_;
+  const bool leaving = ahead < along_;
+  const double far = leaving ? ahead : along_;
+  TrackRide next = *this;
+  if (!leaving)
+    next.turnRound(layout);
+  if (far >= kEasing || !next.cross(layout))
+    return own;
+  const double other = leaving ? next.slope(layout) : -next.slope(layout);
+  return own + (other - own) * (1 - far / kEasing) / 2;
+}
+
+double TrackRide::darkness(const Layout& layout) const {
+  if (tunnelOver(layout, piece_) == nullptr)
+    return 0;
+  const double daylight = kDaylight * trackGauge(definitionIn(layout, piece_)->system);
+  double dark = 1;
+  for (const bool ahead : {true, false}) {
+    TrackRide end = *this;
+    if (!ahead)
+      end.turnRound(layout);
+    const double far = length(layout) - end.along_;
+    if (!end.cross(layout) || tunnelOver(layout, end.piece_) == nullptr)
+      dark = std::min(dark, far / daylight);
+  }
+  return dark;
+}
+
 void TrackRide::turnRound(const Layout& layout) {
   if (isOver(layout))
     return;
@@ -81,16 +137,18 @@ void TrackRide::turnRound(const Layout& layout) {
 bool TrackRide::advance(const Layout& layout, double way) {
   if (isOver(layout))
     return false;
-  if (way < 0) {
+  if (way < 0) { // left stays where the eyes see it
     turnRound(layout);
+    branch_ = mirrored(branch_);
     const bool went = advance(layout, -way);
+    branch_ = mirrored(branch_);
     turnRound(layout);
     return went;
   }
   along_ += way;
-  while (along_ > length(layout)) {
-    const double beyondIt = along_ - length(layout);
-    along_ = length(layout);
+  while (along_ > reach(layout)) {
+    const double beyondIt = along_ - reach(layout);
+    along_ = reach(layout);
     if (!cross(layout))
       return false;
     along_ = std::min(beyondIt, 1e6);
@@ -143,14 +201,14 @@ RideView TrackRide::view(const Layout& layout) const {
   const Point place = toWorld(poseOf(piece), at.position);
   const double start = endHeight(piece, definition, std::max(route.from, 0));
   const double end = route.to == -1 ? start : endHeight(piece, definition, route.to);
-  const double slope = (end - start) / line.back().along;
+  const double rise = (end - start) / line.back().along;
   const TrackSection section = trackSection(definition.system);
   view.eye = {place.x, -place.y,
-              start + slope * at.along + section.railTop + kEyeHeight * section.gauge};
+              start + rise * at.along + section.railTop + kEyeHeight * section.gauge};
   const double heading = toRadians(-(piece.heading + at.heading));
   const double sign = backwards ? -1 : 1;
-  view.forward = unit({sign * std::cos(heading), sign * std::sin(heading), sign * slope});
-  view.inTunnel = tunnelOver(layout, piece_) != nullptr;
+  view.forward = unit({sign * std::cos(heading), sign * std::sin(heading), tilt(layout)});
+  view.dark = darkness(layout);
   return view;
 }
 

@@ -15,8 +15,8 @@ enum class RideBranch : std::uint8_t { Straight, Left, Right };
 
 struct RideView {
   Vec3 eye;
-  Vec3 forward; ///< of length 1
-  bool inTunnel = false;
+  Vec3 forward;    ///< of length 1
+  double dark = 0; ///< 1 in a tunnel, less near its ends, where daylight comes in
 };
 
 /// The way a train goes at this speed of its prototype, in mm a second.
@@ -32,7 +32,7 @@ class TrackRide {
   /// Goes on by so much, backwards for a negative way. False when it came to an open end, a buffer
   /// or a turntable, and stays there.
   bool advance(const Layout& layout, double way);
-  /// At the next turnout that leaves a choice; then straight on again.
+  /// At the next turnout that leaves a choice, as the eyes see it; then straight on again.
   void choose(RideBranch branch) { branch_ = branch; }
   RideBranch chosen() const { return branch_; }
   /// To where it came from.
@@ -44,6 +44,10 @@ class TrackRide {
 
  private:
   double length(const Layout& layout) const;
+  double reach(const Layout& layout) const; ///< how far it may go on its piece
+  double slope(const Layout& layout) const; ///< of its piece, the way it goes
+  double tilt(const Layout& layout) const;  ///< of the view
+  double darkness(const Layout& layout) const;
   bool cross(const Layout& layout);
   void enter(const Layout& layout, std::int32_t piece, std::int32_t connector);
 

@@ -353,6 +353,21 @@ TEST(TrackRide, GoesWhereTrackLeads) {
   EXPECT_NEAR(there.view(layout).eye.x, start.eye.x, 1e-6);
   EXPECT_NEAR(there.view(layout).forward.x, -1, 1e-9);
   EXPECT_TRUE(TrackRide(layout, 99).isOver(layout));
+
+  // Backwards, too, left is where the eyes have it. Before a buffer there is room for an engine.
+  const Layout behind =
+      Plan().place("24188").extend("24977").at(1, 0).extendBy("24611", 0, 1).layout;
+  for (const auto& [branch, side] : {std::pair(RideBranch::Left, 1.0), {RideBranch::Right, -1.0}}) {
+    TrackRide back(behind, 1);
+    back.choose(branch);
+    back.advance(behind, -350);
+    EXPECT_EQ(back.piece(), 3);
+    const RideView seen = back.view(behind);
+    EXPECT_GE(side * seen.eye.y, -1e-6) << side; // the eyes look along +x
+  }
+  TrackRide buffer(behind, 1);
+  EXPECT_FALSE(buffer.advance(behind, 1000));
+  EXPECT_LT(buffer.view(behind).eye.x, 188.3 + 77.5 - 45);
 }
 
 /// The positions of a `.glb`, by node.
