@@ -1,6 +1,7 @@
 #include "output/page_set.h"
 
 #include "output/page_painter.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <utility>
@@ -99,10 +100,31 @@ bool PageSet::hasTile(std::size_t plan, std::size_t column, std::size_t row) con
   });
 }
 
-void PageSet::keepTiles(const std::vector<std::string>& names) {
-  std::erase_if(pages, [&names](const Page& page) {
-    return page.kind != PageKind::Tile || std::ranges::find(names, page.tile.name()) == names.end();
-  });
+std::string PageSet::nameOf(std::size_t page) const {
+  const Page& named = pages[page];
+  const std::string& deck = plans[named.plan].deck;
+  const auto onDeck = [&deck](const std::string& name) {
+    return deck.empty() ? name : tr("%1%, %2%", {deck, name});
+  };
+  switch (named.kind) {
+  case PageKind::Tile:
+    return onDeck(named.tile.name());
+  case PageKind::TileOverview:
+    return onDeck(tr("Overview"));
+  case PageKind::Parts:
+    return tr("Parts list %1%", {std::ranges::count(pages.begin(), pages.begin() + page + 1,
+                                                    PageKind::Parts, &Page::kind)});
+  default:
+    return deck.empty() ? tr("The plan") : deck;
+  }
+}
+
+void PageSet::keep(const std::vector<std::string>& names) {
+  std::vector<Page> kept;
+  for (std::size_t page = 0; page < pages.size(); ++page)
+    if (std::ranges::find(names, nameOf(page)) != names.end())
+      kept.push_back(pages[page]);
+  pages = std::move(kept);
 }
 
 PageSet layOutPages(const Layout& layout, const PrintOptions& options, const Paper& paper,

@@ -50,8 +50,10 @@ struct PageSet {
   double millimetresPerMm(const Page& page) const;
   /// Whether a tile, given by its place in the tiling of a plan, is one of the pages.
   bool hasTile(std::size_t plan, std::size_t column, std::size_t row) const;
-  /// Leaves the pages of these tiles only.
-  void keepTiles(const std::vector<std::string>& names);
+  /// What one of the pages is called: "A1" or "Overview", behind its deck where decks are apart.
+  std::string nameOf(std::size_t page) const;
+  /// Leaves the pages of these names only.
+  void keep(const std::vector<std::string>& names);
 };
 
 /// Room for the lines below the picture on a page that shows all of a plan, mm.

@@ -18,21 +18,8 @@ namespace trassix {
 namespace {
 
 constexpr double kSheetSlack = 0.01;          ///< mm, that rounding may take
+constexpr double kLeastSide = 40;             ///< mm, on which a title finds room
 constexpr Stroke kHairline{{255, 0, 0}, 0.1}; ///< as cutters want it
-
-/// Paper on which a plan finds room: a sheet, or a strip of a roll as long as the plan takes along
-/// its longer side.
-Paper sheetFor(const Box& extent, double scale, PdfLayout how) {
-  const PaperMargins margins{kSheetMargin, kSheetMargin, kSheetMargin, kSheetMargin};
-  Paper paper{{(extent.maxX - extent.minX) / scale + 2 * kSheetMargin + kSheetSlack,
-               (extent.maxY - extent.minY) / scale + 2 * kSheetMargin + kSheetSlack},
-              margins};
-  if (how == PdfLayout::OneSheet)
-    return paper;
-  const bool upright = paper.size.height >= paper.size.width;
-  (upright ? paper.size.width : paper.size.height) = how == PdfLayout::Roll610 ? 610 : 914;
-  return paper;
-}
 
 PrintOptions onPaper(PrintOptions options, const Paper& paper) {
   if (options.printMode() == PrintMode::Overview)
@@ -40,6 +27,36 @@ PrintOptions onPaper(PrintOptions options, const Paper& paper) {
   options.orientation = static_cast<std::int32_t>(
       paper.size.width > paper.size.height ? PrintOrientation::Lying : PrintOrientation::Upright);
   return options;
+}
+
+double scaleOf(const PrintOptions& options) {
+  PageSet set;
+  set.options = onPaper(options, {});
+  return set.millimetresPerMm();
+}
+
+/// One of the fewest equal parts, none longer than a page can be, that show this length together.
+double partOf(double length, double overlap) {
+  const double room = PdfFile::kLongestSide - 2 * kSheetMargin - kSheetSlack;
+  const double parts = std::max(1.0, std::ceil((length - overlap) / (room - overlap)));
+  return (length - overlap) / parts + overlap;
+}
+
+/// Paper on which a plan finds room: a sheet, or a strip of a roll along the plan's longer side.
+Paper sheetFor(const Box& extent, const PrintOptions& options, PdfLayout how) {
+  const double scale = scaleOf(options);
+  const PaperMargins margins{kSheetMargin, kSheetMargin, kSheetMargin, kSheetMargin};
+  const double around = 2 * kSheetMargin + kSheetSlack;
+  Paper paper{{std::max((extent.maxX - extent.minX) / scale, kLeastSide) + around,
+               std::max((extent.maxY - extent.minY) / scale, kLeastSide) + around},
+              margins};
+  if (how == PdfLayout::OneSheet)
+    return paper;
+  const bool upright = paper.size.height >= paper.size.width;
+  double& along = upright ? paper.size.height : paper.size.width;
+  along = partOf(along - around, options.overlap) + around;
+  (upright ? paper.size.width : paper.size.height) = how == PdfLayout::Roll610 ? 610 : 914;
+  return paper;
 }
 
 /// Of all that is printed together.
@@ -52,12 +69,6 @@ std::optional<Box> extentOf(const Layout& layout, const PrintOptions& options) {
            std::max(all->maxX, plan.extent->maxX), std::max(all->maxY, plan.extent->maxY)};
   }
   return all;
-}
-
-double scaleOf(const PrintOptions& options) {
-  PageSet set;
-  set.options = onPaper(options, {});
-  return set.millimetresPerMm();
 }
 
 void paintAll(PdfFile& pdf, const PageSet& set) {
@@ -126,13 +137,13 @@ std::string pdfProblem(const Layout& layout, const PrintOptions& options, PdfLay
   const std::optional<Box> extent = extentOf(layout, options);
   if (!extent)
     return nothing(options).problem;
-  if (how == PdfLayout::Tiles)
+  if (how != PdfLayout::OneSheet)
     return {};
-  const SizeMm size = sheetFor(*extent, scaleOf(options), how).size;
+  const SizeMm size = sheetFor(*extent, options, how).size;
   if (std::max(size.width, size.height) <= PdfFile::kLongestSide)
     return {};
-  return tr("That would be longer than the %1% that a PDF page can be. Tiles, or a smaller scale, "
-            "would do.",
+  return tr("That would be longer than the %1% that a PDF page can be. Tiles, strips or a smaller "
+            "scale would do.",
             {formatBriefLength(PdfFile::kLongestSide, kMillimetres)});
 }
 
@@ -143,11 +154,13 @@ PictureFile pdfPicture(const Layout& layout, const PrintOptions& options, const 
   Paper used = paper;
   PrintOptions asked = options;
   if (how != PdfLayout::Tiles) {
-    used = sheetFor(*extentOf(layout, options), scaleOf(options), how);
+    used = sheetFor(*extentOf(layout, options), options, how);
     asked = onPaper(options, used);
     asked.what &= ~print_what::kPartsList;
   }
-  const PageSet set = layOutPages(layout, asked, used, title, owned);
+  PageSet set = layOutPages(layout, asked, used, title, owned);
+  if (how != PdfLayout::Tiles) // which strip is where shows by itself, and a roll is dear
+    std::erase_if(set.pages, [](const Page& page) { return page.kind == PageKind::TileOverview; });
   if (set.pages.empty())
     return {{}, tr("The margins leave no room on this paper.")};
   PdfFile pdf(title.plan);

@@ -39,8 +39,8 @@ void paintPicture(Surface& surface, const Layout& layout, const PrintOptions& op
 /// Why it cannot become a PDF of this kind, empty when it can.
 std::string pdfProblem(const Layout& layout, const PrintOptions& options, PdfLayout how);
 
-/// At the scale of the options, or true to size. Tiles are those of `paper`; a sheet or strip that
-/// would be longer than the format allows is refused.
+/// At the scale of the options, or true to size. Tiles are those of `paper`; one sheet that
+/// would be longer than the format allows is refused, strips come in several pieces then.
 PictureFile pdfPicture(const Layout& layout, const PrintOptions& options, const PrintTitle& title,
                        PdfLayout how, const Paper& paper, const OwnedStock& owned = {});
 

@@ -117,35 +117,36 @@ void PrintForm::enter(Field field, std::string_view text) {
 
 void PrintForm::layOut() {
   PrintOptions turned = options_;
+  const std::vector<std::string> before = names();
   pages_ = layOutPages(layout_, options_, paper_, title_, owned_);
   turned.orientation = static_cast<std::int32_t>(pages_.paper.size.width > pages_.paper.size.height
                                                      ? PrintOrientation::Upright
                                                      : PrintOrientation::Lying);
   turnedCount_ = layOutPages(layout_, turned, paper_, title_, owned_).pages.size();
+  if (names() == before)
+    return;
   leftOut_.assign(pages_.pages.size(), false);
+  shown_ = 0;
 }
 
-bool PrintForm::isLeftOut(std::size_t page) const {
-  return leftOut_[page];
+bool PrintForm::anyLeftOut() const {
+  return std::ranges::find(leftOut_, true) != leftOut_.end();
 }
 
-void PrintForm::toggle(std::size_t page) {
-  leftOut_[page] = !leftOut_[page];
+std::vector<std::string> PrintForm::names() const {
+  std::vector<std::string> all;
+  for (std::size_t page = 0; page < pages_.pages.size(); ++page)
+    all.push_back(pages_.nameOf(page));
+  return all;
 }
 
 std::vector<std::string> PrintForm::only() const {
-  std::vector<std::string> names;
-  if (std::ranges::find(leftOut_, true) == leftOut_.end())
-    return names;
-  for (std::size_t page = 0; page < pages_.pages.size(); ++page)
-    if (!leftOut_[page] && pages_.pages[page].kind == PageKind::Tile)
-      names.push_back(pages_.pages[page].tile.name());
-  return names;
-}
-
-std::size_t PrintForm::pageCount() const {
-  const std::vector<std::string> chosen = only();
-  return chosen.empty() ? pages_.pages.size() : chosen.size();
+  std::vector<std::string> kept;
+  if (anyLeftOut())
+    for (std::size_t page = 0; page < pages_.pages.size(); ++page)
+      if (!leftOut_[page])
+        kept.push_back(pages_.nameOf(page));
+  return kept;
 }
 
 std::string PrintForm::problem() const {
@@ -159,12 +160,12 @@ std::string PrintForm::problem() const {
     return tr("The margins leave no room on this paper.");
   if (pages_.pages.size() > kManyPages)
     return tr("That would take %1% pages.", {pages_.pages.size()});
-  const bool allTilesOut = std::ranges::find(leftOut_, true) != leftOut_.end() && only().empty();
-  return allTilesOut ? tr("No page is left to print.") : std::string();
+  return std::ranges::find(leftOut_, false) == leftOut_.end() ? tr("No page is left to print.")
+                                                              : std::string();
 }
 
 std::string PrintForm::summary() const {
-  const std::size_t count = pageCount();
+  const auto count = static_cast<std::size_t>(std::ranges::count(leftOut_, false));
   std::string text =
       trCount("%1% page of %2%.", "%1% pages of %2%.", count, {sizeText(pages_.paper.size)});
   const auto add = [&text](const std::string& sentence) { text.append(" ").append(sentence); };
@@ -177,10 +178,14 @@ std::string PrintForm::summary() const {
   return text;
 }
 
+bool PrintForm::showsTile(const Page& page) const {
+  return page.kind == PageKind::Tile && page.plan == shown_;
+}
+
 ViewTransform PrintForm::viewIn(SizePx size) const {
-  Box shown = *pages_.plans.front().extent;
+  Box shown = *pages_.plans[shown_].extent;
   for (const Page& page : pages_.pages)
-    if (page.kind == PageKind::Tile && page.plan == 0)
+    if (showsTile(page))
       shown = {std::min(shown.minX, page.tile.box.minX), std::min(shown.minY, page.tile.box.minY),
                std::max(shown.maxX, page.tile.box.maxX), std::max(shown.maxY, page.tile.box.maxY)};
   const double zoom =
@@ -191,16 +196,19 @@ ViewTransform PrintForm::viewIn(SizePx size) const {
 }
 
 void PrintForm::paint(Surface& surface, SizePx size) const {
+  const std::array<Point, 4> sheet{
+      {{0, 0}, {size.width, 0}, {size.width, size.height}, {0, size.height}}};
+  surface.polygon(sheet, paperTheme().paper, {});
   if (pages_.plans.empty())
     return;
-  const PrintedPlan& plan = pages_.plans.front();
+  const PrintedPlan& plan = pages_.plans[shown_];
   const ViewTransform view = viewIn(size);
-  PaintOptions options;
-  options.desk = options.scaleBar = options.selection = options.labels = options.grid = false;
+  PaintOptions options = paintOptionsOf(options_);
+  options.labels = options.grades = options.grid = false; // too small to be read
   LayoutPainter(surface, size, view, options).paint(plan.layout, plan.index);
   for (std::size_t i = 0; i < pages_.pages.size(); ++i) {
     const Page& page = pages_.pages[i];
-    if (page.kind != PageKind::Tile || page.plan != 0)
+    if (!showsTile(page))
       continue;
     const std::array<Point, 4> corners = cornersOf(page.tile.box, view);
     surface.polygon(corners, leftOut_[i] ? std::optional(kLeftOut) : std::nullopt,
@@ -219,8 +227,7 @@ std::optional<std::size_t> PrintForm::pageAt(Point px, SizePx size) const {
     return {};
   const Point at = viewIn(size).toWorld(px);
   for (std::size_t i = 0; i < pages_.pages.size(); ++i)
-    if (pages_.pages[i].kind == PageKind::Tile && pages_.pages[i].plan == 0 &&
-        holds(pages_.pages[i].tile.box, at))
+    if (showsTile(pages_.pages[i]) && holds(pages_.pages[i].tile.box, at))
       return i;
   return {};
 }

@@ -40,11 +40,13 @@ class PrintForm {
   void enter(Field field, std::string_view text);
   const std::string& text(Field field) const { return texts_[index(field)]; }
 
-  /// Tiles that are not to be printed this time. None is left out at first, and again after every
-  /// change of the pages.
-  bool isLeftOut(std::size_t page) const;
-  void toggle(std::size_t page);
-  /// Names of the tiles to print; empty when all pages are.
+  /// Pages that are not to be printed this time. None is left out at first, and again when other
+  /// pages came out.
+  bool isLeftOut(std::size_t page) const { return leftOut_[page]; }
+  bool anyLeftOut() const;
+  void toggle(std::size_t page) { leftOut_[page] = !leftOut_[page]; }
+  void leaveAllOut(bool out) { leftOut_.assign(leftOut_.size(), out); }
+  /// Names of the pages to print; empty when all are.
   std::vector<std::string> only() const;
 
   /// Why it cannot be printed, empty when it can.
@@ -53,6 +55,8 @@ class PrintForm {
   std::string summary() const;
   bool ready() const { return problem().empty(); }
 
+  /// Where decks are apart, the picture is that of the deck of this page.
+  void show(std::size_t page) { shown_ = pages_.pages[page].plan; }
   /// The plan with the sheets over it, in a picture of this size.
   void paint(Surface& surface, SizePx size) const;
   /// The page of the tile at this place of the picture.
@@ -60,8 +64,9 @@ class PrintForm {
 
  private:
   static std::size_t index(Field field) { return static_cast<std::size_t>(field); }
-  std::size_t pageCount() const;
+  std::vector<std::string> names() const;
   void layOut();
+  bool showsTile(const Page& page) const;
   ViewTransform viewIn(SizePx size) const;
 
   const Layout& layout_;
@@ -75,6 +80,7 @@ class PrintForm {
   PageSet pages_;
   std::size_t turnedCount_ = 0; ///< of pages on paper that lies the other way
   std::vector<bool> leftOut_;   ///< by page
+  std::size_t shown_ = 0;       ///< of the plans
 };
 
 } // namespace trassix

@@ -3,6 +3,7 @@
 #include "output/page_painter.h"
 
 #include <array>
+#include <cctype>
 #include <charconv>
 #include <cstdio>
 
@@ -39,7 +40,7 @@ std::string SvgSurface::take() {
 }
 
 void SvgSurface::clip(const Box& part) {
-  const std::string id = std::string("clip").append(std::to_string(++clips_));
+  const std::string id = idOf("clip");
   out_.append("<clipPath id=\"").append(id).append("\"><path d=\"");
   points(std::array<Point, 4>{{{part.minX, part.minY},
                                {part.maxX, part.minY},
@@ -53,16 +54,33 @@ void SvgSurface::unclip() {
   endGroup();
 }
 
-void SvgSurface::beginGroup(std::string_view name) {
-  out_ += "<g><title>";
+/// The name as far as an identifier may be like it, told from others by a number.
+std::string SvgSurface::idOf(std::string_view name) {
+  std::string id;
+  for (const char c : name) {
+    const auto byte = static_cast<unsigned char>(c);
+    id += byte >= 128 || std::isalnum(byte) != 0 ? c : '_';
+  }
+  if (id.empty() || std::isdigit(static_cast<unsigned char>(id[0])) != 0)
+    id.insert(id.begin(), '_');
+  if (const int before = ids_[id]++; before > 0)
+    id.append("-").append(std::to_string(before + 1));
+  return id;
+}
+
+/// With a title for its reader, and an identifier by which other programs find it.
+void SvgSurface::openGroup(std::string_view name, std::string_view attributes) {
+  out_.append("<g id=\"").append(idOf(name)).append("\"").append(attributes).append("><title>");
   escaped(name);
   out_ += "</title>\n";
 }
 
+void SvgSurface::beginGroup(std::string_view name) {
+  openGroup(name, "");
+}
+
 void SvgSurface::beginHiddenGroup(std::string_view name) {
-  out_ += "<g display=\"none\"><title>";
-  escaped(name);
-  out_ += "</title>\n";
+  openGroup(name, " display=\"none\"");
 }
 
 void SvgSurface::endGroup() {

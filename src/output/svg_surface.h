@@ -4,6 +4,7 @@
 #include "output/paper.h"
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,8 @@ class SvgSurface : public Surface {
   SizePx textSize(std::string_view text, const TextStyle& style) override;
 
  private:
+  std::string idOf(std::string_view name);
+  void openGroup(std::string_view name, std::string_view attributes);
   void number(double px);
   void points(std::span<const Point> run, bool closed);
   void beginPath();
@@ -52,7 +55,7 @@ class SvgSurface : public Surface {
 
   TextMeasure measure_;
   std::string out_;
-  int clips_ = 0;
+  std::map<std::string, int> ids_; ///< how often a group has wanted each
 };
 
 } // namespace trassix

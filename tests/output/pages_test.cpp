@@ -250,7 +250,7 @@ TEST(PictureFiles, svgIsInMillimetresWithNamedGroupsAndTexts) {
   EXPECT_EQ(outputOf("rsvg-convert '" + file + "' -o '" + file + ".png' 2>&1"), "");
   for (const char* const part :
        {"<title>Track</title>", "<title>Level 1</title>", "Süd &amp; &lt;Nord&gt;</text>",
-        "<g display=\"none\"><title>Cutting</title>", ">24188</text>"})
+        "<g id=\"Cutting\" display=\"none\"><title>Cutting</title>", ">24188</text>"})
     EXPECT_NE(svg.bytes.find(part), std::string::npos) << part;
   const Box extent = *pictureExtent(plan.layout, {});
   std::size_t found = 0;

@@ -34,9 +34,9 @@ constexpr double kShadowReach = 60;  ///< mm, of the longest shadow
 Rgba bedColor(const PlanTheme& theme, const Layout& layout, const PlacedPiece& piece,
               const PieceDef& definition) {
   if (piece.hasColor)
-    return opaque(piece.color);
+    return theme.area(piece.color);
   if (const Level* level = layout.findLevel(piece.level); level && level->trackcolor)
-    return opaque(level->color);
+    return theme.area(level->color);
   return opaque(theme.bedOf(definition));
 }
 
@@ -136,8 +136,10 @@ void LayoutPainter::paintBoard(const Layout& layout) {
     if (!level.visible || level.outline.size() < 3)
       continue;
     const bool active = level.id == settings.activeLevel;
-    surface_.polygon(view_.toScreen(level.outline), opaque(level.color, active ? 60 : 28),
-                     Stroke{opaque(level.color), active ? 2.0 : 1.0, Stroke::Style::Dashed});
+    const std::optional<Rgba> tint =
+        theme_.fills ? std::optional(opaque(level.color, active ? 60 : 28)) : std::nullopt;
+    surface_.polygon(view_.toScreen(level.outline), tint,
+                     Stroke{theme_.line(level.color), active ? 2.0 : 1.0, Stroke::Style::Dashed});
   }
 }
 
@@ -294,6 +296,8 @@ LayoutPainter::visibleTrack(const Layout& layout, const PlanIndex& index, const 
     look.sleepers = options_.rails;
     look.beneath = layout.isCovered(piece.id) || liesBeneath(decks, piece, *definition);
     look.faded = isOtherLevel(layout, piece.level);
+    if (definition->ramp && isGraded(piece))
+      look.climb = endHeight(piece, *definition, 1) > endHeight(piece, *definition, 0) ? 1 : -1;
     if (piece.sel && options_.selection)
       look.accent = theme_.selected;
     shown.push_back(

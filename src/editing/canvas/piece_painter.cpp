@@ -21,6 +21,7 @@ constexpr double kDetailPx = 2;       ///< smaller details are left out
 constexpr double kGirder = 0.1;
 constexpr double kShoulder = 0.25;
 constexpr double kBeam = 0.28;
+constexpr double kArrow = 0.1;
 
 } // namespace
 
@@ -198,6 +199,7 @@ void PiecePainter::paintRails(std::span<const Piece> pieces) {
           addLines(details->fittings, piece.pose);
       },
       stroke);
+  paintClimbs(pieces);
 }
 
 bool PiecePainter::showsPoints(const Piece& piece) const {
@@ -245,6 +247,24 @@ void PiecePainter::paintDetails(std::span<const Piece> all) {
         return Stroke{shade(piece, opaque(theme_.material(Material::Red))), wide(piece, kBeam)};
       },
       [this](const Piece& piece) { addPairs(piece.shape.details->beams, piece.pose); }, stroke);
+}
+
+/// Which way is up on a ramp.
+void PiecePainter::paintClimbs(std::span<const Piece> pieces) {
+  together(
+      pieces,
+      [this](const Piece& piece) -> std::optional<Stroke> {
+        if (piece.shape.details == nullptr || piece.look.climb == 0)
+          return std::nullopt;
+        const Rgba color = piece.look.faded ? theme_.faded(theme_.rail) : theme_.rail;
+        return Stroke{color,
+                      std::clamp(piece.shape.geometry.gauge * kArrow * view_.zoom(), 1., 3.)};
+      },
+      [this](const Piece& piece) {
+        const auto& [up, down] = piece.shape.details->climbs;
+        addLines(piece.look.climb > 0 ? up : down, piece.pose);
+      },
+      [this](const Stroke& line) { surface_.polylines(runs_, line); });
 }
 
 void PiecePainter::paintAccents(std::span<const Piece> pieces) {

@@ -21,6 +21,7 @@ struct PieceLook {
   bool sleepers = true;
   bool beneath = false;       ///< lies under a hill or a higher deck: dashed and lighter
   bool faded = false;         ///< on another level than the active one
+  int climb = 0;              ///< of a ramp: 1 up to its second end, -1 to its first
   std::optional<Rgba> accent; ///< edge and centre line of a selected, hovered or carried piece
 };
 
@@ -66,6 +67,7 @@ class PiecePainter {
   void onPixels(std::span<const Point> local, const Pose& pose, std::span<Point> px) const;
   /// Points of a turnout, girders, buffers.
   void paintDetails(std::span<const Piece> pieces);
+  void paintClimbs(std::span<const Piece> pieces);
   bool showsPoints(const Piece& piece) const;
   bool fromAfar(const TrackGeometry& geometry) const;
   void addLines(const std::vector<std::vector<Point>>& lines, const Pose& pose);

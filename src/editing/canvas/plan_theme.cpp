@@ -1,5 +1,6 @@
 #include "editing/canvas/plan_theme.h"
 
+#include <cmath>
 #include <utility>
 
 namespace trassix {
@@ -126,6 +127,7 @@ constexpr PlanTheme makeOutlineTheme() {
 
 constexpr PlanTheme makeNightTheme() {
   PlanTheme t = makeScreenTheme();
+  t.dark = true;
   t.desk = {24, 26, 29};
   t.board = {37, 39, 43};
   t.boardEdge = {128, 122, 108};
@@ -176,6 +178,35 @@ constexpr PlanTheme makeNightTheme() {
 }
 
 } // namespace
+
+namespace {
+
+/// As the eye has it, to 255.
+double lightness(Color c) {
+  return 0.3 * c.r + 0.59 * c.g + 0.11 * c.b;
+}
+
+int percentOf(double part, double whole) {
+  return static_cast<int>(std::lround(100 * part / whole));
+}
+
+} // namespace
+
+Rgba PlanTheme::line(Color chosen) const {
+  constexpr double kLeast = 150;
+  const double light = lightness(chosen);
+  return opaque(dark && light < kLeast
+                    ? towards(chosen, {255, 255, 255}, percentOf(kLeast - light, 255 - light))
+                    : chosen);
+}
+
+Rgba PlanTheme::area(Color chosen, std::uint8_t alpha) const {
+  constexpr double kMost = 60;
+  const double light = lightness(chosen);
+  return opaque(dark && light > kMost ? towards(chosen, {0, 0, 0}, percentOf(light - kMost, light))
+                                      : chosen,
+                alpha);
+}
 
 const PlanTheme& screenTheme() {
   static constexpr PlanTheme kTheme = makeScreenTheme();

@@ -67,6 +67,7 @@ struct PlanTheme {
   std::array<Color, kMaterialCount> materials;
   Rgba shadow;       ///< of what is high; none at alpha 0
   bool fills = true; ///< off, beds and scenery are outlines
+  bool dark = false; ///< the sheet, under light lines
 
   Rgba gradeColor(GradeBand band) const { return gradeBands[static_cast<std::size_t>(band)]; }
   Rgba gradeColor(double slope) const { return gradeColor(gradeBand(slope)); }
@@ -82,6 +83,11 @@ struct PlanTheme {
                                               : bed;
   }
   Color material(Material of) const { return materials[static_cast<std::size_t>(of)]; }
+
+  // A colour that the user chose on some sheet, as it does on this one: for lines that stand out
+  // from it, and for areas that rails and texts stand out from.
+  Rgba line(Color chosen) const;
+  Rgba area(Color chosen, std::uint8_t alpha = 255) const;
 
   /// What lies on another level than the active one. Towards the sheet rather than transparent, so
   /// that what lies below does not shine through.

@@ -69,9 +69,9 @@ void paintRecord(const PictureSite& site, const Shape& shape) {
   const std::vector<Point> px = site.view.toScreen(shape.points);
   if (site.isBeside(px, longest(shape.label, nameStyle(site).size)))
     return;
-  const Rgba fill = opaque(shape.color, shape.a);
+  const Rgba fill = site.theme.area(shape.color, shape.a);
   const Stroke edge =
-      shape.sel && site.selection ? selectedEdge(site) : Stroke{opaque(shape.color), 1.5};
+      shape.sel && site.selection ? selectedEdge(site) : Stroke{site.theme.line(shape.color), 1.5};
   const bool bare = shape.outline || !site.theme.fills;
   site.surface.polygon(px, bare ? std::nullopt : std::optional(fill), edge);
   if (shape.label.empty())

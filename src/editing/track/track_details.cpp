@@ -192,6 +192,22 @@ void addHachures(TrackDetails& details, const Samples& way, double halfWidth, do
   }
 }
 
+/// Two of them near the upper end, off the middle where the article stands.
+void addClimb(std::vector<std::vector<Point>>& heads, Samples way, double gauge, bool reversed) {
+  const double length = way.back().along;
+  if (reversed)
+    std::ranges::reverse(way);
+  const auto at = [&](double along) {
+    return *std::ranges::min_element(way, {}, [&](const RoutePoint& p) {
+      return std::abs((reversed ? length - p.along : p.along) - along);
+    });
+  };
+  for (const double tip : {0.78 * length, 0.78 * length + 0.35 * gauge}) {
+    const RoutePoint back = at(tip - 0.35 * gauge);
+    heads.push_back({beside(back, 0.3 * gauge), at(tip).position, beside(back, -0.3 * gauge)});
+  }
+}
+
 void addAcross(std::vector<Point>& pairs, const RoutePoint& at, double reach) {
   pairs.push_back(beside(at, reach));
   pairs.push_back(beside(at, -reach));
@@ -211,9 +227,11 @@ TrackDetails deriveTrackDetails(const PieceDef& definition) {
   if (points.ways().size() > 1)
     points.addTo(details);
   for (const Samples& way : points.ways()) {
-    if (definition.ramp)
+    if (definition.ramp) {
       addHachures(details, way, halfWidth, gauge);
-    else if (definition.bridge)
+      addClimb(details.climbs[0], way, gauge, false);
+      addClimb(details.climbs[1], way, gauge, true);
+    } else if (definition.bridge)
       addGirders(details, way, halfWidth);
     // A set is laid of two parts, of which the second is the frog.
     const double seam = way.back().along - kFrogLength;

@@ -15,7 +15,7 @@ namespace trassix {
 namespace {
 
 /// Chords of drawn curves stay this close to the curve, fine enough for the closest view.
-constexpr double kDrawTolerance = 0.05;
+constexpr double kDrawTolerance = 0.045; // mm, so that the outer edge stays within 0.05
 
 /// Sleeper figures as shares of the gauge: distance between sleepers and their length.
 constexpr double kSleeperSpacing = 0.52;

@@ -4,6 +4,7 @@
 #include "catalog/piece_def.h"
 #include "geometry/point.h"
 
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -54,6 +55,8 @@ struct TrackDetails {
   std::vector<std::vector<Point>> girders;  ///< at the sides of bridges
   std::vector<Point> hachures;              ///< pairs: shoulders of ramps, seams of sets
   std::vector<Point> beams;                 ///< pairs: of buffer stops
+  /// Arrowheads on a ramp, up to its second end and to its first.
+  std::array<std::vector<std::vector<Point>>, 2> climbs;
 
   /// Whether there is anything beside rails.
   bool more() const { return !girders.empty() || !hachures.empty() || !beams.empty(); }

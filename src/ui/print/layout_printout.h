@@ -21,7 +21,7 @@ class LayoutPrintout : public wxPrintout {
     PrintTitle title;
     Paper paper; ///< as set by the user, until the printer is known
     OwnedStock owned = {};
-    std::vector<std::string> only = {}; ///< names of tiles; empty for all pages
+    std::vector<std::string> only = {}; ///< names of pages; empty for all of them
     /// Of the printer that was chosen in the meantime.
     std::function<PrinterCorrection()> correction = {};
     /// Told when the printer needs another number of pages than the set paper would.

@@ -7,6 +7,7 @@
 
 #include <wx/button.h>
 #include <wx/checkbox.h>
+#include <wx/checklst.h>
 #include <wx/choice.h>
 #include <wx/graphics.h>
 #include <wx/radiobox.h>
@@ -24,7 +25,8 @@ namespace {
 using Field = PrintForm::Field;
 
 constexpr int kPictureWidth = 520;
-constexpr int kPictureHeight = 430;
+constexpr int kPictureHeight = 330;
+constexpr int kListHeight = 96;
 constexpr int kColumnWidth = 300;
 
 struct WhatBox {
@@ -64,9 +66,12 @@ PrintOptionsDialog::PrintOptionsDialog(wxWindow* parent, PrintForm form, const w
   picture_->SetName("printPicture");
   picture_->SetToolTip(_("Click a sheet to leave it out, or to print it again"));
   picture_->Bind(wxEVT_LEFT_DOWN, &PrintOptionsDialog::clickPicture, this);
+  auto* sheets = new wxBoxSizer(wxVERTICAL);
+  sheets->Add(picture_, wxSizerFlags(1).Expand());
+  sheets->Add(makePages(), wxSizerFlags().Expand().Border(wxTOP, gap));
   auto* top = new wxBoxSizer(wxHORIZONTAL);
   top->Add(column);
-  top->Add(picture_, wxSizerFlags(1).Expand().Border(wxLEFT, gap));
+  top->Add(sheets, wxSizerFlags(1).Expand().Border(wxLEFT, gap));
   auto* page = new wxBoxSizer(wxVERTICAL);
   page->Add(top, wxSizerFlags(1).Expand().Border(wxALL, gap));
   const int width = FromDIP(kPictureWidth + kColumnWidth);
@@ -147,7 +152,8 @@ void PrintOptionsDialog::addBox(wxSizer& column, const wxString& label, const ch
 }
 
 wxSizer* PrintOptionsDialog::makeWhat() {
-  auto* column = new wxBoxSizer(wxVERTICAL);
+  auto* box = new wxStaticBoxSizer(wxVERTICAL, this, _("What to print"));
+  auto* column = new wxFlexGridSizer(2, 0, FromDIP(10));
   const PrintOptions& options = form_.options();
   addBox(*column, _("&Labels and articles"), "printLabels", options.labels,
          [this](bool on) { form_.setLabels(on); });
@@ -157,7 +163,8 @@ wxSizer* PrintOptionsDialog::makeWhat() {
            [this, &what](bool on) { form_.set(what.bit, on != what.shownWhenClear); });
   addBox(*column, _("Only what &is selected"), "printSelection", options.selectionOnly,
          [this](bool on) { form_.setSelectionOnly(on); });
-  return column;
+  box->Add(column, wxSizerFlags().Expand().Border(wxALL, FromDIP(4)));
+  return box;
 }
 
 wxSizer* PrintOptionsDialog::makeRuler(const wxString& printer) {
@@ -175,6 +182,47 @@ wxSizer* PrintOptionsDialog::makeRuler(const wxString& printer) {
               FromDIP(kColumnWidth - 30));
   box->Add(whose, wxSizerFlags().Border(wxALL, FromDIP(4)));
   return box;
+}
+
+wxSizer* PrintOptionsDialog::makePages() {
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  auto* label = new wxStaticText(this, wxID_ANY, _("Sheets to be printed:"));
+  pages_ = new wxCheckListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(-1, kListHeight)));
+  pages_->SetName("printPages");
+  pages_->Bind(wxEVT_CHECKLISTBOX, [this](wxCommandEvent& event) {
+    form_.toggle(static_cast<std::size_t>(event.GetInt()));
+    refresh();
+  });
+  pages_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) {
+    form_.show(static_cast<std::size_t>(event.GetInt()));
+    picture_->Refresh();
+  });
+  none_ = new wxButton(this, wxID_ANY, _("None of the&m"));
+  none_->SetName("printNone");
+  none_->SetMinSize(none_->GetBestSize()); // its other text is shorter
+  none_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+    form_.leaveAllOut(!form_.anyLeftOut());
+    refresh();
+  });
+  row->Add(label);
+  row->Add(pages_, wxSizerFlags(1).Border(wxLEFT | wxRIGHT, FromDIP(10)));
+  row->Add(none_);
+  return row;
+}
+
+void PrintOptionsDialog::showPages() {
+  wxArrayString names;
+  for (std::size_t page = 0; page < form_.pages().pages.size(); ++page)
+    names.Add(fromUtf8(form_.pages().nameOf(page)));
+  if (names != pages_->GetStrings()) {
+    pages_->Set(names);
+    if (!names.empty()) // keys begin there
+      pages_->SetSelection(0);
+  }
+  for (std::size_t page = 0; page < names.size(); ++page)
+    if (const auto row = static_cast<unsigned>(page); pages_->IsChecked(row) == form_.isLeftOut(page))
+      pages_->Check(row, !form_.isLeftOut(page));
+  none_->SetLabel(form_.anyLeftOut() ? _("All of the&m") : _("None of the&m"));
 }
 
 void PrintOptionsDialog::clickPicture(wxMouseEvent& event) {
@@ -197,6 +245,7 @@ void PrintOptionsDialog::refresh() {
   summary_->Show(problem.empty());
   problem_->Show(!problem.empty());
   ok_->Enable(problem.empty());
+  showPages();
   picture_->Refresh();
   Layout();
 }

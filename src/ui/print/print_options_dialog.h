@@ -9,6 +9,7 @@
 
 class wxButton;
 class wxCheckBox;
+class wxCheckListBox;
 class wxChoice;
 class wxRadioBox;
 class wxStaticText;
@@ -35,12 +36,16 @@ class PrintOptionsDialog : public wxDialog {
                        const char* name);
   void addBox(wxSizer& column, const wxString& label, const char* name, bool on,
               const std::function<void(bool)>& chosen);
+  wxSizer* makePages();
+  void showPages();
   void clickPicture(wxMouseEvent& event);
   void refresh();
 
   PrintForm form_;
   std::vector<std::pair<wxTextCtrl*, PrintForm::Field>> fields_;
   PicturePanel* picture_ = nullptr;
+  wxCheckListBox* pages_ = nullptr;
+  wxButton* none_ = nullptr;
   wxStaticText* summary_ = nullptr;
   ProblemText* problem_ = nullptr;
   wxButton* ok_ = nullptr;
