@@ -251,10 +251,7 @@ Box pictureOf(const PageSet& set, const Page& page) {
 ViewTransform viewOf(const PageSet& set, const Page& page) {
   const double zoom = kPxPerMm / set.millimetresPerMm(page);
   const Box picture = pictureOf(set, page);
-  if (page.kind == PageKind::Tile)
-    return ViewTransform::ofScale(
-        zoom, {picture.minX - page.tile.box.minX * zoom, picture.minY - page.tile.box.minY * zoom});
-  const Box& extent = *set.plans[page.plan].extent;
+  const Box extent = set.shownOn(page);
   return ViewTransform::ofScale(
       zoom, {(picture.minX + picture.maxX - (extent.minX + extent.maxX) * zoom) / 2,
              (picture.minY + picture.maxY - (extent.minY + extent.maxY) * zoom) / 2});

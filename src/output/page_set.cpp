@@ -89,8 +89,17 @@ double PageSet::millimetresPerMm() const {
 }
 
 double PageSet::millimetresPerMm(const Page& page) const {
-  return page.kind == PageKind::Tile ? millimetresPerMm()
-                                     : scaleToFit(*plans[page.plan].extent, paper);
+  return page.kind == PageKind::Tile ? millimetresPerMm() : scaleToFit(shownOn(page), paper);
+}
+
+Box PageSet::shownOn(const Page& page) const {
+  if (page.kind == PageKind::Tile)
+    return page.tile.box;
+  if (page.kind != PageKind::TileOverview)
+    return *plans[page.plan].extent;
+  const std::vector<Tile> tiles = tilings[page.plan].tiles();
+  return {tiles.front().box.minX, tiles.front().box.minY, tiles.back().box.maxX,
+          tiles.back().box.maxY};
 }
 
 bool PageSet::hasTile(std::size_t plan, std::size_t column, std::size_t row) const {

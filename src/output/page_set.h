@@ -48,6 +48,8 @@ struct PageSet {
   double millimetresPerMm() const;
   /// The same of one page.
   double millimetresPerMm(const Page& page) const;
+  /// What of the plan a page shows, mm.
+  Box shownOn(const Page& page) const;
   /// Whether a tile, given by its place in the tiling of a plan, is one of the pages.
   bool hasTile(std::size_t plan, std::size_t column, std::size_t row) const;
   /// What one of the pages is called: "A1" or "Overview", behind its deck where decks are apart.

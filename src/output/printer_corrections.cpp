@@ -17,15 +17,18 @@ double shareIn(const ProgramMemory::Section& printer, const std::string& name) {
 
 PrinterCorrection PrinterCorrections::of(const std::string& printer) const {
   const auto printers = memory_.recall(kTopic);
-  if (!printers || !printers->contains(printer) || !printers->at(printer).is_object())
+  if (!printers)
     return {};
-  return {shareIn(printers->at(printer), "x"), shareIn(printers->at(printer), "y")};
+  for (const std::string& name : {printer, std::string()})
+    if (printers->contains(name) && printers->at(name).is_object())
+      return {shareIn(printers->at(name), "x"), shareIn(printers->at(name), "y")};
+  return {};
 }
 
 std::string PrinterCorrections::remember(const std::string& printer,
                                          const PrinterCorrection& correction) const {
   return memory_.remember(kTopic, [&](auto& printers) {
-    if (correction == PrinterCorrection{})
+    if (printer.empty() && correction == PrinterCorrection{})
       printers.erase(printer);
     else
       printers[printer] = {{"x", correction.x}, {"y", correction.y}};

@@ -18,13 +18,13 @@ struct PrinterCorrection {
 inline constexpr double kSmallestCorrection = 0.9;
 inline constexpr double kLargestCorrection = 1.1;
 
-/// What was measured on the pages of each printer, by its name; the nameless one is the system's
-/// usual printer.
+/// What was measured on the pages of each printer, by its name. The nameless one is whichever the
+/// user had in mind before any was chosen: it stands for all that were never measured.
 class PrinterCorrections {
  public:
   explicit PrinterCorrections(const ProgramMemory& memory) : memory_(memory) {}
 
-  /// True lengths for a printer that was never measured.
+  /// True lengths when nothing was measured.
   PrinterCorrection of(const std::string& printer) const;
   /// The message is empty on success.
   std::string remember(const std::string& printer, const PrinterCorrection& correction) const;

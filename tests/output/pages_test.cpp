@@ -120,6 +120,10 @@ TEST(Pages, printWhatWasAskedFor) {
   ASSERT_EQ(decks.plans.size(), 2U);
   EXPECT_TRUE(decks.plans[0].layout.pieceCount() == 2 && decks.plans[1].layout.pieceCount() == 1);
   EXPECT_EQ(decks.plans[1].deck, "Level 2");
+  PageSet again = tilesOf(layout, options);
+  again.options.mode = 0;
+  again.keep({"Level 2"});
+  EXPECT_TRUE(again.pages.size() == 1 && again.pages[0].plan == 1);
   options.what = print_what::kActiveLevelOnly;
   EXPECT_EQ(tilesOf(layout, options).plans.at(0).layout.pieceCount(), 2U);
   options.what = print_what::kSupports;
@@ -135,44 +139,82 @@ TEST(Pages, printWhatWasAskedFor) {
   EXPECT_TRUE(tilesOf(layout, options).pages.empty());
 }
 
-/// Points that were drawn on a page, in mm of the plan.
-std::vector<Point> drawnOn(const PageSet& set, std::size_t page) {
+/// Middles of the lines that are drawn across joints on a page, in mm of the plan.
+std::vector<Point> jointsOn(const PageSet& set, std::size_t page) {
   RecordingSurface surface;
   paintPage(surface, set, page);
-  std::vector<Point> drawn;
-  for (const Point& dot : surface.dots)
-    drawn.push_back(viewOf(set, set.pages[page]).toWorld(dot));
-  return drawn;
+  std::vector<Point> joints;
+  for (const RecordingSurface::Line& hatch : surface.hatches)
+    for (std::size_t i = 0; i + 1 < hatch.points.size(); i += 2) {
+      const Point a = hatch.points[i];
+      const Point b = hatch.points[i + 1];
+      joints.push_back(viewOf(set, set.pages[page]).toWorld({(a.x + b.x) / 2, (a.y + b.y) / 2}));
+    }
+  return joints;
 }
 
 TEST(Pages, overlapsAgreeAndEveryJointIsOnAPage) {
-  const PlanFile file = readPlanFile(TRASSIX_SOURCE_DIR "/samples/C-Track Two Towns.txl");
-  const PageSet set = tilesOf(file.layout);
-  std::vector<Point> ends;
-  for (const PlacedPiece& piece : file.layout.pieces())
-    for (std::size_t end = 0; end < definitionOf(piece)->connectors.size(); ++end)
-      if (const WorldConnector at = worldEnd(piece, static_cast<std::int32_t>(end));
-          !at.free && piece.id < piece.joint(end).target)
-        ends.push_back({at.x, at.y});
-  std::vector<bool> seen(ends.size());
-  std::size_t shared = 0;
-  for (std::size_t page = 0; page < set.pages.size(); ++page) {
-    if (set.pages[page].kind != PageKind::Tile)
-      continue;
-    const std::vector<Point> drawn = drawnOn(set, page);
-    for (std::size_t i = 0; i < ends.size(); ++i) {
-      if (!holds(set.pages[page].tile.box, ends[i]))
+  for (const char* const sample :
+       {"C-Track Two Towns", "Gauge 1 Garden Loop", "Mountain Line", "Z-Track Tabletop"}) {
+    SCOPED_TRACE(sample);
+    const PlanFile file =
+        readPlanFile(std::string(TRASSIX_SOURCE_DIR "/samples/") + sample + ".txl");
+    const PageSet set = tilesOf(file.layout);
+    std::vector<Point> ends;
+    for (const PlacedPiece& piece : file.layout.pieces())
+      for (std::size_t end = 0; end < definitionOf(piece)->connectors.size(); ++end)
+        if (const WorldConnector at = worldEnd(piece, static_cast<std::int32_t>(end));
+            !at.free && piece.id < piece.joint(end).target)
+          ends.push_back({at.x, at.y});
+    std::vector<bool> seen(ends.size());
+    std::size_t shared = 0;
+    for (std::size_t page = 0; page < set.pages.size(); ++page) {
+      if (set.pages[page].kind != PageKind::Tile)
         continue;
-      double off = 1000;
-      for (const Point& p : drawn)
-        off = std::min(off, std::hypot(p.x - ends[i].x, p.y - ends[i].y));
-      EXPECT_LT(off, 0.02);
-      shared += seen[i] ? 1 : 0;
-      seen[i] = true;
+      const std::vector<Point> drawn = jointsOn(set, page);
+      for (std::size_t i = 0; i < ends.size(); ++i) {
+        if (!holds(set.pages[page].tile.box, ends[i]))
+          continue;
+        double off = 1000;
+        for (const Point& p : drawn)
+          off = std::min(off, std::hypot(p.x - ends[i].x, p.y - ends[i].y));
+        EXPECT_LT(off, 0.02);
+        shared += seen[i] ? 1 : 0;
+        seen[i] = true;
+      }
+    }
+    EXPECT_GT(seen.size(), 20U);
+    EXPECT_EQ(std::ranges::count(seen, false), 0);
+    EXPECT_GT(shared, 1U) << "on two pages";
+  }
+}
+
+/// Counts what takes ink by the area.
+class InkSurface : public RecordingSurface {
+ public:
+  std::size_t filled = 0;
+
+  void polygon(std::span<const Point>, std::optional<Rgba> fill, std::optional<Stroke>) override {
+    filled += fill && fill->a != 0 && withAlpha(*fill, 255) != Rgba{255, 255, 255} ? 1 : 0;
+  }
+};
+
+TEST(Pages, outlinesSpareInkAndTheOverviewShowsAllSheets) {
+  const PlanFile file = readPlanFile(TRASSIX_SOURCE_DIR "/samples/C-Track Two Towns.txl");
+  PrintOptions options = trueSize();
+  for (const bool spare : {false, true}) {
+    options.what = spare ? print_what::kOutlines : 0;
+    const PageSet set = tilesOf(file.layout, options);
+    InkSurface surface;
+    for (std::size_t page = 0; page < set.pages.size(); ++page)
+      paintPage(surface, set, page);
+    EXPECT_EQ(surface.filled == 0, spare) << surface.filled;
+    const Box room = pictureOf(set, set.pages[0]);
+    for (const Tile& tile : set.tilings[0].tiles()) {
+      const Point low = viewOf(set, set.pages[0]).toScreen({tile.box.minX, tile.box.minY});
+      EXPECT_TRUE(low.x > room.minX - 0.01 && low.y > room.minY - 0.01) << tile.name();
     }
   }
-  EXPECT_EQ(std::ranges::count(seen, false), 0);
-  EXPECT_GT(shared, 10U) << "on two pages";
 }
 
 #ifndef _WIN32
@@ -222,7 +264,7 @@ TEST(PdfFile, marksLieInPlaceAndNamesAreText) {
   writeText(file, pdf.take());
   EXPECT_EQ(pdf.problem(), "");
   std::size_t counted = 0;
-  for (const std::size_t page : {std::size_t{1}, set.pages.size() / 2, set.pages.size() - 1}) {
+  for (std::size_t page = 1; page < set.pages.size(); ++page) {
     const std::string number = std::to_string(page + 1);
     const Picture picture =
         pictureOf("pdftoppm -r 254 -f " + number + " -l " + number + " '" + file + "' 2>&1");
@@ -231,7 +273,8 @@ TEST(PdfFile, marksLieInPlaceAndNamesAreText) {
                   [&](int x, int y) { return picture.isMark(x, y); }, counted),
               0.1);
   }
-  EXPECT_GT(counted, 20U);
+  EXPECT_GT(counted, plan.marks.size() / 2);
+  EXPECT_NE(outputOf("pdfinfo '" + file + "' 2>&1").find("Süd Łódź Жи"), std::string::npos);
   EXPECT_NE(outputOf("pdftotext -f 1 -l 1 -raw '" + file + "' - 2>&1").find("Süd Łódź Жи"),
             std::string::npos);
   std::istringstream fonts(outputOf("pdffonts '" + file + "' 2>&1 | tail -n +3"));
@@ -274,17 +317,24 @@ TEST(PictureFiles, pdfSheetsFitOrAreRefused) {
   struct Case {
     PdfLayout how;
     double longer, width, height; ///< mm
+    int pages;
   };
-  for (const Case& c : {Case{PdfLayout::OneSheet, 2000, 2020, 1020},
-                        {PdfLayout::Roll610, 2000, 2020, 610},
-                        {PdfLayout::Roll914, 5060, 5080, 914}}) {
+  for (const Case& c : {Case{PdfLayout::OneSheet, 2000, 2020, 1020, 1},
+                        {PdfLayout::Roll610, 2000, 2020, 610, 2},
+                        {PdfLayout::Roll914, 5060, 5080, 914, 2},
+                        // Three lengths that overlap by 10 and two widths, all with edges of board.
+                        {PdfLayout::Roll610, 12000, 11990. / 3 + 30, 610, 6}}) {
     layout.editSettings().baseboard[1].x = layout.editSettings().baseboard[2].x = c.longer - 0.02;
     const PictureFile pdf = pdfPicture(layout, {}, {"Plan", ""}, c.how, kPaper);
     ASSERT_EQ(pdf.problem, "");
     const TempFolder folder;
     const std::string file = (folder.path() / "sheet.pdf").string();
     writeText(file, pdf.bytes);
-    std::istringstream info(outputOf("pdfinfo -l 99 '" + file + "' 2>&1 | grep 'size:' | tail -2"));
+    std::istringstream info(
+        outputOf("pdfinfo -l 99 '" + file + "' 2>&1 | grep -E 'size:|Pages:' | head -n -1"));
+    std::string count;
+    std::getline(info, count);
+    EXPECT_EQ(std::atoi(count.c_str() + count.find(':') + 1), c.pages);
     double width = 0;
     double height = 0;
     std::string line;

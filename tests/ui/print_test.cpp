@@ -6,7 +6,9 @@
 #include "ui/print/layout_printout.h"
 #include "ui/print/printing.h"
 
+#include <wx/checklst.h>
 #include <wx/dcmemory.h>
+#include <wx/dcscreen.h>
 #include <wx/image.h>
 #include <wx/print.h>
 #include <wx/stattext.h>
@@ -79,18 +81,21 @@ class FakePrinter {
 TEST_F(PrintTest, MarksComeOutInPlaceAlsoOfPrintersThatLie) {
   start();
   const MarkedPlan plan = MarkedPlan::make();
+  const auto layout = std::make_shared<const Layout>(plan.layout);
   PrintOptions options;
   options.mode = static_cast<std::int32_t>(PrintMode::TrueSize);
-  for (const PrinterCorrection lie : {PrinterCorrection{}, PrinterCorrection{0.9959, 1.003}}) {
-    LayoutPrintout printout({plan.layout,
+  options.orientation = static_cast<std::int32_t>(PrintOrientation::Upright);
+  constexpr int kReach = 71; // 6 mm that the printer does not reach
+  for (const PrinterCorrection lie :
+       {PrinterCorrection{}, PrinterCorrection{0.9959, 1.003}, PrinterCorrection{1.02, 1.05}}) {
+    LayoutPrintout printout({layout,
                              options,
                              {"Süd", "today"},
                              Paper{kA4, {4, 4, 4, 4}},
                              {},
                              {},
                              [&lie] { return lie; },
-                             {}});
-    constexpr int kReach = 71; // 6 mm that the printer does not reach
+                             [](std::size_t, std::size_t) { FAIL() << "as many as before"; }});
     FakePrinter printer(printout, kReach);
     const PageSet& pages = printout.pages();
     std::size_t counted = 0;
@@ -104,6 +109,8 @@ TEST_F(PrintTest, MarksComeOutInPlaceAlsoOfPrintersThatLie) {
         const int y = sheetY - kReach;
         if (x < 0 || y < 0 || x >= image.GetWidth() || y >= image.GetHeight())
           return false;
+        if (sheetX * lie.x > 2480 || sheetY * lie.y > 3508)
+          return false; // beside the sheet
         const unsigned char* p = data + 3 * (y * image.GetWidth() + x);
         return p[0] > 190 && p[1] < 120 && p[2] > 190;
       };
@@ -115,6 +122,22 @@ TEST_F(PrintTest, MarksComeOutInPlaceAlsoOfPrintersThatLie) {
     }
     EXPECT_GT(counted, plan.marks.size() / 2);
   }
+  options.overlap = 33; // of which what the printer reaches takes a column more
+  std::pair<std::size_t, std::size_t> told;
+  LayoutPrintout printout({layout,
+                           options,
+                           {},
+                           Paper{kA4, {4, 4, 4, 4}},
+                           {},
+                           {},
+                           {},
+                           [&](std::size_t was, std::size_t is) {
+                             told = {was, is};
+                           }});
+  const std::size_t promised = printout.pages().pages.size();
+  const FakePrinter printer(printout, kReach);
+  EXPECT_GT(printout.pages().pages.size(), promised);
+  EXPECT_EQ(told, std::pair(promised, printout.pages().pages.size()));
   finish();
 }
 
@@ -129,9 +152,21 @@ TEST_F(PrintTest, OptionsAreChosenByKeysAndMouseAndRemembered) {
     const int all = count();
     wxWindow& picture = in(dialog, "printPicture");
     click({picture, wxPoint(40, picture.GetClientSize().y / 2)});
-    waitUntil("a sheet is left out, and the overview", [&] { return count() == all - 2; });
-    enter(dialog, "printOverlap", "70");
-    EXPECT_FALSE(dialog.FindWindow(wxID_OK)->IsEnabled());
+    waitUntil("a sheet is left out", [&] { return count() == all - 1; });
+    auto& sheets = dynamic_cast<wxCheckListBox&>(in(dialog, "printPages"));
+    EXPECT_EQ(sheets.GetString(0), "Overview");
+    pressKey('m', wxMOD_ALT); // all of them, then none
+    waitUntil("all are back", [&] { return count() == all; });
+    pressKey('m', wxMOD_ALT);
+    waitUntil("none is left", [&] { return !dialog.FindWindow(wxID_OK)->IsEnabled(); });
+    pressKey('w', wxMOD_ALT);
+    pressKey(WXK_TAB);
+    pressKey(WXK_DOWN);
+    pressKey(WXK_SPACE);
+    waitUntil("one is printed again", [&] { return sheets.IsChecked(1) && count() == 1; });
+    pressKey('v', wxMOD_ALT);
+    typeText("70");
+    waitUntil("too much", [&] { return !dialog.FindWindow(wxID_OK)->IsEnabled(); });
     enter(dialog, "printOverlap", "20");
     enter(dialog, "printMeasuredX", "99.59");
     EXPECT_TRUE(dialog.FindWindow(wxID_OK)->IsEnabled());
@@ -148,9 +183,32 @@ TEST_F(PrintTest, OptionsAreChosenByKeysAndMouseAndRemembered) {
   finish();
 }
 
+/// What a preview shows.
+std::string pixelsOf(wxPrintPreviewBase& preview) {
+  auto* const canvas = dynamic_cast<wxPreviewCanvas*>(preview.GetCanvas());
+  const wxSize size = canvas->GetClientSize();
+  wxBitmap shown(size.x, size.y);
+  wxMemoryDC dc(shown);
+  preview.PaintPage(canvas, dc);
+  dc.SelectObject(wxNullBitmap);
+  const wxImage image = shown.ConvertToImage();
+  return {reinterpret_cast<const char*>(image.GetData()), std::size_t(3) * size.x * size.y};
+}
+
+bool hasInk(const std::string& pixels) {
+  constexpr std::ptrdiff_t kLines = 12'000; // of the frame and the shadow of a blank page
+  return std::ranges::count_if(pixels, [](unsigned char c) { return c < 100; }) > kLines;
+}
+
 TEST_F(PrintTest, PreviewShowsEveryPageAlsoWithoutAPrinter) {
   startLaidOut();
   showBoard();
+  dialogs.drive("Print Options", [](wxDialog&) {
+    pressKey('t', wxMOD_ALT);
+    pressKey('p', wxMOD_ALT);
+  });
+  dialogs.answer("Print", wxID_CANCEL);
+  put(wxID_PRINT);
   put(wxID_PREVIEW);
   waitUntil("the preview is open", [] {
     const wxWindow* preview = wxWindow::FindWindowByName("printPreview");
@@ -161,10 +219,26 @@ TEST_F(PrintTest, PreviewShowsEveryPageAlsoWithoutAPrinter) {
   auto& control =
       dynamic_cast<wxPreviewControlBar&>(*preview.FindWindow(wxID_PREVIEW_PRINT)->GetParent());
   wxPrintPreviewBase& pages = *control.GetPrintPreview();
-  EXPECT_TRUE(pages.GetMinPage() == 1 && pages.GetMaxPage() == 1);
-  plan().edit().pieces.clear(); // the preview keeps what it shows
-  EXPECT_TRUE(pages.SetCurrentPage(1));
+  waitUntil("it is in front and laid out",
+            [&] { return preview.IsActive() && pages.GetCanvas()->GetClientSize().y > 300; });
+  waitUntil("it is drawn", [&] { return pages.GetMaxPage() > 10 && hasInk(pixelsOf(pages)); });
   settle();
+  plan().editSettings().baseboard.clear(); // the preview keeps what it shows
+  plan().edit().pieces.clear();
+  std::string last = pixelsOf(pages);
+  for (int page = 2; page <= 4; ++page) {
+    click(*preview.FindWindow(wxID_PREVIEW_NEXT));
+    waitUntil("the next page", [&] {
+      const std::string now = pixelsOf(pages);
+      return pages.GetCurrentPage() == page && hasInk(now) && now != last;
+    });
+    last = pixelsOf(pages);
+  }
+  LayoutPrintout& toPrint = dynamic_cast<LayoutPrintout&>(*pages.GetPrintoutForPrinting());
+  FakePrinter(toPrint, 0);
+  EXPECT_GT(toPrint.pages().pages.size(), 10U) << "as does what is printed from it";
+  click(*preview.FindWindow(wxID_PREVIEW_LAST));
+  waitUntil("the last page", [&] { return pages.GetCurrentPage() == pages.GetMaxPage(); });
   preview.Close();
   waitUntil("it is closed", [] { return wxWindow::FindWindowByName("printPreview") == nullptr; });
   finish();
@@ -191,6 +265,9 @@ TEST_F(PrintTest, PicturesGoOutAndWhatCannotBeWrittenIsTold) {
   const std::array<const char*, 3> starts{"\x89PNG", "<?xml", "%PDF"};
   for (std::size_t format = 0; format < starts.size(); ++format) {
     form.setFormat(static_cast<PictureFormat>(format));
+    form.setBackground(false);
+    form.enter(PictureForm::Field::Scale, "1:10");
+    form.enter(PictureForm::Field::Dpi, "127");
     const std::filesystem::path file = folder / ("Süd" + std::to_string(format));
     writePicture(frame(), frame().workspace(), settings, form, file);
     EXPECT_EQ(readText(file).substr(0, std::strlen(starts[format])), starts[format]);
@@ -198,6 +275,14 @@ TEST_F(PrintTest, PicturesGoOutAndWhatCannotBeWrittenIsTold) {
     writePicture(frame(), frame().workspace(), settings, form, file / "below a file");
     EXPECT_TRUE(dialogs.finished());
   }
+  const wxImage png(wxString::FromUTF8((folder / "Süd0").string()));
+  EXPECT_TRUE(png.GetWidth() == 610 && png.GetHeight() == 419);
+  EXPECT_EQ(png.GetOptionInt(wxIMAGE_OPTION_RESOLUTIONX), 50) << "to the centimetre";
+  EXPECT_EQ(png.GetAlpha(2, 2), wxIMAGE_ALPHA_TRANSPARENT) << "no background";
+  form.setFormat(PictureFormat::Png);
+  form.setBackground(true);
+  writePicture(frame(), frame().workspace(), settings, form, folder / "white");
+  EXPECT_EQ(wxImage(wxString::FromUTF8((folder / "white").string())).GetRed(2, 2), 255);
   EXPECT_EQ(pieces(), 1U);
   finish();
 }

@@ -165,6 +165,10 @@ SizePx DcSurface::textSize(std::string_view text, const TextStyle& style) {
 void DcSurface::text(std::string_view text, Point centre, double degrees, const TextStyle& style) {
   useFont(style);
   shift_ = 0;
+  // Some printers remember the colour of their last text and think that it still is that of their
+  // pen, which areas have changed since: they need to see another.
+  const wxColour color = dc_.GetTextForeground();
+  dc_.SetPen(wxPen(wxColour(color.Red() ^ 1, color.Green(), color.Blue())));
   const wxString shown = fromUtf8(text);
   const wxSize size = dc_.GetTextExtent(shown);
   const double turn = toRadians(degrees);

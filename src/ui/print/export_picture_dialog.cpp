@@ -71,6 +71,8 @@ ExportPictureDialog::ExportPictureDialog(wxWindow* parent, PictureForm form)
 wxChoice* ExportPictureDialog::addChoice(wxSizer& grid, const wxString& label, const char* name,
                                          const std::vector<wxString>& rows,
                                          const std::function<void(int)>& chosen) {
+  // Its key leads to what is made next.
+  grid.Add(new wxStaticText(this, wxID_ANY, label), wxSizerFlags().CenterVertical());
   auto* choice = new wxChoice(this, wxID_ANY);
   choice->SetName(name);
   for (const wxString& row : rows)
@@ -80,20 +82,19 @@ wxChoice* ExportPictureDialog::addChoice(wxSizer& grid, const wxString& label, c
     chosen(event.GetSelection());
     refresh();
   });
-  grid.Add(new wxStaticText(this, wxID_ANY, label), wxSizerFlags().CenterVertical());
   grid.Add(choice, wxSizerFlags().Expand());
   return choice;
 }
 
 void ExportPictureDialog::addField(wxSizer& grid, const wxString& label, Field which,
                                    const char* name) {
+  grid.Add(new wxStaticText(this, wxID_ANY, label), wxSizerFlags().CenterVertical());
   auto* field = new wxTextCtrl(this, wxID_ANY, fromUtf8(form_.text(which)), wxDefaultPosition,
                                wxDefaultSize, 0, wxDefaultValidator, name);
   field->Bind(wxEVT_TEXT, [this, which, field](wxCommandEvent&) {
     form_.enter(which, toUtf8(field->GetValue()));
     refresh();
   });
-  grid.Add(new wxStaticText(this, wxID_ANY, label), wxSizerFlags().CenterVertical());
   grid.Add(field, wxSizerFlags().Expand());
   rows_.push_back({field, [this, which] { return form_.uses(which); }});
 }

@@ -18,7 +18,7 @@ LayoutPrintout::LayoutPrintout(Job job) : wxPrintout("Trassix Layout"), job_(std
 }
 
 void LayoutPrintout::layOut(const Paper& paper) {
-  pages_ = layOutPages(job_.layout, job_.options, paper, job_.title, job_.owned);
+  pages_ = layOutPages(*job_.layout, job_.options, paper, job_.title, job_.owned);
   if (!job_.only.empty())
     pages_.keep(job_.only);
 }

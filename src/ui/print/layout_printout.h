@@ -6,6 +6,7 @@
 #include <wx/print.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace trassix {
@@ -14,9 +15,9 @@ namespace trassix {
 /// its paper, what of it the printer reaches, and how far it lies about lengths.
 class LayoutPrintout : public wxPrintout {
  public:
-  /// What is to be printed. The layout must outlive the printout.
+  /// What is to be printed.
   struct Job {
-    const Layout& layout;
+    std::shared_ptr<const Layout> layout;
     PrintOptions options;
     PrintTitle title;
     Paper paper; ///< as set by the user, until the printer is known

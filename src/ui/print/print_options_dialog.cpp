@@ -94,13 +94,14 @@ PrintOptionsDialog::PrintOptionsDialog(wxWindow* parent, PrintForm form, const w
 
 wxTextCtrl* PrintOptionsDialog::addField(wxSizer& row, const wxString& label, Field which,
                                          const char* name) {
+  auto* caption = new wxStaticText(this, wxID_ANY, label); // its key leads to what is made next
   auto* field = new wxTextCtrl(this, wxID_ANY, fromUtf8(form_.text(which)), wxDefaultPosition,
                                FromDIP(wxSize(80, -1)), 0, wxDefaultValidator, name);
   field->Bind(wxEVT_TEXT, [this, which, field](wxCommandEvent&) {
     form_.enter(which, toUtf8(field->GetValue()));
     refresh();
   });
-  row.Add(new wxStaticText(this, wxID_ANY, label), wxSizerFlags().CenterVertical());
+  row.Add(caption, wxSizerFlags().CenterVertical());
   row.Add(field, wxSizerFlags().Expand());
   fields_.emplace_back(field, which);
   return field;
@@ -124,6 +125,7 @@ wxSizer* PrintOptionsDialog::makeMode() {
   addField(*grid, _("Scal&e (1:N):"), Field::Scale, "printScale")
       ->SetToolTip(_("1:2, 1:5, 1:10, 1:20 or any other"));
   addField(*grid, _("O&verlap in mm:"), Field::Overlap, "printOverlap");
+  grid->Add(new wxStaticText(this, wxID_ANY, _("Pape&r:")), wxSizerFlags().CenterVertical());
   auto* orientation = new wxChoice(this, wxID_ANY);
   orientation->SetName("printOrientation");
   for (const wxString& name : {_("Whichever needs fewer sheets"), _("Upright"), _("Lying")})
@@ -133,7 +135,6 @@ wxSizer* PrintOptionsDialog::makeMode() {
     form_.setOrientation(static_cast<PrintOrientation>(event.GetSelection()));
     refresh();
   });
-  grid->Add(new wxStaticText(this, wxID_ANY, _("Pape&r:")), wxSizerFlags().CenterVertical());
   grid->Add(orientation, wxSizerFlags().Expand());
   column->Add(grid, wxSizerFlags().Expand().Border(wxTOP, FromDIP(8)));
   return column;
@@ -220,7 +221,8 @@ void PrintOptionsDialog::showPages() {
       pages_->SetSelection(0);
   }
   for (std::size_t page = 0; page < names.size(); ++page)
-    if (const auto row = static_cast<unsigned>(page); pages_->IsChecked(row) == form_.isLeftOut(page))
+    if (const auto row = static_cast<unsigned>(page);
+        pages_->IsChecked(row) == form_.isLeftOut(page))
       pages_->Check(row, !form_.isLeftOut(page));
   none_->SetLabel(form_.anyLeftOut() ? _("All of the&m") : _("None of the&m"));
 }

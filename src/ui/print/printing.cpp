@@ -8,8 +8,10 @@
 #include "app/services/text_file.h"
 #include "document/file_names.h"
 #include "document/open_plan.h"
+#include "document/plan_content.h"
 #include "host/workspace.h"
 #include "ui/canvas/gc_surface.h"
+#include "ui/print/chosen_printer.h"
 #include "ui/print/export_picture_dialog.h"
 #include "ui/print/layout_printout.h"
 #include "ui/print/print_options_dialog.h"
@@ -66,8 +68,17 @@ OwnedStock ownedStock() {
   return owned;
 }
 
+/// The plan as it is now, without its history: pages are laid out more than once, and a preview
+/// stays open while the plan goes on being edited.
+std::shared_ptr<const Layout> asItIs(const Layout& layout) {
+  auto kept = std::make_shared<Layout>();
+  kept->edit() = layout.content();
+  kept->editSettings() = layout.settings();
+  return kept;
+}
+
 LayoutPrintout::Job jobOf(Workspace& workspace, const PrintSettings& settings) {
-  return {workspace.layout(),
+  return {asItIs(workspace.layout()),
           settings.options,
           titleOf(workspace),
           paperOf(settings),
@@ -82,9 +93,8 @@ void turnPaper(wxPrintData& data, const PageSet& pages) {
   data.SetOrientation(pages.paper.size.width > pages.paper.size.height ? wxLANDSCAPE : wxPORTRAIT);
 }
 
-PrinterCorrection correctionOf(const wxPrintData& data) {
-  return PrinterCorrections(ProgramMemory(StandardFolders::memoryFile()))
-      .of(toUtf8(data.GetPrinterName()));
+PrinterCorrection correctionOf(const wxString& printer) {
+  return PrinterCorrections(ProgramMemory(StandardFolders::memoryFile())).of(toUtf8(printer));
 }
 
 /// The bytes of a PNG with the plan on it.
@@ -145,8 +155,7 @@ void printPlan(wxFrame& window, Workspace& workspace, PrintSettings& settings) {
   const wxString printerName = settings.data.GetPrinterName();
   PrintOptionsDialog dialog(&window,
                             PrintForm(workspace.layout(), settings.options, paperOf(settings),
-                                      titleOf(workspace), correctionOf(settings.data),
-                                      ownedStock()),
+                                      titleOf(workspace), correctionOf(printerName), ownedStock()),
                             printerName);
   if (dialog.ShowModal() != wxID_OK)
     return;
@@ -165,7 +174,9 @@ void printPlan(wxFrame& window, Workspace& workspace, PrintSettings& settings) {
   wxPrinter printer(&asked);
   LayoutPrintout::Job job = jobOf(workspace, settings);
   job.only = form.only();
-  job.correction = [&printer] { return correctionOf(printer.GetPrintDialogData().GetPrintData()); };
+  job.correction = [&printer] {
+    return correctionOf(chosenPrinter(printer.GetPrintDialogData().GetPrintData()));
+  };
   job.recounted = [&window](std::size_t before, std::size_t now) {
     wxMessageBox(wxString::Format(_("On the chosen printer and paper it takes %zu pages, not %zu."),
                                   now, before),
@@ -181,12 +192,12 @@ void printPlan(wxFrame& window, Workspace& workspace, PrintSettings& settings) {
 }
 
 void previewPlan(wxFrame& window, Workspace& workspace, PrintSettings& settings) {
-  // Both live longer than this call, and the plan goes on being edited beside them.
-  const auto makePrintout = [&] {
-    LayoutPrintout::Job job = jobOf(workspace, settings);
-    job.correction = [correction = correctionOf(settings.data)] { return correction; };
-    return new LayoutPrintout(std::move(job));
+  LayoutPrintout::Job job = jobOf(workspace, settings);
+  job.correction = [correction = correctionOf(settings.data.GetPrinterName())] {
+    return correction;
   };
+  // Both live longer than this call.
+  const auto makePrintout = [&job] { return new LayoutPrintout(job); };
   auto* shown = makePrintout();
   wxPrintData data = settings.data;
   turnPaper(data, shown->pages());

@@ -166,6 +166,21 @@ TEST(LayoutPainter, CurvesAreAsRoundAsThePictureCanShow) {
   }
 }
 
+TEST(LayoutPainter, ARampShowsWhichWayIsUp) {
+  for (const double grade : {-3.0, 0.0, 3.0}) {
+    Plan plan = Plan().place("74618");
+    plan.layout.edit().pieces[0].grade = grade;
+    std::size_t arrows = 0;
+    for (const auto& line : drawn(plan.layout, 2).lines)
+      if (line.stroke.color == screenTheme().rail && line.points.size() == 3) {
+        ++arrows;
+        EXPECT_GT((line.points[1].x - line.points[0].x) * grade, 0);
+        EXPECT_GT((line.points[1].x - (400 + 2 * 90)) * grade, 0) << "in the upper half";
+      }
+    EXPECT_EQ(arrows, grade == 0 ? 0U : 2U);
+  }
+}
+
 TEST(LayoutPainter, APieceOfAnUnknownArticleIsShownWithItsNumber) {
   Layout plan;
   plan.edit().pieces = {loosePiece(1, "99999")};

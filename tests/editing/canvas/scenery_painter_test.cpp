@@ -102,6 +102,12 @@ TEST(PlanTheme, WhatHasToBeReadStandsOutFromItsGround) {
     EXPECT_GE(contrast(theme->label, theme->plate), 7);
     EXPECT_GE(contrast(theme->rail, opaque(theme->bed)), 4);
   }
+  for (const Color chosen :
+       {Color{0, 0, 0}, {255, 255, 255}, {0, 0, 255}, {200, 0, 0}, {0, 255, 0}}) {
+    EXPECT_GE(contrast(nightTheme().line(chosen), nightTheme().board), 3.2);
+    EXPECT_GE(contrast(nightTheme().rail, nightTheme().area(chosen)), 4);
+    EXPECT_EQ(paperTheme().line(chosen), opaque(chosen));
+  }
 }
 
 } // namespace
