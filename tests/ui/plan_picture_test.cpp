@@ -187,11 +187,8 @@ TEST_F(PlanPicture, MovesWithThePlanAsIfDrawnAnew) {
       trassix::PlanPicture fresh(script.canvas);
       const wxImage moved = shown(kept, scale);
       const wxImage anew = shown(fresh, scale);
-      // Scenery whose sides run on beyond a part comes out a little softer in a few places.
-      constexpr int kSoftness = 64;
-      constexpr int kSofter = 600; ///< colour values
-      EXPECT_LE(different(moved, anew), kSofter);
-      EXPECT_LE(different(moved, anew, kSoftness), 3 * kAllowed);
+      EXPECT_LE(different(moved, anew), 3 * kAllowed);
+      EXPECT_EQ(different(moved, anew, 64), 0);
     }
   }
 }

@@ -26,7 +26,10 @@ class GcSurface : public Surface {
  public:
   /// Does not own the context, which must outlive the surface, nor the texts it knows already.
   explicit GcSurface(wxGraphicsContext& context, double deviceScale = 1, GcTexts* known = nullptr)
-      : context_(context), deviceScale_(deviceScale), texts_(known ? *known : own_) {}
+      : context_(context), deviceScale_(deviceScale), texts_(known ? *known : own_) {
+    // Which would move areas by half a pixel after each line of an odd width.
+    context_.DisableOffset();
+  }
 
   double deviceScale() const override { return deviceScale_; }
 
