@@ -27,7 +27,9 @@ wxColour colour(Rgba c) {
 class PlainDrawing::Pencil {
  public:
   Pencil(wxGraphicsContext& context, const PlainDrawing& drawing)
-      : context_(context), drawing_(drawing), zoom_(drawing.view_.zoom()) {}
+      : context_(context), drawing_(drawing), zoom_(drawing.view_.zoom()) {
+    context.DisableOffset(); // as the window draws
+  }
 
   void sheet() {
     const auto [width, height] = drawing_.size_;

@@ -146,8 +146,13 @@ TEST_F(PrintTest, OptionsAreChosenByKeysAndMouseAndRemembered) {
   showBoard();
   dialogs.drive("Print Options", [&](wxDialog& dialog) {
     EXPECT_EQ(text(dialog, "printSummary").substr(0, 6), "1 page");
-    pressKey('t', wxMOD_ALT);
     const auto count = [&] { return std::atoi(text(dialog, "printSummary").c_str()); };
+    pressKey('c', wxMOD_ALT);
+    waitUntil("there are tiles", [&] { return count() > 1; });
+    pressKey('e', wxMOD_ALT);
+    typeText("1:5");
+    waitUntil("they are fewer", [&] { return count() == 1; });
+    pressKey('t', wxMOD_ALT);
     waitUntil("there are tiles", [&] { return count() > 1; });
     const int all = count();
     wxWindow& picture = in(dialog, "printPicture");

@@ -293,7 +293,7 @@ LayoutPainter::visibleTrack(const Layout& layout, const PlanIndex& index, const 
     PieceLook look;
     look.bed = bedColor(theme_, layout, piece, *definition);
     look.rails = options_.rails;
-    look.sleepers = options_.rails;
+    look.sleepers = options_.rails && theme_.fills;
     look.beneath = layout.isCovered(piece.id) || liesBeneath(decks, piece, *definition);
     look.faded = isOtherLevel(layout, piece.level);
     if (definition->ramp && isGraded(piece))

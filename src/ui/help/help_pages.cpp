@@ -222,8 +222,9 @@ constexpr const char* kFiles[] = {
     wxTRANSLATE("# On paper"),
     wxTRANSLATE(
         "File > Print shows the plan with the sheets over it: all of it on one page, to a "
-        "scale, or at its true size over as many sheets as it takes. Click a sheet to leave "
-        "it out, for example to print a single one again."),
+        "scale, or at its true size over as many sheets as it takes. Click a sheet, or take "
+        "its tick away in the list, to leave it out. To print a single one again, leave all "
+        "out and tick that one."),
     wxTRANSLATE(
         "Sheets of true size are cut along the dashed lines and laid cross on cross. Joints "
         "carry the articles that meet there, and their height."),

@@ -9,6 +9,7 @@
 #include <wx/checkbox.h>
 #include <wx/checklst.h>
 #include <wx/choice.h>
+#include <wx/combobox.h>
 #include <wx/graphics.h>
 #include <wx/radiobox.h>
 #include <wx/sizer.h>
@@ -92,8 +93,22 @@ PrintOptionsDialog::PrintOptionsDialog(wxWindow* parent, PrintForm form, const w
   Centre();
 }
 
-wxTextCtrl* PrintOptionsDialog::addField(wxSizer& row, const wxString& label, Field which,
-                                         const char* name) {
+void PrintOptionsDialog::addScale(wxSizer& row) {
+  const std::array<wxString, 5> usual{"1:1", "1:2", "1:5", "1:10", "1:20"};
+  row.Add(new wxStaticText(this, wxID_ANY, _("Scal&e (1:N):")), wxSizerFlags().CenterVertical());
+  auto* scale = new wxComboBox(this, wxID_ANY, fromUtf8(form_.text(Field::Scale)),
+                               wxDefaultPosition, wxDefaultSize, static_cast<int>(usual.size()),
+                               usual.data(), 0, wxDefaultValidator, "printScale");
+  scale->Bind(wxEVT_TEXT, [this, scale](wxCommandEvent&) {
+    form_.enter(Field::Scale, toUtf8(scale->GetValue()));
+    refresh();
+  });
+  row.Add(scale, wxSizerFlags().Expand());
+  fields_.emplace_back(scale, Field::Scale);
+}
+
+void PrintOptionsDialog::addField(wxSizer& row, const wxString& label, Field which,
+                                  const char* name) {
   auto* caption = new wxStaticText(this, wxID_ANY, label); // its key leads to what is made next
   auto* field = new wxTextCtrl(this, wxID_ANY, fromUtf8(form_.text(which)), wxDefaultPosition,
                                FromDIP(wxSize(80, -1)), 0, wxDefaultValidator, name);
@@ -104,7 +119,6 @@ wxTextCtrl* PrintOptionsDialog::addField(wxSizer& row, const wxString& label, Fi
   row.Add(caption, wxSizerFlags().CenterVertical());
   row.Add(field, wxSizerFlags().Expand());
   fields_.emplace_back(field, which);
-  return field;
 }
 
 wxSizer* PrintOptionsDialog::makeMode() {
@@ -122,8 +136,7 @@ wxSizer* PrintOptionsDialog::makeMode() {
   column->Add(mode, wxSizerFlags().Expand());
   auto* grid = new wxFlexGridSizer(2, FromDIP(6), FromDIP(10));
   grid->AddGrowableCol(1);
-  addField(*grid, _("Scal&e (1:N):"), Field::Scale, "printScale")
-      ->SetToolTip(_("1:2, 1:5, 1:10, 1:20 or any other"));
+  addScale(*grid);
   addField(*grid, _("O&verlap in mm:"), Field::Overlap, "printOverlap");
   grid->Add(new wxStaticText(this, wxID_ANY, _("Pape&r:")), wxSizerFlags().CenterVertical());
   auto* orientation = new wxChoice(this, wxID_ANY);

@@ -13,7 +13,6 @@ class wxCheckListBox;
 class wxChoice;
 class wxRadioBox;
 class wxStaticText;
-class wxTextCtrl;
 
 namespace trassix {
 
@@ -32,8 +31,8 @@ class PrintOptionsDialog : public wxDialog {
   wxSizer* makeMode();
   wxSizer* makeWhat();
   wxSizer* makeRuler(const wxString& printer);
-  wxTextCtrl* addField(wxSizer& row, const wxString& label, PrintForm::Field which,
-                       const char* name);
+  void addScale(wxSizer& row);
+  void addField(wxSizer& row, const wxString& label, PrintForm::Field which, const char* name);
   void addBox(wxSizer& column, const wxString& label, const char* name, bool on,
               const std::function<void(bool)>& chosen);
   wxSizer* makePages();
@@ -42,7 +41,7 @@ class PrintOptionsDialog : public wxDialog {
   void refresh();
 
   PrintForm form_;
-  std::vector<std::pair<wxTextCtrl*, PrintForm::Field>> fields_;
+  std::vector<std::pair<wxWindow*, PrintForm::Field>> fields_;
   PicturePanel* picture_ = nullptr;
   wxCheckListBox* pages_ = nullptr;
   wxButton* none_ = nullptr;
