@@ -147,7 +147,7 @@ TEST_F(PrintTest, OptionsAreChosenByKeysAndMouseAndRemembered) {
   dialogs.drive("Print Options", [&](wxDialog& dialog) {
     EXPECT_EQ(text(dialog, "printSummary").substr(0, 6), "1 page");
     const auto count = [&] { return std::atoi(text(dialog, "printSummary").c_str()); };
-    pressKey('c', wxMOD_ALT);
+    pressKey('l', wxMOD_ALT);
     waitUntil("there are tiles", [&] { return count() > 1; });
     pressKey('e', wxMOD_ALT);
     typeText("1:5");

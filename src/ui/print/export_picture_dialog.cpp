@@ -34,7 +34,7 @@ ExportPictureDialog::ExportPictureDialog(wxWindow* parent, PictureForm form)
   const auto pdf = [this] { return form_.format() == PictureFormat::Pdf; };
   addField(*grid, _("&Width in pixels:"), Field::Width, "pictureWidth");
   addField(*grid, _("or &dots to the inch:"), Field::Dpi, "pictureDpi");
-  addField(*grid, _("S&cale (1:N):"), Field::Scale, "pictureScale");
+  addField(*grid, _("Scale (1:&N):"), Field::Scale, "pictureScale");
   auto* pages = addChoice(*grid, _("&Pages:"), "picturePages",
                           {_("Tiles on the paper of Page Setup"), _("One sheet"),
                            _("Strips for a roll of 610 mm"), _("Strips for a roll of 914 mm")},

@@ -123,7 +123,7 @@ void PrintOptionsDialog::addField(wxSizer& row, const wxString& label, Field whi
 
 wxSizer* PrintOptionsDialog::makeMode() {
   auto* column = new wxBoxSizer(wxVERTICAL);
-  const std::array<wxString, 3> modes{_("O&ne page with all of the plan"), _("To a s&cale"),
+  const std::array<wxString, 3> modes{_("O&ne page with all of the plan"), _("To a sca&le"),
                                       _("&True size, over several sheets")};
   auto* mode = new wxRadioBox(this, wxID_ANY, _("How"), wxDefaultPosition, wxDefaultSize,
                               static_cast<int>(modes.size()), modes.data(), 1, wxRA_SPECIFY_COLS,
@@ -169,7 +169,7 @@ wxSizer* PrintOptionsDialog::makeWhat() {
   auto* box = new wxStaticBoxSizer(wxVERTICAL, this, _("What to print"));
   auto* column = new wxFlexGridSizer(2, 0, FromDIP(10));
   const PrintOptions& options = form_.options();
-  addBox(*column, _("&Labels and articles"), "printLabels", options.labels,
+  addBox(*column, _("La&bels and articles"), "printLabels", options.labels,
          [this](bool on) { form_.setLabels(on); });
   for (const WhatBox& what : kWhat)
     addBox(*column, wxGetTranslation(what.label), what.name,
