@@ -97,6 +97,12 @@ PrinterCorrection correctionOf(const wxString& printer) {
   return PrinterCorrections(ProgramMemory(StandardFolders::memoryFile())).of(toUtf8(printer));
 }
 
+void tellCount(wxWindow& window, std::size_t before, std::size_t now) {
+  wxMessageBox(wxString::Format(_("On the chosen printer and paper it takes %zu pages, not %zu."),
+                                now, before),
+               _("Print"), wxOK | wxICON_INFORMATION, &window);
+}
+
 /// The bytes of a PNG with the plan on it.
 PictureFile pngPicture(const Layout& layout, const PictureForm& form) {
   const SizePx size = form.pixels();
@@ -178,9 +184,7 @@ void printPlan(wxFrame& window, Workspace& workspace, PrintSettings& settings) {
     return correctionOf(chosenPrinter(printer.GetPrintDialogData().GetPrintData()));
   };
   job.recounted = [&window](std::size_t before, std::size_t now) {
-    wxMessageBox(wxString::Format(_("On the chosen printer and paper it takes %zu pages, not %zu."),
-                                  now, before),
-                 _("Print"), wxOK | wxICON_INFORMATION, &window);
+    tellCount(window, before, now);
   };
   LayoutPrintout printout(std::move(job));
   if (printer.Print(&window, &printout, true))
@@ -197,12 +201,19 @@ void previewPlan(wxFrame& window, Workspace& workspace, PrintSettings& settings)
     return correction;
   };
   // Both live longer than this call.
-  const auto makePrintout = [&job] { return new LayoutPrintout(job); };
-  auto* shown = makePrintout();
+  auto* shown = new LayoutPrintout(job);
+  const auto printsFrom = std::make_shared<wxPrintPreview*>();
+  job.correction = [printsFrom] {
+    return correctionOf(chosenPrinter((*printsFrom)->GetPrintDialogData().GetPrintData()));
+  };
+  job.recounted = [&window](std::size_t before, std::size_t now) {
+    tellCount(window, before, now);
+  };
   wxPrintData data = settings.data;
   turnPaper(data, shown->pages());
   wxPrintDialogData dialogData(data);
-  auto preview = std::make_unique<wxPrintPreview>(shown, makePrintout(), &dialogData);
+  auto preview = std::make_unique<wxPrintPreview>(shown, new LayoutPrintout(job), &dialogData);
+  *printsFrom = preview.get();
   if (!preview->IsOk()) {
     wxMessageBox(_("Could not create print preview. Is a printer driver installed?"),
                  _("Print Preview"), wxOK | wxICON_ERROR, &window);
