@@ -287,6 +287,7 @@ void paintSupports(Surface& surface, const PrintedPlan& plan, const ViewTransfor
 PaintOptions paintOptionsOf(const PrintOptions& options) {
   PaintOptions how;
   how.desk = how.scaleBar = how.selection = false;
+  how.levelsAlike = true;
   how.grid = options.has(print_what::kGrid);
   how.theme = options.has(print_what::kOutlines) ? &outlineTheme() : &paperTheme();
   how.labels = options.labels;

@@ -67,11 +67,12 @@ std::string groupName(RecordKind kind) {
   }
 }
 
-bool isOtherLevel(const Layout& layout, std::int32_t level) {
-  return level != layout.settings().activeLevel && layout.findLevel(level) != nullptr;
-}
-
 } // namespace
+
+bool LayoutPainter::isFaded(const Layout& layout, std::int32_t level) const {
+  return !options_.levelsAlike && level != layout.settings().activeLevel &&
+         layout.findLevel(level) != nullptr;
+}
 
 struct LayoutPainter::Visible {
   const PlacedPiece* piece;
@@ -135,7 +136,7 @@ void LayoutPainter::paintBoard(const Layout& layout) {
   for (const Level& level : settings.levels) {
     if (!level.visible || level.outline.size() < 3)
       continue;
-    const bool active = level.id == settings.activeLevel;
+    const bool active = !isFaded(layout, level.id);
     const std::optional<Rgba> tint =
         theme_.fills ? std::optional(opaque(level.color, active ? 60 : 28)) : std::nullopt;
     surface_.polygon(view_.toScreen(level.outline), tint,
@@ -201,7 +202,7 @@ class LayoutPainter::SceneryOfLevels {
           item.y + reach < shown.minY || item.y - reach > shown.maxY)
         continue;
       Standing standing{layout.levelHeight(item.level), SceneryPainter::itemOf(layout, item)};
-      standing.item.faded = isOtherLevel(layout, item.level);
+      standing.item.faded = picture.isFaded(layout, item.level);
       standing.item.beneath = decks.cover({item.x, item.y}, item.level, standing.height);
       all_.push_back(std::move(standing));
     }
@@ -295,7 +296,7 @@ LayoutPainter::visibleTrack(const Layout& layout, const PlanIndex& index, const 
     look.rails = options_.rails;
     look.sleepers = options_.rails && theme_.fills;
     look.beneath = layout.isCovered(piece.id) || liesBeneath(decks, piece, *definition);
-    look.faded = isOtherLevel(layout, piece.level);
+    look.faded = isFaded(layout, piece.level);
     if (definition->ramp && isGraded(piece))
       look.climb = endHeight(piece, *definition, 1) > endHeight(piece, *definition, 0) ? 1 : -1;
     if (piece.sel && options_.selection)
@@ -437,7 +438,7 @@ void LayoutPainter::paintTexts(const Layout& layout, const PlanIndex& index,
         const PlacedPiece& piece = layout.pieces()[position];
         surface_.text(index.definition(position)->article,
                       {place.at.x + origin.x, place.at.y + origin.y}, place.angle,
-                      articleStyle(theme_, isOtherLevel(layout, piece.level)));
+                      articleStyle(theme_, isFaded(layout, piece.level)));
       });
 }
 

@@ -31,6 +31,7 @@ struct PaintOptions {
   std::optional<Box> part;                  ///< px, what of the surface is to be drawn: all of it
   ArticlePlaces* articles = nullptr;        ///< kept between pictures of a plan
   GradePlaces* gradePlaces = nullptr;       ///< likewise
+  bool levelsAlike = false;                 ///< else all but the active one are faded
   bool selection = true;                    ///< what is selected looks selected
   const PlanTheme* theme = &screenTheme();
 };
@@ -61,6 +62,7 @@ class LayoutPainter {
                                     const HelixRings& rings,
                                     std::span<const std::size_t> positions);
   bool isLeftOut(std::int32_t piece) const;
+  bool isFaded(const Layout& layout, std::int32_t level) const;
   void paintUnknown(const PlacedPiece& piece);
   class SceneryOfLevels;
   void paintJoinDots(const Layout& layout, std::span<const Visible> pieces);

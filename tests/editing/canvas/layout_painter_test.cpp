@@ -86,6 +86,15 @@ TEST(LayoutPainter, SwitchesLevelsAndTheWindowDecideWhatIsDrawn) {
   EXPECT_TRUE(drawn(hidden, 1.5).areas.empty());
   EXPECT_EQ(drawn(plan, 1.5, {-4000, 0}).lines.size(), drawn(Layout(), 1.5).lines.size());
 
+  PaintOptions paper;
+  Layout higher = plan;
+  higher.ensureLevel(2);
+  higher.editSettings().activeLevel = 2;
+  for (const bool alike : {false, true}) {
+    paper.levelsAlike = alike;
+    EXPECT_EQ(drawn(higher, 1.5, {300, 300}, paper).linesIn(screenTheme().rail) > 0, alike);
+  }
+
   Layout tunnelled = plan;
   tunnelled.edit().tunnels.push_back({9, -1, -1, -1, -1, {2}});
   const RecordingSurface covered = drawn(tunnelled, 1.5, {300, 300});
