@@ -1,0 +1,97 @@
+// What a user wants of a bridge, while its dialog is open.
+#pragma once
+
+#include "editing/edit_result.h"
+#include "wizards/bridge/bridge_plan.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace trassix {
+
+class OwnedStock;
+class PlanPreview;
+
+/// Every entry says at once what would come of it, and `plan` is that. Of clearance and deck height
+/// the one that was typed last holds and the other follows; likewise of grade limit and ramp
+/// length, where a typed length lets the limit be what it was.
+class BridgeForm {
+ public:
+  enum class Field : std::uint8_t { Clearance, DeckHeight, Limit, RampLength };
+  static constexpr std::size_t kFields = 4;
+
+  /// The layout must outlive the form and stay as it is until `apply`. `owned` may be null.
+  explicit BridgeForm(const Layout& layout, const OwnedStock* owned = nullptr);
+
+  /// Why there is nothing to choose, such as no selected track; then nothing else may be called
+  /// but `problem`.
+  bool empty() const { return tasks_.empty(); }
+
+  /// The ways in that the selection allows.
+  std::vector<std::string> wayNames() const;
+  std::size_t way() const { return way_; }
+  void setWay(std::size_t way);
+
+  /// Kinds of span that the system has.
+  std::vector<std::string> spanNames() const;
+  std::size_t span() const;
+  void setSpan(std::size_t row);
+
+  /// In the order of `PierHeights`.
+  static std::vector<std::string> pierNames();
+  std::size_t piers() const { return static_cast<std::size_t>(task_.piers); }
+  void setPiers(std::size_t row);
+
+  /// Sets the clearance that trains need with or without wire, as if it was typed.
+  void setWire(bool wire);
+  /// Whether the clearance is at least that with wire.
+  bool wire() const;
+
+  /// False for heights and ramps where track stays as it lies.
+  bool uses(Field field) const;
+  void enter(Field field, std::string_view text);
+  const std::string& text(Field field) const { return texts_[index(field)]; }
+
+  /// Other bridges, by name with their figures; `take` makes one of them the task. They are sought
+  /// when they are asked for, since that takes as long as planning each of them.
+  std::vector<std::string> choiceNames();
+  void take(std::size_t choice);
+
+  const BridgeTask& task() const { return task_; }
+  const BridgePlan& plan() const { return plan_; }
+  /// Figures, with what of the pieces is at home.
+  std::vector<BridgeFact> facts() const;
+  /// What is crossed, a line each.
+  std::vector<std::string> crossedNames() const;
+  /// Why it cannot be done, with the remedy; empty when it can.
+  std::string problem() const;
+  bool ready() const { return problem().empty(); }
+
+  void showOn(PlanPreview& preview) const;
+  /// The plan is `layout`, or one that is equal to it.
+  EditResult apply(Layout& layout) const;
+
+ private:
+  static std::size_t index(Field field) { return static_cast<std::size_t>(field); }
+  TrackSystem system() const;
+  void compute();
+  void show(Field field, const std::string& text);
+
+  const Layout& layout_;
+  const OwnedStock* owned_;
+  std::int32_t units_;
+  std::vector<BridgeTask> tasks_;
+  std::size_t way_ = 0;
+  BridgeTask task_;
+  BridgePlan plan_;
+  std::optional<std::vector<BridgeChoice>> choices_;
+  std::array<std::string, kFields> texts_;
+  std::array<std::string, kFields> problems_;
+};
+
+} // namespace trassix
