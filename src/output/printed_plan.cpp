@@ -115,8 +115,8 @@ std::vector<PrintedPlan> printedPlans(const Layout& layout, const PrintOptions& 
     for (const Support& support : supportsOf(layout).supports)
       for (PrintedPlan& plan : plans)
         if (plan.layout.findPiece(support.piece) != nullptr)
-          plan.supports.push_back(
-              {support.pose, support.along, support.across, support.head - support.foot});
+          for (const Support& foot : standingParts(support))
+            plan.supports.push_back({foot.pose, foot.along, foot.across, foot.head - foot.foot});
   return plans;
 }
 

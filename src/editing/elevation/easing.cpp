@@ -17,10 +17,14 @@ struct Bounds {
 };
 
 /// By how much neighbours may differ whose middles are so far apart. Ends of the way count as
-/// having a neighbour as long as they.
+/// having a neighbour as long as they unless they are told to have another.
 double stepBetween(const Climb& climb, std::size_t i) {
-  const double left = climb.lengths[i == 0 ? 0 : i - 1];
-  const double right = climb.lengths[std::min(i, climb.lengths.size() - 1)];
+  const double left = i > 0                    ? climb.lengths[i - 1]
+                      : climb.lengthBefore > 0 ? climb.lengthBefore
+                                               : climb.lengths.front();
+  const double right = i < climb.lengths.size() ? climb.lengths[i]
+                       : climb.lengthAfter > 0  ? climb.lengthAfter
+                                                : climb.lengths.back();
   return climb.change * (left + right) / 2;
 }
 

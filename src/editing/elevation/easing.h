@@ -14,6 +14,8 @@ struct Climb {
   double before = 0;           ///< slope of what lies ahead of the way
   double after = 0;            ///< and of what follows
   double change = 0;           ///< of slope for each mm of way; 0: the grade may change at once
+  double lengthBefore = 0;     ///< of the piece ahead of the way; 0: as long as the first
+  double lengthAfter = 0;      ///< and of what follows, as the last
 };
 
 /// The slopes with which the way climbs `rise` mm: those of `base`, all steeper by as much, but for

@@ -1,6 +1,5 @@
 #include "editing/elevation/grade_edits.h"
 
-#include "catalog/plain_track.h"
 #include "document/layout.h"
 #include "document/plan_content.h"
 #include "editing/elevation/climbing.h"
@@ -130,15 +129,6 @@ std::optional<std::vector<double>> steepThenLevel(const Climb& climb, double ris
     return slopes;
   }
   return slopesFor(climb, rise);
-}
-
-/// The straight that the system's runs are made of.
-const PieceDef* usualStraight(TrackSystem system) {
-  const std::vector<PlainStraight> straights = plainStraights(system); // the longest first
-  const auto usual = std::ranges::find_if(straights, [system](const PlainStraight& straight) {
-    return straight.length <= 1.1 * easingLength(system);
-  });
-  return usual == straights.end() ? nullptr : usual->piece;
 }
 
 /// The same with up for down.

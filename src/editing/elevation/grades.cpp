@@ -1,7 +1,9 @@
 #include "editing/elevation/grades.h"
 
+#include "catalog/plain_track.h"
 #include "geometry/pose.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -86,6 +88,14 @@ double degreesOf(double slope) {
 
 double percentOf(double slope) {
   return slope * 100;
+}
+
+const PieceDef* usualStraight(TrackSystem system) {
+  const std::vector<PlainStraight> straights = plainStraights(system); // the longest first
+  const auto usual = std::ranges::find_if(straights, [system](const PlainStraight& straight) {
+    return straight.length <= 1.1 * easingLength(system);
+  });
+  return usual == straights.end() ? nullptr : usual->piece;
 }
 
 } // namespace trassix

@@ -22,6 +22,9 @@ GradeBand gradeBand(double slope);
 double easingLength(TrackSystem system);
 inline constexpr double kEasingChange = 0.025;
 
+/// The straight that the system's runs are made of, about as long; null where there is none.
+const PieceDef* usualStraight(TrackSystem system);
+
 /// What curves add to the slope that a train feels, as the rule of thumb has it: 8.13 / R, of which
 /// the share of the route counts that is curved; 3.21 / R in Z, 22.1 / R in Gauge 1. Never part of
 /// a grade, only said beside it.

@@ -4,7 +4,7 @@
 #include "catalog/track_system.h"
 #include "editing/supports/supports.h"
 
-#include <optional>
+#include <cstdint>
 #include <span>
 #include <string>
 #include <vector>
@@ -25,7 +25,7 @@ double pierStep(TrackSystem system);
 struct PierStack {
   double base = 0; ///< height of the series; 0 for none
   int steps = 0;   ///< pieces of `pierStep` each
-  double shim = 0; ///< what no pier makes up; rounded to hundredths
+  double shim = 0; ///< what no pier makes up; in tenths
 
   bool operator==(const PierStack&) const = default;
 };

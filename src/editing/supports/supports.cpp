@@ -23,6 +23,9 @@ constexpr double kH0Span = 360;       // mm
 constexpr double kStepShare = 5.0;    // mm in H0 by which a pier is moved to find a place
 constexpr double kLongestMove = 90.0; // mm in H0
 constexpr int kRounds = 3;            // of filling long spans, each of which may shorten others
+constexpr int kTurns = 12;            // directions of a frame that are tried
+constexpr double kFarthestLeg = 260;  // mm in H0 from the track's middle
+constexpr double kBeam = 20;          // mm in H0
 constexpr int kRods = 8;              // around a helix
 constexpr double kRodSize = 6;        // mm
 constexpr double kRodTurn = 5;        // degrees by which a rod moves aside
@@ -52,6 +55,8 @@ class Planner {
     std::vector<SpanPath> paths = graph_.paths();
     for (int round = 0; round < kRounds && fill(paths); ++round)
       paths = graph_.paths();
+    for (int round = 0; round < kRounds && frame(paths); ++round)
+      paths = graph_.paths();
     for (const SpanPath& path : paths)
       plan_.spans.push_back(spanOf(path));
     for (const PlacedPiece& piece : layout_.pieces())
@@ -77,7 +82,7 @@ class Planner {
       obstacle = room_.obstacleAt({pose, size.along, across, ground.height, head}, carried);
       if (obstacle == PierObstacle::None) {
         plan_.supports.push_back({SupportKind::Pier, carried.front(), pose, ground.height, head,
-                                  size.along, across, ground});
+                                  size.along, across, ground, 0});
         return obstacle;
       }
     }
@@ -179,6 +184,87 @@ class Planner {
     return false;
   }
 
+  /// Puts frames under joints of spans that are too long over other track. Whether any found a
+  /// place.
+  bool frame(const std::vector<SpanPath>& paths) {
+    bool any = false;
+    for (const SpanPath& path : paths) {
+      const TrackSystem system = systemOf(path);
+      if (path.length() <= longestSpan(system) || path.unheld)
+        continue;
+      std::vector<std::pair<double, std::size_t>> joints; // the one in the middle first
+      double along = 0;
+      for (std::size_t i = 0; i + 1 < path.parts.size(); ++i) {
+        const SpanPath::Part& part = path.parts[i];
+        along += part.length();
+        const std::size_t joint = graph_.edges[part.edge].joints[part.from < part.to ? 1 : 0];
+        if (graph_.joints[joint].obstacle == PierObstacle::Track)
+          joints.emplace_back(std::abs(along - path.length() / 2), joint);
+      }
+      std::ranges::sort(joints);
+      for (const auto& [off, joint] : joints)
+        if (graph_.joints[joint].held || frameUnder(graph_.joints[joint])) {
+          any = true;
+          break;
+        }
+    }
+    return any;
+  }
+
+  bool frameUnder(SpanJoint& joint) {
+    std::vector<std::int32_t> carried;
+    for (const SpanJoint::Link& link : joint.links)
+      carried.push_back(graph_.edges[link.edge].piece);
+    const TrackSystem system = graph_.edges[joint.links.front().edge].definition->system;
+    std::optional<Support> narrowest;
+    for (int turn = 0; turn < kTurns; ++turn) {
+      Pose pose = joint.pose;
+      pose.heading = normaliseHeading(pose.heading + turn * 180.0 / kTurns);
+      const std::optional<Support> found = frameAt(pose, joint.height, system, carried);
+      if (found && (!narrowest || found->across < narrowest->across - kStepShare))
+        narrowest = found;
+    }
+    if (!narrowest)
+      return false;
+    plan_.supports.push_back(*narrowest);
+    joint.held = true;
+    return true;
+  }
+
+  /// A frame whose legs stand beside `pose`, across its heading, as near as there is room.
+  std::optional<Support> frameAt(const Pose& pose, double head, TrackSystem system,
+                                 const std::vector<std::int32_t>& carried) const {
+    const double leg = pierSize(system).along;
+    const double step = kStepShare * scaleOf(system);
+    Support frame{SupportKind::Portal, carried.front(), pose, 0, head, leg, 0, {},
+                  portalBeam(system)};
+    double reach[2]{};
+    for (int side = 0; side < 2; ++side) {
+      double off = leg;
+      for (; off <= kFarthestLeg * scaleOf(system); off += step) {
+        const Point at = toWorld(pose, {0, side == 0 ? -off : off});
+        const Ground ground = grounds_.below(at, head - portalBeam(system));
+        if (ground.kind == GroundKind::None || (side == 1 && ground.height != frame.foot))
+          continue;
+        if (room_.obstacleAt({{at.x, at.y, pose.heading}, leg, leg, ground.height, head},
+                             carried) != PierObstacle::None)
+          continue;
+        frame.foot = ground.height;
+        frame.ground = ground;
+        reach[side] = off;
+        break;
+      }
+      if (reach[side] == 0)
+        return std::nullopt;
+    }
+    const Point middle = toWorld(pose, {0, (reach[1] - reach[0]) / 2});
+    frame.pose = {middle.x, middle.y, pose.heading};
+    frame.across = reach[0] + reach[1] + leg;
+    const PierSpot beam{frame.pose, leg, frame.across, head - portalBeam(system), head};
+    return room_.obstacleAt(beam, carried) == PierObstacle::None ? std::optional(frame)
+                                                                 : std::nullopt;
+  }
+
   SupportSpan spanOf(const SpanPath& path) const {
     SupportSpan span;
     span.length = path.length();
@@ -247,8 +333,8 @@ class Planner {
           room_.obstacleAt({pose, kRodSize, kRodSize, ground.height, head}, own) !=
               PierObstacle::None)
         continue;
-      plan_.supports.push_back(
-          {SupportKind::Rod, own.front(), pose, ground.height, head, kRodSize, kRodSize, ground});
+      plan_.supports.push_back({SupportKind::Rod, own.front(), pose, ground.height, head, kRodSize,
+                                kRodSize, ground, 0});
       return;
     }
   }
@@ -261,6 +347,24 @@ class Planner {
 };
 
 } // namespace
+
+double portalBeam(TrackSystem system) {
+  return kBeam * longestSpan(system) / kH0Span;
+}
+
+std::vector<Support> standingParts(const Support& support) {
+  if (support.kind != SupportKind::Portal)
+    return {support};
+  std::vector<Support> legs;
+  for (const double side : {-1, 1}) {
+    Support leg = support;
+    const Point at = toWorld(support.pose, {0, side * (support.across - support.along) / 2});
+    leg.pose = {at.x, at.y, support.pose.heading};
+    leg.across = support.along;
+    legs.push_back(leg);
+  }
+  return legs;
+}
 
 PierSize pierSize(TrackSystem system) {
   const Footprint size = findScenery("br.pier")->footprint(system);

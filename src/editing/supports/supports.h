@@ -15,7 +15,8 @@ namespace trassix {
 
 enum class SupportKind : std::uint8_t {
   Pier,
-  Rod, ///< of a helix, all of whose turns hang on it
+  Rod,    ///< of a helix, all of whose turns hang on it
+  Portal, ///< two legs beside what lies below, and a beam on them; its heading leads through it
 };
 
 struct Support {
@@ -25,8 +26,9 @@ struct Support {
   double foot = 0;
   double head = 0;   ///< underside of the track, which is where the track's height is given
   double along = 0;  ///< size in the direction of the track
-  double across = 0; ///< and across it
+  double across = 0; ///< and across it; of a frame over both legs
   Ground ground;     ///< it stands on
+  double beam = 0;   ///< height of a frame's
 
   bool operator==(const Support&) const = default;
 };
@@ -46,6 +48,12 @@ struct SupportPlan {
   std::vector<DeckPost> posts;
 };
 
+/// Of the beam of a frame, whose upper side carries the track.
+double portalBeam(TrackSystem system);
+
+/// What of it stands on the ground: itself, or the two legs of a frame.
+std::vector<Support> standingParts(const Support& support);
+
 struct PierSize {
   double along = 0;
   double across = 0;
@@ -58,6 +66,7 @@ double longestSpan(TrackSystem system);
 /// Piers under the joints of raised track, whatever levels are hidden: none under bridges but at
 /// their ends, and none where they would be in the way of track or a road. There the pier is
 /// narrower, or moves along the track, or is left out. Long pieces get piers between their ends.
+/// Where a span is too long because other track lies below, a frame over that carries its joint.
 /// Helices hang on rods.
 SupportPlan supportsOf(const Layout& layout);
 

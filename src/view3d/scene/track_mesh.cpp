@@ -368,7 +368,23 @@ void addGradeStrip(Mesh& mesh, const PlacedPiece& piece) {
   }
 }
 
+void addPortal(Mesh& mesh, const Support& portal) {
+  const double height = portal.head - portal.foot;
+  const auto rectangle = [](double x, double y) {
+    return Polygon{{-x / 2, -y / 2}, {x / 2, -y / 2}, {x / 2, y / 2}, {-x / 2, y / 2}};
+  };
+  for (const Support& leg : standingParts(portal))
+    MeshBuilder(mesh, frameAt(leg.pose, leg.foot))
+        .prism(rectangle(leg.along * 0.8, leg.across * 0.8), 0, height - portal.beam, kStone,
+               kStone);
+  MeshBuilder(mesh, frameAt(portal.pose, portal.foot))
+      .prism(rectangle(portal.along, portal.across), height - portal.beam, height,
+             shaded(kStone, 1.08), shaded(kStone, 1.12));
+}
+
 void addSupport(Mesh& mesh, const Support& support, Detail detail) {
+  if (support.kind == SupportKind::Portal)
+    return addPortal(mesh, support);
   MeshBuilder builder(mesh, frameAt(support.pose, support.foot));
   const double height = support.head - support.foot;
   const double along = support.along / 2;
