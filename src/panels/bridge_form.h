@@ -80,7 +80,7 @@ class BridgeForm {
   static std::size_t index(Field field) { return static_cast<std::size_t>(field); }
   TrackSystem system() const;
   void compute();
-  void show(Field field, const std::string& text);
+  void followDeck(double height);
 
   const Layout& layout_;
   const OwnedStock* owned_;
@@ -92,6 +92,7 @@ class BridgeForm {
   std::optional<std::vector<BridgeChoice>> choices_;
   std::array<std::string, kFields> texts_;
   std::array<std::string, kFields> problems_;
+  std::optional<Field> typed_; ///< while what was typed is being taken
 };
 
 } // namespace trassix

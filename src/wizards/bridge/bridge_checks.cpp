@@ -1,0 +1,107 @@
+#include "wizards/bridge/bridge_checks.h"
+
+#include "document/plan_content.h"
+#include "editing/elevation/crossings.h"
+#include "editing/track/connector_geometry.h"
+#include "measures/measure_format.h"
+#include "texts/texts.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_set>
+
+namespace trassix {
+
+namespace {
+
+constexpr double kPlay = 0.05;          // mm
+constexpr double kWaterShare = 1.0 / 3; // of the clearance, over water
+
+std::string placeOn(Point at) {
+  return tr("x %1%, y %2% mm", {std::llround(at.x), std::llround(at.y)});
+}
+
+/// Pieces that are new, or lie otherwise than before.
+std::unordered_set<std::int32_t> changedPieces(const Layout& before, const Layout& after) {
+  std::unordered_set<std::int32_t> changed;
+  for (const PlacedPiece& piece : after.pieces()) {
+    const PlacedPiece* old = before.findPiece(piece.id);
+    if (old == nullptr || old->cat != piece.cat || old->z != piece.z || old->grade != piece.grade ||
+        old->rev != piece.rev)
+      changed.insert(piece.id);
+  }
+  return changed;
+}
+
+std::optional<Notice> lowCrossing(const Layout& before, const BridgeDraft& draft) {
+  const std::unordered_set<std::int32_t> changed = changedPieces(before, draft.layout);
+  const std::int32_t units = before.settings().units;
+  for (const TrackCrossing& crossing : trackCrossings(draft.layout)) {
+    if (!crossing.tooLow() ||
+        (!changed.contains(crossing.lower.piece) && !changed.contains(crossing.upper.piece)))
+      continue;
+    const PlacedPiece& upper = *draft.layout.findPiece(crossing.upper.piece);
+    const PlacedPiece& lower = *draft.layout.findPiece(crossing.lower.piece);
+    return bridgeRefusal(tr("%1% would lead over %2% at %3% with %4% between them, and trains need "
+                            "%5%. Move one of them, or choose a steeper limit.",
+                            {upper.cat, lower.cat, placeOn(crossing.at),
+                             formatLength(std::max(0.0, crossing.clearance), units),
+                             formatLength(crossing.least, units)}));
+  }
+  return std::nullopt;
+}
+
+} // namespace
+
+double leastOver(const CrossedZone& zone, const BridgeTask& task) {
+  const double clearance = clearanceOf(task, zone.system);
+  return zone.thing.kind == CrossedThing::Kind::Water ? clearance * kWaterShare : clearance;
+}
+
+double neededOver(const CrossedZone& zone, const BridgeTask& task, TrackSystem system,
+                  bool portal) {
+  const double underside = portal ? std::max(kDeckThickness, portalBeam(system)) : kDeckThickness;
+  return zone.rails() + leastOver(zone, task) + underside;
+}
+
+BridgeFault faultOf(const Layout& before, BridgeDraft& draft, const BridgeTask& task) {
+  BridgeFault fault;
+  const std::int32_t units = before.settings().units;
+  for (const CrossedZone& zone : draft.zones) {
+    const double clearance = clearanceOver(zone, draft.line);
+    const double least = leastOver(zone, task);
+    if (clearance >= least - kPlay)
+      continue;
+    fault.refusal = bridgeRefusal(tr(
+        "Over %1% at %2% there are %3%, and %4% are asked for: lift the track by %5%, or ask for "
+        "less.",
+        {zone.thing.name, placeOn(zone.thing.at), formatLength(clearance, units),
+         formatLength(least, units), formatLength(least - clearance, units)}));
+    return fault;
+  }
+  fault.refusal = lowCrossing(before, draft);
+  if (fault.refusal)
+    return fault;
+  draft.supports = supportsOf(draft.layout);
+  std::vector<std::int32_t> own;
+  for (std::size_t i = draft.from; i < draft.to; ++i)
+    own.push_back(draft.site.way.stretches[i].piece);
+  for (const SupportSpan& span : draft.supports.spans) {
+    const bool ours = std::ranges::any_of(
+        span.pieces, [&own](std::int32_t id) { return std::ranges::find(own, id) != own.end(); });
+    if (!ours ||
+        (span.reason != SupportSpan::Reason::Track && span.reason != SupportSpan::Reason::Road))
+      continue;
+    const PlacedPiece& piece = *draft.layout.findPiece(span.pieces.front());
+    fault.wantsPortal = span.reason == SupportSpan::Reason::Track;
+    fault.refusal = bridgeRefusal(tr(
+        "No pier finds room under %1% at %2%: %3% of track would lie free, because %4% is in the "
+        "way. Choose another span, or move what lies below.",
+        {piece.cat, placeOn({piece.x, piece.y}), formatLength(span.length, units),
+         fault.wantsPortal ? tr("track") : tr("a road")}));
+    return fault;
+  }
+  return fault;
+}
+
+} // namespace trassix
