@@ -70,6 +70,14 @@ std::vector<PartsLine> partsLines(const std::vector<TallyRow>& tally, const Owne
   const std::vector<PurchaseRow> purchase = purchaseList(tally, owned);
   std::vector<PartsLine> lines;
   for (std::size_t i = 0; i < tally.size(); ++i) {
+    if (tally[i].section == TallySection::Supports) { // needed as often as they are placed
+      lines.push_back({false, tally[i], {{}, {}, tally[i].sold, 0, tally[i].sold}});
+      continue;
+    }
+    if (tally[i].section == TallySection::SupportsHeading) {
+      lines.push_back({true, tally[i], {}});
+      continue;
+    }
     if (i == 0 || tally[i].system != tally[i - 1].system) {
       PartsLine heading;
       heading.heading = true;
@@ -121,8 +129,9 @@ void paintParts(Surface& surface, std::span<const PartsLine> lines, const Paper&
     const double middle = y + px(kLineMm) / 2;
     if (line.heading) {
       textFrom(surface,
-               line.tally.system ? std::string(systemName(*line.tally.system))
-                                 : tr("Not in the catalogue"),
+               line.tally.system          ? std::string(systemName(*line.tally.system))
+               : !line.tally.name.empty() ? line.tally.name
+                                          : tr("Not in the catalogue"),
                {left, middle + px(1)}, {kInk, kTextPx + 2, true});
     } else {
       if (const PieceDef* piece = TrackCatalog::instance().find(line.tally.article))

@@ -11,10 +11,10 @@
 
 namespace trassix {
 
-/// An article of the plan, or the heading of a system.
+/// An article of the plan, a support, or the heading of a system or of the supports.
 struct PartsLine {
   bool heading = false;
-  TallyRow tally;       ///< of a heading only the system
+  TallyRow tally;       ///< of a heading only the system, or its name
   PurchaseRow purchase; ///< of a heading nothing
 };
 

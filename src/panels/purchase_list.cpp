@@ -31,6 +31,8 @@ std::vector<PurchaseRow> purchaseList(const std::vector<TallyRow>& tally, const 
   std::vector<PurchaseRow> rows;
   rows.reserve(tally.size());
   for (const TallyRow& article : tally) {
+    if (article.section != TallySection::Pieces)
+      continue;
     const std::int32_t atHome = owned.count(article.article);
     rows.push_back(
         {article.article, article.name, article.sold, atHome, std::max(article.sold - atHome, 0)});

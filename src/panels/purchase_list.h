@@ -21,7 +21,7 @@ struct PurchaseRow {
   bool operator==(const PurchaseRow&) const = default;
 };
 
-/// A row for each article of the plan, in the order of the tally.
+/// A row for each article of the plan, in the order of the tally; none for what is no article.
 std::vector<PurchaseRow> purchaseList(const std::vector<TallyRow>& tally, const OwnedStock& owned);
 
 /// The address that puts what is to buy into the shop's cart,

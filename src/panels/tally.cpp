@@ -3,10 +3,13 @@
 #include "catalog/track_catalog.h"
 #include "document/layout.h"
 #include "document/plan_content.h"
+#include "editing/elevation/end_heights.h"
+#include "editing/supports/pier_stacks.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/routes.h"
 #include "editing/track/track_geometry.h"
 #include "panels/palette_model.h"
+#include "texts/texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -78,7 +81,38 @@ class ExtentFinder {
 TallyRow rowOf(const Article& article) {
   const std::int32_t placed = article.placed;
   const std::int32_t sold = article.piece->pair ? (placed + 1) / 2 : placed;
-  return {article.piece->system, article.piece->article, article.piece->name, placed, sold};
+  return {article.piece->system, article.piece->article, article.piece->name, placed, sold,
+          TallySection::Pieces};
+}
+
+/// Whether a look at all supports is worth its while.
+bool mayBeRaised(const Layout& layout) {
+  const auto high = [](const PlacedPiece& piece) {
+    const PieceDef* definition = definitionOf(piece);
+    if (definition == nullptr || (piece.grade == 0 && piece.z <= kRaised))
+      return false;
+    for (const Connector& end : definition->connectors)
+      if (endHeight(piece, *definition, end.id) > kRaised)
+        return true;
+    return false;
+  };
+  const auto low = [](const Level& level) { return level.height < 0 && !level.outline.empty(); };
+  return std::ranges::any_of(layout.settings().levels, low) ||
+         std::ranges::any_of(layout.pieces(), high);
+}
+
+void addSupports(const Layout& layout, Tally& tally) {
+  const std::vector<SupportPart> parts = supportParts(layout, supportsOf(layout));
+  if (parts.empty())
+    return;
+  tally.rows.push_back({std::nullopt, {}, tr("Supports"), 0, 0, TallySection::SupportsHeading});
+  for (const SupportPart& part : parts)
+    tally.rows.push_back({part.system,
+                          {},
+                          nameOf(part, layout.settings().units),
+                          part.count,
+                          part.count,
+                          TallySection::Supports});
 }
 
 } // namespace
@@ -124,11 +158,18 @@ Tally tallyOf(const Layout& layout) {
   const auto known = static_cast<std::ptrdiff_t>(tally.rows.size());
   for (const auto& [cat, article] : articles) {
     if (article.piece == nullptr) {
-      tally.rows.push_back({std::nullopt, std::string(cat), {}, article.placed, article.placed});
+      tally.rows.push_back({std::nullopt,
+                            std::string(cat),
+                            {},
+                            article.placed,
+                            article.placed,
+                            TallySection::Pieces});
     }
   }
   std::sort(tally.rows.begin() + known, tally.rows.end(),
             [](const TallyRow& a, const TallyRow& b) { return a.article < b.article; });
+  if (mayBeRaised(layout))
+    addSupports(layout, tally);
   return tally;
 }
 

@@ -30,6 +30,8 @@ std::string_view systemText(const TallyRow& row) {
 template <class Order>
 void sortBy(std::vector<TallyRow>& rows, bool ascending, const Order& order) {
   std::ranges::stable_sort(rows, [&](const TallyRow& a, const TallyRow& b) {
+    if (a.section != b.section)
+      return a.section < b.section;
     return ascending ? order(a) < order(b) : order(b) < order(a);
   });
 }
@@ -37,6 +39,8 @@ void sortBy(std::vector<TallyRow>& rows, bool ascending, const Order& order) {
 using Cells = std::array<std::string, kTallyColumnCount>;
 
 Cells cellsOf(const TallyRow& row) {
+  if (row.section == TallySection::SupportsHeading)
+    return {row.name, {}, {}, {}, {}};
   return {std::string(systemText(row)), row.article, row.name, std::to_string(row.placed),
           std::to_string(row.sold)};
 }

@@ -170,18 +170,21 @@ class Planner {
 
   /// So far along a path, if a pier can carry the track there.
   bool pierAt(const SpanPath& path, double at) {
+    const auto [part, along] = placeOn(path, at);
+    const SpanEdge& edge = graph_.edges[part];
+    const std::int32_t carried[] = {edge.piece};
+    return edge.bridge == BridgeKind::None && edge.raised &&
+           pierOn(part, along, edge.definition->system, carried) == PierObstacle::None;
+  }
+
+  /// The edge and the place along it.
+  std::pair<std::size_t, double> placeOn(const SpanPath& path, double at) const {
     for (const SpanPath::Part& part : path.parts) {
-      if (at > part.length()) {
-        at -= part.length();
-        continue;
-      }
-      const SpanEdge& edge = graph_.edges[part.edge];
-      const std::int32_t carried[] = {edge.piece};
-      const double along = part.from < part.to ? part.from + at : part.from - at;
-      return edge.bridge == BridgeKind::None && edge.raised &&
-             pierOn(part.edge, along, edge.definition->system, carried) == PierObstacle::None;
+      if (at <= part.length())
+        return {part.edge, part.from < part.to ? part.from + at : part.from - at};
+      at -= part.length();
     }
-    return false;
+    return {path.parts.back().edge, path.parts.back().to};
   }
 
   /// Puts frames under joints of spans that are too long over other track. Whether any found a
@@ -202,11 +205,12 @@ class Planner {
           joints.emplace_back(std::abs(along - path.length() / 2), joint);
       }
       std::ranges::sort(joints);
-      for (const auto& [off, joint] : joints)
-        if (graph_.joints[joint].held || frameUnder(graph_.joints[joint])) {
-          any = true;
-          break;
-        }
+      const bool framed = std::ranges::any_of(joints, [this](const auto& joint) {
+        SpanJoint& at = graph_.joints[joint.second];
+        return at.held || frameUnder(at);
+      });
+      any = any || framed ||
+            (reasonOf(path.obstacle) == SupportSpan::Reason::Track && frameBetween(path));
     }
     return any;
   }
@@ -216,19 +220,41 @@ class Planner {
     for (const SpanJoint::Link& link : joint.links)
       carried.push_back(graph_.edges[link.edge].piece);
     const TrackSystem system = graph_.edges[joint.links.front().edge].definition->system;
+    joint.held = narrowestFrame(joint.pose, joint.height, system, carried);
+    return joint.held;
+  }
+
+  /// Where no joint can be carried, as where one long piece leads over everything.
+  bool frameBetween(const SpanPath& path) {
+    const double half = path.length() / 2;
+    const double step = kStepShare * scaleOf(systemOf(path));
+    for (double off = 0; off < half; off += step)
+      for (const double at : {half - off, half + off}) {
+        const auto [part, along] = placeOn(path, at);
+        const SpanEdge& edge = graph_.edges[part];
+        if (edge.bridge != BridgeKind::None || !edge.raised ||
+            !narrowestFrame(edge.poseAt(along), edge.heightAt(along), edge.definition->system,
+                            {edge.piece}))
+          continue;
+        graph_.addStop(part, along);
+        return true;
+      }
+    return false;
+  }
+
+  /// The frame there that spans least, of those in all directions.
+  bool narrowestFrame(Pose pose, double head, TrackSystem system,
+                      const std::vector<std::int32_t>& carried) {
     std::optional<Support> narrowest;
     for (int turn = 0; turn < kTurns; ++turn) {
-      Pose pose = joint.pose;
-      pose.heading = normaliseHeading(pose.heading + turn * 180.0 / kTurns);
-      const std::optional<Support> found = frameAt(pose, joint.height, system, carried);
+      const std::optional<Support> found = frameAt(pose, head, system, carried);
       if (found && (!narrowest || found->across < narrowest->across - kStepShare))
         narrowest = found;
+      pose.heading = normaliseHeading(pose.heading + 180.0 / kTurns);
     }
-    if (!narrowest)
-      return false;
-    plan_.supports.push_back(*narrowest);
-    joint.held = true;
-    return true;
+    if (narrowest)
+      plan_.supports.push_back(*narrowest);
+    return narrowest.has_value();
   }
 
   /// A frame whose legs stand beside `pose`, across its heading, as near as there is room.

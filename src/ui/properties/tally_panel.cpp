@@ -58,7 +58,7 @@ TallyHeadings translatedHeadings() {
 
 bool severalSystems(const std::vector<TallyRow>& rows) {
   return !rows.empty() && std::ranges::any_of(rows, [&rows](const TallyRow& row) {
-    return row.system != rows.front().system;
+    return row.system != rows.front().system && row.section != TallySection::SupportsHeading;
   });
 }
 
@@ -67,11 +67,15 @@ wxString systemText(const TallyRow& row) {
 }
 
 wxString nameText(const TallyRow& row, std::int32_t units) {
+  if (row.section != TallySection::Pieces)
+    return fromUtf8(row.name);
   const PieceDef* piece = row.system ? TrackCatalog::instance().find(row.article) : nullptr;
   return piece ? fromUtf8(nameInList(*piece, units)) : _("not in the catalogue");
 }
 
 wxString cellText(const TallyRow& row, TallyColumn column, std::int32_t units) {
+  if (row.section == TallySection::SupportsHeading && column != TallyColumn::Name)
+    return {};
   switch (column) {
   case TallyColumn::System:
     return systemText(row);
@@ -233,6 +237,8 @@ TallyPanel::TallyPanel(wxWindow* parent, Workspace& workspace)
 }
 
 void TallyPanel::showOnPlan(long row) {
+  if (tally_.rows.at(static_cast<std::size_t>(row)).section != TallySection::Pieces)
+    return;
   const std::string& article = tally_.rows.at(static_cast<std::size_t>(row)).article;
   const std::vector<Pick> pieces = piecesOfArticle(workspace_.layout(), article);
   const auto box = selectThese(workspace_.layout(), pieces);

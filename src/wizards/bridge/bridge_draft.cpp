@@ -309,10 +309,12 @@ class Drafter {
            "missing at %4% %%.",
            {place, mm(ramp.available), mm(ramp.missing), percentText(task_.limit)});
     if (ramp.bestLimit > 0 && ramp.bestLimit <= kMostBridgeLimit)
-      text += " " + tr("A limit of %1% %% would do.", {percentText(ramp.bestLimit + 0.0004)});
+      text.append(" ").append(
+          tr("A limit of %1% %% would do.", {percentText(ramp.bestLimit + 0.0004)}));
     else
-      text += " " + tr("Not even %1% %% would do: make the way longer, or ask for less clearance.",
-                       {percentText(kMostBridgeLimit)});
+      text.append(" ").append(
+          tr("Not even %1% %% would do: make the way longer, or ask for less clearance.",
+             {percentText(kMostBridgeLimit)}));
     refuse(std::move(text));
   }
 
@@ -351,10 +353,9 @@ class Drafter {
     if (heights.refusal) {
       draft_.refusal = bridgeRefusal(heights.refusal->text);
       if (heights.gap)
-        draft_.refusal->text +=
-            " " +
+        draft_.refusal->text.append(" ").append(
             tr("Track that branches off within the ramps or the bridge cannot be lifted without "
-               "being opened. Lead over at another place, or open it there.");
+               "being opened. Lead over at another place, or open it there."));
       return false;
     }
     applyHeights(draft_.layout, heights, true);

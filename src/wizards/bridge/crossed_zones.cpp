@@ -25,7 +25,8 @@ namespace {
 
 constexpr double kStepShare = 1.0 / 180; // of a span: how closely zones are looked at
 constexpr double kLowerStep = 12;        // mm between points of the track below
-constexpr double kSafe = 0.2;            // mm by which zones are wider, for chords
+constexpr double kReachShare = 60; // free widths along the track below, which a curve may follow
+constexpr double kSafe = 0.2;      // mm by which zones are wider, for chords
 
 struct LowerPoint {
   Point at;
@@ -147,7 +148,7 @@ class Finder {
     zone.thing.name = piece.cat;
     zone.thing.at = crossing.at;
     zone.thing.along = along;
-    const double reach = 20 * halfWidth(zone.system);
+    const double reach = kReachShare * halfWidth(zone.system);
     const std::vector<LowerPoint> lower = lowerTrack(layout_, other, reach);
     zone.thing.angle = angleBetween(lower, crossing.at, along);
     std::vector<std::int32_t> met;
