@@ -292,6 +292,11 @@ class Drafter {
   }
 
   void tellTooShort(const HumpTask& task, const HumpPlan& plan) {
+    if (task_.span == SpanKind::Auto && spanFrom_ < spanTo_) { // a deck may be shorter
+      task_.span = SpanKind::Deck;
+      again_ = true;
+      return;
+    }
     if (startsEarly_ || endsLate_)
       return refuse(tr("The track ends over what it is to lead over. Go on with it first."));
     if (plan.possible() && task_.piers == PierHeights::SeriesOnly)
@@ -425,7 +430,7 @@ class Drafter {
   }
 
   const Layout& before_;
-  const BridgeTask& task_;
+  BridgeTask task_;
   BridgeDraft draft_;
   bool portals_ = false;
   bool again_ = false;

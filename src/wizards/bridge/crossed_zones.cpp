@@ -26,13 +26,15 @@ namespace {
 constexpr double kStepShare = 1.0 / 180; // of a span: how closely zones are looked at
 constexpr double kLowerStep = 12;        // mm between points of the track below
 constexpr double kReachShare = 60; // free widths along the track below, which a curve may follow
+constexpr double kFarthest = 10;   // spans to both sides of a crossing
 constexpr double kSafe = 0.2;      // mm by which zones are wider, for chords
 
 struct LowerPoint {
   Point at;
   double height = 0;
   double half = 0; ///< of the free width there
-  std::int32_t piece = -1;
+  CrossedTrack track;
+  std::optional<double> own; ///< where it is on the way above, if it is part of that
 };
 
 double radiusOf(const PieceDef& definition, std::int32_t enter, std::int32_t leave) {
@@ -71,12 +73,14 @@ std::vector<LowerPoint> lowerTrack(const Layout& layout, const CrossedTrack& low
     const WayStretch& here = way.stretches[line.stretchAt(along)];
     const PieceDef& definition = *definitionOf(*layout.findPiece(here.piece));
     const Pose pose = line.poseAt(along);
-    points.push_back(
-        {{pose.x, pose.y},
-         line.heightAt(along),
-         halfWidth(definition.system) +
-             sideAddition(definition.system, radiusOf(definition, here.enter, here.leave)),
-         here.piece});
+    LowerPoint point;
+    point.at = {pose.x, pose.y};
+    point.height = line.heightAt(along);
+    point.half = halfWidth(definition.system) +
+                 sideAddition(definition.system, radiusOf(definition, here.enter, here.leave));
+    point.track = {here.piece, here.enter, here.leave, along - line.joints()[line.stretchAt(along)],
+                   point.height};
+    points.push_back(point);
   }
   return points;
 }
@@ -129,12 +133,15 @@ class Finder {
     for (const Point p : acrossDeck(along))
       for (std::size_t i = 0; i + 1 < lower.size(); ++i) {
         const double half = std::max(lower[i].half, lower[i + 1].half) + kSafe;
+        // Track is near to itself; only where it comes back it leads over itself.
+        if (lower[i].own && std::abs(*lower[i].own - along) < 4 * (half + deck_))
+          continue;
         if (std::hypot(p.x - lower[i].at.x, p.y - lower[i].at.y) > half + 2 * kLowerStep ||
             distanceToEdge(p, lower[i].at, lower[i + 1].at) >= half)
           continue;
         top = std::max({top.value_or(-1e9), lower[i].height, lower[i + 1].height});
-        met.push_back(lower[i].piece);
-        met.push_back(lower[i + 1].piece);
+        met.push_back(lower[i].track.piece);
+        met.push_back(lower[i + 1].track.piece);
       }
     return top;
   }
@@ -149,7 +156,9 @@ class Finder {
     zone.thing.at = crossing.at;
     zone.thing.along = along;
     const double reach = kReachShare * halfWidth(zone.system);
-    const std::vector<LowerPoint> lower = lowerTrack(layout_, other, reach);
+    std::vector<LowerPoint> lower = lowerTrack(layout_, other, reach);
+    for (LowerPoint& point : lower)
+      point.own = alongOf(point.track);
     zone.thing.angle = angleBetween(lower, crossing.at, along);
     std::vector<std::int32_t> met;
     const auto look = [&](double at) { return topUnder(lower, at, met); };
@@ -175,21 +184,24 @@ class Finder {
     return angle;
   }
 
-  /// Both ways from a place until the deck comes over nothing any more.
+  /// Both ways from a place until the deck comes over nothing any more for a whole span: where the
+  /// way runs beside what it crosses it may come near once more.
   template <class Look>
   void spread(CrossedZone& zone, double along, double height, const Look& look) {
     zone.profile.push_back({along, height});
     double ends[2];
     for (int side = 0; side < 2; ++side) {
       double at = along;
-      for (;;) {
+      double last = along;
+      while (std::abs(at - last) < longestSpan(system_) &&
+             std::abs(at - along) < kFarthest * longestSpan(system_)) {
         at += side == 0 ? -step_ : step_;
-        const std::optional<double> top = look(at);
-        if (!top || std::abs(at - along) > 10 * longestSpan(system_))
-          break;
-        zone.profile.push_back({at, *top});
+        if (const std::optional<double> top = look(at)) {
+          zone.profile.push_back({at, *top});
+          last = at;
+        }
       }
-      ends[side] = at;
+      ends[side] = last + (side == 0 ? -step_ : step_);
     }
     zone.from = ends[0];
     zone.to = ends[1];
