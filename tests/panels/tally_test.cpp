@@ -1,6 +1,7 @@
 #include "document/layout.h"
 #include "document/record_kinds.h"
 #include "editing/helix/helix_edits.h"
+#include "panels/purchase_list.h"
 #include "panels/tally.h"
 #include "support/loose_records.h"
 
@@ -27,6 +28,26 @@ TEST(Tally, countsArticlesAsTheyAreSold) {
   EXPECT_EQ(tally.rows[1].name, "74618 Straight Ramp 180mm (pair)");
   EXPECT_EQ(tally.rows[2].system, TrackSystem::TrixCTrack);
   EXPECT_EQ(tally.pieces, 12);
+}
+
+TEST(Tally, HasASectionOfSupportsThatIsNeverBought) {
+  Layout layout = planOf({"24188", "24130"});
+  for (PlacedPiece& piece : layout.edit().pieces)
+    piece.z = 50;
+  Tally tally = tallyOf(layout);
+  std::string names;
+  for (const TallyRow& row : tally.rows)
+    names += row.article + "|" + row.name.substr(0, 12) + "|" + std::to_string(row.sold) + "; ";
+  EXPECT_EQ(names, "24188|24188 - 188.|1; 24130|24130 - R1 3|1; |Supports|0; |Pier 45.0 mm|3; "
+                   "|Shim 5.0 mm|3; ");
+  EXPECT_EQ(tally.pieces, 2);
+  sortTally(tally.rows, TallyColumn::Sold, false);
+  EXPECT_EQ(tally.rows[2].name, "Supports");
+  const std::string csv = tallyAsCsv(tally.rows, tallyHeadings());
+  EXPECT_NE(csv.find("\r\nSupports,,,,\r\nMärklin C,,Pier 45.0 mm,3,3\r\n"), csv.npos) << csv;
+  const std::vector<PurchaseRow> bought = purchaseList(tally.rows, OwnedStock());
+  EXPECT_EQ(bought.size(), 2U);
+  EXPECT_EQ(cartUrl("shop.example", bought).find("Pier"), std::string::npos);
 }
 
 TEST(Tally, measuresThePlan) {

@@ -68,13 +68,20 @@ double pierStep(TrackSystem system) {
 PierStack stackFor(TrackSystem system, double height) {
   const std::span<const double> series = pierSeries(system);
   const double step = pierStep(system);
-  PierStack stack;
-  stack.steps = std::max(0, static_cast<int>(std::ceil((height - series.back() - kPlay) / step)));
-  const double rest = height - stack.steps * step;
-  const auto next = std::ranges::upper_bound(series, rest + kPlay);
-  stack.base = next == series.begin() ? 0 : *(next - 1);
-  stack.shim = std::round(std::max(0.0, rest - stack.base) * kTenths) / kTenths;
-  return stack;
+  const int most =
+      std::max(0, static_cast<int>(std::ceil((height - series.back() - kPlay) / step)));
+  PierStack best;
+  best.shim = height;
+  for (int steps = std::max(0, most - 1); steps <= most; ++steps) {
+    const auto next = std::ranges::upper_bound(series, height - steps * step + kPlay);
+    if (next == series.begin())
+      continue;
+    const double shim = height - steps * step - *(next - 1);
+    if (shim < best.shim - kPlay)
+      best = {*(next - 1), steps, shim};
+  }
+  best.shim = std::round(std::max(0.0, best.shim) * kTenths) / kTenths;
+  return best;
 }
 
 std::vector<double> stackHeights(TrackSystem system, double most) {
@@ -97,13 +104,12 @@ std::vector<SupportPart> supportParts(const Layout& layout, const SupportPlan& s
   for (const Support& support : supports.supports) {
     const PlacedPiece* piece = layout.findPiece(support.piece);
     const PieceDef* definition = piece == nullptr ? nullptr : definitionOf(*piece);
-    if (definition == nullptr)
+    if (definition == nullptr || support.kind == SupportKind::Rod)
       continue;
     const TrackSystem system = definition->system;
     const double height = std::round((support.head - support.foot) * kTenths) / kTenths;
-    if (support.kind != SupportKind::Pier) {
-      const bool portal = support.kind == SupportKind::Portal;
-      ++counts[{system, portal ? SupportPart::Kind::Portal : SupportPart::Kind::Rod, height}];
+    if (support.kind == SupportKind::Portal) {
+      ++counts[{system, SupportPart::Kind::Portal, height}];
       continue;
     }
     const PierStack stack = stackFor(system, height);
@@ -131,8 +137,6 @@ std::string nameOf(const SupportPart& part, std::int32_t units) {
     return tr("Shim %1%", {height});
   case SupportPart::Kind::Portal:
     return tr("Portal frame %1%", {height});
-  case SupportPart::Kind::Rod:
-    return tr("Rod of a helix %1%", {height});
   }
   return {};
 }

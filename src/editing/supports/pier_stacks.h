@@ -38,7 +38,7 @@ std::vector<double> stackHeights(TrackSystem system, double most);
 
 /// What all supports of a plan take, as rows of equal parts.
 struct SupportPart {
-  enum class Kind : std::uint8_t { Pier, Step, Shim, Portal, Rod };
+  enum class Kind : std::uint8_t { Pier, Step, Shim, Portal };
 
   Kind kind = Kind::Pier;
   TrackSystem system{};
@@ -48,8 +48,7 @@ struct SupportPart {
   bool operator==(const SupportPart&) const = default;
 };
 
-/// Piers by height, then steps, shims, frames and rods; by system. The stack of a pier under track
-/// is that of its system.
+/// Piers by height, then steps, shims and frames; by system. Rods come with their helices.
 std::vector<SupportPart> supportParts(const Layout& layout, const SupportPlan& supports);
 
 /// "Pier 45.0 mm".

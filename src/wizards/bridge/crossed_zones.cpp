@@ -4,6 +4,8 @@
 #include "document/layout.h"
 #include "document/plan_content.h"
 #include "editing/elevation/crossings.h"
+#include "editing/elevation/end_heights.h"
+#include "editing/joining/joining.h"
 #include "editing/scenery/scenery_footprint.h"
 #include "editing/supports/grounds.h"
 #include "editing/supports/pier_room.h"
@@ -18,6 +20,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <set>
 
 namespace trassix {
 
@@ -27,6 +30,7 @@ constexpr double kStepShare = 1.0 / 180; // of a span: how closely zones are loo
 constexpr double kLowerStep = 12;        // mm between points of the track below
 constexpr double kReachShare = 60; // free widths along the track below, which a curve may follow
 constexpr double kFarthest = 10;   // spans to both sides of a crossing
+constexpr double kSame = 1;        // mm of height
 constexpr double kSafe = 0.2;      // mm by which zones are wider, for chords
 
 struct LowerPoint {
@@ -100,10 +104,11 @@ class Finder {
       const auto within = [&](double at) { return meant[line_.stretchAt(at)]; };
       // Of the way's own stretches the later one is below, unless only that one is meant.
       if (b && within(*b) && !(selfCrossing && within(*a) && *a < *b && crossing.tooLow()))
-        addTrack(crossing, crossing.lower, *b);
+        addTrack(crossing.at, crossing.lower, *b);
       else if (a && within(*a) && crossing.tooLow())
-        addTrack(crossing, crossing.upper, *a);
+        addTrack(crossing.at, crossing.upper, *a);
     }
+    addNear(meant);
     addFlat(meant);
     std::ranges::sort(zones_, {}, [](const CrossedZone& zone) { return zone.thing.along; });
     return std::move(zones_);
@@ -146,25 +151,87 @@ class Finder {
     return top;
   }
 
-  void addTrack(const TrackCrossing& crossing, const CrossedTrack& other, double along) {
+  void addTrack(Point at, const CrossedTrack& other, double along) {
     const PlacedPiece& piece = *layout_.findPiece(other.piece);
     CrossedZone zone;
     zone.system = definitionOf(piece)->system;
     zone.thing.kind = CrossedThing::Kind::Track;
     zone.thing.id = other.piece;
     zone.thing.name = piece.cat;
-    zone.thing.at = crossing.at;
+    zone.thing.at = at;
     zone.thing.along = along;
     const double reach = kReachShare * halfWidth(zone.system);
     std::vector<LowerPoint> lower = lowerTrack(layout_, other, reach);
     for (LowerPoint& point : lower)
       point.own = alongOf(point.track);
-    zone.thing.angle = angleBetween(lower, crossing.at, along);
+    zone.thing.angle = angleBetween(lower, at, along);
     std::vector<std::int32_t> met;
-    const auto look = [&](double at) { return topUnder(lower, at, met); };
+    const auto look = [&](double place) { return topUnder(lower, place, met); };
     spread(zone, along, other.height, look);
     setOwn(zone, met);
+    met_.insert(met.begin(), met.end());
     zones_.push_back(std::move(zone));
+  }
+
+  /// Track that the way never crosses, but whose free width the deck comes over: it ends beside the
+  /// way, or bends away from it.
+  void addNear(const std::vector<bool>& meant) {
+    std::vector<double> places;
+    for (std::size_t i = 0; i < meant.size(); ++i)
+      for (double at = line_.joints()[i]; meant[i] && at < line_.joints()[i + 1]; at += 10 * step_)
+        places.push_back(at);
+    std::vector<Point> points;
+    for (const double at : places) {
+      const Pose pose = line_.poseAt(at);
+      points.push_back({pose.x, pose.y});
+    }
+    for (const PlacedPiece& piece : layout_.pieces()) {
+      const PieceDef* definition = definitionOf(piece);
+      if (definition == nullptr || definition->kind == PieceKind::Turntable ||
+          met_.contains(piece.id) || isOfWay(piece.id))
+        continue;
+      const double reach =
+          trackGeometryOf(*definition).radius + 2 * halfWidth(definition->system) + 10 * step_;
+      const Point centre = toWorld(poseOf(piece), trackGeometryOf(*definition).centre);
+      for (std::size_t i = 0; i < points.size() && !met_.contains(piece.id); ++i)
+        if (std::hypot(points[i].x - centre.x, points[i].y - centre.y) < reach)
+          lookBeside(piece, *definition, places[i]);
+    }
+  }
+
+  void lookBeside(const PlacedPiece& piece, const PieceDef& definition, double place) {
+    for (const Route& route : routesOf(definition)) {
+      if (route.to == -1)
+        continue;
+      const double length = routeLength(route);
+      const CrossedTrack track{piece.id, route.from, route.to, length / 2,
+                               endHeight(piece, definition, route.from)};
+      const std::vector<LowerPoint> lower = lowerTrack(layout_, track, length / 2);
+      std::vector<std::int32_t> met;
+      for (double at = place; at < place + 10 * step_; at += step_)
+        if (const std::optional<double> top = topUnder(lower, at, met);
+            top && *top <= line_.heightAt(at) + kSame && !hangsOn(piece.id, line_.stretchAt(at)))
+          return addTrack({piece.x, piece.y}, track, at);
+    }
+  }
+
+  bool isOfWay(std::int32_t piece) const {
+    return std::ranges::find(line_.way().stretches, piece, &WayStretch::piece) !=
+           line_.way().stretches.end();
+  }
+
+  /// Whether the piece is part of the track that branches off there, which is always near.
+  bool hangsOn(std::int32_t piece, std::size_t stretch) const {
+    constexpr int kNeighbours = 4;
+    std::set<std::int32_t> met{line_.way().stretches[stretch].piece};
+    for (int i = 0; i < kNeighbours; ++i)
+      for (const std::int32_t id : std::set(met)) {
+        const PlacedPiece& here = *layout_.findPiece(id);
+        for (std::size_t k = 0; k < here.joints.size(); ++k)
+          if (const PlacedPiece* next = joinedPiece(layout_, here, k))
+            met.insert(next->id);
+      }
+    return met.contains(piece);
   }
 
   double angleBetween(const std::vector<LowerPoint>& lower, Point at, double along) const {
@@ -271,6 +338,7 @@ class Finder {
   double deck_;
   double step_;
   std::vector<CrossedZone> zones_;
+  std::set<std::int32_t> met_; ///< track that is in the zones
 };
 
 } // namespace
