@@ -29,14 +29,14 @@ TEST(BridgeForm, WhatWasTypedLastHoldsAndTheRestFollows) {
   const Layout layout = crossingLines();
   BridgeForm form(layout);
   const std::tuple<Field, const char*, const char*, const char*, const char*, const char*> steps[] =
-      {{Field::Clearance, "70", "70", "90.0 mm", "4.0", ""},
+      {{Field::Clearance, "70", "70", "93.0 mm", "4.0", ""},
        {Field::DeckHeight, "100", "80.0 mm", "100", "4.0", ""},
-       {Field::Limit, "3", "80.0 mm", "100", "3", ""},
-       {Field::RampLength, "5 m", "80.0 mm", "100", "3.0", "too short"},
+       {Field::Limit, "3", "80.0 mm", "100.0 mm", "3", ""},
+       {Field::RampLength, "9 m", "80.0 mm", "100.0 mm", "3.0", ""},
        {Field::RampLength, "4 m", "80.0 mm", "100.0 mm", "3.0", ""},
        {Field::Limit, "6", "80.0 mm", "100.0 mm", "6", "5"},
        {Field::Limit, "5", "80.0 mm", "100.0 mm", "5", ""},
-       {Field::DeckHeight, "high", "80.0 mm", "high", "5.0", "expected"},
+       {Field::DeckHeight, "high", "80.0 mm", "high", "5", "expected"},
        {Field::Clearance, "60", "60", "80.0 mm", "5.0", ""}};
   for (const auto& [field, typed, clearance, deck, limit, problem] : steps) {
     SCOPED_TRACE(typed);
@@ -52,6 +52,7 @@ TEST(BridgeForm, WhatWasTypedLastHoldsAndTheRestFollows) {
   form.setWire(true);
   EXPECT_TRUE(form.wire());
   EXPECT_EQ(form.text(Field::DeckHeight), "110.0 mm");
+  EXPECT_EQ(form.plan().portals(), 0U);
 }
 
 TEST(BridgeForm, OffersOtherBridgesAndBuildsTheChosenOne) {
@@ -67,7 +68,7 @@ TEST(BridgeForm, OffersOtherBridgesAndBuildsTheChosenOne) {
   EXPECT_THAT(names, testing::Contains(HasSubstr("steeper")));
   form.take(static_cast<std::size_t>(arch - names.begin()));
   EXPECT_EQ(form.spanNames()[form.span()], "Arch bridge");
-  EXPECT_EQ(form.facts().back().text, "74636: 2");
+  EXPECT_EQ(form.facts().back().text, "24229: 0, 74636: 2");
   const PlanContent before = layout.content();
   EXPECT_TRUE(form.apply(layout).changed());
   layout.undo();

@@ -38,13 +38,13 @@ TEST(Tally, HasASectionOfSupportsThatIsNeverBought) {
   std::string names;
   for (const TallyRow& row : tally.rows)
     names += row.article + "|" + row.name.substr(0, 12) + "|" + std::to_string(row.sold) + "; ";
-  EXPECT_EQ(names, "24188|24188 - 188.|1; 24130|24130 - R1 3|1; |Supports|0; |Pier 45.0 mm|3; "
-                   "|Shim 5.0 mm|3; ");
+  EXPECT_EQ(names, "24188|24188 - 188.|1; 24130|24130 (30\u00b0)|1; |Supports|0; |Pier 45.0 mm|4; "
+                   "|Shim 5.0 mm|4; ");
   EXPECT_EQ(tally.pieces, 2);
   sortTally(tally.rows, TallyColumn::Sold, false);
   EXPECT_EQ(tally.rows[2].name, "Supports");
   const std::string csv = tallyAsCsv(tally.rows, tallyHeadings());
-  EXPECT_NE(csv.find("\r\nSupports,,,,\r\nMärklin C,,Pier 45.0 mm,3,3\r\n"), csv.npos) << csv;
+  EXPECT_NE(csv.find("\r\nSupports,,,,\r\nMärklin C,,Pier 45.0 mm,4,4\r\n"), csv.npos) << csv;
   const std::vector<PurchaseRow> bought = purchaseList(tally.rows, OwnedStock());
   EXPECT_EQ(bought.size(), 2U);
   EXPECT_EQ(cartUrl("shop.example", bought).find("Pier"), std::string::npos);

@@ -18,6 +18,7 @@ namespace {
 
 constexpr double kRounding = 1e-9;  // of a slope
 constexpr double kSlowest = 0.0005; // slopes between which the one that would do is told
+constexpr double kSteepestTold = 0.1;
 
 /// One side of the hump: from the level part outwards, so that both are the same task.
 struct Side {
@@ -237,7 +238,8 @@ bool staysLevel(const Layout& layout, const HumpTask& task, bool up) {
 void tellMissing(const Side& side, const HumpTask& task, const Ramp& ramp, double change,
                  HumpRamp& told) {
   const double total = told.available;
-  for (double limit = task.limit + kSlowest; limit <= 0.2; limit += kSlowest)
+  for (double limit = task.limit + kSlowest; task.allowed.empty() && limit <= kSteepestTold;
+       limit += kSlowest)
     if (ramp.find(limit)) {
       told.bestLimit = limit;
       break;

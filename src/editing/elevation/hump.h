@@ -32,7 +32,8 @@ struct HumpRamp {
   std::size_t foot = 0; ///< joint where it begins to climb; that of the level part for no ramp
   double available = 0; ///< mm of way that it could have
   double missing = 0;   ///< mm by which that is too short
-  double bestLimit = 0; ///< the slope that would do, were it allowed; 0 for none
+  double bestLimit =
+      0; ///< the slope that would do, were it allowed; 0 when any height may be, and none does
 };
 
 struct HumpPlan {

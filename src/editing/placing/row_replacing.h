@@ -12,9 +12,9 @@ namespace trassix {
 
 class Layout;
 
-/// What the sum of a row may differ from the run it replaces, in mm, which rounded ends of
-/// published pieces make.
-inline constexpr double kRowPlay = 0.05;
+/// What the sum of a row may differ from the run it replaces, in mm: published lengths are rounded,
+/// so that two halves are a tenth longer than the whole.
+inline constexpr double kRowPlay = 0.2;
 
 /// Takes the run out, puts the row between what it was joined to, and joins it there. It lies on
 /// the level and in the colour of the run's first piece, in one grade between the run's ends. Empty

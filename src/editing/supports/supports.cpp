@@ -25,6 +25,7 @@ constexpr double kLongestMove = 90.0; // mm in H0
 constexpr int kRounds = 3;            // of filling long spans, each of which may shorten others
 constexpr int kTurns = 12;            // directions of a frame that are tried
 constexpr double kFarthestLeg = 260;  // mm in H0 from the track's middle
+constexpr double kLongestGap = 2;     // longest spans; more is track beside other track
 constexpr double kBeam = 20;          // mm in H0
 constexpr int kRods = 8;              // around a helix
 constexpr double kRodSize = 6;        // mm
@@ -54,6 +55,8 @@ class Planner {
         holdJoint(joint);
     std::vector<SpanPath> paths = graph_.paths();
     for (int round = 0; round < kRounds && fill(paths); ++round)
+      paths = graph_.paths();
+    if (frameFlatCrossings())
       paths = graph_.paths();
     for (int round = 0; round < kRounds && frame(paths); ++round)
       paths = graph_.paths();
@@ -213,6 +216,54 @@ class Planner {
             (reasonOf(path.obstacle) == SupportSpan::Reason::Track && frameBetween(path));
     }
     return any;
+  }
+
+  /// Joints over track that crosses so flatly that piers of full size would stand too far apart:
+  /// narrow ones may find room, but carry no more than their share.
+  bool frameFlatCrossings() {
+    bool any = false;
+    for (SpanJoint& joint : graph_.joints)
+      if (joint.raised && !joint.held && joint.obstacle == PierObstacle::Track &&
+          joint.links.size() == 2) {
+        const TrackSystem system = graph_.edges[joint.links.front().edge].definition->system;
+        const double gap = blockedFrom(joint, 0) + blockedFrom(joint, 1);
+        if (gap > longestSpan(system) && gap < kLongestGap * longestSpan(system))
+          any = frameUnder(joint) || any;
+      }
+    return any;
+  }
+
+  /// mm of way from a joint on where no pier of full size has room.
+  double blockedFrom(const SpanJoint& from, std::size_t side) const {
+    const TrackSystem system = graph_.edges[from.links.front().edge].definition->system;
+    const PierSize size = pierSize(system);
+    const double step = kStepShare * scaleOf(system);
+    double gone = 0;
+    SpanJoint::Link link = from.links[side];
+    std::vector<std::int32_t> carried;
+    for (const SpanJoint::Link& each : from.links)
+      carried.push_back(graph_.edges[each.edge].piece);
+    while (gone < kLongestGap * longestSpan(system)) {
+      const SpanEdge& edge = graph_.edges[link.edge];
+      carried.push_back(edge.piece);
+      const SpanJoint& next = graph_.joints[edge.joints[1 - link.end]];
+      for (const SpanJoint::Link& each : next.links)
+        carried.push_back(graph_.edges[each.edge].piece);
+      for (double at = 0; at < edge.length(); at += step) {
+        const double along = link.end == 0 ? at : edge.length() - at;
+        const Pose pose = edge.poseAt(along);
+        const double head = edge.heightAt(along);
+        const double foot = grounds_.below({pose.x, pose.y}, head).height;
+        if (room_.obstacleAt({pose, size.along, size.across, foot, head}, carried) !=
+            PierObstacle::Track)
+          return gone + at;
+      }
+      gone += edge.length();
+      if (next.links.size() != 2)
+        break;
+      link = next.links[next.links[0].edge == link.edge ? 1 : 0];
+    }
+    return gone;
   }
 
   bool frameUnder(SpanJoint& joint) {

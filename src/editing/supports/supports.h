@@ -66,7 +66,8 @@ double longestSpan(TrackSystem system);
 /// Piers under the joints of raised track, whatever levels are hidden: none under bridges but at
 /// their ends, and none where they would be in the way of track or a road. There the pier is
 /// narrower, or moves along the track, or is left out. Long pieces get piers between their ends.
-/// Where a span is too long because other track lies below, a frame over that carries its joint.
+/// Where a span is too long because other track lies below, or would be with piers of full size, a
+/// frame over that carries its joint, if there is room for its beam.
 /// Helices hang on rods.
 SupportPlan supportsOf(const Layout& layout);
 

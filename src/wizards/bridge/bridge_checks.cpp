@@ -64,11 +64,31 @@ double neededOver(const CrossedZone& zone, const BridgeTask& task, TrackSystem s
   return zone.rails() + leastOver(zone, task) + underside;
 }
 
+double clearanceUnder(const BridgeDraft& draft, const CrossedZone& zone) {
+  const double beam = std::max(0.0, portalBeam(zone.system) - kDeckThickness);
+  const double reach = zone.thing.halfWidth + longestSpan(zone.system) / 4;
+  const bool framed = std::ranges::any_of(draft.supports.supports, [&](const Support& support) {
+    return support.kind == SupportKind::Portal &&
+           std::hypot(support.pose.x - zone.thing.at.x, support.pose.y - zone.thing.at.y) < reach &&
+           std::ranges::find(draft.site.way.stretches, support.piece, &WayStretch::piece) !=
+               draft.site.way.stretches.end();
+  });
+  return clearanceOver(zone, draft.line) - (framed ? beam : 0);
+}
+
 BridgeFault faultOf(const Layout& before, BridgeDraft& draft, const BridgeTask& task) {
   BridgeFault fault;
   const std::int32_t units = before.settings().units;
+  draft.supports = supportsOf(draft.layout);
+  std::vector<std::int32_t> own;
+  const auto isOwn = [&own](std::int32_t id) { return std::ranges::find(own, id) != own.end(); };
+  for (std::size_t i = draft.from; i < draft.to; ++i)
+    own.push_back(draft.site.way.stretches[i].piece);
+  fault.wantsPortal = std::ranges::any_of(draft.supports.supports, [&](const Support& support) {
+    return support.kind == SupportKind::Portal && isOwn(support.piece);
+  });
   for (const CrossedZone& zone : draft.zones) {
-    const double clearance = clearanceOver(zone, draft.line);
+    const double clearance = clearanceUnder(draft, zone);
     const double least = leastOver(zone, task);
     if (clearance >= least - kPlay)
       continue;
@@ -82,14 +102,8 @@ BridgeFault faultOf(const Layout& before, BridgeDraft& draft, const BridgeTask& 
   fault.refusal = lowCrossing(before, draft);
   if (fault.refusal)
     return fault;
-  draft.supports = supportsOf(draft.layout);
-  std::vector<std::int32_t> own;
-  for (std::size_t i = draft.from; i < draft.to; ++i)
-    own.push_back(draft.site.way.stretches[i].piece);
   for (const SupportSpan& span : draft.supports.spans) {
-    const bool ours = std::ranges::any_of(
-        span.pieces, [&own](std::int32_t id) { return std::ranges::find(own, id) != own.end(); });
-    if (!ours ||
+    if (std::ranges::none_of(span.pieces, isOwn) ||
         (span.reason != SupportSpan::Reason::Track && span.reason != SupportSpan::Reason::Road))
       continue;
     const PlacedPiece& piece = *draft.layout.findPiece(span.pieces.front());

@@ -20,6 +20,9 @@ BridgeFault faultOf(const Layout& before, BridgeDraft& draft, const BridgeTask& 
 /// What has to be between the track's height and what lies below the zone, with a frame or without.
 double neededOver(const CrossedZone& zone, const BridgeTask& task, TrackSystem system, bool portal);
 
+/// What is left under the deck, or under the beam of a frame that carries it there; mm.
+double clearanceUnder(const BridgeDraft& draft, const CrossedZone& zone);
+
 /// The clearance that the task asks for over it.
 double leastOver(const CrossedZone& zone, const BridgeTask& task);
 

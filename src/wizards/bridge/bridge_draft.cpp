@@ -22,9 +22,11 @@ namespace trassix {
 
 namespace {
 
-constexpr int kMostRounds = 8;   // of what a ramp comes over in turn
-constexpr int kMostAdded = 150;  // straights
-constexpr double kSamePlace = 2; // mm
+constexpr int kMostRounds = 8;             // of what a ramp comes over in turn
+constexpr int kMostAdded = 150;            // straights
+constexpr int kMostForSeries = 24;         // of them, to find a place where the series fits
+constexpr double kFullPierShare = 1.0 / 6; // of a pier more, that a bridge may lie higher
+constexpr double kSamePlace = 2;           // mm
 
 std::string percentText(double slope) {
   return formatFixed(percentOf(slope), 1);
@@ -219,10 +221,31 @@ class Drafter {
     return allowed;
   }
 
+  /// By how much the bridge may lie higher than it needs to, for the sake of its piers.
+  double mostHigher() {
+    return pierStep(system()) * (task_.piers == PierHeights::SeriesOnly ? 1 : kFullPierShare);
+  }
+
+  /// Even ramps, with the bridge on piers that need no shim, where those are hardly higher.
+  bool onFullPiers(HumpTask task, HumpPlan& plan) {
+    if (task_.piers != PierHeights::Preferred || task_.deckHeight > 0)
+      return false;
+    const double most = task.height + mostHigher();
+    const std::vector<double> heights = pierHeights(most)[task.first];
+    const auto next = std::ranges::lower_bound(heights, task.height - 0.05);
+    if (next == heights.end() || *next <= task.height)
+      return false;
+    task.height = *next;
+    plan = planHump(draft_.layout, task);
+    if (plan.possible())
+      draft_.deckHeight = task.height;
+    return plan.possible();
+  }
+
   /// Ramps by the piers of the series, with the bridge as high as needed or a little higher.
   bool seriesHump(HumpTask task, HumpPlan& plan) {
     const double least = task.height;
-    const double most = task_.deckHeight > 0 ? least : least + pierStep(system());
+    const double most = task_.deckHeight > 0 ? least : least + mostHigher();
     const std::vector<std::vector<double>> highest = pierHeights(most);
     for (const double height : highest[task.first]) {
       if (height < least - 0.05)
@@ -247,6 +270,8 @@ class Drafter {
         draft_.onSeries = task_.piers != PierHeights::Any && seriesHump(task, plan);
         if (draft_.onSeries)
           break;
+        if (onFullPiers(task, plan))
+          break;
         plan = planHump(draft_.layout, task);
         if (plan.possible() && task_.piers != PierHeights::SeriesOnly)
           break;
@@ -255,7 +280,8 @@ class Drafter {
       if (count == 0)
         return tellTooShort(task, plan);
       added += count;
-      if (added > kMostAdded)
+      const bool forSeries = plan.possible() && task_.piers == PierHeights::SeriesOnly;
+      if (added > (forSeries ? kMostForSeries : kMostAdded))
         return tellTooShort(task, plan);
     }
     if (comesOverMore(plan))
@@ -371,7 +397,7 @@ class Drafter {
 
   void check() {
     BridgeFault fault = faultOf(before_, draft_, task_);
-    if (fault.wantsPortal && !portals_ && task_.way != BridgeWay::AsItLies)
+    if (fault.refusal && fault.wantsPortal && !portals_ && task_.way != BridgeWay::AsItLies)
       return goAgainWithPortals();
     draft_.refusal = std::move(fault.refusal);
   }

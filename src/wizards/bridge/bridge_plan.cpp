@@ -64,7 +64,7 @@ class Teller {
       CrossedThing thing = zone.thing;
       thing.along -= start_;
       thing.least = leastOver(zone, task_);
-      thing.clearance = clearanceOver(zone, draft_.line);
+      thing.clearance = clearanceUnder(draft_, zone);
       spare = std::min(spare, thing.clearance - thing.least);
       plan_.crossed.push_back(std::move(thing));
     }

@@ -21,6 +21,7 @@ namespace {
 
 constexpr double kStepShare = 1.0 / 90; // of a span: how closely places of piers are looked at
 constexpr double kGapsTogether = 0.4;   // of a span: no pier stands between gaps nearer to another
+constexpr double kLongestGap = 2;       // of spans; more is track beside other track
 constexpr double kSpareShare = 0.03;    // of a span, which piers beside a gap may lose
 constexpr std::size_t kMostInARow = 3;  // bridge pieces of a kind that was asked for
 constexpr std::size_t kCarriedBeyond = 6; // stretches that rise with those over a zone, about
@@ -73,11 +74,19 @@ std::vector<Gap> gapsUnder(const BridgeDraft& draft, const std::function<bool(do
 class SpanMaker {
  public:
   SpanMaker(BridgeDraft& draft, const BridgeTask& task, double height)
-      : draft_(draft), task_(task), blocked_(blockedUnder(draft, height)), system_(systemOf(draft)),
+      : draft_(draft), task_(task), height_(height),
+        blocked_(blockedUnder(draft, PierWidth::Full, height)), system_(systemOf(draft)),
         bridges_(bridgePieces(system_, task.span)) {}
 
   SpansMade over() {
     std::vector<Gap> gaps = gapsUnder(draft_, blocked_);
+    // Beside other track, which no bridge leads over, only narrow piers find room.
+    if (std::ranges::any_of(gaps, [this](const Gap& gap) {
+          return gap.to - gap.from > kLongestGap * longestSpan(system_);
+        })) {
+      blocked_ = blockedUnder(draft_, PierWidth::Narrow, height_);
+      gaps = gapsUnder(draft_, blocked_);
+    }
     made_.from = draft_.line.length();
     for (auto gap = gaps.rbegin(); gap != gaps.rend() && !made_.refusal; ++gap)
       span(*gap);
@@ -105,19 +114,15 @@ class SpanMaker {
   }
 
   void take(const SpanRow& span) {
-    const double start = draft_.line.joints()[span.from];
-    double at = start;
-    double sum = 0;
+    double at = draft_.line.joints()[span.from];
     for (const PieceDef* piece : span.row) {
       if (bridgeKindOf(*piece) != BridgeKind::None) {
         made_.from = std::min(made_.from, at);
         made_.to = std::max(made_.to, at + piece->length);
       }
       at += piece->length;
-      sum += piece->length;
     }
-    const double before = draft_.line.joints()[span.to] - start;
-    draft_.residue = std::max(draft_.residue, std::abs(sum - before));
+    draft_.residue = std::max(draft_.residue, span.residue);
     made_.needsPortals = made_.needsPortals || span.portals > 0;
     if (!replaceStretches(draft_.layout, draft_.site, span.from, span.to, span.row))
       made_.refusal = bridgeRefusal(tr("The bridge does not fit between its neighbours."));
@@ -172,6 +177,7 @@ class SpanMaker {
 
   BridgeDraft& draft_;
   const BridgeTask& task_;
+  double height_;
   std::function<bool(double)> blocked_;
   TrackSystem system_;
   std::vector<const PieceDef*> bridges_;
@@ -180,7 +186,8 @@ class SpanMaker {
 
 } // namespace
 
-std::function<bool(double)> blockedUnder(const BridgeDraft& draft, double height) {
+std::function<bool(double)> blockedUnder(const BridgeDraft& draft, PierWidth width,
+                                         std::optional<double> height) {
   struct Look {
     PierRoom room;
     Grounds grounds;
@@ -188,16 +195,17 @@ std::function<bool(double)> blockedUnder(const BridgeDraft& draft, double height
     std::vector<std::int32_t> carried;
     double along;
     double across;
-    double height;
+    std::optional<double> height;
   };
   const TrackSystem system = systemOf(draft);
-  const auto look = std::make_shared<Look>(Look{PierRoom(draft.layout),
-                                                Grounds(draft.layout),
-                                                draft.line,
-                                                {},
-                                                pierSize(system).along,
-                                                2 * trackHalfWidth(system),
-                                                height});
+  const auto look = std::make_shared<Look>(
+      Look{PierRoom(draft.layout),
+           Grounds(draft.layout),
+           draft.line,
+           {},
+           pierSize(system).along,
+           width == PierWidth::Full ? pierSize(system).across : 2 * trackHalfWidth(system),
+           height});
   std::size_t first = draft.line.stretches();
   std::size_t last = 0;
   for (const CrossedZone& zone : draft.zones) {
@@ -210,7 +218,7 @@ std::function<bool(double)> blockedUnder(const BridgeDraft& draft, double height
   return [look](double along) {
     const Pose pose = look->line.poseAt(along);
     // Where the track rises, it is its new height that counts; where it stays, its own.
-    const double head = look->height > -1e8 ? look->height : look->line.heightAt(along);
+    const double head = look->height.value_or(look->line.heightAt(along));
     const Ground ground = look->grounds.below({pose.x, pose.y}, head);
     if (ground.kind == GroundKind::None)
       return false;
@@ -242,7 +250,8 @@ SpansMade makeSpansAlong(BridgeDraft& draft, const BridgeTask& task, std::size_t
   const TrackSystem system = systemOf(draft);
   const std::vector<const PieceDef*> bridges = bridgePieces(system, task.span);
   const std::vector<bool> may = replaceable(draft);
-  const auto blocked = blockedUnder(draft, -1e9);
+  const auto blocked = blockedUnder(draft, PierWidth::Full, std::nullopt);
+  const auto narrow = blockedUnder(draft, PierWidth::Narrow, std::nullopt);
   made.from = draft.line.joints()[from];
   made.to = draft.line.joints()[to];
   bool any = false;
@@ -256,9 +265,12 @@ SpansMade makeSpansAlong(BridgeDraft& draft, const BridgeTask& task, std::size_t
     std::size_t start = end - 1;
     while (start > from && may[start - 1])
       --start;
-    const auto row = composeRow(draft.line, bridges, start, end, blocked);
+    auto row = composeRow(draft.line, bridges, start, end, blocked);
+    if (!row)
+      row = composeRow(draft.line, bridges, start, end, narrow);
     if (row && replaceStretches(draft.layout, draft.site, start, end, row->row)) {
       any = true;
+      draft.residue = std::max(draft.residue, row->residue);
       made.needsPortals = made.needsPortals || row->portals > 0;
     }
     end = start;

@@ -3,12 +3,19 @@
 
 #include "wizards/bridge/bridge_draft.h"
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace trassix {
 
-/// Whether no pier finds room under the way of the draft at a place, were it so high.
-std::function<bool(double)> blockedUnder(const BridgeDraft& draft, double height);
+/// Piers of full size, or as narrow as the track.
+enum class PierWidth : std::uint8_t { Full, Narrow };
+
+/// Whether no pier finds room under the way of the draft at a place, were it so high; without a
+/// height, as high as it is.
+std::function<bool(double)> blockedUnder(const BridgeDraft& draft, PierWidth width,
+                                         std::optional<double> height);
 
 /// For each stretch of the way whether it is plain straight track that may be replaced.
 std::vector<bool> replaceable(const BridgeDraft& draft);

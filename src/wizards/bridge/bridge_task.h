@@ -27,7 +27,7 @@ enum class SpanKind : std::uint8_t {
 };
 
 enum class PierHeights : std::uint8_t {
-  Preferred,  ///< of the system's series where these do, else any
+  Preferred,  ///< of the system's series where the bridge hardly has to be higher for it, else any
   SeriesOnly, ///< no pier with a shim under the ramps and the bridge
   Any,        ///< ramps as even as they can be
 };

@@ -51,12 +51,16 @@ class Sums {
   const std::map<long, Row>& all() const { return rows_; }
 
   const Row* of(double length) const {
-    const long play = unitsOf(kRowPlay);
-    const auto at = rows_.lower_bound(unitsOf(length) - play);
-    if (at == rows_.end() || at->first > unitsOf(length) + play)
-      return nullptr;
-    const auto exact = rows_.find(unitsOf(length));
-    return exact == rows_.end() ? &at->second : &exact->second;
+    const long wanted = unitsOf(length);
+    const Row* nearest = nullptr;
+    long least = unitsOf(kRowPlay) + 1;
+    for (auto at = rows_.lower_bound(wanted - least);
+         at != rows_.end() && at->first < wanted + least; ++at)
+      if (const long off = std::abs(at->first - wanted); off < least) {
+        least = off;
+        nearest = &at->second;
+      }
+    return nearest;
   }
 
  private:
@@ -74,7 +78,7 @@ double lengthBetween(const BridgeLine& line, std::size_t from, std::size_t to) {
 
 SpanRow rowOf(std::size_t from, std::size_t to, const Row& before, const Row& bridges,
               const Row& behind) {
-  SpanRow span{from, to, before, bridges.size(), 0};
+  SpanRow span{from, to, before, bridges.size(), 0, 0};
   span.row.insert(span.row.end(), bridges.begin(), bridges.end());
   span.row.insert(span.row.end(), behind.begin(), behind.end());
   return span;
@@ -98,7 +102,8 @@ std::optional<std::size_t> blockedJoints(const Row& bridges, double start,
 }
 
 auto costOf(const SpanRow& span) {
-  return std::tuple(span.portals, span.bridges, span.to - span.from + span.row.size());
+  return std::tuple(span.portals, span.bridges, span.to - span.from + span.row.size(),
+                    span.residue);
 }
 
 /// The best place of the bridges within the stretches, with fillers on both sides.
@@ -122,6 +127,9 @@ void tryPlaces(const BridgeLine& line, const Row& bridges, const SpanGap& gap, s
       continue;
     SpanRow row = rowOf(from, to, before, bridges, *behind);
     row.portals = *portals;
+    for (const PieceDef* piece : row.row)
+      row.residue += piece->length;
+    row.residue = std::abs(row.residue - lengthBetween(line, from, to));
     if (!best || costOf(row) < costOf(*best))
       best = std::move(row);
   }

@@ -19,6 +19,7 @@ struct SpanRow {
   std::vector<const PieceDef*> row;
   std::size_t bridges = 0; ///< pieces of it that carry themselves
   std::size_t portals = 0; ///< joints between these that no pier can reach
+  double residue = 0;      ///< by which it is longer or shorter than what it replaces
 };
 
 struct SpanGap {

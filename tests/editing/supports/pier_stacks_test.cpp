@@ -19,13 +19,13 @@ using Kind = SupportPart::Kind;
 
 TEST(PierStacks, TakeTheNextLowerPierAndAShim) {
   const std::tuple<TrackSystem, double, PierStack> cases[] = {
-      {TrackSystem::CTrack, 105, {105, 0, 0}},    {TrackSystem::CTrack, 80, {80, 0, 0}},
-      {TrackSystem::CTrack, 79.9, {72, 0, 7.9}},  {TrackSystem::KTrack, 3.5, {0, 0, 3.5}},
-      {TrackSystem::MTrack, 110, {80, 1, 0}},     {TrackSystem::CTrack, 135, {105, 1, 0}},
-      {TrackSystem::CTrack, 136, {105, 1, 1}},    {TrackSystem::CTrack, 180, {87, 3, 3}},
-      {TrackSystem::ZTrack, 32, {32, 0, 0}},      {TrackSystem::ZTrack, 44, {32, 1, 0}},
-      {TrackSystem::ZTrack, 33, {32, 0, 1}},      {TrackSystem::Gauge1, 200, {200, 0, 0}},
-      {TrackSystem::Gauge1, 262.6, {180, 1, 7.6}}};
+      {TrackSystem::CTrack, 105, {105, 0, 0}},      {TrackSystem::CTrack, 80, {80, 0, 0}},
+      {TrackSystem::CTrack, 79.9, {72, 0, 7.9}},    {TrackSystem::KTrack, 3.5, {0, 0, 3.5}},
+      {TrackSystem::MTrack, 110, {80, 1, 0}},       {TrackSystem::CTrack, 135, {105, 1, 0}},
+      {TrackSystem::CTrack, 136, {105, 1, 1}},      {TrackSystem::CTrack, 180, {87, 3, 3}},
+      {TrackSystem::ZTrack, 32, {32, 0, 0}},        {TrackSystem::ZTrack, 44, {32, 1, 0}},
+      {TrackSystem::ZTrack, 33, {32, 0, 1}},        {TrackSystem::Gauge1, 200, {200, 0, 0}},
+      {TrackSystem::Gauge1, 262.6, {262.5, 0, 0.1}}};
   for (const auto& [system, height, stack] : cases) {
     const PierStack made = stackFor(system, height);
     EXPECT_NEAR(made.base + made.steps * pierStep(system) + made.shim, height, 0.05) << height;

@@ -386,7 +386,7 @@ std::string faultIn(const BridgeCase& before, const Layout& after, const BridgeP
     return rule;
   const Play was = largestPlay(before.layout);
   const Play play = largestPlay(after);
-  if (play.step > was.step + 0.01 || play.distance > was.distance + 0.06)
+  if (play.step > was.step + 0.01 || play.distance > was.distance + 0.21)
     return "a joint with a step of " + std::to_string(play.step) + " and a gap of " +
            std::to_string(play.distance);
   if (openEnds(after) != openEnds(before.layout))
