@@ -233,7 +233,7 @@ class Planner {
     return any;
   }
 
-  /// mm of way from a joint on where no pier of full size has room.
+  /// mm of way from a joint on where no pier of full size has room; the most where nothing tells.
   double blockedFrom(const SpanJoint& from, std::size_t side) const {
     const TrackSystem system = graph_.edges[from.links.front().edge].definition->system;
     const PierSize size = pierSize(system);
@@ -260,7 +260,7 @@ class Planner {
       }
       gone += edge.length();
       if (next.links.size() != 2)
-        break;
+        return kLongestGap * longestSpan(system);
       link = next.links[next.links[0].edge == link.edge ? 1 : 0];
     }
     return gone;
