@@ -91,6 +91,11 @@ void BridgeForm::setPiers(std::size_t row) {
   compute();
 }
 
+void BridgeForm::setRampPieces(bool use) {
+  task_.rampPieces = use;
+  compute();
+}
+
 void BridgeForm::setWire(bool wire) {
   problems_[index(Field::Clearance)].clear();
   problems_[index(Field::DeckHeight)].clear();

@@ -47,6 +47,10 @@ class BridgeForm {
   std::size_t piers() const { return static_cast<std::size_t>(task_.piers); }
   void setPiers(std::size_t row);
 
+  /// Ramp pieces of the maker in place of the ramps' own track, where there are such.
+  bool rampPieces() const { return task_.rampPieces; }
+  void setRampPieces(bool use);
+
   /// Sets the clearance that trains need with or without wire, as if it was typed.
   void setWire(bool wire);
   /// Whether the clearance is at least that with wire.

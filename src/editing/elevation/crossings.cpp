@@ -3,6 +3,7 @@
 #include "document/layout.h"
 #include "document/plan_content.h"
 #include "editing/elevation/end_heights.h"
+#include "editing/joining/joining.h"
 #include "editing/track/connector_geometry.h"
 #include "editing/track/routes.h"
 #include "geometry/box_tree.h"
@@ -138,7 +139,8 @@ class Search {
   void take(const LaidRoute& a, double alongA, const LaidRoute& b, double alongB) {
     const double heightA = a.heightAt(alongA);
     const double heightB = b.heightAt(alongB);
-    if (a.endsNear(alongA) && b.endsNear(alongB) && std::abs(heightA - heightB) < kSamePlace)
+    if (a.endsNear(alongA) && b.endsNear(alongB) && std::abs(heightA - heightB) < kSamePlace &&
+        !leadThrough(a, alongA, b, alongB))
       return;
     const bool aBelow = heightA <= heightB;
     TrackCrossing crossing;
@@ -151,6 +153,18 @@ class Search {
     if (std::ranges::none_of(
             found_, [&crossing](const TrackCrossing& other) { return isSame(crossing, other); }))
       found_.push_back(crossing);
+  }
+
+  /// Whether both tracks go on where they meet, each with other track.
+  bool leadThrough(const LaidRoute& a, double alongA, const LaidRoute& b, double alongB) const {
+    const auto next = [this](const LaidRoute& laid, double along) {
+      const std::int32_t end = along < kSamePlace ? laid.route->from : laid.route->to;
+      return joinedPiece(layout_, layout_.pieces()[laid.piece], static_cast<std::size_t>(end));
+    };
+    const PlacedPiece* pieceA = next(a, alongA);
+    const PlacedPiece* pieceB = next(b, alongB);
+    return pieceA != nullptr && pieceB != nullptr && pieceA != &layout_.pieces()[b.piece] &&
+           pieceB != &layout_.pieces()[a.piece];
   }
 
   static Point pointAt(const LaidRoute& laid, double along) {
@@ -180,8 +194,9 @@ class Search {
       return false;
     const bool lower = sameRoute(a.lower, b.lower);
     const bool upper = sameRoute(a.upper, b.upper);
-    return (lower && upper) || (lower && nextPiece(a.upper, b.upper)) ||
-           (upper && nextPiece(a.lower, b.lower));
+    const bool lowerGoesOn = nextPiece(a.lower, b.lower);
+    const bool upperGoesOn = nextPiece(a.upper, b.upper);
+    return (lower || lowerGoesOn) && (upper || upperGoesOn);
   }
 
   const Layout& layout_;

@@ -9,11 +9,13 @@
 #include <algorithm>
 #include <cmath>
 #include <unordered_set>
+#include <utility>
 
 namespace trassix {
 
 namespace {
 
+constexpr double kRoundedUp = 0.0004;   // of a slope, to be enough in tenths of a percent
 constexpr double kPlay = 0.05;          // mm
 constexpr double kWaterShare = 1.0 / 3; // of the clearance, over water
 
@@ -52,6 +54,21 @@ std::optional<Notice> lowCrossing(const Layout& before, const BridgeDraft& draft
 }
 
 } // namespace
+
+Notice rampTooShort(const HumpRamp& ramp, Point foot, double limit, std::int32_t units) {
+  const auto percent = [](double slope) { return formatFixed(percentOf(slope), 1); };
+  std::string text =
+      tr("The ramp from %1% to the bridge is too short: there are %2% of way, and about %3% are "
+         "missing at %4% %%.",
+         {placeOn(foot), formatLength(ramp.available, units), formatLength(ramp.missing, units),
+          percent(limit)});
+  const bool another = ramp.bestLimit > 0 && ramp.bestLimit <= kMostBridgeLimit;
+  text.append(" ").append(
+      another ? tr("A limit of %1% %% would do.", {percent(ramp.bestLimit + kRoundedUp)})
+              : tr("Not even %1% %% would do: make the way longer, or ask for less clearance.",
+                   {percent(kMostBridgeLimit)}));
+  return bridgeRefusal(std::move(text));
+}
 
 double leastOver(const CrossedZone& zone, const BridgeTask& task) {
   const double clearance = clearanceOf(task, zone.system);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "editing/elevation/hump.h"
 #include "wizards/bridge/bridge_draft.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace trassix {
@@ -19,6 +21,9 @@ BridgeFault faultOf(const Layout& before, BridgeDraft& draft, const BridgeTask& 
 
 /// What has to be between the track's height and what lies below the zone, with a frame or without.
 double neededOver(const CrossedZone& zone, const BridgeTask& task, TrackSystem system, bool portal);
+
+/// Why a ramp that could begin at `foot` does not reach the bridge, by how much, and what would do.
+Notice rampTooShort(const HumpRamp& ramp, Point foot, double limit, std::int32_t units);
 
 /// What is left under the deck, or under the beam of a frame that carries it there; mm.
 double clearanceUnder(const BridgeDraft& draft, const CrossedZone& zone);

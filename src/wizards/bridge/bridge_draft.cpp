@@ -11,6 +11,7 @@
 #include "texts/texts.h"
 #include "wizards/bridge/bridge_checks.h"
 #include "wizards/bridge/bridge_spans.h"
+#include "wizards/bridge/ramp_pieces.h"
 #include "wizards/bridge/span_composing.h"
 
 #include <algorithm>
@@ -108,10 +109,16 @@ class Drafter {
   /// Where the way comes round and crosses itself, it begins with its lower part, so that both
   /// ramps lie between that and the bridge.
   void turnToOwnTrack() {
-    const auto own = std::ranges::find_if(draft_.zones, &CrossedZone::ownTrack);
-    if (!draft_.site.round || own == draft_.zones.end())
+    const auto zone = std::ranges::find_if(
+        draft_.zones, [](const CrossedZone& each) { return !each.own.empty(); });
+    if (!draft_.site.round || zone == draft_.zones.end())
       return;
-    beginWith(draft_.site, own->ownFrom);
+    const std::size_t count = draft_.line.stretches();
+    const auto isFirst = [&](std::size_t stretch) {
+      return !std::ranges::binary_search(zone->own, (stretch + count - 1) % count);
+    };
+    const auto first = std::ranges::find_if(zone->own, isFirst);
+    beginWith(draft_.site, first == zone->own.end() ? zone->own.front() : *first);
     renewLine(draft_);
   }
 
@@ -165,7 +172,7 @@ class Drafter {
       const PlacedPiece& piece = *draft_.layout.findPiece(stretches[i].piece);
       const PieceDef& definition = *definitionOf(piece);
       const bool own = std::ranges::any_of(draft_.zones, [i](const CrossedZone& zone) {
-        return zone.ownTrack && i >= zone.ownFrom && i < zone.ownTo;
+        return std::ranges::binary_search(zone.own, i);
       });
       return own || !takesGrade(piece) || definition.kind == PieceKind::Crossing ||
              definition.kind == PieceKind::DoubleSlip || draft_.layout.isCovered(piece.id);
@@ -331,22 +338,8 @@ class Drafter {
              "Allow up to %2% %%, or piers of any height.",
              {percentText(task_.limit), percentText(kMostBridgeLimit)}));
     const bool up = !plan.up.possible;
-    const HumpRamp& ramp = up ? plan.up : plan.down;
-    const std::size_t joint = up ? task.from : task.to;
-    const Pose at = draft_.line.poseAt(draft_.line.joints()[joint]);
-    const std::string place = tr("x %1%, y %2% mm", {std::llround(at.x), std::llround(at.y)});
-    std::string text =
-        tr("The ramp from %1% to the bridge is too short: there are %2% of way, and about %3% are "
-           "missing at %4% %%.",
-           {place, mm(ramp.available), mm(ramp.missing), percentText(task_.limit)});
-    if (ramp.bestLimit > 0 && ramp.bestLimit <= kMostBridgeLimit)
-      text.append(" ").append(
-          tr("A limit of %1% %% would do.", {percentText(ramp.bestLimit + 0.0004)}));
-    else
-      text.append(" ").append(
-          tr("Not even %1% %% would do: make the way longer, or ask for less clearance.",
-             {percentText(kMostBridgeLimit)}));
-    refuse(std::move(text));
+    const Pose foot = draft_.line.poseAt(draft_.line.joints()[up ? task.from : task.to]);
+    draft_.refusal = rampTooShort(up ? plan.up : plan.down, {foot.x, foot.y}, task_.limit, units());
   }
 
   /// Whether the ramps, as planned, come too low over something else, which then has to be among
@@ -390,6 +383,11 @@ class Drafter {
       return false;
     }
     applyHeights(draft_.layout, heights, true);
+    if (task_.rampPieces) {
+      const auto ramps = std::span<const WayStretch>(way().stretches);
+      useRampPieces(draft_.layout, ramps.subspan(draft_.from, draft_.first - draft_.from));
+      useRampPieces(draft_.layout, ramps.subspan(draft_.last, draft_.to - draft_.last));
+    }
     renewHeights(draft_.layout, way());
     draft_.line = BridgeLine(draft_.layout, way());
     return true;

@@ -38,7 +38,7 @@ TrackSystem systemOf(const BridgeDraft& draft) {
 
 bool isOwnLower(const BridgeDraft& draft, std::size_t stretch) {
   return std::ranges::any_of(draft.zones, [stretch](const CrossedZone& zone) {
-    return zone.ownTrack && stretch >= zone.ownFrom && stretch < zone.ownTo;
+    return std::ranges::binary_search(zone.own, stretch);
   });
 }
 

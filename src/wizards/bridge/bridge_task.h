@@ -46,6 +46,7 @@ struct BridgeTask {
   double rampLength = 0; ///< of each ramp, or a piece longer; 0: as short as the limit allows
   SpanKind span = SpanKind::Auto;
   PierHeights piers = PierHeights::Preferred;
+  bool rampPieces = false; ///< in the ramps, where there are such of the same shape
 
   bool operator==(const BridgeTask&) const = default;
 };

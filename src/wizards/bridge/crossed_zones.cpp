@@ -30,7 +30,7 @@ constexpr double kStepShare = 1.0 / 180; // of a span: how closely zones are loo
 constexpr double kLowerStep = 12;        // mm between points of the track below
 constexpr double kReachShare = 60; // free widths along the track below, which a curve may follow
 constexpr double kFarthest = 10;   // spans to both sides of a crossing
-constexpr double kSame = 1;        // mm of height
+constexpr double kSame = 1;        // mm
 constexpr double kSafe = 0.2;      // mm by which zones are wider, for chords
 
 struct LowerPoint {
@@ -101,7 +101,9 @@ class Finder {
       const std::optional<double> a = alongOf(crossing.lower);
       const std::optional<double> b = alongOf(crossing.upper);
       const bool selfCrossing = a && b;
-      const auto within = [&](double at) { return meant[line_.stretchAt(at)]; };
+      const auto within = [&](double at) { // which may be at a joint
+        return meant[line_.stretchAt(at - kSame)] || meant[line_.stretchAt(at + kSame)];
+      };
       // Of the way's own stretches the later one is below, unless only that one is meant.
       if (b && within(*b) && !(selfCrossing && within(*a) && *a < *b && crossing.tooLow()))
         addTrack(crossing.at, crossing.lower, *b);
@@ -286,9 +288,7 @@ class Finder {
     for (std::size_t i = 0; i < stretches.size(); ++i) {
       if (above(i) || std::ranges::find(met, stretches[i].piece) == met.end())
         continue;
-      zone.ownFrom = zone.ownTrack ? std::min(zone.ownFrom, i) : i;
-      zone.ownTo = zone.ownTrack ? std::max(zone.ownTo, i + 1) : i + 1;
-      zone.ownTrack = true;
+      zone.own.push_back(i);
     }
   }
 

@@ -20,10 +20,8 @@ struct CrossedZone {
   double to = 0;
   double top = 0; ///< the highest there, as tracks have their height, or the surface
 
-  /// Of a way that crosses itself: the stretches of its lower part, from one joint to another.
-  bool ownTrack = false;
-  std::size_t ownFrom = 0;
-  std::size_t ownTo = 0;
+  /// Of a way that crosses itself: the stretches of its lower part, ascending.
+  std::vector<std::size_t> own;
 
   /// Lowest place of each mm or so of the zone: along, and the height below.
   struct Below {

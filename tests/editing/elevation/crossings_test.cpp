@@ -40,6 +40,17 @@ TEST(Crossings, WhereTrackLeadsOverTrackWithoutBeingJoined) {
   }
 }
 
+TEST(Crossings, AtJointsOfBothTracksAreToldOnce) {
+  for (const double angle : {30, 90, 200}) {
+    Plan plan = Plan().place("24188").extend("24188");
+    const Point start = toWorld({188.3, 0, angle}, {-188.3, 0});
+    plan.place("24188", {start.x, start.y, angle});
+    EXPECT_EQ(trackCrossings(plan.layout).size(), 0U) << angle; // it only ends there
+    plan.extend("24188");
+    EXPECT_EQ(trackCrossings(plan.layout).size(), 1U) << angle;
+  }
+}
+
 TEST(Crossings, HeightsOfSlopesAndOfTheLinesOfACrossing) {
   Layout layout = Plan().place("24188").place("24640", {94.15, 60, 280}).layout;
   layout.editPiece(1)->grade = toDegrees(0.05);

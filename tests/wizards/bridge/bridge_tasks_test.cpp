@@ -20,6 +20,30 @@ int tasksOfEach() {
   return wanted == nullptr ? 1 : std::atoi(wanted);
 }
 
+TEST(BridgeTasks, AreJudgedByOneWhoSeesFaults) {
+  std::mt19937 random(4);
+  BridgeCase task = randomCase(random, TrackSystem::KTrack, BridgeWay::LiftOver, 80, 90);
+  task.task.limit = 0.05;
+  const BridgePlan plan = planBridge(task.layout, task.task);
+  ASSERT_TRUE(plan.possible());
+  Layout built = task.layout;
+  applyBridge(built, task.task);
+  EXPECT_EQ(faultIn(task, built, plan), "");
+  const auto sink = [&](double by) {
+    Layout layout = built;
+    for (const std::int32_t id : plan.pieces)
+      layout.editPiece(id)->z -= by;
+    return layout;
+  };
+  EXPECT_THAT(faultIn(task, sink(0.02), plan), testing::HasSubstr("step"));
+  BridgeCase strict = task;
+  strict.task.limit = plan.steepest() - 0.001;
+  EXPECT_THAT(faultIn(strict, built, plan), testing::HasSubstr("grade"));
+  strict = task;
+  strict.task.clearance += plan.spare + 0.5;
+  EXPECT_THAT(faultIn(strict, built, plan), testing::HasSubstr("clearance"));
+}
+
 TEST(BridgeTasks, AreBuiltSoundlyOrRefusedForAReason) {
   std::map<std::string, int> refusals;
   int accepted = 0;

@@ -1,3 +1,4 @@
+#include "bridge_tasks.h"
 #include "document/plan_content.h"
 #include "editing/elevation/end_heights.h"
 #include "support/plan.h"
@@ -147,6 +148,32 @@ TEST(BridgeWizard, ReplacesCrossingsByStraightsWhereTheyFit) {
   }
 }
 
+TEST(BridgeWizard, LiftsOneLoopOfAFigureEightOverTheOther) {
+  // Both lines lead through the middle at right angles, between loops of three quarters of a
+  // circle.
+  Plan plan;
+  plan.place("24360").extend("24360").extend("24130", 9).extend("24360", 2).extendLeft("24130", 9);
+  BridgeCase eight;
+  eight.layout = std::move(plan.layout);
+  ASSERT_EQ(openEnds(eight.layout), 0);
+  eight.task = liftOver({1, 2});
+  const BridgePlan flat = planBridge(eight.layout, eight.task);
+  EXPECT_THAT(problemOf(flat), HasSubstr("would do"));
+  eight.task.limit = 0.05;
+  for (const std::vector<std::int32_t>& chosen :
+       {std::vector{1, 2}, std::vector{12, 13}, std::vector{2}}) {
+    eight.task.pieces = chosen;
+    const BridgePlan bridge = planBridge(eight.layout, eight.task);
+    ASSERT_EQ(problemOf(bridge), "");
+    EXPECT_EQ(bridge.crossed.size(), 1U);
+    Layout built = eight.layout;
+    const EditResult result = applyBridge(built, eight.task);
+    EXPECT_EQ(faultIn(eight, built, bridge), "");
+    built.undo();
+    EXPECT_TRUE(built.content() == eight.layout.content());
+  }
+}
+
 TEST(BridgeWizard, LiftsOverRoadsAndWater) {
   Plan plan;
   plan.place("24188", {-4707.5, 0, 0}).extend("24188", 49);
@@ -189,6 +216,24 @@ TEST(BridgeWizard, FollowsThePierSeriesWhenThatIsChosen) {
     EXPECT_EQ(pier.stack.shim, 0) << pier.height();
   EXPECT_EQ(bridge.ramps[0].pieces, 16U);
   EXPECT_EQ(bridge.ramps[1].pieces, 16U);
+}
+
+TEST(BridgeWizard, TakesRampPiecesOnlyWhereTheyFit) {
+  // Straight, its length: articles that come in place of it in both ramps.
+  const std::tuple<const char*, double, const char*> cases[] = {
+      {"2200", 180, "7268"}, {"24188", 188.3, ""}, {"8500", 110, "8976"}};
+  for (const auto& [straight, length, ramp] : cases) {
+    Plan plan = lineOver(straight, 30, straight, 90, length);
+    BridgeTask task = liftOver({30, 31});
+    task.rampPieces = true;
+    const BridgePlan bridge = planBridge(plan.layout, task);
+    ASSERT_EQ(problemOf(bridge), "");
+    std::int32_t ramps = 0;
+    for (const ArticleChange& change : bridge.articles)
+      ramps += change.article == ramp ? change.count : 0;
+    EXPECT_EQ(ramps > 10, *ramp != '\0');
+    EXPECT_EQ(ramps % 2, 0);
+  }
 }
 
 } // namespace
