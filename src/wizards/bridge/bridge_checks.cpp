@@ -2,6 +2,7 @@
 
 #include "document/plan_content.h"
 #include "editing/elevation/crossings.h"
+#include "editing/placing/placing.h"
 #include "editing/track/connector_geometry.h"
 #include "measures/measure_format.h"
 #include "texts/texts.h"
@@ -33,6 +34,13 @@ std::unordered_set<std::int32_t> changedPieces(const Layout& before, const Layou
       changed.insert(piece.id);
   }
   return changed;
+}
+
+bool leavesPlan(const Layout& before, const Layout& after) {
+  return std::ranges::any_of(after.pieces(), [&before](const PlacedPiece& piece) {
+    return before.findPiece(piece.id) == nullptr &&
+           !fitsPlan(*definitionOf(piece), poseOf(piece), piece.z);
+  });
 }
 
 std::optional<Notice> lowCrossing(const Layout& before, const BridgeDraft& draft) {
@@ -95,6 +103,10 @@ double clearanceUnder(const BridgeDraft& draft, const CrossedZone& zone) {
 
 BridgeFault faultOf(const Layout& before, BridgeDraft& draft, const BridgeTask& task) {
   BridgeFault fault;
+  if (leavesPlan(before, draft.layout)) {
+    fault.refusal = beyondPlan();
+    return fault;
+  }
   const std::int32_t units = before.settings().units;
   draft.supports = supportsOf(draft.layout);
   std::vector<std::int32_t> own;

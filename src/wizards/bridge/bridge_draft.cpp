@@ -23,7 +23,7 @@ namespace trassix {
 
 namespace {
 
-constexpr int kMostRounds = 8;             // of what a ramp comes over in turn
+constexpr int kMostRounds = 12;            // of what a ramp comes over in turn
 constexpr int kMostAdded = 150;            // straights
 constexpr int kMostForSeries = 24;         // of them, to find a place where the series fits
 constexpr double kFullPierShare = 1.0 / 6; // of a pier more, that a bridge may lie higher
@@ -44,8 +44,10 @@ class Drafter {
       draft_.layout = before_;
       build();
       if (!again_)
-        break;
+        return std::move(draft_);
     }
+    refuse(tr("The ramps come over more and more other track. Lead over at another place, or allow "
+              "steeper ones."));
     return std::move(draft_);
   }
 

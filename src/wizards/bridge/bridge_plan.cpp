@@ -179,6 +179,10 @@ class Teller {
   }
 
   void tellRemarks() {
+    if (task_.way == BridgeWay::AsItLies && plan_.piers.empty())
+      plan_.remarks.push_back(
+          tr("The track lies on the ground there, so that no pier has anything to "
+             "carry: lift it first, or cut the valley out of the board."));
     for (std::size_t i = draft_.from; i < draft_.to; ++i) {
       const bool inRamp = i < draft_.first || i >= draft_.last;
       if (inRamp && definitionAt(i).connectors.size() > 2)

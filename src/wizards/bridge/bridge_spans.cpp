@@ -96,25 +96,24 @@ class SpanMaker {
  private:
   void span(const Gap& gap) {
     const SpanGap task{gap.from, gap.to, replaceable(draft_), blocked_};
-    std::optional<SpanRow> best;
     const std::size_t most = task_.span == SpanKind::Auto ? 1 : kMostInARow;
-    for (const PieceDef* bridge : bridges_)
-      if (!best)
-        best = composeSpan(draft_.line, *bridge, task, most);
-    if (!best && (task_.span == SpanKind::Auto || task_.span == SpanKind::Deck)) {
-      const double longest = longestSpan(system_);
-      made_.needsPortals = made_.needsPortals || gap.to - gap.from > longest * (1 - kSpareShare);
-      return;
+    for (const PieceDef* bridge : bridges_) {
+      const std::optional<SpanRow> row = composeSpan(draft_.line, *bridge, task, most);
+      if (row && take(*row))
+        return;
     }
-    if (!best) {
+    if (task_.span != SpanKind::Auto && task_.span != SpanKind::Deck)
       made_.refusal = refusalOf(gap, task);
-      return;
-    }
-    take(*best);
+    else if (gap.to - gap.from > longestSpan(system_) * (1 - kSpareShare))
+      made_.needsPortals = true;
   }
 
-  void take(const SpanRow& span) {
+  /// False where the neighbours do not lie as their lengths tell, as where a loop was closed with
+  /// play.
+  bool take(const SpanRow& span) {
     double at = draft_.line.joints()[span.from];
+    if (!replaceStretches(draft_.layout, draft_.site, span.from, span.to, span.row))
+      return false;
     for (const PieceDef* piece : span.row) {
       if (bridgeKindOf(*piece) != BridgeKind::None) {
         made_.from = std::min(made_.from, at);
@@ -124,9 +123,8 @@ class SpanMaker {
     }
     draft_.residue = std::max(draft_.residue, span.residue);
     made_.needsPortals = made_.needsPortals || span.portals > 0;
-    if (!replaceStretches(draft_.layout, draft_.site, span.from, span.to, span.row))
-      made_.refusal = bridgeRefusal(tr("The bridge does not fit between its neighbours."));
     renewLine(draft_);
+    return true;
   }
 
   Notice refusalOf(const Gap& gap, const SpanGap& task) const {
@@ -228,6 +226,13 @@ std::function<bool(double)> blockedUnder(const BridgeDraft& draft, PierWidth wid
 }
 
 std::vector<bool> replaceable(const BridgeDraft& draft) {
+  const auto inTunnel = [&draft](std::int32_t piece) {
+    const auto holds = [piece](const Tunnel& tunnel) {
+      return tunnel.anchorA == piece || tunnel.anchorB == piece;
+    };
+    return draft.layout.isCovered(piece) ||
+           std::ranges::any_of(draft.layout.content().tunnels, holds);
+  };
   std::vector<bool> may;
   for (std::size_t i = 0; i < draft.site.way.stretches.size(); ++i) {
     const PlacedPiece& piece = *draft.layout.findPiece(draft.site.way.stretches[i].piece);
@@ -235,7 +240,7 @@ std::vector<bool> replaceable(const BridgeDraft& draft) {
     may.push_back(definition.kind == PieceKind::Straight && definition.connectors.size() == 2 &&
                   definition.adapterSystems.empty() && !definition.ramp &&
                   !hasOwnFunction(definition) && piece.helix == -1 && !piece.free &&
-                  !draft.layout.isCovered(piece.id) && !isOwnLower(draft, i));
+                  !inTunnel(piece.id) && !isOwnLower(draft, i));
   }
   return may;
 }
