@@ -332,13 +332,22 @@ class Drafter {
       again_ = true;
       return;
     }
+    if (startsEarly_ && task_.way == BridgeWay::FromEnd) {
+      const HumpRamp none{false, 0, 0, (draft_.deckHeight - baseHeight()) / task_.limit, 0};
+      const Pose end = draft_.line.poseAt(0);
+      draft_.refusal = rampTooShort(none, {end.x, end.y}, task_.limit, units());
+      return;
+    }
     if (startsEarly_ || endsLate_)
       return refuse(tr("The track ends over what it is to lead over. Go on with it first."));
     if (plan.possible() && task_.piers == PierHeights::SeriesOnly)
       return refuse(
-          tr("With a limit of %1% %% the ramps cannot follow the heights of the pier series. "
-             "Allow up to %2% %%, or piers of any height.",
-             {percentText(task_.limit), percentText(kMostBridgeLimit)}));
+          task_.limit < kMostBridgeLimit
+              ? tr("With a limit of %1% %% the ramps cannot follow the heights of the pier "
+                   "series. Allow up to %2% %%, or piers of any height.",
+                   {percentText(task_.limit), percentText(kMostBridgeLimit)})
+              : tr("The way is too short for ramps by the heights of the pier series. Make "
+                   "it longer, or allow piers of any height."));
     const bool up = !plan.up.possible;
     const Pose foot = draft_.line.poseAt(draft_.line.joints()[up ? task.from : task.to]);
     draft_.refusal = rampTooShort(up ? plan.up : plan.down, {foot.x, foot.y}, task_.limit, units());

@@ -319,6 +319,14 @@ class Maker {
     made.task.clearance = leastClearance(system_, pick(0, 3) == 0);
     made.task.piers = pick(0, 1) == 0 ? PierHeights::Any : PierHeights::Preferred;
     made.task.span = pick(0, 4) == 0 ? SpanKind::Deck : SpanKind::Auto;
+    made.task.rampPieces = pick(0, 5) == 0;
+    if (pick(0, 3) == 0) {
+      const std::vector<SpanKind> kinds = spanKinds(system_);
+      made.task.span = kinds[static_cast<std::size_t>(pick(0, static_cast<int>(kinds.size()) - 1))];
+    } else if (pick(0, 9) == 0) {
+      made.task.piers = PierHeights::SeriesOnly;
+      made.task.limit = 0.05;
+    }
   }
 
   const PieceDef& straight() const { return straight_; }
@@ -402,6 +410,9 @@ std::string faultIn(const BridgeCase& before, const Layout& after, const BridgeP
 bool couldClimb(const BridgeCase& task) {
   const TrackSystem system = cataloguePiece(task.layout.pieces().front().cat).system;
   const double need = railTop(system) + kDeckThickness + asked(task.task, system);
+  const bool free = task.task.span == SpanKind::Auto || task.task.span == SpanKind::Deck;
+  if (!free || task.task.piers == PierHeights::SeriesOnly)
+    return false; // such a wish may stand in the way of what could be built
   if (task.task.way == BridgeWay::AsItLies)
     return true;
   const double usual = usualStraight(system)->length;

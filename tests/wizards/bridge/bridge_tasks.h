@@ -29,7 +29,8 @@ BridgeCase randomCase(std::mt19937& random, TrackSystem system, BridgeWay way, d
 std::string faultIn(const BridgeCase& before, const Layout& after, const BridgePlan& plan);
 
 /// Whether heights within the limit exist that lead the chosen track over all that it crosses, as
-/// found by trying slopes in small steps from joint to joint.
+/// found by trying slopes in small steps from joint to joint. False for tasks that ask for a kind
+/// of span or pier.
 bool couldClimb(const BridgeCase& task);
 
 } // namespace trassix
