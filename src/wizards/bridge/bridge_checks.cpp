@@ -119,7 +119,10 @@ BridgeFault faultOf(const Layout& before, BridgeDraft& draft, const BridgeTask& 
   for (const CrossedZone& zone : draft.zones) {
     const double clearance = clearanceUnder(draft, zone);
     const double least = leastOver(zone, task);
-    if (clearance >= least - kPlay)
+    // Water that is painted on the board lies as high as track that is not lifted.
+    const bool valley =
+        task.way == BridgeWay::AsItLies && zone.thing.kind == CrossedThing::Kind::Water;
+    if (clearance >= least - kPlay || valley)
       continue;
     fault.refusal = bridgeRefusal(tr(
         "Over %1% at %2% there are %3%, and %4% are asked for: lift the track by %5%, or ask for "
