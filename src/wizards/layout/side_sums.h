@@ -1,0 +1,73 @@
+// What the straight part of one side of a loop may be as long as, and in how many pieces.
+#pragma once
+
+#include "wizards/layout/station_throat.h"
+#include "wizards/layout/straight_runs.h"
+
+#include <vector>
+
+namespace trassix {
+
+/// How far what is laid towards itself may miss, in mm: what the joining of ends takes up.
+inline constexpr double kClosingPlay = 1.0;
+
+/// The lengths of main line that a station may take up, end to end of its two outer turnouts.
+class StationLengths {
+ public:
+  struct Length {
+    Micrometres length = 0;
+    int pieces = 0; ///< of all tracks of the station
+  };
+
+  /// Of stations whose sidings are usable for at least `usable` mm. Sidings close within the play.
+  StationLengths(const StationThroat& throat, const StraightRuns& runs, double usable);
+
+  const std::vector<Length>& lengths() const { return lengths_; } ///< rising
+  /// Straights of a siding; -1 when none close it.
+  Micrometres siding(Micrometres station, std::size_t siding) const;
+  /// The shortest siding's usable length in mm.
+  double usable(Micrometres station) const;
+  Micrometres mainLength() const { return 2 * toMicrometres(throat_->mainLength); }
+
+ private:
+  const StationThroat* throat_;
+  const StraightRuns* runs_;
+  std::vector<Length> lengths_;
+};
+
+/// The lengths of one side, cached as they are asked for. A side with a station has that on one of
+/// the tracks, a bridge is in all of them.
+class SideSums {
+ public:
+  SideSums(const StraightRuns& runs, int tracks, Micrometres bridge, const StationLengths* station);
+
+  /// Pieces on all tracks, at least; -1 when the side cannot be as long.
+  int pieces(Micrometres length) const;
+  bool allows(Micrometres length) const {
+    return station_ == nullptr ? plainPieces(length) >= 0 : stationOn(length) >= 0;
+  }
+
+  /// Holds the station to one length; 0 frees it.
+  void holdStation(Micrometres length) { held_ = length; }
+  /// The length of the station on a side as long as this: the held one, else the one of the fewest
+  /// pieces. -1 when none fits.
+  Micrometres stationOn(Micrometres length) const;
+  bool hasStation() const { return station_ != nullptr; }
+  Micrometres bridge() const { return bridge_; }
+
+ private:
+  int plainPieces(Micrometres length) const;
+
+  const StraightRuns* runs_;
+  int tracks_;
+  Micrometres bridge_;
+  const StationLengths* station_;
+  Micrometres held_ = 0;
+  struct Known {
+    std::int32_t pieces = -2; ///< not asked for yet
+    Micrometres station = -1;
+  };
+  mutable std::vector<Known> known_;
+};
+
+} // namespace trassix
