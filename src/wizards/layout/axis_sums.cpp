@@ -8,7 +8,7 @@ namespace trassix {
 
 namespace {
 
-constexpr Micrometres kFar = 4'000'000'000'000;
+constexpr Micrometres kFar = kAnywhere;
 
 Micrometres roundedDown(Micrometres value, Micrometres grain) {
   return value >= 0 ? value / grain * grain : -((-value + grain - 1) / grain * grain);
@@ -45,10 +45,11 @@ void AxisSearch::narrow() {
   for (std::size_t i = 0; i <= n; ++i)
     most[i][i] = 0;
   for (std::size_t i = 0; i < n; ++i) {
-    if (axis_.lines[i].least)
-      atMost(i, room, -axis_.lines[i].at);
-    else
-      atMost(room, i, axis_.lines[i].at);
+    const AxisLine& line = axis_.lines[i];
+    atMost(line.least ? i : room, line.least ? room : i, line.least ? -line.at : line.at);
+    if (line.play < kAnywhere)
+      atMost(line.least ? room : i, line.least ? i : room,
+             line.play + (line.least ? line.at : -line.at));
     const std::size_t next = (i + 1) % n;
     const AxisSide& side = axis_.sides[i];
     const Micrometres play = next == 0 ? std::abs(axis_.misfit) : 0;
@@ -95,17 +96,26 @@ Micrometres AxisSearch::totalOf(Micrometres lead) const {
 
 AxisSearch::Range AxisSearch::placed(Range range, std::size_t line, Micrometres at) const {
   const AxisLine& bound = axis_.lines[line];
+  const Micrometres limit = bound.at - at;
   if (bound.least)
-    range.low = std::max(range.low, bound.at - at);
-  else
-    range.high = std::min(range.high, bound.at - at);
-  return range;
+    return {std::max(range.low, limit), std::min(range.high, limit + bound.play)};
+  return {std::max(range.low, limit - bound.play), std::min(range.high, limit)};
 }
 
 bool AxisSearch::gapsHold(const std::vector<Micrometres>& at, std::size_t line) const {
   return std::ranges::all_of(axis_.gaps, [&](const AxisGap& gap) {
     return std::max(gap.low, gap.high) != line || at[gap.high] - at[gap.low] >= gap.least;
   });
+}
+
+AxisSearch::Range AxisSearch::restOf(std::size_t side, int sign) const {
+  Range rest;
+  for (; side < axis_.sides.size(); ++side)
+    if (axis_.sides[side].sign == sign) {
+      rest.low += axis_.sides[side].low;
+      rest.high += axis_.sides[side].high;
+    }
+  return rest;
 }
 
 struct AxisSearch::Lead {
@@ -145,8 +155,10 @@ bool AxisSearch::lead(Lead& state, std::size_t index, Range range) const {
   };
   if (state.sides[group] == 1)
     return left >= side.low && left <= side.high && tryLength(left);
-  Micrometres low = side.low;
-  Micrometres high = std::min(side.high, left);
+  // What the others of its direction cannot make up it has to.
+  const Range others = restOf(index + 1, side.sign);
+  Micrometres low = std::max(side.low, left - others.high);
+  Micrometres high = std::min(side.high, left - others.low);
   if (!last) {
     // The next line has to lie where line 0 still can.
     const AxisLine& line = axis_.lines[next];

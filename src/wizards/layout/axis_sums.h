@@ -9,10 +9,13 @@
 
 namespace trassix {
 
+inline constexpr Micrometres kAnywhere = 4'000'000'000'000;
+
 /// A line across the axis on which a side of the other axis lies.
 struct AxisLine {
   bool least = false; ///< the table lies beyond: its coordinate is at least, else at most, `at`
   Micrometres at = 0;
+  Micrometres play = kAnywhere; ///< by which it may lie farther in
 };
 
 /// Leads from the line of its index to the next one.
@@ -83,6 +86,8 @@ class AxisSearch {
   Micrometres totalOf(Micrometres lead) const;
   /// Where line `line` can lie when it is `at` from line 0: narrows where line 0 can.
   Range placed(Range range, std::size_t line, Micrometres at) const;
+  /// What sides of a direction can be together, from this one on.
+  Range restOf(std::size_t side, int sign) const;
   bool gapsHold(const std::vector<Micrometres>& at, std::size_t line) const;
   bool lead(Lead& state, std::size_t side, Range range) const;
   void few(Few& state, std::size_t side, Range range, int pieces) const;

@@ -107,6 +107,7 @@ std::vector<std::vector<Micrometres>> LoopSolver::offsets(int grid) const {
 
 Axis LoopSolver::axisOf(bool level, const std::vector<Micrometres>& offsets, Micrometres misfit,
                         const std::vector<Window>* windows) const {
+  const Micrometres apart = toMicrometres(doubleTrackSpacings(task_.system).front());
   Axis axis;
   axis.grain = runs_.grain();
   axis.misfit = misfit;
@@ -117,7 +118,10 @@ Axis LoopSolver::axisOf(bool level, const std::vector<Micrometres>& offsets, Mic
     const std::size_t across = path_.before(i);
     const PathSide& line = path_.sides[across];
     const Micrometres off = offsets[across];
-    axis.lines.push_back({line.tableBeyond(), line.edge + (line.tableBeyond() ? off : -off)});
+    // The end of an aisle would go all the way to the other side for the sake of length.
+    const bool aisle = line.turnsLeft && path_.sides[i].turnsLeft;
+    axis.lines.push_back({line.tableBeyond(), line.edge + (line.tableBeyond() ? off : -off),
+                          aisle && near_ ? apart : kAnywhere});
     AxisSide side{path_.sides[i].sign(), path_.cornersOf(i), sides_[i].get(), 0, runs_.longest()};
     if (windows != nullptr) {
       side.low = (*windows)[i].low;
@@ -125,7 +129,6 @@ Axis LoopSolver::axisOf(bool level, const std::vector<Micrometres>& offsets, Mic
     }
     axis.sides.push_back(side);
   }
-  const Micrometres apart = toMicrometres(doubleTrackSpacings(task_.system).front());
   for (const FacingSides& facing : path_.facing()) {
     if (path_.sides[facing.low].level() == level)
       continue;
@@ -235,10 +238,9 @@ Steps LoopSolver::longestOf(const std::vector<Pair>& pairs, Micrometres mostTota
   }
 }
 
-Steps LoopSolver::longest(Micrometres mostTotal, const Accept& accept,
-                          std::optional<LoopPlan>& found) {
+Steps LoopSolver::longest(Micrometres mostTotal, Accept accept, std::optional<LoopPlan>& found) {
   found.reset();
-  const bool mayCrowd = station_ && path_.count() > 4;
+  const bool complex = path_.count() > 4;
   // Exactly closed first; misfits only where there is no other loop, the least of them first.
   std::vector<std::pair<Micrometres, Micrometres>> misfits{{0, 0}};
   if (path_.count() > 4) {
@@ -250,10 +252,13 @@ Steps LoopSolver::longest(Micrometres mostTotal, const Accept& accept,
     std::ranges::stable_sort(misfits, {},
                              [](const auto& m) { return m.first * m.first + m.second * m.second; });
   }
-  for (const bool apart : {true, false}) {
-    if (!apart && !mayCrowd)
+  constexpr std::array<std::pair<bool, bool>, 3> kManners{
+      {{true, true}, {true, false}, {false, false}}};
+  for (const auto& [apart, near] : kManners) {
+    if (!complex && !near)
       break;
     stationApart_ = apart;
+    near_ = near;
     for (const auto& [x, y] : misfits)
       for (const long tries : {kTries, kMoreTries}) {
         if (tries == kMoreTries && (x != 0 || y != 0))
@@ -269,7 +274,6 @@ Steps LoopSolver::longest(Micrometres mostTotal, const Accept& accept,
             break;
           if (accept(*plan)) {
             found = std::move(plan);
-            stationApart_ = true;
             co_return;
           }
           most = plan->total() - runs_.grain();
@@ -277,10 +281,9 @@ Steps LoopSolver::longest(Micrometres mostTotal, const Accept& accept,
         }
       }
   }
-  stationApart_ = true;
 }
 
-Steps LoopSolver::longestStation(Micrometres mostTotal, const Accept& accept,
+Steps LoopSolver::longestStation(Micrometres mostTotal, Accept accept,
                                  std::optional<LoopPlan>& found) {
   found.reset();
   if (!station_)
@@ -323,7 +326,7 @@ Steps LoopSolver::fewestValues(const std::vector<Window>& windows,
   co_yield 0;
 }
 
-Steps LoopSolver::fewest(const LoopPlan& model, Micrometres play, int most, const Accept& accept,
+Steps LoopSolver::fewest(const LoopPlan& model, Micrometres play, int most, Accept accept,
                          std::optional<LoopPlan>& found) {
   found.reset();
   std::vector<Window> windows;
@@ -336,10 +339,12 @@ Steps LoopSolver::fewest(const LoopPlan& model, Micrometres play, int most, cons
     co_yield 0;
   std::array<std::vector<std::vector<AxisSearch::Value>>, 2> byAxis;
   std::array<int, 2> least{};
+  std::array<int, 2> greatest{};
   for (std::size_t i = 0; i < path_.count(); ++i) {
     if (values[i].empty())
       co_return;
     const std::size_t axis = path_.sides[i].level() ? 0 : 1;
+    greatest[axis] += values[i].back().pieces;
     least[axis] += values[i].front().pieces;
     byAxis[axis].push_back(std::move(values[i]));
   }
@@ -348,7 +353,7 @@ Steps LoopSolver::fewest(const LoopPlan& model, Micrometres play, int most, cons
     std::array<int, 2> pieces{};
     for (const std::size_t k : {0U, 1U}) {
       const int other = k == 0 ? least[1] : pieces[0];
-      const int limit = (found ? found->pieces : most) - other;
+      const int limit = std::min((found ? found->pieces : most) - other, greatest[k]);
       for (pieces[k] = least[k]; !sums[k] && pieces[k] <= limit; ++pieces[k]) {
         long tries = kTriesInStep * 3;
         sums[k] = (k == 0 ? pair.level : pair.upright).withPieces(byAxis[k], pieces[k], tries);

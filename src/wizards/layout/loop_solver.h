@@ -43,14 +43,14 @@ class LoopSolver {
 
   /// The longest loop of at most this total that is accepted. One that closes exactly comes before
   /// those that do within the play.
-  Steps longest(Micrometres mostTotal, const Accept& accept, std::optional<LoopPlan>& found);
+  Steps longest(Micrometres mostTotal, Accept accept, std::optional<LoopPlan>& found);
 
   /// The one with the longest station, and of those the longest loop.
-  Steps longestStation(Micrometres mostTotal, const Accept& accept, std::optional<LoopPlan>& found);
+  Steps longestStation(Micrometres mostTotal, Accept accept, std::optional<LoopPlan>& found);
 
   /// The one of the fewest pieces, at most `most`, whose sides are all at most one shortest
   /// straight (of all that there are: `play`) off those of `model`.
-  Steps fewest(const LoopPlan& model, Micrometres play, int most, const Accept& accept,
+  Steps fewest(const LoopPlan& model, Micrometres play, int most, Accept accept,
                std::optional<LoopPlan>& found);
 
   /// Whether lines of any kind leave room for it, if straights came in all lengths.
@@ -84,7 +84,9 @@ class LoopSolver {
   std::optional<StationLengths> station_;
   std::vector<std::unique_ptr<SideSums>> sides_;
   std::size_t stationSide_ = 0;
+  // As the last loop was found:
   bool stationApart_ = true; ///< sides that face the station keep clear of all of it
+  bool near_ = true;         ///< the end of an aisle stays near to its edge
 };
 
 } // namespace trassix
