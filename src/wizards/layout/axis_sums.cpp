@@ -85,9 +85,37 @@ void AxisSearch::narrow() {
     sum.low += side.low;
     sum.high += side.high;
   }
-  leadLow_ = roundedUp(std::max(sums[0].low, sums[1].low - surplus_), axis_.grain);
-  leadHigh_ = roundedDown(std::min(sums[0].high, sums[1].high - surplus_), axis_.grain);
+  const Range turning = turningRange(most);
+  const Micrometres less = leadSign_ > 0 ? 0 : surplus_; // of the leading sum than of the other
+  leadLow_ = roundedUp(std::max({sums[0].low, sums[1].low - surplus_, turning.low - less}),
+                       axis_.grain);
+  leadHigh_ = roundedDown(std::min({sums[0].high, sums[1].high - surplus_, turning.high - less}),
+                          axis_.grain);
   possible_ = possible_ && leadLow_ <= leadHigh_;
+}
+
+/// What the sides of greater coordinates can be together: from each line where the way turns back to
+/// one where it turns again, of which there are at most two pairs.
+AxisSearch::Range AxisSearch::turningRange(
+    const std::vector<std::vector<Micrometres>>& most) const {
+  std::vector<std::size_t> from;
+  std::vector<std::size_t> to;
+  Micrometres corners = 0;
+  const std::size_t n = axis_.sides.size();
+  for (std::size_t i = 0; i < n; ++i) {
+    const int before = axis_.sides[(i + n - 1) % n].sign;
+    if (axis_.sides[i].sign > 0)
+      corners += axis_.sides[i].corners;
+    if (before != axis_.sides[i].sign)
+      (before > 0 ? to : from).push_back(i);
+  }
+  const auto together = [&](const std::vector<std::size_t>& a, const std::vector<std::size_t>& b) {
+    Micrometres least = most[a[0]][b[0]];
+    if (a.size() == 2)
+      least = std::min(least + most[a[1]][b[1]], most[a[0]][b[1]] + most[a[1]][b[0]]);
+    return least + std::abs(axis_.misfit);
+  };
+  return {-together(to, from) - corners, together(from, to) - corners};
 }
 
 Micrometres AxisSearch::totalOf(Micrometres lead) const {

@@ -83,6 +83,7 @@ class AxisSearch {
   struct Few;
 
   void narrow();
+  Range turningRange(const std::vector<std::vector<Micrometres>>& most) const;
   Micrometres totalOf(Micrometres lead) const;
   /// Where line `line` can lie when it is `at` from line 0: narrows where line 0 can.
   Range placed(Range range, std::size_t line, Micrometres at) const;
