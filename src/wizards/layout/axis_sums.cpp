@@ -87,17 +87,17 @@ void AxisSearch::narrow() {
   }
   const Range turning = turningRange(most);
   const Micrometres less = leadSign_ > 0 ? 0 : surplus_; // of the leading sum than of the other
-  leadLow_ = roundedUp(std::max({sums[0].low, sums[1].low - surplus_, turning.low - less}),
-                       axis_.grain);
+  leadLow_ =
+      roundedUp(std::max({sums[0].low, sums[1].low - surplus_, turning.low - less}), axis_.grain);
   leadHigh_ = roundedDown(std::min({sums[0].high, sums[1].high - surplus_, turning.high - less}),
                           axis_.grain);
   possible_ = possible_ && leadLow_ <= leadHigh_;
 }
 
-/// What the sides of greater coordinates can be together: from each line where the way turns back to
-/// one where it turns again, of which there are at most two pairs.
-AxisSearch::Range AxisSearch::turningRange(
-    const std::vector<std::vector<Micrometres>>& most) const {
+/// What the sides of greater coordinates can be together: from each line where the way turns back
+/// to one where it turns again, of which there are at most two pairs.
+AxisSearch::Range
+AxisSearch::turningRange(const std::vector<std::vector<Micrometres>>& most) const {
   std::vector<std::size_t> from;
   std::vector<std::size_t> to;
   Micrometres corners = 0;

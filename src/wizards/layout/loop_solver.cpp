@@ -14,8 +14,10 @@ namespace trassix {
 namespace {
 
 constexpr int kGrid = 33;              ///< ways to round an inside corner that are tried
-constexpr long kTries = 60'000;        ///< for one pair of axes at first
-constexpr long kMoreTries = 3'000'000; ///< where nothing was found
+constexpr long kTries = 20'000;        ///< for one pair of axes at least
+constexpr long kShare = 20;            ///< of all tries, for one pair of axes
+constexpr long kAllTries = 6'000'000;  ///< for loops that close exactly
+constexpr long kMisfitTries = 400'000; ///< for those of one misfit
 constexpr long kTriesInStep = 100'000;
 constexpr std::size_t kPairs = 24; ///< of equally long loops that are compared
 constexpr int kRefused = 60;       ///< loops that are not accepted before it gives up
@@ -122,10 +124,11 @@ Axis LoopSolver::axisOf(bool level, const std::vector<Micrometres>& offsets, Mic
     const bool aisle = line.turnsLeft && path_.sides[i].turnsLeft;
     axis.lines.push_back({line.tableBeyond(), line.edge + (line.tableBeyond() ? off : -off),
                           aisle && near_ ? apart : kAnywhere});
-    AxisSide side{path_.sides[i].sign(), path_.cornersOf(i), sides_[i].get(), 0, runs_.longest()};
+    AxisSide side{path_.sides[i].sign(), path_.cornersOf(i), sides_[i].get(), sides_[i]->least(),
+                  sides_[i]->least() < 0 ? -1 : runs_.longest()};
     if (windows != nullptr) {
-      side.low = (*windows)[i].low;
-      side.high = (*windows)[i].high;
+      side.low = std::max(side.low, (*windows)[i].low);
+      side.high = std::min(side.high, (*windows)[i].high);
     }
     axis.sides.push_back(side);
   }
@@ -191,7 +194,7 @@ bool LoopSolver::hasRoom() {
   return !pairsOf(kGrid, 0, 0, nullptr).empty();
 }
 
-Steps LoopSolver::longestOf(const std::vector<Pair>& pairs, Micrometres mostTotal, long tries,
+Steps LoopSolver::longestOf(const std::vector<Pair>& pairs, Micrometres mostTotal, long& tries,
                             std::optional<LoopPlan>& found) const {
   const auto offOf = [this](const LoopPlan& plan) {
     Micrometres off = 0;
@@ -202,7 +205,7 @@ Steps LoopSolver::longestOf(const std::vector<Pair>& pairs, Micrometres mostTota
   std::size_t asLong = 0;
   for (const Pair& pair : pairs) {
     const Micrometres best = found ? found->total() : -1;
-    if (pair.longest() < best || asLong > kPairs)
+    if (pair.longest() < best || asLong > kPairs || tries <= 0)
       break;
     std::array<std::optional<AxisSums>, 2> sums;
     std::array<Micrometres, 2> totals{};
@@ -213,7 +216,8 @@ Steps LoopSolver::longestOf(const std::vector<Pair>& pairs, Micrometres mostTota
       Micrometres total = axis.longestTotal();
       if (const Micrometres over = total + other - mostTotal; over > 0)
         total -= (over + axis.step() - 1) / axis.step() * axis.step();
-      long left = tries;
+      const long share = std::max(tries / kShare, std::min(tries, kTries));
+      long left = share;
       for (; !sums[k] && total >= axis.leastTotal() && total + otherMost >= best && left > 0;
            total -= axis.step()) {
         const long before = left;
@@ -225,6 +229,7 @@ Steps LoopSolver::longestOf(const std::vector<Pair>& pairs, Micrometres mostTota
         if ((before - left) > kTriesInStep / 2 || before / kTriesInStep != left / kTriesInStep)
           co_yield 0;
       }
+      tries -= share - left;
       if (!sums[k])
         break;
     }
@@ -259,27 +264,27 @@ Steps LoopSolver::longest(Micrometres mostTotal, Accept accept, std::optional<Lo
       break;
     stationApart_ = apart;
     near_ = near;
-    for (const auto& [x, y] : misfits)
-      for (const long tries : {kTries, kMoreTries}) {
-        if (tries == kMoreTries && (x != 0 || y != 0))
-          break;
-        const std::vector<Pair> pairs = pairsOf(kGrid, x, y, nullptr);
-        co_yield 0;
-        Micrometres most = mostTotal;
-        for (int refused = 0; refused < kRefused && !pairs.empty(); ++refused) {
-          std::optional<LoopPlan> plan;
-          for (Steps steps = longestOf(pairs, most, tries, plan); steps.step();)
-            co_yield 0;
-          if (!plan)
-            break;
-          if (accept(*plan)) {
-            found = std::move(plan);
-            co_return;
-          }
-          most = plan->total() - runs_.grain();
+    for (const auto& [x, y] : misfits) {
+      const std::vector<Pair> pairs = pairsOf(kGrid, x, y, nullptr);
+      co_yield 0;
+      Micrometres most = mostTotal;
+      long tries = x == 0 && y == 0 ? kAllTries : kMisfitTries;
+      for (int refused = 0; refused < kRefused && !pairs.empty(); ++refused) {
+        std::optional<LoopPlan> plan;
+        for (Steps steps = longestOf(pairs, most, tries, plan); steps.step();)
           co_yield 0;
+        if (!plan)
+          break;
+        if (accept(*plan)) {
+          found = std::move(plan);
+          co_return;
         }
+        most = plan->total() - runs_.grain();
+        co_yield 0;
       }
+      if (pairs.empty())
+        break;
+    }
   }
 }
 
@@ -312,12 +317,9 @@ Steps LoopSolver::longestStation(Micrometres mostTotal, Accept accept,
 Steps LoopSolver::fewestValues(const std::vector<Window>& windows,
                                std::vector<std::vector<AxisSearch::Value>>& values) const {
   for (std::size_t i = 0; i < path_.count(); ++i) {
-    int asked = 0;
     for (Micrometres length = windows[i].low; length <= windows[i].high; length += runs_.grain()) {
       if (const int pieces = sides_[i]->pieces(length); pieces >= 0)
         values[i].push_back({length, pieces});
-      if (sides_[i]->hasStation() && ++asked % 64 == 0)
-        co_yield 0;
     }
     std::ranges::stable_sort(values[i], [](const auto& a, const auto& b) {
       return a.pieces != b.pieces ? a.pieces < b.pieces : a.length > b.length;

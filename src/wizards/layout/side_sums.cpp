@@ -46,30 +46,57 @@ double StationLengths::usable(Micrometres station) const {
 
 SideSums::SideSums(const StraightRuns& runs, int tracks, Micrometres bridge,
                    const StationLengths* station)
-    : runs_(&runs), tracks_(tracks), bridge_(bridge), station_(station) {}
+    : runs_(&runs), tracks_(tracks), bridge_(bridge), station_(station) {
+  if (station == nullptr)
+    return;
+  // The station alone, or a shorter side with one more piece.
+  known_.resize(static_cast<std::size_t>(runs.longest() / runs.grain()) + 1);
+  for (const StationLengths::Length& length : station->lengths())
+    known_[static_cast<std::size_t>(length.length / runs.grain())] = {length.pieces, length.length};
+  for (const Micrometres piece : runs.lengths()) {
+    const auto step = static_cast<std::size_t>(piece / runs.grain());
+    for (std::size_t at = step; at < known_.size(); ++at) {
+      const Known& shorter = known_[at - step];
+      if (shorter.pieces >= 0 && (known_[at].pieces < 0 || shorter.pieces + 1 < known_[at].pieces))
+        known_[at] = {shorter.pieces + 1, shorter.station};
+    }
+  }
+}
 
 int SideSums::plainPieces(Micrometres length) const {
   const int pieces = runs_->pieces(length - bridge_);
   return pieces < 0 || bridge_ == 0 ? pieces : pieces + 1;
 }
 
-Micrometres SideSums::stationOn(Micrometres length) const {
+const SideSums::Known* SideSums::known(Micrometres length) const {
+  length -= bridge_;
+  if (length < 0 || length % runs_->grain() != 0)
+    return nullptr;
+  const auto at = static_cast<std::size_t>(length / runs_->grain());
+  return at < known_.size() && known_[at].pieces >= 0 ? &known_[at] : nullptr;
+}
+
+Micrometres SideSums::least() const {
   if (station_ == nullptr)
-    return -1;
+    return bridge_;
   if (held_ > 0)
-    return plainPieces(length - held_) >= 0 && (tracks_ == 1 || plainPieces(length) >= 0) ? held_
-                                                                                          : -1;
-  return pieces(length) >= 0 ? known_[static_cast<std::size_t>(length / runs_->grain())].station
-                             : -1;
+    return held_ + bridge_;
+  return station_->lengths().empty() ? -1 : station_->lengths().front().length + bridge_;
+}
+
+Micrometres SideSums::stationOn(Micrometres length) const {
+  if (held_ > 0)
+    return held_;
+  const Known* side = known(length);
+  return side == nullptr ? -1 : side->station;
 }
 
 int SideSums::pieces(Micrometres length) const {
-  if (station_ == nullptr) {
-    const int pieces = plainPieces(length);
-    return pieces < 0 ? -1 : pieces * tracks_;
-  }
-  const int beside = tracks_ == 1 ? 0 : plainPieces(length);
-  if (length < 0 || length % runs_->grain() != 0 || beside < 0)
+  const int plain = plainPieces(length);
+  if (station_ == nullptr)
+    return plain < 0 ? -1 : plain * tracks_;
+  const int beside = tracks_ == 1 ? 0 : plain;
+  if (beside < 0)
     return -1;
   if (held_ > 0) {
     const auto found =
@@ -79,22 +106,8 @@ int SideSums::pieces(Micrometres length) const {
                ? -1
                : beside + rest + found->pieces;
   }
-  const auto at = static_cast<std::size_t>(length / runs_->grain());
-  if (known_.size() <= at)
-    known_.resize(at + 1);
-  Known& known = known_[at];
-  if (known.pieces != -2)
-    return known.pieces;
-  known.pieces = -1;
-  for (const StationLengths::Length& station : station_->lengths()) {
-    if (station.length > length)
-      break;
-    const int rest = plainPieces(length - station.length);
-    if (rest < 0 || (known.pieces >= 0 && known.pieces <= beside + rest + station.pieces))
-      continue;
-    known = {beside + rest + station.pieces, station.length};
-  }
-  return known.pieces;
+  const Known* side = known(length);
+  return side == nullptr ? -1 : beside + side->pieces + (bridge_ > 0 ? 1 : 0);
 }
 
 } // namespace trassix

@@ -35,39 +35,40 @@ class StationLengths {
   std::vector<Length> lengths_;
 };
 
-/// The lengths of one side, cached as they are asked for. A side with a station has that on one of
-/// the tracks, a bridge is in all of them.
+/// The lengths of one side. One with a station has that on one of the tracks, a bridge is in all of
+/// them.
 class SideSums {
  public:
   SideSums(const StraightRuns& runs, int tracks, Micrometres bridge, const StationLengths* station);
 
   /// Pieces on all tracks, at least; -1 when the side cannot be as long.
   int pieces(Micrometres length) const;
-  bool allows(Micrometres length) const {
-    return station_ == nullptr ? plainPieces(length) >= 0 : stationOn(length) >= 0;
-  }
+  bool allows(Micrometres length) const { return pieces(length) >= 0; }
+  /// No side is shorter; -1 when there is none.
+  Micrometres least() const;
 
   /// Holds the station to one length; 0 frees it.
   void holdStation(Micrometres length) { held_ = length; }
   /// The length of the station on a side as long as this: the held one, else the one of the fewest
-  /// pieces. -1 when none fits.
+  /// pieces.
   Micrometres stationOn(Micrometres length) const;
   bool hasStation() const { return station_ != nullptr; }
-  Micrometres bridge() const { return bridge_; }
 
  private:
+  struct Known {
+    std::int32_t pieces = -1; ///< of the track with the station, without a bridge
+    Micrometres station = -1;
+  };
+
   int plainPieces(Micrometres length) const;
+  const Known* known(Micrometres length) const;
 
   const StraightRuns* runs_;
   int tracks_;
   Micrometres bridge_;
   const StationLengths* station_;
   Micrometres held_ = 0;
-  struct Known {
-    std::int32_t pieces = -2; ///< not asked for yet
-    Micrometres station = -1;
-  };
-  mutable std::vector<Known> known_;
+  std::vector<Known> known_; ///< by multiples of the grain
 };
 
 } // namespace trassix

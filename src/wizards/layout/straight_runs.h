@@ -25,6 +25,7 @@ class StraightRuns {
 
   Micrometres grain() const { return grain_; }
   Micrometres longest() const;
+  const std::vector<Micrometres>& lengths() const { return lengths_; } ///< longest first
 
   /// How many pieces it takes at least; -1 when no pieces are as long.
   int pieces(Micrometres length) const {
