@@ -163,9 +163,9 @@ bool AxisSearch::lead(Lead& state, std::size_t index, Range range) const {
   const bool last = next == axis_.sides.size();
   const Micrometres left = state.left[group];
   const auto tryLength = [&](Micrometres length) {
-    --*state.tries;
     if (!side.sums->allows(length))
       return false;
+    --*state.tries;
     Range narrowed = range;
     if (!last) {
       state.at[next] = state.at[index] + side.sign * (length + side.corners);
@@ -199,12 +199,15 @@ bool AxisSearch::lead(Lead& state, std::size_t index, Range range) const {
   }
   if (low > high)
     return false;
-  const Micrometres middle = std::clamp(roundedDown(ideal_[index], axis_.grain), low, high);
-  const Micrometres farthest = std::max(middle - low, high - middle);
-  for (Micrometres off = 0; off <= farthest && *state.tries > 0; off += axis_.grain) {
-    if (middle - off >= low && tryLength(middle - off))
-      return true;
-    if (off > 0 && middle + off <= high && tryLength(middle + off))
+  const std::vector<Micrometres>& choices = side.sums->choices();
+  const auto first = std::ranges::lower_bound(choices, low);
+  const auto end = std::ranges::upper_bound(choices, high);
+  auto above = std::lower_bound(first, end, ideal_[index]);
+  auto below = above; // the choices before it
+  while ((below != first || above != end) && *state.tries > 0) {
+    const bool up =
+        below == first || (above != end && *above - ideal_[index] <= ideal_[index] - *(below - 1));
+    if (tryLength(up ? *above++ : *--below))
       return true;
   }
   return false;

@@ -84,6 +84,14 @@ Micrometres SideSums::least() const {
   return station_->lengths().empty() ? -1 : station_->lengths().front().length + bridge_;
 }
 
+const std::vector<Micrometres>& SideSums::choices() const {
+  if (choices_.empty())
+    for (Micrometres length = 0; length <= runs_->longest(); length += runs_->grain())
+      if (allows(length))
+        choices_.push_back(length);
+  return choices_;
+}
+
 Micrometres SideSums::stationOn(Micrometres length) const {
   if (held_ > 0)
     return held_;

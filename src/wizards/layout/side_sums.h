@@ -44,11 +44,16 @@ class SideSums {
   /// Pieces on all tracks, at least; -1 when the side cannot be as long.
   int pieces(Micrometres length) const;
   bool allows(Micrometres length) const { return pieces(length) >= 0; }
+  /// All that it can be, rising.
+  const std::vector<Micrometres>& choices() const;
   /// No side is shorter; -1 when there is none.
   Micrometres least() const;
 
   /// Holds the station to one length; 0 frees it.
-  void holdStation(Micrometres length) { held_ = length; }
+  void holdStation(Micrometres length) {
+    held_ = length;
+    choices_.clear();
+  }
   /// The length of the station on a side as long as this: the held one, else the one of the fewest
   /// pieces.
   Micrometres stationOn(Micrometres length) const;
@@ -69,6 +74,7 @@ class SideSums {
   const StationLengths* station_;
   Micrometres held_ = 0;
   std::vector<Known> known_; ///< by multiples of the grain
+  mutable std::vector<Micrometres> choices_;
 };
 
 } // namespace trassix
