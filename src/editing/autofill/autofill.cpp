@@ -23,6 +23,7 @@ constexpr double kNoGap = 1.0;            // mm: ends as near as this count as m
 constexpr double kStraightFacing = 170.0; // degrees, exclusive
 constexpr double kStraightOffset = 5.0;   // mm off the start's line
 constexpr std::size_t kMostStraightFills = 12;
+constexpr std::size_t kMostSFills = 4;
 constexpr int kMostCurves = 64;
 constexpr double kRadiusTolerance = 3.0; // mm
 constexpr double kAngleFit = 0.5;        // degrees
@@ -107,23 +108,15 @@ std::vector<FillCandidate> straightCandidates(const Gap& gap, TrackSystem system
   return candidates;
 }
 
-/// The connector by which the pieces of a fill are entered.
-std::int32_t entry(const FillCandidate& candidate) {
-  return candidate.reversed ? 1 : 0;
-}
-
 /// Where a piece of a fill would lie.
 struct FillPiece {
   const PieceDef* definition = nullptr;
   Pose pose;
+  std::int32_t enter = 0; ///< the connector by which trains from the gap's start come in
 };
 
-WorldConnector farEnd(const FillPiece& fill, const FillCandidate& candidate) {
-  PlacedPiece piece;
-  piece.x = fill.pose.x;
-  piece.y = fill.pose.y;
-  piece.heading = fill.pose.heading;
-  return ConnectorToWorld(piece, *fill.definition, 1 - entry(candidate));
+WorldConnector farEnd(const FillPiece& fill) {
+  return ConnectorToWorld(pieceAt(fill.pose), *fill.definition, 1 - fill.enter);
 }
 
 std::vector<FillCandidate> arcCandidates(const Gap& gap, TrackSystem system) {
@@ -156,14 +149,68 @@ std::vector<FillCandidate> arcCandidates(const Gap& gap, TrackSystem system) {
 std::vector<FillPiece> fillPieces(const Gap& gap, const FillCandidate& candidate) {
   WorldConnector front = gap.start;
   std::vector<FillPiece> pieces;
-  for (const std::string& article : candidate.articles) {
-    const PieceDef* definition = TrackCatalog::instance().find(article);
+  for (std::size_t i = 0; i < candidate.articles.size(); ++i) {
+    const PieceDef* definition = TrackCatalog::instance().find(candidate.articles[i]);
     if (definition == nullptr || definition->connectors.size() < 2)
       break;
-    pieces.push_back({definition, AttachPose(*definition, entry(candidate), front)});
-    front = farEnd(pieces.back(), candidate);
+    const std::int32_t enter = candidate.reversed != (i >= candidate.turnsBack) ? 1 : 0;
+    pieces.push_back({definition, AttachPose(*definition, enter, front), enter});
+    front = farEnd(pieces.back());
   }
   return pieces;
+}
+
+/// The curves of a system and its straights, for an S.
+std::vector<const PieceDef*> curvesFor(TrackSystem system) {
+  const TrackCatalog& catalog = TrackCatalog::instance();
+  std::vector<const PieceDef*> curves;
+  for (std::int32_t i = 0; i < catalog.count(); ++i)
+    if (const PieceDef& curve = *catalog.at(i); mayFill(curve, system) &&
+                                                curve.kind == PieceKind::Curve &&
+                                                curve.radius > 0 && curve.angle > 0)
+      curves.push_back(&curve);
+  return curves;
+}
+
+/// Two equal curves, the second one back again, with straights between them. Only those are
+/// offered whose last end is joined.
+std::vector<FillCandidate> sCandidates(const Gap& gap, TrackSystem system) {
+  std::vector<FillCandidate> candidates;
+  if (headingDifference(gap.start.heading, gap.end.heading) < 180 - kClosingFacing)
+    return candidates;
+  const std::vector<PlainStraight> straights = plainStraights(system);
+  std::vector<double> lengths;
+  for (const PlainStraight& straight : straights)
+    lengths.push_back(straight.length);
+  const Point offset = offsets(gap);
+  for (const PieceDef* curve : curvesFor(system)) {
+    const double turn = toRadians(curve->angle);
+    const double ahead = offset.x - 2 * curve->radius * std::sin(turn);
+    const double across = std::abs(offset.y) - 2 * curve->radius * (1 - std::cos(turn));
+    const double between = ahead * std::cos(turn) + across * std::sin(turn);
+    if (std::hypot(ahead, across) > std::abs(between) + kJoinReach || between < -kJoinReach)
+      continue;
+    std::vector<std::vector<std::size_t>> runs = straightFills(lengths, std::max(between, 0.0));
+    if (between < kJoinReach)
+      runs = {{}};
+    for (const std::vector<std::size_t>& run : runs) {
+      FillCandidate fill{{curve->article}, 2 * curve->radius * turn, offset.y < 0};
+      for (const std::size_t i : run) {
+        fill.articles.push_back(straights[i].piece->article);
+        fill.total += lengths[i];
+      }
+      fill.turnsBack = fill.articles.size();
+      fill.articles.push_back(curve->article);
+      if (!restOf(gap, fill).joins())
+        continue;
+      candidates.push_back(std::move(fill));
+      break;
+    }
+  }
+  std::ranges::stable_sort(candidates, {},
+                           [](const FillCandidate& c) { return c.articles.size(); });
+  candidates.resize(std::min(candidates.size(), kMostSFills));
+  return candidates;
 }
 
 } // namespace
@@ -186,10 +233,13 @@ std::optional<Autofill> solveAutofill(const Layout& layout, std::int32_t a, std:
   if (result.mixedSystems)
     return result;
   result.gap = findGap(*start, *startDefinition, *end, *endDefinition);
-  if (result.gap)
-    result.candidates = result.gap->kind == GapKind::Straight
-                            ? straightCandidates(*result.gap, startDefinition->system)
-                            : arcCandidates(*result.gap, startDefinition->system);
+  if (!result.gap)
+    return result;
+  const TrackSystem system = startDefinition->system;
+  result.candidates = result.gap->kind == GapKind::Straight
+                          ? straightCandidates(*result.gap, system)
+                          : arcCandidates(*result.gap, system);
+  std::ranges::move(sCandidates(*result.gap, system), std::back_inserter(result.candidates));
   return result;
 }
 
@@ -205,7 +255,7 @@ Rest restOf(const Gap& gap, const FillCandidate& candidate, double limit) {
   WorldConnector last = gap.start;
   double run = 0;
   for (const FillPiece& piece : fillPieces(gap, candidate)) {
-    last = farEnd(piece, candidate);
+    last = farEnd(piece);
     run += runTo(*piece.definition, 1);
   }
   Rest rest{std::hypot(last.x - gap.end.x, last.y - gap.end.y), std::abs(gap.rise), 0, gap.graded};
@@ -231,20 +281,19 @@ EditResult placeFill(Layout& layout, const Gap& gap, const FillCandidate& candid
     return {{}, beyondPlan()};
   UndoScope step(layout);
   const std::int32_t level = start->level;
-  const std::int32_t enter = entry(candidate);
   std::vector<std::int32_t> placed;
   Joint before{gap.startPiece, gap.start.index};
   for (const FillPiece& piece : pieces) {
     const std::int32_t id = addPiece(layout, *piece.definition, piece.pose, level, height);
-    join(layout, id, enter, before.target, before.tconn);
+    join(layout, id, piece.enter, before.target, before.tconn);
     inheritElevation(layout, id, before.target, before.tconn);
     placed.push_back(id);
-    before = {id, 1 - enter};
+    before = {id, 1 - piece.enter};
   }
   const Rest rest = restOf(gap, candidate, limit);
   if (rest.reaches())
-    layBetween(layout, placed, {placed.front(), enter}, {before.target, before.tconn}, height,
-               rest.slope == 0 ? height : height + gap.rise);
+    layBetween(layout, placed, {placed.front(), pieces.front().enter},
+               {before.target, before.tconn}, height, rest.slope == 0 ? height : height + gap.rise);
   if (rest.joins() && openAt(layout, gap.endPiece, gap.end.index))
     join(layout, before.target, before.tconn, gap.endPiece, gap.end.index);
   std::vector<std::int32_t> sorted = placed; // ids may have started over

@@ -1,5 +1,5 @@
-// Closing the space between two open ends with catalogue pieces: a run of straights, or one arc of
-// identical curves.
+// Closing the space between two open ends with catalogue pieces: a run of straights, one arc of
+// identical curves, or an S of two equal curves with straights between them.
 #pragma once
 
 #include "document/layout.h"
@@ -28,15 +28,19 @@ struct Gap {
 };
 
 struct FillCandidate {
+  static constexpr std::size_t kNever = static_cast<std::size_t>(-1);
+
   std::vector<std::string> articles; ///< in placing order, from the gap's start
   double total = 0;                  ///< summed length in mm, for an arc the turned degrees
   bool reversed = false;             ///< curves are entered by their connector 1: a left turn
+  std::size_t turnsBack = kNever;    ///< from this piece on the other way round: the end of an S
 
+  bool isS() const { return turnsBack != kNever; }
   bool operator==(const FillCandidate&) const = default;
 };
 
-/// What there is to choose from, best first. Without candidates it says why: the systems differ, or
-/// there is no gap, or nothing fills the gap.
+/// What there is to choose from, best first; an S comes after all others. Without candidates it
+/// says why: the systems differ, or there is no gap, or nothing fills the gap.
 struct Autofill {
   bool mixedSystems = false;
   std::optional<Gap> gap;

@@ -61,7 +61,7 @@ std::string autofillPrompt(const Gap& gap) {
 }
 
 std::string autofillRow(GapKind kind, const FillCandidate& candidate) {
-  if (kind == GapKind::Arc)
+  if (kind == GapKind::Arc && !candidate.isS())
     return std::to_string(candidate.articles.size()) + " x " +
            (candidate.articles.empty() ? "" : displayName(candidate.articles.front())) + "  (" +
            formatFixed(candidate.total, 1) + " deg)";

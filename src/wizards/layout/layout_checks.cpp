@@ -75,14 +75,16 @@ double leastEdgeDistance(const std::vector<PlacedPiece>& pieces, const Polygon& 
   double least = std::numeric_limits<double>::max();
   for (const PlacedPiece& piece : pieces)
     for (const Polygon& bed : bedsOf(piece)) {
-      if (!std::ranges::all_of(bed, [&](Point p) { return inside(table, p); }))
-        return -1;
-      forEachEdge(table, [&](Point a, Point b) {
-        for (const Point& p : bed)
-          least = std::min(least, distanceToEdge(p, a, b));
-        forEachEdge(bed,
-                    [&](Point c, Point d) { least = std::min(least, distanceToEdge(a, c, d)); });
-      });
+      for (const Point& p : bed) {
+        double distance = std::numeric_limits<double>::max();
+        forEachEdge(table, [&](Point a, Point b) {
+          distance = std::min(distance, distanceToEdge(p, a, b));
+        });
+        least = std::min(least, inside(table, p) ? distance : -distance);
+      }
+      for (const Point& corner : table)
+        forEachEdge(
+            bed, [&](Point a, Point b) { least = std::min(least, distanceToEdge(corner, a, b)); });
     }
   return least;
 }

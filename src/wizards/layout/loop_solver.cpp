@@ -13,11 +13,12 @@ namespace trassix {
 
 namespace {
 
-constexpr int kGrid = 33;              ///< ways to round an inside corner that are tried
-constexpr long kTries = 20'000;        ///< for one pair of axes at least
-constexpr long kShare = 20;            ///< of all tries, for one pair of axes
-constexpr long kAllTries = 6'000'000;  ///< for loops that close exactly
-constexpr long kMisfitTries = 400'000; ///< for those of one misfit
+constexpr int kGrid = 33;                  ///< ways to round an inside corner that are tried
+constexpr long kTries = 60'000;            ///< for one pair of axes
+constexpr long kAllTries = 3'000'000;      ///< for loops that close exactly
+constexpr long kMisfitTries = 400'000;     ///< for those of one misfit
+constexpr std::size_t kThorough = 12;      ///< pairs where nothing was found so
+constexpr long kThoroughTries = 1'500'000; ///< for one of them
 constexpr long kTriesInStep = 100'000;
 constexpr std::size_t kPairs = 24; ///< of equally long loops that are compared
 constexpr int kRefused = 60;       ///< loops that are not accepted before it gives up
@@ -194,8 +195,8 @@ bool LoopSolver::hasRoom() {
   return !pairsOf(kGrid, 0, 0, nullptr).empty();
 }
 
-Steps LoopSolver::longestOf(const std::vector<Pair>& pairs, Micrometres mostTotal, long& tries,
-                            std::optional<LoopPlan>& found) const {
+Steps LoopSolver::longestOf(const std::vector<const Pair*>& pairs, Micrometres mostTotal,
+                            long& tries, long share, std::optional<LoopPlan>& found) const {
   const auto offOf = [this](const LoopPlan& plan) {
     Micrometres off = 0;
     for (std::size_t i = 0; i < path_.count(); ++i)
@@ -203,7 +204,8 @@ Steps LoopSolver::longestOf(const std::vector<Pair>& pairs, Micrometres mostTota
     return off;
   };
   std::size_t asLong = 0;
-  for (const Pair& pair : pairs) {
+  for (const Pair* const candidate : pairs) {
+    const Pair& pair = *candidate;
     const Micrometres best = found ? found->total() : -1;
     if (pair.longest() < best || asLong > kPairs || tries <= 0)
       break;
@@ -216,7 +218,6 @@ Steps LoopSolver::longestOf(const std::vector<Pair>& pairs, Micrometres mostTota
       Micrometres total = axis.longestTotal();
       if (const Micrometres over = total + other - mostTotal; over > 0)
         total -= (over + axis.step() - 1) / axis.step() * axis.step();
-      const long share = std::max(tries / kShare, std::min(tries, kTries));
       long left = share;
       for (; !sums[k] && total >= axis.leastTotal() && total + otherMost >= best && left > 0;
            total -= axis.step()) {
@@ -265,25 +266,38 @@ Steps LoopSolver::longest(Micrometres mostTotal, Accept accept, std::optional<Lo
     stationApart_ = apart;
     near_ = near;
     for (const auto& [x, y] : misfits) {
+      const bool exact = x == 0 && y == 0;
       const std::vector<Pair> pairs = pairsOf(kGrid, x, y, nullptr);
       co_yield 0;
-      Micrometres most = mostTotal;
-      long tries = x == 0 && y == 0 ? kAllTries : kMisfitTries;
-      for (int refused = 0; refused < kRefused && !pairs.empty(); ++refused) {
-        std::optional<LoopPlan> plan;
-        for (Steps steps = longestOf(pairs, most, tries, plan); steps.step();)
-          co_yield 0;
-        if (!plan)
-          break;
-        if (accept(*plan)) {
-          found = std::move(plan);
-          co_return;
-        }
-        most = plan->total() - runs_.grain();
-        co_yield 0;
-      }
       if (pairs.empty())
         break;
+      // Where sums are few and far between, some pairs are searched through and through.
+      for (const bool thorough : {false, true}) {
+        if (thorough && !exact)
+          break;
+        std::vector<const Pair*> some;
+        const std::size_t step = thorough ? (pairs.size() + kThorough - 1) / kThorough : 1;
+        for (std::size_t i = 0; i < pairs.size(); i += step)
+          some.push_back(&pairs[i]);
+        const long share = thorough ? kThoroughTries : kTries;
+        long tries = thorough ? kThoroughTries * 2 * static_cast<long>(kThorough)
+                     : exact  ? kAllTries
+                              : kMisfitTries;
+        Micrometres most = mostTotal;
+        for (int refused = 0; refused < kRefused; ++refused) {
+          std::optional<LoopPlan> plan;
+          for (Steps steps = longestOf(some, most, tries, share, plan); steps.step();)
+            co_yield 0;
+          if (!plan)
+            break;
+          if (accept(*plan)) {
+            found = std::move(plan);
+            co_return;
+          }
+          most = plan->total() - runs_.grain();
+          co_yield 0;
+        }
+      }
     }
   }
 }

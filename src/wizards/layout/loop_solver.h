@@ -71,8 +71,8 @@ class LoopSolver {
   std::vector<Pair> pairsOf(int grid, Micrometres misfitX, Micrometres misfitY,
                             const std::vector<Window>* windows) const;
   LoopPlan planOf(const Pair& pair, const AxisSums& level, const AxisSums& upright) const;
-  Steps longestOf(const std::vector<Pair>& pairs, Micrometres mostTotal, long& tries,
-                  std::optional<LoopPlan>& found) const;
+  Steps longestOf(const std::vector<const Pair*>& pairs, Micrometres mostTotal, long& tries,
+                  long share, std::optional<LoopPlan>& found) const;
   Steps fewestValues(const std::vector<Window>& windows,
                      std::vector<std::vector<AxisSearch::Value>>& values) const;
 
