@@ -19,9 +19,13 @@ constexpr long kAllTries = 3'000'000;      ///< for loops that close exactly
 constexpr long kMisfitTries = 400'000;     ///< for those of one misfit
 constexpr std::size_t kThorough = 12;      ///< pairs where nothing was found so
 constexpr long kThoroughTries = 1'500'000; ///< for one of them
-constexpr long kTriesInStep = 100'000;
-constexpr std::size_t kPairs = 24; ///< of equally long loops that are compared
-constexpr int kRefused = 60;       ///< loops that are not accepted before it gives up
+constexpr long kTriesInStep = 25'000;
+constexpr long kFewTries = 150'000;    ///< for one number of pieces
+constexpr std::size_t kPairs = 24;     ///< of equally long loops that are compared
+constexpr std::size_t kManyPairs = 6;  ///< where loops in plenty are looked through
+constexpr std::size_t kManySums = 400; ///< of one axis
+constexpr int kManyRefused = 3000;
+constexpr int kRefused = 60; ///< loops that are not accepted before it gives up
 
 /// No side is longer than all of the table.
 Micrometres extentOf(const TablePath& path) {
@@ -244,8 +248,73 @@ Steps LoopSolver::longestOf(const std::vector<const Pair*>& pairs, Micrometres m
   }
 }
 
+/// Where few of the loops that close are accepted: sides of both axes in every combination, the
+/// longest first.
+Steps LoopSolver::longestOfMany(const std::vector<Pair>& pairs, Micrometres mostTotal,
+                                Accept accept, std::optional<LoopPlan>& found) const {
+  struct Combination {
+    Micrometres total = 0;
+    std::size_t level = 0;
+    std::size_t upright = 0;
+  };
+  int refused = 0;
+  for (std::size_t p = 0; p < std::min(pairs.size(), kManyPairs); ++p) {
+    std::array<std::vector<std::pair<Micrometres, AxisSums>>, 2> sums;
+    for (const std::size_t k : {0U, 1U}) {
+      const AxisSearch& axis = k == 0 ? pairs[p].level : pairs[p].upright;
+      long tries = kThoroughTries;
+      for (Micrometres total = std::min(axis.longestTotal(), mostTotal / axis.step() * axis.step() +
+                                                                 axis.longestTotal() % axis.step());
+           total >= axis.leastTotal() && tries > 0 && sums[k].size() < kManySums;
+           total -= axis.step()) {
+        const long before = tries;
+        if (std::optional<AxisSums> made = axis.withTotal(total, tries))
+          sums[k].push_back({total, std::move(*made)});
+        if (before / kTriesInStep != tries / kTriesInStep)
+          co_yield 0;
+      }
+    }
+    std::vector<Combination> all;
+    for (std::size_t i = 0; i < sums[0].size(); ++i)
+      for (std::size_t k = 0; k < sums[1].size(); ++k)
+        if (const Micrometres total = sums[0][i].first + sums[1][k].first; total <= mostTotal)
+          all.push_back({total, i, k});
+    std::ranges::stable_sort(all, std::greater<>(), &Combination::total);
+    co_yield 0;
+    for (const Combination& both : all) {
+      if (++refused > kManyRefused)
+        co_return;
+      LoopPlan plan = planOf(pairs[p], sums[0][both.level].second, sums[1][both.upright].second);
+      if (accept(plan)) {
+        found = std::move(plan);
+        co_return;
+      }
+      co_yield 0;
+    }
+  }
+}
+
+/// No loop is longer than all straights at home.
+Micrometres LoopSolver::stockTotal() const {
+  Micrometres total = 0;
+  for (const PlainStraight& straight : plainStraights(task_.system))
+    if (const auto own = task_.stock.find(straight.piece->article); own != task_.stock.end())
+      total += own->second * toMicrometres(straight.length);
+  for (const std::unique_ptr<SideSums>& side : sides_)
+    total += std::max<Micrometres>(side->least(), 0) * task_.tracks();
+  return total / task_.tracks();
+}
+
 Steps LoopSolver::longest(Micrometres mostTotal, Accept accept, std::optional<LoopPlan>& found) {
   found.reset();
+  if (task_.ownStockOnly) {
+    const std::vector<Pair> pairs = pairsOf(kGrid, 0, 0, nullptr);
+    co_yield 0;
+    for (Steps steps = longestOfMany(pairs, std::min(mostTotal, stockTotal()), accept, found);
+         steps.step();)
+      co_yield 0;
+    co_return;
+  }
   const bool complex = path_.count() > 4;
   // Exactly closed first; misfits only where there is no other loop, the least of them first.
   std::vector<std::pair<Micrometres, Micrometres>> misfits{{0, 0}};
@@ -371,7 +440,7 @@ Steps LoopSolver::fewest(const LoopPlan& model, Micrometres play, int most, Acce
       const int other = k == 0 ? least[1] : pieces[0];
       const int limit = std::min((found ? found->pieces : most) - other, greatest[k]);
       for (pieces[k] = least[k]; !sums[k] && pieces[k] <= limit; ++pieces[k]) {
-        long tries = kTriesInStep * 3;
+        long tries = kFewTries;
         sums[k] = (k == 0 ? pair.level : pair.upright).withPieces(byAxis[k], pieces[k], tries);
         co_yield 0;
         if (sums[k])

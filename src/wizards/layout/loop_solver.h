@@ -73,6 +73,9 @@ class LoopSolver {
   LoopPlan planOf(const Pair& pair, const AxisSums& level, const AxisSums& upright) const;
   Steps longestOf(const std::vector<const Pair*>& pairs, Micrometres mostTotal, long& tries,
                   long share, std::optional<LoopPlan>& found) const;
+  Steps longestOfMany(const std::vector<Pair>& pairs, Micrometres mostTotal, Accept accept,
+                      std::optional<LoopPlan>& found) const;
+  Micrometres stockTotal() const;
   Steps fewestValues(const std::vector<Window>& windows,
                      std::vector<std::vector<AxisSearch::Value>>& values) const;
 

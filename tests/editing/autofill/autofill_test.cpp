@@ -206,5 +206,33 @@ TEST(Autofill, ArcsCloseAnyCornerSemicircleOrRestOfACircle) {
             "3 x 24230 (30°) R2 - 437.5mm (17-1/4)  (90.0 deg)");
 }
 
+TEST(Autofill, GapsShapedLikeAnSGetRowsAfterAllOthers) {
+  for (const auto& [curve, between] :
+       {std::pair{"24115", "24188"}, {"24224", "24360"}, {"24107", "24094"}, {"24206", "24172"}})
+    for (const bool left : {false, true}) {
+      Plan whole = Plan().place("24188");
+      (left ? whole.extendLeft(curve) : whole.extend(curve)).extend(between);
+      (left ? whole.extend(curve) : whole.extendLeft(curve)).extend("24188");
+      Layout layout = whole.layout;
+      std::erase_if(layout.edit().pieces,
+                    [](const PlacedPiece& piece) { return piece.id > 1 && piece.id < 5; });
+      layout.editPiece(1)->joints = {{}, {}};
+      layout.editPiece(5)->joints = {{}, {}};
+      const auto fills = solveAutofill(layout, 1, 5);
+      const std::vector<std::string> wanted{curve, between, curve};
+      const auto row = std::ranges::find(fills->candidates, wanted, &FillCandidate::articles);
+      ASSERT_NE(row, fills->candidates.end()) << curve << left;
+      EXPECT_TRUE(std::ranges::is_sorted(fills->candidates, {}, &FillCandidate::isS));
+      EXPECT_THAT(autofillRow(fills->gap->kind, *row), testing::HasSubstr(" + "));
+      placeFill(layout, *fills->gap, *row);
+      EXPECT_EQ(openEnds(layout), 2);
+      EXPECT_LT(largestPlay(layout).distance, 1e-6);
+    }
+  // Off by more than the last end may be, nothing is offered.
+  Plan apart = Plan().place("24188").place("24188", {700, 60, 3});
+  EXPECT_THAT(solve(apart.layout).candidates,
+              testing::Not(testing::Contains(testing::Property(&FillCandidate::isS, true))));
+}
+
 } // namespace
 } // namespace trassix
