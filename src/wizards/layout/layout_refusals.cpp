@@ -14,6 +14,8 @@ namespace {
 
 constexpr Micrometres kAny = std::numeric_limits<Micrometres>::max();
 
+constexpr double kLargestTable = 30000; ///< mm, so that a search stays short
+
 /// Does a longest loop of the task.
 Steps findAny(LayoutTask task, std::optional<BuiltLoop>& found) {
   LoopBuilds builds(std::move(task));
@@ -210,6 +212,17 @@ std::optional<LayoutRefusal> taskRefusal(const LayoutTask& task, std::int32_t un
   if (std::string problem = tableProblem(task.outline); !problem.empty()) {
     refusal.reason = std::move(problem);
     refusal.remedy = tr("Choose another table, or drag its corners.");
+    return refusal;
+  }
+  const Size size = sizeOf(task.outline);
+  if (std::max(size.width, size.depth) > kLargestTable) {
+    refusal.reason = tr("The table is larger than %1%.", {formatBriefLength(kLargestTable, units)});
+    return refusal;
+  }
+  const std::size_t sides = task.outline.size();
+  if ((task.station && task.station->side >= sides) ||
+      (task.bridge && task.bridge->side >= sides)) {
+    refusal.reason = tr("The table has no such side.");
     return refusal;
   }
   const std::vector<double> radii = cornerRadii(task.system);

@@ -74,6 +74,8 @@ TEST(LayoutWizard, RefusesWithReasonAndRemedy) {
   LayoutTask near = rectangleTask(2000, 1000);
   near.radius = 360;
   near.secondRadius = 400;
+  LayoutTask astray = rectangleTask(2000, 1000);
+  astray.bridge = BridgeWish{4, BridgeForm::Arch};
   LayoutTask poor = rectangleTask(2000, 1000);
   poor.ownStockOnly = true;
   poor.stock = {{"24130", 11}, {"24188", 20}};
@@ -85,6 +87,8 @@ TEST(LayoutWizard, RefusesWithReasonAndRemedy) {
                                    {corners, "10 corners"},
                                    {far, "at most 773.6 mm"},
                                    {near, "too near"},
+                                   {astray, "no such side"},
+                                   {rectangleTask(2000, 30001), "larger than 30000 mm"},
                                    {poor, "1 x 24130"}}) {
     const LayoutSearch search = sought(task);
     EXPECT_THAT(search.proposals(), IsEmpty());
