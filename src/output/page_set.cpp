@@ -121,8 +121,8 @@ std::string PageSet::nameOf(std::size_t page) const {
   case PageKind::TileOverview:
     return onDeck(tr("Overview"));
   case PageKind::Parts:
-    return tr("Parts list %1%", {std::ranges::count(pages.begin(), pages.begin() + page + 1,
-                                                    PageKind::Parts, &Page::kind)});
+    return tr("Parts list %1%",
+              {std::ranges::count(std::span(pages).first(page + 1), PageKind::Parts, &Page::kind)});
   default:
     return deck.empty() ? tr("The plan") : deck;
   }

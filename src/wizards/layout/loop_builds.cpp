@@ -21,9 +21,11 @@ std::vector<PlainStraight> straightsFor(const LayoutTask& task) {
       const auto own = task.stock.find(straight.piece->article);
       return own == task.stock.end() || own->second <= 0;
     });
-  const auto same = std::ranges::unique(
-      straights, {}, [](const PlainStraight& straight) { return toMicrometres(straight.length); });
-  straights.erase(same.begin(), same.end());
+  straights.erase(std::unique(straights.begin(), straights.end(),
+                              [](const PlainStraight& a, const PlainStraight& b) {
+                                return toMicrometres(a.length) == toMicrometres(b.length);
+                              }),
+                  straights.end());
   return straights;
 }
 
