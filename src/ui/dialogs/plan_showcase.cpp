@@ -1,9 +1,7 @@
 #include "ui/dialogs/plan_showcase.h"
 
 #include "document/plan_file.h"
-#include "editing/canvas/layout_painter.h"
-#include "editing/selection/content_box.h"
-#include "ui/canvas/gc_surface.h"
+#include "ui/canvas/small_pictures.h"
 #include "ui/widgets/accept_later.h"
 #include "ui/widgets/picture_panel.h"
 #include "ui/widgets/problem_text.h"
@@ -23,24 +21,6 @@ namespace {
 
 constexpr int kPictureWidth = 380;
 constexpr int kPictureHeight = 270;
-constexpr double kMarginPx = 12;
-
-void paintPlan(wxGraphicsContext& context, const wxSize& size, const trassix::Layout& plan) {
-  GcSurface surface(context);
-  const double width = size.x;
-  const double height = size.y;
-  ViewTransform view;
-  if (const std::optional<Box> box = contentBox(plan)) {
-    const double zoom =
-        std::min({(width - 2 * kMarginPx) / std::max(box->maxX - box->minX, 1.0),
-                  (height - 2 * kMarginPx) / std::max(box->maxY - box->minY, 1.0), 1.0});
-    view = ViewTransform::ofScale(zoom, {width / 2 - (box->minX + box->maxX) / 2 * zoom,
-                                         height / 2 - (box->minY + box->maxY) / 2 * zoom});
-  }
-  PaintOptions options;
-  options.grid = options.labels = options.scaleBar = false;
-  LayoutPainter(surface, {width, height}, view, options).paint(plan, PlanIndex(plan));
-}
 
 } // namespace
 
@@ -58,7 +38,7 @@ PlanShowcase::PlanShowcase(wxWindow* parent, const std::vector<Column>& columns,
                         FromDIP(column.width));
   picture_ = new PicturePanel(this, FromDIP(wxSize(kPictureWidth, kPictureHeight)),
                               [this](wxGraphicsContext& context, const wxSize& size, bool) {
-                                paintPlan(context, size, plan_);
+                                paintSmallPlan(context, size, plan_);
                               });
   picture_->SetName("planPicture");
   note_ = new wxStaticText(this, wxID_ANY, wxEmptyString);
