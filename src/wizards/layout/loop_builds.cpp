@@ -76,7 +76,7 @@ void LoopBuilds::hand(std::optional<LoopPlan>& plan, std::optional<BuiltLoop>& f
 
 Steps LoopBuilds::longest(Micrometres mostTotal, std::optional<BuiltLoop>& found) {
   std::optional<LoopPlan> plan;
-  const auto accept = [this](const LoopPlan& loop) { return build(loop, *solver_); };
+  const LoopSolver::Accept accept = [this](const LoopPlan& loop) { return build(loop, *solver_); };
   for (Steps steps = solver_->longest(mostTotal, accept, plan); steps.step();)
     co_yield 0;
   hand(plan, found);
@@ -84,7 +84,7 @@ Steps LoopBuilds::longest(Micrometres mostTotal, std::optional<BuiltLoop>& found
 
 Steps LoopBuilds::longestStation(Micrometres mostTotal, std::optional<BuiltLoop>& found) {
   std::optional<LoopPlan> plan;
-  const auto accept = [this](const LoopPlan& loop) { return build(loop, *solver_); };
+  const LoopSolver::Accept accept = [this](const LoopPlan& loop) { return build(loop, *solver_); };
   for (Steps steps = solver_->longestStation(mostTotal, accept, plan); steps.step();)
     co_yield 0;
   hand(plan, found);
@@ -92,7 +92,7 @@ Steps LoopBuilds::longestStation(Micrometres mostTotal, std::optional<BuiltLoop>
 
 Steps LoopBuilds::fewestPieces(const LoopPlan& model, std::optional<BuiltLoop>& found) {
   std::optional<LoopPlan> plan;
-  const auto accept = [this](const LoopPlan& loop) { return build(loop, *solver_); };
+  const LoopSolver::Accept accept = [this](const LoopPlan& loop) { return build(loop, *solver_); };
   for (Steps steps = solver_->fewest(model, shortestStraight(), std::numeric_limits<int>::max(),
                                      accept, plan);
        steps.step();)
@@ -115,7 +115,9 @@ Steps LoopBuilds::fewestKinds(const LoopPlan& model, std::optional<BuiltLoop>& f
       LoopSolver solver(task_, path_, kit_.entry, std::move(kinds));
       co_yield 0;
       std::optional<LoopPlan> plan;
-      const auto accept = [this, &solver](const LoopPlan& loop) { return build(loop, solver); };
+      const LoopSolver::Accept accept = [this, &solver](const LoopPlan& loop) {
+        return build(loop, solver);
+      };
       const int most = best ? best->pieces - 1 : std::numeric_limits<int>::max();
       for (Steps steps = solver.fewest(model, shortestStraight(), most, accept, plan);
            steps.step();)
