@@ -23,7 +23,7 @@ std::string keyOf(const std::filesystem::path& file) {
 
 /// Of articles and places of all track, as a file keeps them, and of the table.
 std::uint64_t fingerprintOf(const Layout& layout) {
-  constexpr double kDecimals = 1000; // coarser than what files round
+  constexpr double kDecimals = 10000; // as files round, which coarser ones might round once more
   std::uint64_t hash = 0xcbf29ce484222325ULL;
   const auto mixByte = [&hash](std::uint64_t byte) { hash = (hash ^ byte) * 0x100000001b3ULL; };
   const auto mix = [&](double value) {
