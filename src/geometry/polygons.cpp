@@ -37,6 +37,16 @@ bool anyEdge(const Polygon& polygon, Test test) {
   return false;
 }
 
+Box boxOf(const Polygon& polygon) {
+  if (polygon.empty())
+    return {};
+  Box box{polygon[0].x, polygon[0].y, polygon[0].x, polygon[0].y};
+  for (const Point& p : polygon)
+    box = {std::min(box.minX, p.x), std::min(box.minY, p.y), std::max(box.maxX, p.x),
+           std::max(box.maxY, p.y)};
+  return box;
+}
+
 /// Clips the edge by the four sides of the box and sees whether anything is left.
 bool edgeTouches(Point a, Point b, const Box& box) {
   double from = 0;
@@ -100,6 +110,25 @@ bool touches(const Polygon& polygon, const Box& box) {
 
 bool liesIn(const Polygon& polygon, const Box& box) {
   return std::all_of(polygon.begin(), polygon.end(), [&](Point p) { return holds(box, p); });
+}
+
+Point topLeft(const Polygon& polygon) {
+  const Box box = boxOf(polygon);
+  return {box.minX, box.minY};
+}
+
+Polygon turnedOver(Polygon polygon) {
+  const Box box = boxOf(polygon);
+  for (Point& p : polygon)
+    p.x = box.minX + box.maxX - p.x;
+  return polygon;
+}
+
+Polygon turnedRight(Polygon polygon) {
+  const Box box = boxOf(polygon);
+  for (Point& p : polygon)
+    p = {box.minX + box.maxY - p.y, box.minY + p.x - box.minX};
+  return polygon;
 }
 
 std::string outlineProblem(const Polygon& corners) {

@@ -25,6 +25,14 @@ bool nearOutline(const Polygon& polygon, Point at, double tolerance);
 bool touches(const Polygon& polygon, const Box& box);
 bool liesIn(const Polygon& polygon, const Box& box);
 
+/// Of the box around it; the origin for no corners.
+Point topLeft(const Polygon& polygon);
+
+/// Left to right, where it lies.
+Polygon turnedOver(Polygon polygon);
+/// By a quarter, with the top left corner of its box staying.
+Polygon turnedRight(Polygon polygon);
+
 /// Why these corners are no outline of an area, in one sentence; empty when they are. An outline
 /// has three corners within the limits of a plan and neither crosses nor touches itself.
 std::string outlineProblem(const Polygon& corners);

@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace trassix {
 
@@ -20,41 +19,9 @@ namespace {
 
 constexpr double kSame = 0.001; // mm: plans are saved with four decimals
 
-Point topLeft(const std::vector<Point>& outline) {
-  constexpr double kFar = std::numeric_limits<double>::max();
-  Point corner{kFar, kFar};
-  for (const Point& p : outline)
-    corner = {std::min(corner.x, p.x), std::min(corner.y, p.y)};
-  return corner;
-}
-
 std::vector<Point> movedTo(std::vector<Point> outline, Point by) {
   for (Point& p : outline)
     p = {p.x + by.x, p.y + by.y};
-  return outline;
-}
-
-Point bottomRight(const std::vector<Point>& outline) {
-  Point corner = outline.empty() ? Point{} : outline.front();
-  for (const Point& p : outline)
-    corner = {std::max(corner.x, p.x), std::max(corner.y, p.y)};
-  return corner;
-}
-
-/// Left to right, where it lies.
-std::vector<Point> turnedOver(std::vector<Point> outline) {
-  const double ends = topLeft(outline).x + bottomRight(outline).x;
-  for (Point& p : outline)
-    p.x = ends - p.x;
-  return outline;
-}
-
-/// By a quarter, with the top left corner of its box staying.
-std::vector<Point> turnedRight(std::vector<Point> outline) {
-  const Point corner = topLeft(outline);
-  const double depth = bottomRight(outline).y - corner.y;
-  for (Point& p : outline)
-    p = {corner.x + depth - (p.y - corner.y), corner.y + (p.x - corner.x)};
   return outline;
 }
 

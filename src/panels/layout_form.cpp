@@ -2,6 +2,7 @@
 
 #include "catalog/scenery_catalog.h"
 #include "document/layout.h"
+#include "geometry/polygons.h"
 #include "measures/measure_format.h"
 #include "panels/baseboard_shape.h"
 #include "texts/texts.h"
@@ -17,6 +18,7 @@ namespace {
 constexpr double kLongest = 100000; ///< mm that can be typed
 constexpr double kLeastMeasure = 50;
 constexpr double kFarthestFromEdge = 2000;
+constexpr double kSameLength = 1e-6;
 constexpr double kNotch = 3; ///< a new notch takes such a part of its side
 
 BoardKind boardKindOf(LayoutForm::Table table) {
@@ -83,13 +85,28 @@ std::size_t rowOf(const std::vector<double>& lengths, double length) {
   return 0;
 }
 
+double lengthOf(const Polygon& outline, std::size_t side) {
+  const Point from = outline[side];
+  const Point to = outline[(side + 1) % outline.size()];
+  return std::hypot(to.x - from.x, to.y - from.y);
+}
+
+/// Of all but one; the first of several.
+std::size_t longestSide(const Polygon& outline, std::size_t butFor) {
+  std::size_t longest = butFor == 0 ? 1 : 0;
+  for (std::size_t side = longest + 1; side < outline.size(); ++side)
+    if (side != butFor && lengthOf(outline, side) > lengthOf(outline, longest) + kSameLength)
+      longest = side;
+  return longest;
+}
+
 } // namespace
 
 LayoutForm::LayoutForm(const Layout& layout, TrackSystem system, PieceStock stock,
                        const std::optional<RememberedLayout>& remembered)
     : layout_(layout), units_(layout.settings().units),
-      own_(withoutNeedlessCorners(layout.settings().baseboard)), distance_(lengthEntry(0)),
-      usableLength_(lengthEntry(0)) {
+      own_(withoutNeedlessCorners(layout.settings().baseboard)), sideLength_(lengthEntry(0)),
+      distance_(lengthEntry(0)), usableLength_(lengthEntry(0)) {
   const std::vector<TrackSystem> known = systems();
   if (std::ranges::find(known, system) == known.end())
     system = known.front();
@@ -125,13 +142,15 @@ void LayoutForm::takeTask(const LayoutTask& task) {
   usableEntered_ = station_;
   bridge_ = task.bridge.has_value();
   bridgeWish_ = task.bridge.value_or(BridgeWish{});
+  stationSideSet_ = station_;
+  bridgeSideSet_ = bridge_;
   if (table_ == Table::Own)
     task_.outline = own_;
   for (std::size_t i = 0; i < kMeasures; ++i)
     measures_.push_back({usualMeasures(Table::Rectangle, gaugeOf(task.system)).at(i), units_,
                          kLeastMeasure, kLongest});
   fillRadii();
-  takeStation();
+  takeSides();
 }
 
 void LayoutForm::setSystem(TrackSystem system) {
@@ -177,10 +196,12 @@ void LayoutForm::takeStation() {
   if (!usableEntered_)
     usableLength_ = lengthEntry(usualStationLength(task_.system) / 3);
   const std::size_t sides = task_.outline.size();
-  if (stationWish_.side >= sides)
-    stationWish_.side = 0;
-  if (bridgeWish_.side >= sides)
-    bridgeWish_.side = 0;
+  stationSideSet_ = stationSideSet_ && stationWish_.side < sides;
+  bridgeSideSet_ = bridgeSideSet_ && bridgeWish_.side < sides;
+  if (!stationSideSet_)
+    stationWish_.side = longestSide(task_.outline, sides);
+  if (!bridgeSideSet_)
+    bridgeWish_.side = longestSide(task_.outline, stationWish_.side);
   stationWish_.usableLength = usableLength_.mm();
   if (!trassix::hasBridge(task_.system, bridgeWish_.form))
     for (const BridgeForm form : {BridgeForm::Arch, BridgeForm::Truss})
@@ -244,7 +265,46 @@ void LayoutForm::takeTable() {
       p = {p.x + corner.x, p.y + corner.y};
     task_.outline = std::move(outline);
   }
+  takeSides();
+}
+
+/// What goes by the sides of the outline.
+void LayoutForm::takeSides() {
+  if (measuredSide_ >= task_.outline.size())
+    measuredSide_ = 0;
+  sideLength_ = {lengthOf(task_.outline, measuredSide_), units_, kLeastMeasure, kLongest};
+  sideFits_ = true;
   takeStation();
+}
+
+void LayoutForm::setOutline(const Polygon& outline) {
+  task_.outline = outline;
+  table_ = Table::Free;
+  takeSides();
+}
+
+void LayoutForm::mirror() {
+  setOutline(turnedOver(task_.outline));
+}
+
+void LayoutForm::turn() {
+  setOutline(turnedRight(task_.outline));
+}
+
+void LayoutForm::setMeasuredSide(std::size_t side) {
+  measuredSide_ = side;
+  takeSides();
+}
+
+void LayoutForm::enterSideLength(std::string_view text) {
+  sideLength_.enter(text);
+  if (!sideLength_.problem().empty())
+    return;
+  const std::size_t end = (measuredSide_ + 1) % task_.outline.size();
+  const Point from = task_.outline[measuredSide_];
+  const Point to = task_.outline[end];
+  const double share = sideLength_.mm() / lengthOf(task_.outline, measuredSide_);
+  sideFits_ = takeCorner(end, {from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share});
 }
 
 std::string LayoutForm::measureName(std::size_t measure) const {
@@ -264,6 +324,13 @@ void LayoutForm::enterMeasure(std::size_t measure, std::string_view text) {
 }
 
 bool LayoutForm::dragCorner(std::size_t corner, Point to) {
+  const bool dragged = takeCorner(corner, to);
+  if (dragged)
+    takeSides();
+  return dragged;
+}
+
+bool LayoutForm::takeCorner(std::size_t corner, Point to) {
   Polygon& outline = task_.outline;
   const std::size_t n = outline.size();
   if (corner >= n)
@@ -306,8 +373,7 @@ bool LayoutForm::addCorners(std::size_t side) {
   }
   if (!tableProblem(notched).empty())
     return false;
-  outline = std::move(notched);
-  table_ = Table::Free;
+  setOutline(notched);
   return true;
 }
 
@@ -376,6 +442,7 @@ std::string LayoutForm::stationProblem() const {
 
 void LayoutForm::setStationSide(std::size_t side) {
   stationWish_.side = side;
+  stationSideSet_ = true;
   takeStation();
 }
 
@@ -407,6 +474,7 @@ std::string LayoutForm::bridgeProblem() const {
 
 void LayoutForm::setBridgeSide(std::size_t side) {
   bridgeWish_.side = side;
+  bridgeSideSet_ = true;
   takeStation();
 }
 
@@ -440,6 +508,10 @@ std::string LayoutForm::problem() const {
   }
   if (std::string problem = tableProblem(task_.outline); !problem.empty())
     return problem;
+  if (table_ == Table::Free && !sideLength_.problem().empty())
+    return sideLength_.problem();
+  if (table_ == Table::Free && !sideFits_)
+    return tr("With a side of this length the outline would cross itself.");
   if (!distance_.problem().empty())
     return distance_.problem();
   return hasStation() ? usableLength_.problem() : std::string();

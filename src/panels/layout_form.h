@@ -58,7 +58,18 @@ class LayoutForm {
   bool dragCorner(std::size_t corner, Point to);
   /// A notch at a corner, for outlines that no shape has; false when there are eight corners.
   bool addCorners(std::size_t side);
+  /// Makes this the free outline.
+  void setOutline(const Polygon& outline);
+  /// Turn the table over left to right, or by a quarter to the right; it is a free one then. What
+  /// is wished for on its sides goes along.
+  void mirror();
+  void turn();
   std::vector<std::string> sideNames() const;
+  /// A side of the free outline by its length: its far end is dragged.
+  std::size_t measuredSide() const { return measuredSide_; }
+  void setMeasuredSide(std::size_t side);
+  const LengthEntry& sideLength() const { return sideLength_; }
+  void enterSideLength(std::string_view text);
 
   const LengthEntry& distance() const { return distance_; }
   void enterDistance(std::string_view text);
@@ -108,6 +119,8 @@ class LayoutForm {
 
  private:
   void takeTable();
+  void takeSides();
+  bool takeCorner(std::size_t corner, Point to);
   void takeStation();
   void fillRadii();
   void takeTask(const LayoutTask& task);
@@ -121,12 +134,17 @@ class LayoutForm {
   Table table_ = Table::Usual;
   std::size_t usual_ = 0;
   std::vector<LengthEntry> measures_;
+  std::size_t measuredSide_ = 0;
+  LengthEntry sideLength_;
+  bool sideFits_ = true;
   LengthEntry distance_;
   bool distanceEntered_ = false;
   std::vector<double> radii_;
   std::vector<double> outerRadii_;
   bool station_ = false;
   bool bridge_ = false;
+  bool stationSideSet_ = false;
+  bool bridgeSideSet_ = false;
   StationWish stationWish_;
   BridgeWish bridgeWish_;
   LengthEntry usableLength_;

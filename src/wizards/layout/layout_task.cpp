@@ -35,7 +35,7 @@ Polygon rectangle(double width, double depth) {
 std::string layoutPreferenceName(LayoutPreference preference) {
   constexpr std::array<const char*, kLayoutPreferenceCount> kNames{
       trLater("Longest run"), trLater("Longest station"), trLater("Fewest pieces"),
-      trLater("Fewest kinds of pieces")};
+      trLater("Fewest kinds")};
   return tr(kNames.at(static_cast<std::size_t>(preference)));
 }
 
