@@ -2,6 +2,7 @@
 
 #include "ui/commands/plan_files.h"
 #include "ui/print/printing.h"
+#include "ui/wizards/layout_wizard.h"
 #include "view3d/view3d_frame.h"
 
 class wxFrame;
@@ -23,6 +24,7 @@ struct Desk {
   PlanFiles files;
   PrintSettings print = {};
   View3DWindow view3D = {};
+  LayoutWizard layoutWizard{workspace};
 };
 
 } // namespace trassix

@@ -12,6 +12,7 @@
 #include "ui/commands/desk.h"
 #include "ui/dialogs/baseboard_shape_dialog.h"
 #include "ui/dialogs/level_manager_dialog.h"
+#include "ui/palette/palette_panel.h"
 
 #include <wx/frame.h>
 
@@ -79,6 +80,10 @@ void chooseBaseboard(Desk& desk) {
     desk.canvasPanel.canvas().fit();
 }
 
+void runLayoutWizard(Desk& desk) {
+  desk.layoutWizard.run(desk.window, desk.canvasPanel.canvas(), desk.palette.system());
+}
+
 // clang-format off
 const Command kCommands[] = {
     {.id = kUnitsMm, .menuText = wxTRANSLATE("Millimetres (mm)"),
@@ -93,7 +98,7 @@ const Command kCommands[] = {
     {.id = kLayoutShape, .menuText = wxTRANSLATE("Layout &Shape..."),
      .menuHelp = wxTRANSLATE("Outline and measures of the baseboard"), .run = chooseBaseboard},
     {.id = kLayoutWizard, .menuText = wxTRANSLATE("Layout &Wizard (Experimental)..."),
-     .menuHelp = wxTRANSLATE("Make a loop of track for a table")},
+     .menuHelp = wxTRANSLATE("Make a loop of track for a table"), .run = runLayoutWizard},
     {.id = kBridgeWizard, .menuText = wxTRANSLATE("&Bridge Wizard (Experimental)..."),
      .menuHelp = wxTRANSLATE("Make a bridge with its ramps")},
     {.id = kLevels, .toolLabel = wxTRANSLATE("Levels"),
