@@ -1,6 +1,9 @@
 #include "ui/help/help_dialog.h"
 
 #include "app/services/app_prefs.h"
+#include "document/layout_reader.h"
+#include "embedded/helpPlans.h"
+#include "ui/canvas/small_pictures.h"
 #include "ui/widgets/picture_panel.h"
 #include "ui/widgets/railway_scene.h"
 #include "ui/widgets/utf8.h"
@@ -9,6 +12,7 @@
 #include <wx/intl.h>
 #include <wx/listbox.h>
 #include <wx/sizer.h>
+#include <wx/stattext.h>
 #include <wx/textctrl.h>
 
 namespace trassix {
@@ -16,6 +20,7 @@ namespace trassix {
 namespace {
 
 constexpr int kGap = 12;
+const wxSize kFigure(160, 110);
 /// Where the meaning of a key begins, in tenths of a millimetre.
 constexpr int kKeyColumn = 480;
 
@@ -48,7 +53,10 @@ HelpDialog::HelpDialog(wxWindow* parent)
   left->Add(picture_, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(kGap)));
   left->Add(titles_, wxSizerFlags(1).Expand());
   pages->Add(left, wxSizerFlags().Expand().Border(wxRIGHT, FromDIP(kGap)));
-  pages->Add(text_, wxSizerFlags(1).Expand());
+  auto* right = new wxBoxSizer(wxVERTICAL);
+  right->Add(makeFigures(), wxSizerFlags().Expand());
+  right->Add(text_, wxSizerFlags(1).Expand());
+  pages->Add(right, wxSizerFlags(1).Expand());
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   sizer->Add(pages, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(kGap)));
   sizer->Add(new wxButton(this, wxID_CLOSE, _("Close")),
@@ -57,6 +65,26 @@ HelpDialog::HelpDialog(wxWindow* parent)
   SetEscapeId(wxID_CLOSE);
   SetAffirmativeId(wxID_CLOSE);
   titles_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { fill(); });
+}
+
+wxSizer* HelpDialog::makeFigures() {
+  auto* row = new wxBoxSizer(wxHORIZONTAL);
+  figures_.reserve(helpPlans().size()); // the pictures paint what is in it
+  for (const auto bytes : helpPlans()) {
+    Figure& figure = figures_.emplace_back();
+    std::string name;
+    readLayout({reinterpret_cast<const char*>(bytes.data()), bytes.size()}, figure.plan, name);
+    figure.picture = new PicturePanel(
+        this, FromDIP(kFigure), [&figure](wxGraphicsContext& context, const wxSize& size, bool) {
+          paintSmallPlan(context, size, figure.plan);
+        });
+    figure.caption = new wxStaticText(this, wxID_ANY, wxEmptyString);
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(figure.picture, wxSizerFlags(1).Expand());
+    column->Add(figure.caption, wxSizerFlags().Border(wxTOP | wxBOTTOM, FromDIP(4)));
+    row->Add(column, wxSizerFlags(1).Expand().Border(wxRIGHT, FromDIP(kGap)));
+  }
+  return row;
 }
 
 void HelpDialog::showPage(HelpTopic topic) {
@@ -79,6 +107,14 @@ void HelpDialog::showPage(HelpTopic topic) {
 
 void HelpDialog::fill() {
   const HelpPage& page = helpPages()[static_cast<std::size_t>(titles_->GetSelection())];
+  for (std::size_t i = 0; i < figures_.size(); ++i) {
+    const bool there = i < page.captions.size();
+    figures_[i].picture->Show(there);
+    figures_[i].caption->Show(there);
+    if (there)
+      figures_[i].caption->SetLabel(wxGetTranslation(page.captions[i]));
+  }
+  Layout();
   const wxFont body = text_->GetFont();
   const wxTextAttr plain = lineStyle(body);
   const wxTextAttr bold = lineStyle(body.Bold());

@@ -96,10 +96,12 @@ constexpr const char* kAutofill[] = {
                 "other. Right-click one of them and choose \"Autofill Gap...\". Choose one of the "
                 "offered fills; the plan shows each while it is highlighted."),
     wxTRANSLATE("# What it can fill"),
-    wxTRANSLATE("A straight gap is filled with a run of straights, a gap along one arc with equal "
-                "curves: a corner, a semicircle or the rest of a circle. It does not try S-curves "
-                "or mixtures of curves and straights. When nothing fits, move one side of the gap "
-                "a little, or change the pieces next to it."),
+    wxTRANSLATE(
+        "A straight gap is filled with a run of straights, a gap along one arc with equal "
+        "curves: a corner, a semicircle or the rest of a circle. A gap between tracks that run "
+        "side by side is filled with an S: a curve, straights, and the same curve to the "
+        "other side. When nothing fits, move one side of the gap a little, or change the "
+        "pieces next to it."),
 };
 
 constexpr const char* kLevelsAndBaseboard[] = {
@@ -238,13 +240,51 @@ constexpr const char* kFiles[] = {
                 "tiles, on one sheet, or in strips for the rolls of a print shop."),
 };
 
+constexpr const char* kLayoutWizard[] = {
+    wxTRANSLATE("Layout > Layout Wizard makes a closed line that follows the edges of your table, "
+                "from pieces of one track system. What it places is ordinary track, to be changed "
+                "like any other."),
+    wxTRANSLATE("# What it asks"),
+    wxTRANSLATE("Table|The baseboard of the plan, a usual board, a shape by its measures, or any "
+                "outline of right angles with up to eight corners: drag them in the drawing"),
+    wxTRANSLATE("Free edge|How much stays free between the bed of the track and the table's edge"),
+    wxTRANSLATE("Tracks|One, or two side by side; the difference of their radii is their distance "
+                "all the way round"),
+    wxTRANSLATE("Corner radius|Of the corners, inner ones included; of two tracks the inner one's"),
+    wxTRANSLATE("Station|The side it is on, how many sidings it has beside the main line, and how "
+                "long a train may be that stands there without touching one on the next track"),
+    wxTRANSLATE("Bridge|An arch or truss bridge in a side, as level track"),
+    wxTRANSLATE("Prefer|What the first layout is best at; the others are best at something else"),
+    wxTRANSLATE("Only track at home|Takes no more pieces than the purchase list has as owned"),
+    wxTRANSLATE("# What it shows"),
+    wxTRANSLATE("Up to four layouts come side by side with their figures, while the search goes "
+                "on. \"More\" searches for further ones, which are shorter. Choose one with the "
+                "mouse, the arrow keys or its number, then press Enter."),
+    wxTRANSLATE("On a rectangle the main line closes exactly. A siding may leave a gap of up to "
+                "1.0 mm, or be turned by up to 1.0 degree, which real track takes up: the figures "
+                "say how much, and it is in the one joint where it is least."),
+    wxTRANSLATE("# When there is none"),
+    wxTRANSLATE("It says what is in the way and what would help: the nearest table, a radius that "
+                "fits, or how long the station can be. Systems without pieces for stations or "
+                "bridges get the loop without them."),
+    wxTRANSLATE("# On the plan"),
+    wxTRANSLATE(
+        "The layout is added to the plan or takes the place of its track, as you like, and "
+        "the table becomes the baseboard. One undo takes the track back; the baseboard "
+        "stays. Opened again on a plan that it made, the wizard has your answers filled in; "
+        "if the plan was changed since, only its table."),
+};
+
 constexpr const char* kWizards[] = {
     wxTRANSLATE(
         "These are not available in this version, and their menu items and tools are greyed "
         "out:"),
-    wxTRANSLATE("Layout Wizard|A whole loop of track that follows a table outline"),
     wxTRANSLATE("Bridge Wizard|Bridges with their ramps and pillars"),
 };
+
+constexpr const char* kLayoutPictures[] = {wxTRANSLATE("A table"),
+                                           wxTRANSLATE("Two tracks round it, and a station"),
+                                           wxTRANSLATE("One track with a bridge")};
 
 constexpr HelpPage kPages[] = {
     {HelpTopic::Plan, wxTRANSLATE("Planning Track"), kPlan},
@@ -252,6 +292,7 @@ constexpr HelpPage kPages[] = {
     {HelpTopic::Autofill, wxTRANSLATE("Autofill"), kAutofill},
     {HelpTopic::LevelsAndBaseboard, wxTRANSLATE("Levels and Baseboard"), kLevelsAndBaseboard},
     {HelpTopic::Files, wxTRANSLATE("Files and Library"), kFiles},
+    {HelpTopic::LayoutWizard, wxTRANSLATE("Layout Wizard"), kLayoutWizard, kLayoutPictures},
     {HelpTopic::Wizards, wxTRANSLATE("Wizards"), kWizards},
 };
 
