@@ -29,10 +29,10 @@ class LayoutWizardTest : public PlanningTest {
       pressKey(row > from ? WXK_DOWN : WXK_UP);
     waitUntil(std::string(name) + " has its row", [&] { return list.GetSelection() == row; });
   }
-  static void check(const char* name) {
+  static void check(const char* name, bool on = true) {
     auto& box = shown<wxCheckBox>(name);
     click({box, wxPoint(10, box.GetClientSize().y / 2)});
-    waitUntil(std::string(name) + " is checked", [&] { return box.GetValue(); });
+    waitUntil(std::string(name) + " is checked", [&] { return box.GetValue() == on; });
   }
   static bool found(int proposals) {
     return waitUntil("it was found", [proposals] {
@@ -190,6 +190,18 @@ TEST_F(LayoutWizardTest, ARefusalSaysWhatHelpsAndMoreIsFoundBesideOtherTrack) {
     expectLettersApart(dialog);
     click(*findNamed("layoutUseRadius"));
     waitUntil("nothing is said any more", [] { return said("problem").empty(); });
+    check("layoutStation");
+    click(shown<wxTextCtrl>("layoutUsable"));
+    pressKey('A', wxMOD_CONTROL);
+    typeText("2 m");
+    pressKey(WXK_RETURN);
+    waitUntil("the station is too long", [] { return !said("problem").empty(); });
+    click(*findNamed("layoutUseLength"));
+    waitUntil("nothing is said", [] { return said("problem").empty(); });
+    pressKey(WXK_RETURN);
+    found(1);
+    pressKey('B', wxMOD_ALT);
+    check("layoutStation", false);
     pressKey(WXK_RETURN);
     found(1);
     waitUntil("it has found all", [] { return findNamed("layoutMore")->IsEnabled(); });

@@ -1,5 +1,6 @@
 #include "ui/wizards/layout_questions.h"
 
+#include "measures/measure_format.h"
 #include "texts/texts.h"
 #include "ui/widgets/problem_text.h"
 #include "ui/widgets/utf8.h"
@@ -253,22 +254,28 @@ wxSizer* LayoutQuestions::makeWishes(const std::string& stockProblem) {
   return column;
 }
 
+wxButton* LayoutQuestions::addRemedy(wxSizer& row, const wxString& label, const char* name,
+                                     std::function<void()> take) {
+  auto* button = new wxButton(this, wxID_ANY, label, wxDefaultPosition, wxDefaultSize, 0,
+                              wxDefaultValidator, name);
+  button->Bind(wxEVT_BUTTON, [this, take = std::move(take)](wxCommandEvent&) {
+    take();
+    focusFirst(); // the button goes
+    change();
+  });
+  row.Add(button, wxSizerFlags().Border(wxRIGHT, FromDIP(8)));
+  return button;
+}
+
 wxSizer* LayoutQuestions::makeRemedies() {
-  useTable_ = new wxButton(this, wxID_ANY, _("Use the Near&est Table"), wxDefaultPosition,
-                           wxDefaultSize, 0, wxDefaultValidator, "layoutUseTable");
-  useTable_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
-    form_.setOutline(refusal_.outline);
-    change();
-  });
-  useRadius_ = new wxButton(this, wxID_ANY, _("Use the R&adius That Fits"), wxDefaultPosition,
-                            wxDefaultSize, 0, wxDefaultValidator, "layoutUseRadius");
-  useRadius_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
-    form_.setRadius(placeOf(form_.radii(), refusal_.radius));
-    change();
-  });
   auto* row = new wxBoxSizer(wxHORIZONTAL);
-  row->Add(useTable_, wxSizerFlags().Border(wxRIGHT, FromDIP(8)));
-  row->Add(useRadius_);
+  useTable_ = addRemedy(*row, _("Use the Near&est Table"), "layoutUseTable",
+                        [this] { form_.setOutline(refusal_.outline); });
+  useRadius_ = addRemedy(*row, _("Use the R&adius That Fits"), "layoutUseRadius",
+                         [this] { form_.setRadius(placeOf(form_.radii(), refusal_.radius)); });
+  useLength_ = addRemedy(*row, _("Ta&ke This Length"), "layoutUseLength", [this] {
+    form_.enterUsableLength(formatLength(refusal_.usableLength, kMillimetres));
+  });
   return row;
 }
 
@@ -373,6 +380,7 @@ void LayoutQuestions::showNotes() {
   problem_->show(problem.empty() ? refusal_.text() : problem);
   useTable_->Show(!refusal_.outline.empty());
   useRadius_->Show(std::ranges::count(form_.radii(), refusal_.radius) > 0);
+  useLength_->Show(refusal_.usableLength > 0);
   Layout();
 }
 

@@ -55,6 +55,8 @@ class LayoutQuestions : public wxPanel {
   wxSizer* makeTurns();
   wxSizer* makeWishes(const std::string& stockProblem);
   wxSizer* makeRemedies();
+  wxButton* addRemedy(wxSizer& row, const wxString& label, const char* name,
+                      std::function<void()> take);
   wxChoice* makeChoice(const char* name, std::function<void(std::size_t)> chosen);
   wxChoice* addChoice(wxSizer& row, const wxString& label, const char* name,
                       std::function<void(std::size_t)> chosen);
@@ -96,6 +98,7 @@ class LayoutQuestions : public wxPanel {
   ProblemText* problem_ = nullptr;
   wxButton* useTable_ = nullptr;
   wxButton* useRadius_ = nullptr;
+  wxButton* useLength_ = nullptr;
 };
 
 } // namespace trassix

@@ -52,7 +52,8 @@ struct LayoutRefusal {
   std::string reason; ///< one or two sentences
   std::string remedy; ///< the same; empty when nothing helps
   Polygon outline; ///< the nearest one with which there is such a layout; empty when none is known
-  double radius = 0; ///< one that would fit, 0 for none
+  double radius = 0;       ///< one that would fit, 0 for none
+  double usableLength = 0; ///< of the longest station that would fit, 0 for none
 
   std::string text() const; ///< both
 };

@@ -169,6 +169,7 @@ Steps explainStation(LayoutTask task, std::int32_t units, LayoutRefusal& refusal
     refusal.reason = tr("The station is too long for this side.");
     refusal.remedy =
         tr("Its sidings can be usable for at most %1% there.", {formatLength(most, units)});
+    refusal.usableLength = most;
     co_return;
   }
   refusal.reason = trCount("There is no room for a station with one siding on this side.",
