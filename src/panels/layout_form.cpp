@@ -140,6 +140,8 @@ void LayoutForm::takeTask(const LayoutTask& task) {
   stationWish_ = task.station.value_or(StationWish{});
   station_ = task.station.has_value();
   usableEntered_ = station_;
+  if (station_)
+    usableLength_ = lengthEntry(stationWish_.usableLength);
   bridge_ = task.bridge.has_value();
   bridgeWish_ = task.bridge.value_or(BridgeWish{});
   stationSideSet_ = station_;

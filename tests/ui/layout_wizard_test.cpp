@@ -164,6 +164,7 @@ TEST_F(LayoutWizardTest, TwoTracksOnAnLAreDraggedFoundSavedUndoneAndRemembered) 
       greeting = said("layoutNotes");
       EXPECT_EQ(shown<wxChoice>("layoutTracks").GetSelection(), tracks - 1);
       EXPECT_EQ(shown<wxCheckBox>("layoutStation").GetValue(), tracks == 2);
+      EXPECT_EQ(shown<wxTextCtrl>("layoutUsable").GetValue(), "500.0 mm");
       pressKey(WXK_ESCAPE);
     });
     put(kLayoutWizard);
