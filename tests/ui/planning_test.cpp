@@ -2,6 +2,8 @@
 
 #include "catalog/track_catalog.h"
 #include "document/block_file.h"
+#include "document/reselecting.h"
+#include "editing/canvas/autofill_command.h"
 #include "editing/elevation/crossings.h"
 #include "editing/elevation/grade_edits.h"
 #include "editing/selection/open_ends.h"
@@ -166,6 +168,24 @@ TEST_F(PlanningTest, ALineClimbsOverAnotherInFewActions) {
   EXPECT_EQ(frame().workspace().preview(), nullptr);
   put(kShowGrades);
   EXPECT_TRUE(rememberedLook({}).grades);
+  finish();
+}
+
+TEST_F(PlanningTest, AnSIsOfferedBetweenTracksSideBySideAndJoinsBoth) {
+  startLaidOut();
+  show(Plan().place("24188").extend("24130").extend("24188").extendLeft("24130").extend("24188"));
+  plan().reselect([](const auto& record) { return record.id > 1 && record.id < 5; });
+  put(kDeleteSelection);
+  waitForPieces(2);
+  plan().reselect([](const auto&) { return true; });
+  dialogs.drive("Autofill Gap", [](wxDialog&) { pressKey(WXK_RETURN); });
+  runAutofill(canvas().site());
+  waitForPieces(5);
+  EXPECT_EQ(std::ranges::count(plan().pieces(), "24130", &PlacedPiece::cat), 2);
+  EXPECT_EQ(openEnds(plan()), 2);
+  EXPECT_LT(largestPlay(plan()).distance, 1e-3);
+  put(kUndo);
+  EXPECT_EQ(pieces(), 2U);
   finish();
 }
 
