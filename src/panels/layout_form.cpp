@@ -73,6 +73,7 @@ std::array<double, LayoutForm::kMeasures> usualMeasures(LayoutForm::Table table,
 
 std::vector<std::string> lengthNames(const std::vector<double>& lengths, std::int32_t units) {
   std::vector<std::string> names;
+  names.reserve(lengths.size());
   for (const double length : lengths)
     names.push_back(formatBriefLength(length, units));
   return names;

@@ -128,27 +128,27 @@ class LayoutForm {
 
   const Layout& layout_;
   std::int32_t units_;
-  Polygon own_;
-  std::string greeting_;
-  LayoutTask task_;
   Table table_ = Table::Usual;
-  std::size_t usual_ = 0;
-  std::vector<LengthEntry> measures_;
-  std::size_t measuredSide_ = 0;
-  LengthEntry sideLength_;
-  bool sideFits_ = true;
-  LengthEntry distance_;
   bool distanceEntered_ = false;
-  std::vector<double> radii_;
-  std::vector<double> outerRadii_;
+  bool usableEntered_ = false;
+  bool sideFits_ = true;
   bool station_ = false;
   bool bridge_ = false;
   bool stationSideSet_ = false;
   bool bridgeSideSet_ = false;
+  Polygon own_;
+  std::string greeting_;
+  LayoutTask task_;
+  std::size_t usual_ = 0;
+  std::vector<LengthEntry> measures_;
+  std::size_t measuredSide_ = 0;
+  LengthEntry sideLength_;
+  LengthEntry distance_;
+  std::vector<double> radii_;
+  std::vector<double> outerRadii_;
   StationWish stationWish_;
   BridgeWish bridgeWish_;
   LengthEntry usableLength_;
-  bool usableEntered_ = false;
 };
 
 } // namespace trassix
