@@ -34,6 +34,14 @@ class LayoutWizardTest : public PlanningTest {
     click({box, wxPoint(10, box.GetClientSize().y / 2)});
     waitUntil(std::string(name) + " is checked", [&] { return box.GetValue() == on; });
   }
+  static void enter(const char* name, const std::string& text) {
+    auto& field = shown<wxTextCtrl>(name);
+    click(field);
+    waitUntil(std::string(name) + " has the focus", [&] { return field.HasFocus(); });
+    pressKey('A', wxMOD_CONTROL);
+    typeText(text);
+    waitUntil(text + " is entered", [&] { return field.GetValue() == text; });
+  }
   static bool found(int proposals) {
     return waitUntil("it was found", [proposals] {
       return findNamed(("layoutProposal" + std::to_string(proposals)).c_str()) != nullptr;
@@ -179,6 +187,63 @@ TEST_F(LayoutWizardTest, TwoTracksOnAnLAreDraggedFoundSavedUndoneAndRemembered) 
   finish();
 }
 
+TEST_F(LayoutWizardTest, TheTableIsShapedByKeysTypedSizesAndTurns) {
+  startLaidOut();
+  const std::uint64_t before = plan().revision();
+  dialogs.drive("Layout Wizard", [&](wxDialog& dialog) {
+    wxWindow& picture = *findNamed("layoutTablePicture");
+    const auto table = [] { return shown<wxChoice>("layoutTable").GetStringSelection(); };
+    const auto measures = [](const char* length) {
+      return waitUntil(std::string("the side measures ") + length, [length] {
+        return shown<wxTextCtrl>("layoutSideLength").GetValue() == length;
+      });
+    };
+    click(picture); // its middle, which is no corner
+    for (const int key : {WXK_PAGEDOWN, WXK_RIGHT, WXK_RIGHT, WXK_UP})
+      pressKey(key);
+    EXPECT_TRUE(measures("2020.0 mm"));
+    pressKey(WXK_INSERT);
+    auto& sides = shown<wxChoice>("layoutMeasuredSide");
+    waitUntil("there are two more corners", [&] { return sides.GetCount() == 6; });
+
+    const wxWindow& find = *dialog.FindWindow(wxID_FORWARD);
+    enter("layoutSideLength", "9");
+    EXPECT_NE(said("problem"), "");
+    EXPECT_FALSE(find.IsEnabled());
+    enter("layoutSideLength", "180 cm");
+    EXPECT_EQ(said("problem"), "");
+    EXPECT_TRUE(find.IsEnabled());
+    click(*findNamed("layoutTurn"));
+    waitUntil("its first side is at the right",
+              [&] { return sides.GetStringSelection().StartsWith("Right"); });
+    click(*findNamed("layoutMirror"));
+    waitUntil("it is at the left", [&] { return sides.GetStringSelection().StartsWith("Left"); });
+
+    chooseRow("layoutTable", 'T', 9);
+    EXPECT_EQ(table(), "L by measures");
+    enter("layoutMeasure1", "2.6 m");
+    const wxSize size = picture.GetClientSize();
+    const double zoom = std::min((size.x - 80) / 2600.0, (size.y - 80) / 1800.0);
+    const wxPoint corner(static_cast<int>(size.x / 2.0 + 1300 * zoom),
+                         static_cast<int>(size.y / 2.0 + 900 * zoom));
+    pressMouse({picture, corner});
+    moveMouse({picture, corner - wxPoint(60, 30)});
+    waitUntil("it is dragged", [&] { return table() == "Free outline"; });
+    pressKey(WXK_ESCAPE);
+    releaseMouse();
+    chooseRow("layoutMeasuredSide", 'W', 4);
+    EXPECT_TRUE(measures("2600.0 mm")) << "as it was";
+
+    chooseRow("layoutSystem", 'Y', 5);
+    EXPECT_FALSE(findNamed("layoutStation")->IsEnabled());
+    EXPECT_NE(said("layoutNotes").find("station"), std::string::npos);
+    pressKey(WXK_ESCAPE);
+  });
+  put(kLayoutWizard);
+  EXPECT_EQ(plan().revision(), before);
+  finish();
+}
+
 TEST_F(LayoutWizardTest, ARefusalSaysWhatHelpsAndMoreIsFoundBesideOtherTrack) {
   startLaidOut();
   placePiece(5000);
@@ -192,9 +257,7 @@ TEST_F(LayoutWizardTest, ARefusalSaysWhatHelpsAndMoreIsFoundBesideOtherTrack) {
     click(*findNamed("layoutUseRadius"));
     waitUntil("nothing is said any more", [] { return said("problem").empty(); });
     check("layoutStation");
-    click(shown<wxTextCtrl>("layoutUsable"));
-    pressKey('A', wxMOD_CONTROL);
-    typeText("2 m");
+    enter("layoutUsable", "2 m");
     pressKey(WXK_RETURN);
     waitUntil("the station is too long", [] { return !said("problem").empty(); });
     click(*findNamed("layoutUseLength"));

@@ -215,7 +215,8 @@ void LayoutProposals::fillFacts() {
 void LayoutProposals::choose(std::size_t proposal) {
   chosen_ = proposal;
   for (std::size_t i = 0; i < kCards; ++i) {
-    cards_.at(i).button->SetValue(first_ + i == chosen_);
+    if (first_ + i == chosen_)
+      cards_.at(i).button->SetValue(true);
     cards_.at(i).picture->Refresh();
   }
   showNotes();

@@ -74,6 +74,8 @@ TablePicture::TablePicture(wxWindow* parent, const wxSize& size, LayoutForm& for
   });
   // Before a dialog takes the arrow keys to go from field to field.
   Bind(wxEVT_CHAR_HOOK, &TablePicture::onKey, this);
+  // Some toolkits pass the hook over while the mouse is captured.
+  Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { HasCapture() ? onKey(event) : event.Skip(); });
   for (const auto& type : {wxEVT_SET_FOCUS, wxEVT_KILL_FOCUS})
     Bind(type, [this](wxFocusEvent& event) {
       event.Skip();
@@ -113,6 +115,7 @@ void TablePicture::onDown(wxMouseEvent& event) {
   if (!corner)
     return;
   corner_ = *corner;
+  before_ = form_.outline();
   held_ = view(); // else the table would grow away from the pointer
   CaptureMouse();
   Refresh();
@@ -164,6 +167,12 @@ void TablePicture::onKey(wxKeyEvent& event) {
     if (form_.addCorners(corner_))
       changed_();
     return;
+  case WXK_ESCAPE:
+    if (!held_)
+      return event.Skip();
+    letGo();
+    form_.setOutline(before_);
+    return changed_();
   default:
     event.Skip();
   }

@@ -12,7 +12,8 @@ namespace trassix {
 class Surface;
 
 /// The table of a form drawn to scale, with its measures and what is wished for on its sides. Its
-/// corners are dragged with the mouse, or moved with the keys once the picture has the focus.
+/// corners are dragged with the mouse, which Esc takes back, or moved with the keys once the
+/// picture has the focus.
 class TablePicture : public PicturePanel {
  public:
   /// The form must outlive the picture; `changed` is called after each change of it.
@@ -39,6 +40,7 @@ class TablePicture : public PicturePanel {
   std::function<void()> changed_;
   std::size_t corner_ = 0;            ///< which the keys move
   std::optional<ViewTransform> held_; ///< the view as it was when a drag began
+  Polygon before_;                    ///< the outline then
 };
 
 } // namespace trassix
