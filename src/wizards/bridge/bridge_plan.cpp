@@ -236,14 +236,10 @@ EditResult applyBridge(Layout& layout, const BridgeTask& task) {
   BridgeDraft draft = draftBridge(layout, task);
   if (draft.refusal)
     return {{}, std::move(draft.refusal)};
-  EditResult result;
   std::vector<std::int32_t> own;
   for (std::size_t i = draft.from; i < draft.to; ++i)
     own.push_back(draft.site.way.stretches[i].piece);
   std::ranges::sort(own);
-  for (const PlacedPiece& piece : draft.layout.pieces())
-    if (layout.findPiece(piece.id) == nullptr)
-      result.placed.push_back(piece.id);
   UndoScope step(layout);
   layout.edit() = draft.layout.content();
   while (layout.nextPieceId() < draft.layout.nextPieceId())
@@ -252,7 +248,7 @@ EditResult applyBridge(Layout& layout, const BridgeTask& task) {
     using Record = std::remove_cvref_t<decltype(record)>;
     return Record::kKind == RecordKind::Piece && containsId(own, record.id);
   });
-  return step.keep() ? result : EditResult();
+  return step.keep() ? EditResult{std::move(own), {}} : EditResult();
 }
 
 } // namespace trassix

@@ -108,7 +108,7 @@ double proposedClearance(TrackSystem system, bool wire);
 BridgePlan planBridge(const Layout& layout, const BridgeTask& task);
 
 /// Builds it as one undo step and selects it: articles swapped and added, joints and heights.
-/// Nothing changes when it is refused. The result names the new pieces.
+/// Nothing changes when it is refused. The result names its pieces, of which none may be new.
 EditResult applyBridge(Layout& layout, const BridgeTask& task);
 
 /// Another bridge that could be built.
