@@ -1,7 +1,9 @@
 #include "panels/bridge_form.h"
 
 #include "document/layout.h"
-#include "host/plan_preview.h"
+#include "document/plan_content.h"
+#include "editing/elevation/crossings.h"
+#include "editing/supports/supports.h"
 #include "measures/measure_format.h"
 #include "measures/measure_input.h"
 #include "panels/owned_stock.h"
@@ -29,12 +31,18 @@ BridgeForm::BridgeForm(const Layout& layout, const OwnedStock* owned)
     return;
   task_ = tasks_.front();
   task_.clearance = proposedClearance(system(), false);
-  compute();
-  // A chain that crosses nothing is more likely to go on, or to lie over a valley.
-  for (std::size_t i = 1; i < tasks_.size() && plan_.crossed.empty() && !ready(); ++i)
+  // A chain that crosses nothing is more likely to go on, or to lie over a valley, and one that is
+  // high enough to stay as it is.
+  const auto stands = [this] { return ready() && !plan_.piers.empty(); };
+  setWay(tasks_.size() - 1);
+  if (stands() && !plan_.crossed.empty())
+    return;
+  for (std::size_t i = 0; i < tasks_.size(); ++i) {
     setWay(i);
-  if (plan_.crossed.empty() && !ready())
-    setWay(0);
+    if (!plan_.crossed.empty() || stands())
+      return;
+  }
+  setWay(0);
 }
 
 TrackSystem BridgeForm::system() const {
@@ -80,8 +88,7 @@ void BridgeForm::setSpan(std::size_t row) {
 }
 
 std::vector<std::string> BridgeForm::pierNames() {
-  return {tr("Heights of the series where they fit"), tr("Heights of the series only"),
-          tr("Any heights")};
+  return {tr("Series if it fits"), tr("Series only"), tr("Any height")};
 }
 
 void BridgeForm::setPiers(std::size_t row) {
@@ -150,37 +157,55 @@ void BridgeForm::enter(Field field, std::string_view text) {
 }
 
 void BridgeForm::followDeck(double height) {
-  task_.deckHeight = 0;
-  const BridgePlan lowest = planBridge(layout_, task_);
-  // The clearance that this deck leaves; what is crossed may be at any height.
-  const double now = lowest.possible() ? lowest.deckHeight - lowest.spare : 0;
-  if (now > 0)
-    task_.clearance = std::max(1.0, task_.clearance + height - now);
   task_.deckHeight = height;
+  double room = kHighest;
+  for (const CrossedThing& thing : plan_.crossed)
+    if (thing.kind != CrossedThing::Kind::Water) // over which less will do
+      room = std::min(room, height - kDeckThickness - thing.height);
+  if (room == kHighest)
+    return;
+  task_.clearance = std::max(1.0, room);
+  if (planBridge(layout_, task_).possible())
+    return;
+  // Where a frame has to carry the track, its beam takes of the room.
+  BridgeTask framed = task_;
+  framed.clearance = std::max(1.0, room - portalBeam(system()) + kDeckThickness);
+  if (planBridge(layout_, framed).possible())
+    task_ = framed;
 }
 
 void BridgeForm::compute() {
-  choices_.reset();
+  choices_.clear();
+  choice_ = 0;
   plan_ = planBridge(layout_, task_);
-  const auto follow = [this](Field field, const std::string& text) {
+  follow();
+}
+
+void BridgeForm::follow() {
+  const auto show = [this](Field field, const std::string& text) {
     if (typed_ != field && problems_[index(field)].empty())
       texts_[index(field)] = text;
   };
-  follow(Field::Clearance, formatLength(task_.clearance, units_));
-  follow(Field::Limit, percentText(task_.limit));
-  if (plan_.possible())
-    follow(Field::DeckHeight, formatLength(plan_.deckHeight, units_));
+  show(Field::Clearance, formatLength(task_.clearance, units_));
+  show(Field::Limit, percentText(task_.limit));
+  double deck = plan_.deckHeight;
+  if (!plan_.possible())
+    for (const CrossedThing& thing : plan_.crossed)
+      deck = std::max(deck, thing.height + thing.least + kDeckThickness);
+  show(Field::DeckHeight, formatLength(deck, units_));
   double longest = task_.rampLength;
   for (const BridgeRamp& ramp : plan_.ramps)
     longest = std::max(longest, ramp.length());
-  follow(Field::RampLength, formatLength(longest, units_));
+  show(Field::RampLength, longest > 0 ? formatLength(longest, units_) : std::string());
 }
 
 std::vector<std::string> BridgeForm::choiceNames() {
-  if (!choices_)
+  if (choices_.empty()) {
     choices_ = bridgeChoices(layout_, task_);
+    choices_.insert(choices_.begin(), {tr("As entered"), task_, plan_});
+  }
   std::vector<std::string> names;
-  for (const BridgeChoice& choice : *choices_) {
+  for (const BridgeChoice& choice : choices_) {
     double length = 0;
     for (const BridgeRamp& ramp : choice.plan.ramps)
       length = std::max(length, ramp.length());
@@ -193,14 +218,18 @@ std::vector<std::string> BridgeForm::choiceNames() {
 }
 
 void BridgeForm::take(std::size_t choice) {
-  if (!choices_ || choice >= choices_->size())
+  if (choice >= choices_.size())
     return;
-  task_ = (*choices_)[choice].task;
+  choice_ = choice;
+  task_ = choices_[choice].task;
+  plan_ = choices_[choice].plan;
   problems_ = {};
-  compute();
+  follow();
 }
 
 std::vector<BridgeFact> BridgeForm::facts() const {
+  if (!plan_.possible())
+    return {};
   std::vector<BridgeFact> facts = factsOf(plan_, units_);
   if (owned_ == nullptr)
     return facts;
@@ -232,10 +261,13 @@ std::string BridgeForm::problem() const {
   return plan_.refusal ? plan_.refusal->text : std::string();
 }
 
-void BridgeForm::showOn(PlanPreview& preview) const {
-  if (!ready())
-    return preview.showNothing();
-  preview.showEdit([this](Layout& copy) { applyBridge(copy, task_); });
+Layout BridgeForm::built() const {
+  Layout scratch; // without the history
+  scratch.edit() = layout_.content();
+  scratch.editSettings() = layout_.settings();
+  scratch.setNextPieceId(layout_.nextPieceId());
+  apply(scratch);
+  return scratch;
 }
 
 EditResult BridgeForm::apply(Layout& layout) const {

@@ -15,7 +15,6 @@
 namespace trassix {
 
 class OwnedStock;
-class PlanPreview;
 
 /// Every entry says at once what would come of it, and `plan` is that. Of clearance and deck height
 /// the one that was typed last holds and the other follows; likewise of grade limit and ramp
@@ -61,14 +60,16 @@ class BridgeForm {
   void enter(Field field, std::string_view text);
   const std::string& text(Field field) const { return texts_[index(field)]; }
 
-  /// Other bridges, by name with their figures; `take` makes one of them the task. They are sought
-  /// when they are asked for, since that takes as long as planning each of them.
+  /// What was entered, and other bridges, by name with their figures. They are sought when they are
+  /// asked for, since that takes as long as planning each of them, and stay as they are while one
+  /// after the other is taken, until something else is entered.
   std::vector<std::string> choiceNames();
+  std::size_t choice() const { return choice_; }
   void take(std::size_t choice);
 
   const BridgeTask& task() const { return task_; }
   const BridgePlan& plan() const { return plan_; }
-  /// Figures, with what of the pieces is at home.
+  /// Figures, with what of the pieces is at home; none when it cannot be done.
   std::vector<BridgeFact> facts() const;
   /// What is crossed, a line each.
   std::vector<std::string> crossedNames() const;
@@ -76,7 +77,8 @@ class BridgeForm {
   std::string problem() const;
   bool ready() const { return problem().empty(); }
 
-  void showOn(PlanPreview& preview) const;
+  /// The plan as it would be, with the bridge selected; as it is when it cannot be done.
+  Layout built() const;
   /// The plan is `layout`, or one that is equal to it.
   EditResult apply(Layout& layout) const;
 
@@ -84,6 +86,8 @@ class BridgeForm {
   static std::size_t index(Field field) { return static_cast<std::size_t>(field); }
   TrackSystem system() const;
   void compute();
+  /// The entries that were not typed last tell of the plan.
+  void follow();
   void followDeck(double height);
 
   const Layout& layout_;
@@ -93,7 +97,8 @@ class BridgeForm {
   std::size_t way_ = 0;
   BridgeTask task_;
   BridgePlan plan_;
-  std::optional<std::vector<BridgeChoice>> choices_;
+  std::vector<BridgeChoice> choices_; ///< the first as entered; empty before they are sought
+  std::size_t choice_ = 0;
   std::array<std::string, kFields> texts_;
   std::array<std::string, kFields> problems_;
   std::optional<Field> typed_; ///< while what was typed is being taken

@@ -40,13 +40,29 @@ std::string articlesText(const std::vector<ArticleChange>& articles, bool added)
 }
 
 std::string spansText(const BridgePlan& plan, std::int32_t units) {
-  std::string text;
-  for (const BridgeSpan& span : plan.spans) {
+  const auto oneOf = [units](const BridgeSpan& span) {
     const std::string length = formatLength(span.to - span.from, units);
+    return span.article.empty() ? tr("deck %1%", {length}) : tr("%1% %2%", {span.article, length});
+  };
+  std::string text;
+  for (auto span = plan.spans.begin(); span != plan.spans.end();) {
+    const std::string one = oneOf(*span);
+    const auto other =
+        std::find_if(span, plan.spans.end(), [&](const auto& next) { return oneOf(next) != one; });
     text += text.empty() ? "" : ", ";
-    text += span.article.empty() ? tr("deck %1%", {length}) : tr("%1% %2%", {span.article, length});
+    text += other - span == 1 ? one : std::to_string(other - span) + " × " + one;
+    span = other;
   }
   return text;
+}
+
+std::string piersText(const BridgePlan& plan) {
+  const auto shims = std::ranges::count_if(
+      plan.piers, [](const BridgePier& pier) { return !pier.portal && pier.stack.shim > 0; });
+  const std::size_t count = plan.piers.size() - plan.portals();
+  return shims == 0 ? tr("%1%, none with a shim", {count})
+                    : trCount("%2%, one of them with a shim", "%2%, %1% of them with shims",
+                              static_cast<std::size_t>(shims), {count});
 }
 
 bool builtAlike(const BridgePlan& a, const BridgePlan& b) {
@@ -112,7 +128,7 @@ std::vector<BridgeFact> factsOf(const BridgePlan& plan, std::int32_t units) {
         {&ramp == &plan.ramps.front() ? tr("Ramp") : tr("Other ramp"), rampText(ramp, units)});
   if (!plan.ramps.empty())
     facts.push_back({tr("Steepest grade"), tr("%1% %%", {percentText(plan.steepest())})});
-  facts.push_back({tr("Piers"), std::to_string(plan.piers.size() - plan.portals())});
+  facts.push_back({tr("Piers"), piersText(plan)});
   if (plan.portals() > 0)
     facts.push_back({tr("Portal frames"), std::to_string(plan.portals())});
   if (const std::string added = articlesText(plan.articles, true); !added.empty())

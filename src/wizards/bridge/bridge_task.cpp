@@ -58,18 +58,18 @@ std::vector<BridgeTask> bridgeTasks(const Layout& layout) {
 std::string nameOf(const Layout& layout, const BridgeTask& task) {
   switch (task.way) {
   case BridgeWay::LiftOver:
-    return tr("Lift the selected track over what it crosses");
+    return tr("Lift it over what it crosses");
   case BridgeWay::AsItLies:
-    return tr("Put the selected track on a bridge as it lies");
+    return tr("Put it on a bridge as it lies");
   case BridgeWay::FromEnd:
     break;
   }
   const PlacedPiece* piece = layout.findPiece(task.end.piece);
   const PieceDef* definition = piece == nullptr ? nullptr : definitionOf(*piece);
   if (definition == nullptr)
-    return tr("Go on with a bridge from an open end");
+    return tr("Go on from an open end");
   const WorldConnector at = ConnectorToWorld(*piece, *definition, task.end.connector);
-  return tr("Go on with a bridge from the open end of %1% (x %2%, y %3% mm)",
+  return tr("Go on from %1% at x %2%, y %3% mm",
             {piece->cat, std::llround(at.x), std::llround(at.y)});
 }
 

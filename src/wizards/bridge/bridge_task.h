@@ -55,7 +55,7 @@ struct BridgeTask {
 /// open ends, and as it lies. Empty without selected track.
 std::vector<BridgeTask> bridgeTasks(const Layout& layout);
 
-/// "Lift the track over what it crosses" and so on; names the end of `FromEnd`.
+/// "Lift it over what it crosses" and so on; names the end of `FromEnd`.
 std::string nameOf(const Layout& layout, const BridgeTask& task);
 
 /// The system of the bridge's track; C-Track when there is none.
