@@ -1,8 +1,10 @@
 #include "app/desktop/standard_folders.h"
 #include "app/services/app_prefs.h"
+#include "document/records.h"
 #include "editing/canvas/selection_commands.h"
 #include "editing/levels/level_edits.h"
 #include "editing/selection/property_edits.h"
+#include "editing/track/connector_geometry.h"
 #include "host/command_ids.h"
 #include "host/questions.h"
 #include "host/workspace.h"
@@ -13,6 +15,7 @@
 #include "ui/dialogs/baseboard_shape_dialog.h"
 #include "ui/dialogs/level_manager_dialog.h"
 #include "ui/palette/palette_panel.h"
+#include "ui/wizards/bridge_wizard.h"
 
 #include <wx/frame.h>
 
@@ -84,6 +87,14 @@ void runLayoutWizard(Desk& desk) {
   desk.layoutWizard.run(desk.window, desk.canvasPanel.canvas(), desk.palette.system());
 }
 
+const char* nothingForBridge(const ToolSite& site) {
+  const bool known = std::ranges::any_of(site.layout().pieces(), [](const PlacedPiece& piece) {
+    return piece.sel && definitionOf(piece) != nullptr;
+  });
+  return known ? nullptr
+               : wxTRANSLATE("Select the track that is to lead over, or a piece with an open end");
+}
+
 // clang-format off
 const Command kCommands[] = {
     {.id = kUnitsMm, .menuText = wxTRANSLATE("Millimetres (mm)"),
@@ -100,7 +111,9 @@ const Command kCommands[] = {
     {.id = kLayoutWizard, .menuText = wxTRANSLATE("Layout &Wizard (Experimental)..."),
      .menuHelp = wxTRANSLATE("Make a loop of track for a table"), .run = runLayoutWizard},
     {.id = kBridgeWizard, .menuText = wxTRANSLATE("&Bridge Wizard (Experimental)..."),
-     .menuHelp = wxTRANSLATE("Make a bridge with its ramps")},
+     .menuHelp = wxTRANSLATE("Lead the selected track over other track on a bridge with ramps"),
+     .unusable = nothingForBridge,
+     .run = [](Desk& desk) { runBridgeWizard(desk.window, desk.canvasPanel.canvas().site()); }},
     {.id = kLevels, .toolLabel = wxTRANSLATE("Levels"),
      .toolTip = wxTRANSLATE("Manage layout levels (decks): height, color, and shape"),
      .run = manageLevels},

@@ -275,11 +275,24 @@ constexpr const char* kLayoutWizard[] = {
         "if the plan was changed since, only its table."),
 };
 
-constexpr const char* kWizards[] = {
+constexpr const char* kBridgeWizard[] = {
     wxTRANSLATE(
-        "These are not available in this version, and their menu items and tools are greyed "
-        "out:"),
-    wxTRANSLATE("Bridge Wizard|Bridges with their ramps and pillars"),
+        "Select the track that is to lead over other track, a road or water, where it crosses it, "
+        "and choose Layout > Bridge Wizard: it lifts the track with ramps on both sides, puts "
+        "bridge pieces in place of straights, and says which piers it takes. A loop stays closed. "
+        "With a piece that has an open end it goes straight on from there, up, over what lies "
+        "ahead and down again; a stretch over a valley gets its bridge as it lies."),
+    wxTRANSLATE(
+        "The window shows at every entry what would come of it: from the side with the height of "
+        "each pier, where it crosses with the clearance in numbers, and from above. Clearance and "
+        "deck height follow one another, as do grade limit and ramp length: what you type last "
+        "holds. Below stand the grades, bare and with what curves add, and the pieces to add with "
+        "how many of them are at home. \"Alternatives\" are other bridges for the same place."),
+    wxTRANSLATE(
+        "What cannot be built is refused with the reason and what would help, such as a steeper "
+        "limit or a longer way. Where no span is long enough, a frame across the lower track "
+        "carries the joint. The bridge is one step for Undo, and the tally lists the piers of "
+        "the whole plan under \"Supports\"."),
 };
 
 constexpr const char* kLayoutPictures[] = {wxTRANSLATE("A table"),
@@ -293,7 +306,7 @@ constexpr HelpPage kPages[] = {
     {HelpTopic::LevelsAndBaseboard, wxTRANSLATE("Levels and Baseboard"), kLevelsAndBaseboard},
     {HelpTopic::Files, wxTRANSLATE("Files and Library"), kFiles},
     {HelpTopic::LayoutWizard, wxTRANSLATE("Layout Wizard"), kLayoutWizard, kLayoutPictures},
-    {HelpTopic::Wizards, wxTRANSLATE("Wizards"), kWizards},
+    {HelpTopic::BridgeWizard, wxTRANSLATE("Bridge Wizard"), kBridgeWizard},
 };
 
 } // namespace

@@ -11,7 +11,7 @@ enum class HelpTopic {
   LevelsAndBaseboard,
   Files,
   LayoutWizard,
-  Wizards
+  BridgeWizard
 };
 
 /// One page of the help. Its lines are headings ("# Saving"), keys with their meaning, separated by
