@@ -18,6 +18,7 @@ namespace {
 
 constexpr double kHighest = 10000; // mm
 constexpr double kPlay = 0.005;    // mm
+constexpr std::size_t kTried = 5;  // ways in, where there are many open ends
 
 std::string percentText(double slope) {
   return formatFixed(percentOf(slope), 1);
@@ -37,7 +38,7 @@ BridgeForm::BridgeForm(const Layout& layout, const OwnedStock* owned)
   setWay(tasks_.size() - 1);
   if (stands() && !plan_.crossed.empty())
     return;
-  for (std::size_t i = 0; i < tasks_.size(); ++i) {
+  for (std::size_t i = 0; i < std::min(tasks_.size(), kTried); ++i) {
     setWay(i);
     if (!plan_.crossed.empty() || stands())
       return;
@@ -175,9 +176,10 @@ void BridgeForm::followDeck(double height) {
 }
 
 void BridgeForm::compute() {
-  choices_.clear();
-  choice_ = 0;
   plan_ = planBridge(layout_, task_);
+  choices_ = {{tr("As entered"), task_, plan_}};
+  choice_ = 0;
+  ideas_.reset();
   follow();
 }
 
@@ -199,11 +201,23 @@ void BridgeForm::follow() {
   show(Field::RampLength, longest > 0 ? formatLength(longest, units_) : std::string());
 }
 
-std::vector<std::string> BridgeForm::choiceNames() {
-  if (choices_.empty()) {
-    choices_ = bridgeChoices(layout_, task_);
-    choices_.insert(choices_.begin(), {tr("As entered"), task_, plan_});
-  }
+bool BridgeForm::seekChoice() {
+  if (!ideas_)
+    ideas_ = bridgeIdeas(layout_, choices_.front().task);
+  if (ideas_->empty())
+    return false;
+  BridgeChoice idea = std::move(ideas_->front());
+  ideas_->erase(ideas_->begin());
+  idea.plan = planBridge(layout_, idea.task);
+  const auto alike = [&idea](const BridgeChoice& choice) {
+    return choice.plan.possible() && builtAlike(choice.plan, idea.plan);
+  };
+  if (idea.plan.possible() && std::ranges::none_of(choices_, alike))
+    choices_.push_back(std::move(idea));
+  return !ideas_->empty();
+}
+
+std::vector<std::string> BridgeForm::choiceNames() const {
   std::vector<std::string> names;
   for (const BridgeChoice& choice : choices_) {
     double length = 0;

@@ -60,10 +60,12 @@ class BridgeForm {
   void enter(Field field, std::string_view text);
   const std::string& text(Field field) const { return texts_[index(field)]; }
 
-  /// What was entered, and other bridges, by name with their figures. They are sought when they are
-  /// asked for, since that takes as long as planning each of them, and stay as they are while one
-  /// after the other is taken, until something else is entered.
-  std::vector<std::string> choiceNames();
+  /// Looks for one more of the other bridges, which takes as long as planning it; false when there
+  /// is nothing left to try.
+  bool seekChoice();
+  /// What was entered, and the other bridges found so far, by name with their figures. They stay as
+  /// they are while one after the other is taken, until something else is entered.
+  std::vector<std::string> choiceNames() const;
   std::size_t choice() const { return choice_; }
   void take(std::size_t choice);
 
@@ -97,7 +99,8 @@ class BridgeForm {
   std::size_t way_ = 0;
   BridgeTask task_;
   BridgePlan plan_;
-  std::vector<BridgeChoice> choices_; ///< the first as entered; empty before they are sought
+  std::vector<BridgeChoice> choices_;              ///< the first as entered
+  std::optional<std::vector<BridgeChoice>> ideas_; ///< to be tried; none before the first one is
   std::size_t choice_ = 0;
   std::array<std::string, kFields> texts_;
   std::array<std::string, kFields> problems_;

@@ -33,6 +33,7 @@ constexpr int kPlanHeight = 150;   // px
 constexpr int kNameWidth = 120;    // px, of the names of figures
 constexpr std::size_t kMostFacts = 12;
 constexpr int kPause = 250; // ms without an entry
+constexpr int kNext = 10;   // ms in which the user may enter something
 
 std::string joined(const std::vector<std::string>& texts) {
   std::string all;
@@ -69,7 +70,7 @@ BridgeDialog::BridgeDialog(wxWindow* parent, Workspace& workspace, const OwnedSt
   page->Add(buttons, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
   ok_->SetDefault();
   Bind(
-      wxEVT_TIMER, [this](wxTimerEvent&) { showChoices(); }, pause_.GetId());
+      wxEVT_TIMER, [this](wxTimerEvent&) { seekChoice(); }, pause_.GetId());
   entered();
   SetSizerAndFit(page);
   placeBeside(*this, *parent);
@@ -250,12 +251,19 @@ void BridgeDialog::entered() {
   choices_->Clear();
   pause_.StartOnce(kPause);
   refresh();
+  showChoices();
+}
+
+void BridgeDialog::seekChoice() {
+  if (form_.seekChoice())
+    pause_.StartOnce(kNext);
+  showChoices();
 }
 
 void BridgeDialog::showChoices() {
-  choices_->Clear();
-  for (const std::string& name : form_.choiceNames())
-    choices_->Append(fromUtf8(name));
+  const std::vector<std::string> names = form_.choiceNames();
+  for (std::size_t i = choices_->GetCount(); i < names.size(); ++i)
+    choices_->Append(fromUtf8(names[i]));
   choices_->SetSelection(static_cast<int>(form_.choice()));
 }
 

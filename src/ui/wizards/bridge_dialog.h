@@ -51,7 +51,8 @@ class BridgeDialog : public wxDialog {
                            std::function<void(wxGraphicsContext&, const wxSize&)> painter);
 
   void entered();
-  /// Other bridges are sought once the user pauses.
+  /// Other bridges are sought once the user pauses, one at a time.
+  void seekChoice();
   void showChoices();
   void refresh();
   void showEntries();

@@ -65,6 +65,8 @@ std::string piersText(const BridgePlan& plan) {
                               static_cast<std::size_t>(shims), {count});
 }
 
+} // namespace
+
 bool builtAlike(const BridgePlan& a, const BridgePlan& b) {
   const auto alike = [](double x, double y) { return std::abs(x - y) < kSame; };
   const auto sameRamp = [&](const BridgeRamp& x, const BridgeRamp& y) {
@@ -79,40 +81,30 @@ bool builtAlike(const BridgePlan& a, const BridgePlan& b) {
          std::ranges::equal(a.spans, b.spans, sameSpan);
 }
 
-} // namespace
-
-std::vector<BridgeChoice> bridgeChoices(const Layout& layout, const BridgeTask& task) {
-  std::vector<BridgeChoice> choices;
-  const BridgePlan asked = planBridge(layout, task);
-  const auto offer = [&](std::string name, const BridgeTask& other) {
-    if (other == task)
-      return;
-    BridgePlan plan = planBridge(layout, other);
-    const auto known = [&plan](const BridgeChoice& choice) {
-      return builtAlike(choice.plan, plan);
-    };
-    if (plan.possible() && !(asked.possible() && builtAlike(asked, plan)) &&
-        std::ranges::none_of(choices, known))
-      choices.push_back({std::move(name), other, std::move(plan)});
+std::vector<BridgeChoice> bridgeIdeas(const Layout& layout, const BridgeTask& task) {
+  std::vector<BridgeChoice> ideas;
+  const auto add = [&](std::string name, const BridgeTask& other) {
+    if (other != task)
+      ideas.push_back({std::move(name), other, {}});
   };
   BridgeTask other = task;
   if (task.way != BridgeWay::AsItLies) {
     other.limit = kMostBridgeLimit;
     other.rampLength = 0;
-    offer(tr("Shorter and steeper"), other);
+    add(tr("Shorter and steeper"), other);
     other.limit = std::min(task.limit, kGentler);
-    offer(tr("Longer and gentler"), other);
+    add(tr("Longer and gentler"), other);
     other = task;
     other.piers = PierHeights::SeriesOnly;
     other.limit = kMostBridgeLimit;
-    offer(tr("All piers of the series"), other);
+    add(tr("All piers of the series"), other);
   }
   for (const SpanKind kind : spanKinds(systemOf(layout, task))) {
     other = task;
     other.span = kind;
-    offer(nameOf(kind), other);
+    add(nameOf(kind), other);
   }
-  return choices;
+  return ideas;
 }
 
 std::vector<BridgeFact> factsOf(const BridgePlan& plan, std::int32_t units) {

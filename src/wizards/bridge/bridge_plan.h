@@ -111,16 +111,19 @@ BridgePlan planBridge(const Layout& layout, const BridgeTask& task);
 /// Nothing changes when it is refused. The result names its pieces, of which none may be new.
 EditResult applyBridge(Layout& layout, const BridgeTask& task);
 
-/// Another bridge that could be built.
+/// Another bridge.
 struct BridgeChoice {
   std::string name; ///< "shorter and steeper"
   BridgeTask task;
-  BridgePlan plan; ///< possible
+  BridgePlan plan;
 };
 
-/// Others than `task` gives: shorter and steeper, longer and gentler, with other spans or piers.
-/// Each differs from those before it in what is built.
-std::vector<BridgeChoice> bridgeChoices(const Layout& layout, const BridgeTask& task);
+/// What else could be asked for than the task does: shorter and steeper, longer and gentler, with
+/// other spans or piers. What comes of them, which may be nothing new, is still to be planned.
+std::vector<BridgeChoice> bridgeIdeas(const Layout& layout, const BridgeTask& task);
+
+/// Whether both are the same bridge, whatever was asked for.
+bool builtAlike(const BridgePlan& a, const BridgePlan& b);
 
 struct BridgeFact {
   std::string name;
