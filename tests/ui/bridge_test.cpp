@@ -197,7 +197,8 @@ TEST_F(BridgeTest, TheDialogFollowsWhatIsTypedLastAndLeavesThePlanAlone) {
     auto& choices = dynamic_cast<wxListBox&>(*findNamed("bridgeChoices"));
     waitUntil("others are offered", [&] { return choices.GetCount() > 1; });
     const wxString limit = field("bridgeLimit").GetValue();
-    choices.SetFocus();
+    pressKey('A', wxMOD_ALT);
+    waitUntil("the list has the keys", [&] { return choices.HasFocus(); });
     pressKey(WXK_DOWN);
     waitUntil("another one is taken", [&] { return choices.GetSelection() == 1; });
     EXPECT_TRUE(ok.IsEnabled());

@@ -18,8 +18,6 @@
 #include <wx/sizer.h>
 #include <wx/textctrl.h>
 
-#include <algorithm>
-
 namespace trassix {
 
 namespace {
@@ -167,9 +165,18 @@ wxSizer* BridgeDialog::makeEntries() {
   for (const std::string& name : BridgeForm::pierNames())
     piers_->Append(fromUtf8(name));
   column->Add(grid, wxSizerFlags().Expand());
-  column->Add(new wxStaticText(this, wxID_ANY, _("&Alternatives:")),
+  const wxString alternatives = _("&Alternatives:");
+  column->Add(new wxStaticText(this, wxID_ANY, alternatives),
               wxSizerFlags().Border(wxTOP, FromDIP(10)));
-  choices_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kEntryWidth, 118)), 0,
+  const wxUniChar letter = wxToupper(alternatives.AfterFirst('&')[0]);
+  Bind(wxEVT_CHAR_HOOK, [this, letter](wxKeyEvent& event) {
+    // GTK would give the focus to the frame around the list, where no key does anything.
+    if (event.GetModifiers() == wxMOD_ALT && wxUniChar(event.GetUnicodeKey()) == letter)
+      choices_->SetFocus();
+    else
+      event.Skip();
+  });
+  choices_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kEntryWidth, 136)), 0,
                            nullptr, wxLB_SINGLE, wxDefaultValidator, "bridgeChoices");
   choices_->SetToolTip(_("Other bridges for the same place"));
   choices_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) {
@@ -180,7 +187,7 @@ wxSizer* BridgeDialog::makeEntries() {
   });
   choices_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent&) { acceptLater(*this); });
   column->Add(choices_, wxSizerFlags().Expand().Border(wxTOP, FromDIP(4)));
-  problem_ = new ProblemText(this, FromDIP(kEntryWidth), 6);
+  problem_ = new ProblemText(this, FromDIP(kEntryWidth), 5);
   column->Add(problem_, wxSizerFlags().Expand().Border(wxTOP, FromDIP(8)));
   return column;
 }
@@ -304,10 +311,11 @@ void BridgeDialog::showEntries() {
 
 void BridgeDialog::showFacts() {
   const std::vector<std::string> crossed = form_.crossedNames();
-  showWrapped(*crossed_,
-              crossed.empty() ? _("It crosses nothing.")
-                              : wxString::Format(_("It crosses %s."), fromUtf8(joined(crossed))),
-              FromDIP(kPictureWidth));
+  const wxString over = crossed.empty()
+                            ? _("It crosses nothing.")
+                            : wxString::Format(_("It crosses %s."), fromUtf8(joined(crossed)));
+  crossed_->SetLabelText(over);
+  crossed_->SetToolTip(over);
   std::vector<BridgeFact> facts = form_.facts();
   // Those of what is crossed come first, and the pictures have them as well.
   if (facts.size() > facts_.size())

@@ -97,7 +97,7 @@ std::vector<BridgeChoice> bridgeIdeas(const Layout& layout, const BridgeTask& ta
     other = task;
     other.piers = PierHeights::SeriesOnly;
     other.limit = kMostBridgeLimit;
-    add(tr("All piers of the series"), other);
+    add(tr("Piers of the series"), other);
   }
   for (const SpanKind kind : spanKinds(systemOf(layout, task))) {
     other = task;
