@@ -34,6 +34,8 @@ class LayoutProposals : public wxPanel {
   /// To be called when more was found, and when the search has come to an end.
   void follow(bool searching);
 
+  bool anyChosen() const { return search_ && chosen_ < search_->proposals().size(); }
+  /// Once there is any.
   const LayoutProposal& chosen() const { return search_->proposals().at(chosen_); }
   LayoutPlacing placing() const;
 

@@ -28,9 +28,9 @@ void LayoutWizard::run(wxWindow& parent, Canvas& canvas, TrackSystem system) {
       owned.load(memory(), UserPaths::layoutsFolder() / OwnedStock::kOlderFileName);
   LayoutWizardDialog dialog(&parent, layout, system, piecesAtHome(owned), stockProblem,
                             memory_.recall(memory(), workspace_.plan().file(), layout));
-  if (dialog.ShowModal() != wxID_OK)
+  if (dialog.ShowModal() != wxID_OK || dialog.chosen() == nullptr)
     return;
-  const EditResult placed = placeLayout(layout, dialog.chosen(), dialog.placing());
+  const EditResult placed = placeLayout(layout, *dialog.chosen(), dialog.placing());
   if (placed.refusal)
     workspace_.questions().show(*placed.refusal);
   if (!placed.changed())

@@ -159,8 +159,8 @@ void LayoutWizardDialog::onKey(wxKeyEvent& event) {
   main->GetEventHandler()->AddPendingEvent(press);
 }
 
-const LayoutProposal& LayoutWizardDialog::chosen() const {
-  return proposals_->chosen();
+const LayoutProposal* LayoutWizardDialog::chosen() const {
+  return proposals_->anyChosen() ? &proposals_->chosen() : nullptr;
 }
 
 LayoutPlacing LayoutWizardDialog::placing() const {

@@ -29,7 +29,8 @@ class LayoutWizardDialog : public wxDialog {
                      const PieceStock& stock, const std::string& stockProblem,
                      const std::optional<RememberedLayout>& remembered);
 
-  const LayoutProposal& chosen() const;
+  /// Null while none was found.
+  const LayoutProposal* chosen() const;
   LayoutPlacing placing() const;
   const LayoutTask& task() const { return search_->task(); }
 
