@@ -385,6 +385,8 @@ class Planner {
     for (const PlacedPiece& piece : layout_.pieces())
       if (piece.helix == record.id)
         own.push_back(piece.id);
+    if (own.empty()) // a file may say that its pieces are of none
+      return;
     const TrackSystem system = helix->kit->system;
     const auto beside = [&](const PieceDef& curve) {
       return std::max(halfFreeWidth(system), trackHalfWidth(system)) +

@@ -222,6 +222,10 @@ TEST(Supports, HelixHangsOnRods) {
     EXPECT_EQ(support.kind, SupportKind::Rod);
     EXPECT_GT(support.head, helix.climb());
   }
+  for (PlacedPiece& piece : layout.edit().pieces)
+    piece.helix = -1; // as a file may say
+  for (const Support& support : supportsOf(layout).supports)
+    EXPECT_NE(support.kind, SupportKind::Rod);
 }
 
 } // namespace
