@@ -23,12 +23,14 @@ namespace {
 
 bool fitsPlan(const Block& block, const RigidMotion& motion) {
   bool fits = true;
-  forEachSelectable(block.content, [&](const auto& records) {
+  const auto check = [&](const auto& records) {
     for (auto record : records) {
       moveRecord(record, motion);
       fits = fits && inLimits(record);
     }
-  });
+  };
+  forEachSelectable(block.content, check);
+  check(block.content.helices);
   return fits;
 }
 

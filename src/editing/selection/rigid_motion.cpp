@@ -23,6 +23,12 @@ void moveSelected(PlanContent& content, const RigidMotion& motion) {
 } // namespace
 
 bool staysInLimits(const PlanContent& content, const RigidMotion& motion, double rise) {
+  const std::vector<std::int32_t> helices = selectedHelices(content);
+  for (Helix helix : content.helices) {
+    moveRecord(helix, motion);
+    if (std::ranges::binary_search(helices, helix.id) && !inLimits(helix))
+      return false;
+  }
   return !anySelectable(content, [&](const auto& record) {
     bool stays = true;
     forEachPosition(record, [&](Point p) { stays = stays && inLimits(motion(p)); });

@@ -144,6 +144,11 @@ TEST(Edge, NothingGoesBeyondThePlan) {
   refused("scenery of a block", is(placeBlock(layout, block, {300, 0, 0})));
   block.content.scenery[0].x = block.content.scenery[0].scaley = 0;
   refused("scale in a block", is(placeBlock(layout, block, {})));
+  block.content.scenery.clear();
+  block.content.helices = {{3, 999'800, 0, 0, "proses_2_5_r1r2", 2, -1, 2, -1}};
+  block.content.pieces = {layout.pieces()[1]};
+  block.content.pieces[0].helix = 3;
+  refused("helix of a block", is(placeBlock(layout, block, {300, 0, 0})));
   refused("heading of a piece", !setPiecePose(layout, 2, {0, 0, NAN}));
   refused("heading of a drop", is(dropScenery(layout, "74861", {0, 0, NAN})));
   refused("measures", !setBaseboard(layout, {{0, 0}, {9, 0}, {0, 9}}, {0, 1e7, 1, 1, 1}));
