@@ -92,10 +92,15 @@ class Planner {
     return obstacle;
   }
 
-  void holdJoint(SpanJoint& joint) {
-    std::vector<std::int32_t> carried;
+  std::vector<std::int32_t> carriedBy(const SpanJoint& joint) const {
+    std::vector<std::int32_t> pieces;
     for (const SpanJoint::Link& link : joint.links)
-      carried.push_back(graph_.edges[link.edge].piece);
+      pieces.push_back(graph_.edges[link.edge].piece);
+    return pieces;
+  }
+
+  void holdJoint(SpanJoint& joint) {
+    const std::vector<std::int32_t> carried = carriedBy(joint);
     const TrackSystem system = graph_.edges[joint.links.front().edge].definition->system;
     joint.obstacle = tryPier(joint.pose, joint.height, system, carried);
     joint.held = joint.obstacle == PierObstacle::None;
@@ -267,9 +272,7 @@ class Planner {
   }
 
   bool frameUnder(SpanJoint& joint) {
-    std::vector<std::int32_t> carried;
-    for (const SpanJoint::Link& link : joint.links)
-      carried.push_back(graph_.edges[link.edge].piece);
+    const std::vector<std::int32_t> carried = carriedBy(joint);
     const TrackSystem system = graph_.edges[joint.links.front().edge].definition->system;
     joint.held = narrowestFrame(joint.pose, joint.height, system, carried);
     return joint.held;

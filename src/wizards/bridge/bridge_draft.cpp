@@ -135,6 +135,10 @@ class Drafter {
     for (const CrossedZone& zone : draft_.zones)
       needed = std::max(needed, zone.top + neededOver(zone, task_, system(), portals_));
     draft_.deckHeight = needed;
+    if (task_.way == BridgeWay::LiftOver) // never down
+      for (const CrossedZone& zone : draft_.zones)
+        draft_.deckHeight = std::max(
+            {draft_.deckHeight, draft_.line.heightAt(zone.from), draft_.line.heightAt(zone.to)});
     if (task_.deckHeight > 0) {
       draft_.deckHeight = task_.deckHeight;
       if (task_.deckHeight < needed - 0.05)

@@ -202,6 +202,10 @@ TEST(BridgeWizard, LiftsOverRoadsAndWater) {
   ASSERT_EQ(problemOf(over), "");
   EXPECT_EQ(over.crossed[0].kind, CrossedThing::Kind::Water);
   EXPECT_NEAR(over.deckHeight, 30, 1e-6);
+
+  for (PlacedPiece& piece : plan.layout.edit().pieces)
+    piece.z = 120;
+  EXPECT_GE(planBridge(plan.layout, liftOver({25, 26})).deckHeight, 120) << "never down";
 }
 
 TEST(BridgeWizard, FollowsThePierSeriesWhenThatIsChosen) {
