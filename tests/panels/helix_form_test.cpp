@@ -76,6 +76,8 @@ TEST(HelixForm, TellsWhetherTrainsGetUpAndThrough) {
     EXPECT_NEAR(figures.tracks[0].slope * 100, c.percent, 0.001);
     EXPECT_NEAR(figures.tracks[0].felt * 100, c.felt, 0.001);
   }
+  EXPECT_EQ(formOf("proses_2_5_r1r2").facts().size(),
+            kMostHelixFacts); // what a window has room for
   std::string facts;
   for (const HelixFact& fact : formOf("proses_2_5_r1r2").facts())
     facts += fact.name + ": " + fact.text + "\n";

@@ -39,8 +39,9 @@ struct HelixFact {
   std::string name;
   std::string text;
 };
-/// What there is to know of it: grades, bare and with what its curves add, clearance and what
-/// trains need, where the top leads, the board and the pieces.
+inline constexpr std::size_t kMostHelixFacts = 10;
+/// What there is to know of it, at most so many: grades, bare and with what its curves add,
+/// clearance and what trains need, where the top leads, the board and the pieces.
 std::vector<HelixFact> factsOf(const HelixPlan& plan, std::int32_t units);
 
 /// "2.5".

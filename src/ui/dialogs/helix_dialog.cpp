@@ -26,7 +26,6 @@ constexpr int kPicture = 210;    // px
 constexpr int kEntryWidth = 250; // px, of the column with the fields
 constexpr int kRadiiWidth = 250; // px, room for the radii of two tracks
 constexpr int kTextWidth = 250;  // px, of what is told of it
-constexpr std::size_t kMostFacts = 9;
 
 /// The helix with room for what stands at its ends.
 void paintHelix(wxGraphicsContext& context, const wxSize& size, const HelixPlan& plan,
@@ -199,7 +198,7 @@ wxSizer* HelixDialog::makeAnswers() {
   row->Add(verdict_);
   column->Add(row, wxSizerFlags().Border(wxTOP, gap));
   auto* grid = new wxFlexGridSizer(2, FromDIP(4), FromDIP(10));
-  for (std::size_t i = 0; i < kMostFacts; ++i) {
+  for (std::size_t i = 0; i < kMostHelixFacts; ++i) {
     facts_.push_back({new wxStaticText(this, wxID_ANY, wxEmptyString),
                       new wxStaticText(this, wxID_ANY, wxEmptyString, wxDefaultPosition,
                                        {FromDIP(kTextWidth), -1}, wxST_NO_AUTORESIZE)});
